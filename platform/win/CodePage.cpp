@@ -1,0 +1,153 @@
+#include "platform/win/CodePage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#ifndef TESSALY_CODE_PAGE
+#define TESSALY_CODE_PAGE 1252
+#endif
+
+namespace {
+
+/// The upper half of the page where it differs from Latin-1. 0: the C1 control.
+struct CodePageTable {
+    unsigned char first;
+    std::array<wchar_t, 32> characters;
+};
+
+#if TESSALY_CODE_PAGE == 1252
+constexpr CodePageTable kTable = {
+    0x80, {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+           0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+           0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178}};
+#elif TESSALY_CODE_PAGE == 28591
+constexpr CodePageTable kTable = {0x80, {}};
+#else
+#error "TESSALY_CODE_PAGE must be 1252 or 28591"
+#endif
+
+constexpr wchar_t kReplacement = 0xFFFD;
+
+unsigned char ByteOf(wchar_t character) {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        return static_cast<unsigned char>(character);
+    }
+    const auto hit = std::find(kTable.characters.begin(), kTable.characters.end(), character);
+    if (hit != kTable.characters.end()) {
+        return static_cast<unsigned char>(kTable.first + (hit - kTable.characters.begin()));
+    }
+    const bool freeControl =
+        character >= 0x80 && character < 0xA0 &&
+        kTable.characters[static_cast<std::size_t>(character - kTable.first)] == 0;
+    return freeControl ? static_cast<unsigned char>(character) : '?';
+}
+
+/// Length that a lead byte announces; 0 for one that starts nothing.
+int SequenceLength(unsigned char lead) {
+    if (lead < 0x80) {
+        return 1;
+    }
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        return 2;
+    }
+    if (lead >= 0xE0 && lead <= 0xEF) {
+        return 3;
+    }
+    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+}
+
+bool IsScalar(std::uint32_t code) {
+    return code < 0xD800 || (code > 0xDFFF && code <= 0x10FFFF);
+}
+
+/// Reads one sequence at `at`; returns the replacement and steps one byte on a bad one.
+wchar_t ReadSequence(std::string_view bytes, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(bytes[at]);
+    const int length = SequenceLength(lead);
+    if (length == 1) {
+        ++at;
+        return lead;
+    }
+    if (length == 0 || at + static_cast<std::size_t>(length) > bytes.size()) {
+        ++at;
+        return kReplacement;
+    }
+    std::uint32_t code = lead & (0xFFU >> (length + 1));
+    for (int i = 1; i < length; ++i) {
+        const auto next = static_cast<unsigned char>(bytes[at + static_cast<std::size_t>(i)]);
+        if ((next & 0xC0) != 0x80) {
+            ++at;
+            return kReplacement;
+        }
+        code = code << 6 | (next & 0x3F);
+    }
+    constexpr std::uint32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (code < kLeast[length] || !IsScalar(code)) {
+        ++at;
+        return kReplacement;
+    }
+    at += static_cast<std::size_t>(length);
+    return static_cast<wchar_t>(code);
+}
+
+} // namespace
+
+wchar_t AnsiToWide(unsigned char byte) {
+    if (byte >= 0x80 && byte < 0xA0) {
+        const wchar_t mapped = kTable.characters[static_cast<std::size_t>(byte - kTable.first)];
+        return mapped ? mapped : static_cast<wchar_t>(byte);
+    }
+    return static_cast<wchar_t>(byte);
+}
+
+std::string WideToAnsi(std::wstring_view text) {
+    std::string bytes(text.size(), '\0');
+    std::transform(text.begin(), text.end(), bytes.begin(),
+                   [](wchar_t c) { return static_cast<char>(ByteOf(c)); });
+    return bytes;
+}
+
+std::wstring AnsiToWide(std::string_view bytes) {
+    std::wstring text(bytes.size(), L'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char c) { return AnsiToWide(static_cast<unsigned char>(c)); });
+    return text;
+}
+
+std::wstring Utf8ToWide(std::string_view bytes) {
+    std::wstring text;
+    text.reserve(bytes.size());
+    std::size_t at = 0;
+    while (at < bytes.size()) {
+        text += ReadSequence(bytes, at);
+    }
+    return text;
+}
+
+std::string WideToUtf8(std::wstring_view text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (const wchar_t character : text) {
+        auto code = static_cast<std::uint32_t>(character);
+        if (!IsScalar(code)) {
+            code = kReplacement;
+        }
+        if (code < 0x80) {
+            bytes += static_cast<char>(code);
+        } else if (code < 0x800) {
+            bytes += static_cast<char>(0xC0 | code >> 6);
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        } else if (code < 0x10000) {
+            bytes += static_cast<char>(0xE0 | code >> 12);
+            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        } else {
+            bytes += static_cast<char>(0xF0 | code >> 18);
+            bytes += static_cast<char>(0x80 | (code >> 12 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        }
+    }
+    return bytes;
+}

@@ -1,0 +1,60 @@
+#include "platform/win/File.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <sys/stat.h>
+
+#include "platform/win/CodePage.h"
+#include "platform/win/ErrorText.h"
+
+std::string NativePath(const wchar_t* path) {
+    std::string native = WideToUtf8(path ? path : L"");
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return native;
+}
+
+FileHandle OpenFile(const wchar_t* path, const char* mode) {
+    FileHandle file(std::fopen(NativePath(path).c_str(), mode));
+    if (!file) {
+        SetLastErrorNumber(errno);
+    }
+    return file;
+}
+
+std::optional<std::string> ReadFileBytes(const wchar_t* path) {
+    FileHandle file = OpenFile(path, "rb");
+    if (!file) {
+        return std::nullopt;
+    }
+    struct stat info {};
+    if (fstat(fileno(file.get()), &info) != 0 || !S_ISREG(info.st_mode)) {
+        SetLastErrorNumber(S_ISDIR(info.st_mode) ? EISDIR : EINVAL);
+        return std::nullopt;
+    }
+    std::string bytes(static_cast<std::size_t>(info.st_size), '\0');
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+    if (std::ferror(file.get())) {
+        SetLastErrorNumber(errno);
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+bool FileExists(const wchar_t* path) {
+    std::error_code ignored;
+    return std::filesystem::exists(NativePath(path), ignored);
+}
+
+CString FileNameOf(const wchar_t* path) {
+    const std::wstring_view whole(path ? path : L"");
+    return CString(whole.substr(whole.find_last_of(L"\\/") + 1));
+}
+
+CString WithSeparator(const wchar_t* folder) {
+    CString result(folder);
+    if (!result.IsEmpty() && result.View().find_last_of(L"\\/") != result.View().size() - 1) {
+        result += L'/';
+    }
+    return result;
+}

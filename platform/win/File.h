@@ -1,0 +1,30 @@
+// Files by wide paths. A backslash separates folders as a slash does.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/win/String.h"
+
+/// The path as the operating system takes it: UTF-8, backslashes turned to slashes.
+PLATFORM_API std::string NativePath(const wchar_t* path);
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
+/// Opens with the modes of the C library. On failure the handle is empty and
+/// LastErrorText (ErrorText.h) tells why.
+PLATFORM_API FileHandle OpenFile(const wchar_t* path, const char* mode);
+
+/// The whole content of a regular file; nothing on failure, with LastErrorText set.
+PLATFORM_API std::optional<std::string> ReadFileBytes(const wchar_t* path);
+
+PLATFORM_API bool FileExists(const wchar_t* path);
+/// The part behind the last separator.
+PLATFORM_API CString FileNameOf(const wchar_t* path);
+/// The path with a separator at its end, unless it is empty.
+PLATFORM_API CString WithSeparator(const wchar_t* folder);

@@ -1,0 +1,53 @@
+#include "platform/win/Library.h"
+
+#include <dlfcn.h>
+
+#include "platform/win/CodePage.h"
+#include "platform/win/ElfFile.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
+
+namespace {
+
+bool HasItsWholeLength(const wchar_t* path) {
+    const FileHandle file = OpenFile(path, "rb");
+    if (!file) {
+        return false;
+    }
+    const std::optional<ElfFile> elf = ElfFile::Read(file.get());
+    CString reason;
+    if (!elf) {
+        reason.Format(L"%s: not a shared library of this machine", path);
+    } else if (elf->IsCut()) {
+        reason.Format(L"%s: cut short, %u of at least %u bytes", path, elf->fileLength,
+                      elf->loadedEnd);
+    }
+    SetLastErrorText(reason);
+    return reason.IsEmpty();
+}
+
+} // namespace
+
+HINSTANCE LoadLibrary(const wchar_t* path) {
+    if (!HasItsWholeLength(path)) {
+        return nullptr;
+    }
+    // A path without a slash would be searched for along the library path instead.
+    std::string native = NativePath(path);
+    if (native.find('/') == std::string::npos) {
+        native.insert(0, "./");
+    }
+    HINSTANCE library = dlopen(native.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!library) {
+        SetLastErrorText(Utf8ToWide(dlerror()));
+    }
+    return library;
+}
+
+void* GetProcAddress(HINSTANCE library, const char* name) {
+    return library ? dlsym(library, name) : nullptr;
+}
+
+bool FreeLibrary(HINSTANCE library) {
+    return library && dlclose(library) == 0;
+}

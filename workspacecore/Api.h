@@ -1,0 +1,4 @@
+// Export mark of ORVZWorkspaceCore.arx.
+#pragma once
+
+#define WORKSPACE_API __attribute__((visibility("default")))

@@ -1,0 +1,4 @@
+// Export mark of ORVZLogging.arx.
+#pragma once
+
+#define LOGGING_API __attribute__((visibility("default")))

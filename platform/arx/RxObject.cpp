@@ -18,8 +18,8 @@ ClassRegistry& Registry() {
     static ClassRegistry* const registry = [] {
         auto* made = new ClassRegistry;
         for (const wchar_t* name : {kRootClass, kClassClass}) {
-            made->classes.push_back(std::make_unique<AcRxClass>(
-                name, name == kRootClass ? L"" : kRootClass));
+            made->classes.push_back(
+                std::make_unique<AcRxClass>(name, name == kRootClass ? L"" : kRootClass));
             made->dictionary.atPut(name, made->classes.back().get());
         }
         return made;
@@ -113,8 +113,7 @@ bool acrxBuildClassHierarchy() {
         if (entry->m_strParentName.IsEmpty()) {
             continue;
         }
-        entry->m_pParent =
-            static_cast<AcRxClass*>(registry.dictionary.at(entry->m_strParentName));
+        entry->m_pParent = static_cast<AcRxClass*>(registry.dictionary.at(entry->m_strParentName));
         whole = whole && entry->m_pParent;
     }
     return whole;

@@ -66,9 +66,9 @@ void IniFile::ReadLine(std::string_view line, int number, const wchar_t* name) {
 }
 
 const IniFile::Section* IniFile::FindSection(const wchar_t* name) const {
-    const auto hit = std::find_if(
-        m_sections.begin(), m_sections.end(),
-        [&](const Section& section) { return section.name.CompareNoCase(name) == 0; });
+    const auto hit =
+        std::find_if(m_sections.begin(), m_sections.end(),
+                     [&](const Section& section) { return section.name.CompareNoCase(name) == 0; });
     return hit == m_sections.end() ? nullptr : &*hit;
 }
 

@@ -66,7 +66,9 @@ public:
         m_text += other;
         return *this;
     }
-    CString& operator+=(const wchar_t* other) { return *this += std::wstring_view(other ? other : L""); }
+    CString& operator+=(const wchar_t* other) {
+        return *this += std::wstring_view(other ? other : L"");
+    }
     CString& operator+=(const CString& other) { return *this += other.View(); }
     CString& operator+=(wchar_t character) {
         m_text += character;

@@ -50,12 +50,23 @@ int ReadNumber(std::wstring_view format, std::size_t& at) {
 void ReadFlags(std::wstring_view format, std::size_t& at, Directive& directive) {
     for (; at < format.size(); ++at) {
         switch (format[at]) {
-        case L'-': directive.left = true; break;
-        case L'0': directive.zero = true; break;
-        case L'+': directive.plus = true; break;
-        case L' ': directive.blank = true; break;
-        case L'#': directive.alternate = true; break;
-        default: return;
+        case L'-':
+            directive.left = true;
+            break;
+        case L'0':
+            directive.zero = true;
+            break;
+        case L'+':
+            directive.plus = true;
+            break;
+        case L' ':
+            directive.blank = true;
+            break;
+        case L'#':
+            directive.alternate = true;
+            break;
+        default:
+            return;
         }
     }
 }
@@ -89,8 +100,8 @@ void ReadPrecision(std::wstring_view format, std::size_t& at, ArgReader& args,
 
 void ReadLength(std::wstring_view format, std::size_t& at, Directive& directive) {
     // Arguments know their own widths, so only "h" before "s" says anything.
-    while (at < format.size() && std::wstring_view(L"hlLqjzt").find(format[at]) !=
-                                     std::wstring_view::npos) {
+    while (at < format.size() &&
+           std::wstring_view(L"hlLqjzt").find(format[at]) != std::wstring_view::npos) {
         directive.narrow = format[at] == L'h';
         ++at;
     }
@@ -152,13 +163,16 @@ void PutInteger(std::wstring& out, const Directive& directive, const FormatArg* 
     const std::uint64_t magnitude =
         negative ? std::uint64_t{0} - static_cast<std::uint64_t>(value) : CutToWidth(*arg);
     const bool hex = directive.conversion == L'x' || directive.conversion == L'X';
-    std::wstring digits = Digits(magnitude, hex ? 16 : directive.conversion == L'o' ? 8 : 10,
+    std::wstring digits = Digits(magnitude,
+                                 hex                            ? 16
+                                 : directive.conversion == L'o' ? 8
+                                                                : 10,
                                  directive.conversion == L'X');
-    std::wstring sign = negative                        ? L"-"
-                        : isSigned && directive.plus    ? L"+"
-                        : isSigned && directive.blank   ? L" "
-                        : hex && directive.alternate    ? std::wstring{L'0', directive.conversion}
-                                                        : L"";
+    std::wstring sign = negative                      ? L"-"
+                        : isSigned && directive.plus  ? L"+"
+                        : isSigned && directive.blank ? L" "
+                        : hex && directive.alternate  ? std::wstring{L'0', directive.conversion}
+                                                      : L"";
     int least = directive.precision;
     if (least < 0 && directive.zero && !directive.left) {
         least = directive.width - static_cast<int>(sign.size());
@@ -212,20 +226,29 @@ void PutPointer(std::wstring& out, const Directive& directive, const FormatArg* 
 void Put(std::wstring& out, const Directive& directive, ArgReader& args) {
     switch (directive.conversion) {
     case L's':
-    case L'S': return PutText(out, directive, args.Next());
+    case L'S':
+        return PutText(out, directive, args.Next());
     case L'd':
     case L'i':
     case L'u':
     case L'x':
     case L'X':
-    case L'o': return PutInteger(out, directive, args.Next());
+    case L'o':
+        return PutInteger(out, directive, args.Next());
     case L'f':
     case L'e':
-    case L'g': return PutReal(out, directive, args.Next());
-    case L'c': return PutCharacter(out, directive, args.Next());
-    case L'p': return PutPointer(out, directive, args.Next());
-    case L'%': out += L'%'; return;
-    default: out += kWrongArgument; return;
+    case L'g':
+        return PutReal(out, directive, args.Next());
+    case L'c':
+        return PutCharacter(out, directive, args.Next());
+    case L'p':
+        return PutPointer(out, directive, args.Next());
+    case L'%':
+        out += L'%';
+        return;
+    default:
+        out += kWrongArgument;
+        return;
     }
 }
 

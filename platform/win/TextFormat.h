@@ -20,8 +20,7 @@ public:
     enum class Kind : std::uint8_t { Signed, Unsigned, Real, Wide, Narrow, Pointer };
 
     template <class T>
-        requires(std::is_integral_v<T> || std::is_enum_v<T>)
-    FormatArg(T value) : m_nBytes(sizeof(T)) {
+    requires(std::is_integral_v<T> || std::is_enum_v<T>) FormatArg(T value) : m_nBytes(sizeof(T)) {
         if constexpr (std::is_enum_v<T>) {
             Set(static_cast<std::underlying_type_t<T>>(value));
         } else {

@@ -1,0 +1,55 @@
+// Printing and prompting at the host's command line.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "platform/win/String.h"
+
+/// Results of prompts.
+inline constexpr int RTNORM = 5100;   ///< answered
+inline constexpr int RTERROR = -5001; ///< the arguments make no prompt
+inline constexpr int RTCAN = -5002;   ///< cancelled by the user
+
+/// Flag of acedGetString: the answer may contain blanks.
+inline constexpr int kGetStringAllowBlanks = 32;
+
+PLATFORM_API void acutPrint(std::wstring_view text);
+
+/// Prints a formatted text (TextFormat.h) at the command line.
+template <class... Args>
+void acutPrintf(std::wstring_view format, const Args&... args) {
+    acutPrint(FormatText(format, args...));
+}
+
+/// Asks for a text. An answer longer than the buffer is cut to fit; the result is ended
+/// with a NUL in any case.
+/// \param bufferSize number of characters, the NUL included; less than 1 gives RTERROR.
+/// \return RTNORM, RTCAN or RTERROR
+PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, wchar_t* buffer,
+                               std::size_t bufferSize);
+/// The same for an answer of any length.
+PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, CString& answer);
+
+/// Shows a message until the user has taken note of it.
+PLATFORM_API void acedAlert(const wchar_t* message);
+/// Shows a message box of the default style: the text and one button.
+PLATFORM_API void AfxMessageBox(const wchar_t* message);
+
+/// Has the host take a text as input once the running command has ended. One Escape
+/// character cancels what is still open.
+PLATFORM_API void acedPostCommand(const wchar_t* text);
+
+/// Colours of the host's own surfaces as 32-bit values, by their fixed places.
+struct AcColorSettings {
+    static constexpr std::size_t kCommandLineBackground = 5;
+    static constexpr std::size_t kCommandLineText = 24;
+    static constexpr std::size_t kPromptBackground = 25;
+    static constexpr std::size_t kPromptText = 26;
+
+    std::array<std::uint32_t, 30> m_colors{};
+    bool operator==(const AcColorSettings&) const = default;
+};
+
+PLATFORM_API bool acedGetCurrentColors(AcColorSettings* pColors);
+PLATFORM_API bool acedSetCurrentColors(const AcColorSettings* pColors);

@@ -1,0 +1,33 @@
+// What a host program has to provide so that modules can talk to the user.
+#pragma once
+
+#include "platform/win/String.h"
+
+/// How a prompt ended.
+enum class PromptEnd {
+    Answered,
+    Cancelled, ///< Escape, or no more input
+};
+
+/// Implemented by the host, once, on the main thread. Texts are shown as they are; line
+/// ends are "\n".
+class PLATFORM_API IHostPort {
+public:
+    virtual ~IHostPort() = default;
+
+    /// Writes at the end of the command line's text, without a line end of its own.
+    virtual void Print(std::wstring_view text) = 0;
+    /// Shows a prompt and waits for an answer, while the host's own events go on.
+    /// \param allowBlanks false: a blank ends the answer.
+    virtual PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) = 0;
+    /// Shows a text until the user has taken note of it.
+    virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
+    /// Has the host take a text as if the user had typed it, once the running command ended.
+    virtual void PostCommand(std::wstring_view text) = 0;
+};
+
+/// Makes a port the one in force and returns the one before. Not owned; null brings back
+/// the port that is there before any host is: it prints to standard output, and every
+/// prompt is cancelled.
+PLATFORM_API IHostPort* SetHostPort(IHostPort* pPort);
+PLATFORM_API IHostPort& HostPort();

@@ -1,0 +1,27 @@
+#include "platform/arx/Activity.h"
+
+#include <exception>
+#include <utility>
+
+namespace {
+
+CString& Interrupted() {
+    static CString activity;
+    return activity;
+}
+
+} // namespace
+
+ActivityScope::ActivityScope(const wchar_t* subject, const wchar_t* step)
+    : m_pszSubject(subject), m_pszStep(step), m_nExceptions(std::uncaught_exceptions()) {}
+
+ActivityScope::~ActivityScope() {
+    // The innermost scope is unwound first and has the most to tell.
+    if (std::uncaught_exceptions() > m_nExceptions && Interrupted().IsEmpty()) {
+        Interrupted().Format(L"%s: %s", m_pszSubject, m_pszStep);
+    }
+}
+
+CString TakeInterruptedActivity() {
+    return std::exchange(Interrupted(), CString());
+}

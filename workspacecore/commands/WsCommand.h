@@ -1,0 +1,98 @@
+// The record of one workspace command: what a tree item offers.
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+#include <map>
+#include <vector>
+
+#include "platform/win/Types.h"
+#include "workspacecore/commands/CommandsTypes.h"
+#include "workspacecore/commands/WsTopologyData.h"
+#include "workspacecore/tree/TreeTypes.h"
+
+namespace Orvane::Workspace {
+
+class IWsCommandExecutor;
+
+/// Made by whoever registers the command and shared with the registry. The executor is
+/// not owned and has to outlive every execution.
+class WORKSPACE_API CWsCommand {
+public:
+    using TopologyDataPtr = boost::shared_ptr<CWsTopologyData>;
+    using TopologyDataVector = std::vector<TopologyDataPtr>;
+    using TopologyDataMap = std::map<CString, TopologyDataPtr, CStringLess>;
+
+    CWsCommand() = default;
+    /// Copies carry everything but the topology data: a copy starts without any, and the
+    /// target of an assignment keeps its own.
+    CWsCommand(const CWsCommand& other);
+    CWsCommand& operator=(const CWsCommand& other);
+    virtual ~CWsCommand() = default;
+
+    CString GetId() const { return m_strId; }
+    /// The id as the registry compares it, without a copy.
+    const CString& IdText() const { return m_strId; }
+    void SetId(const wchar_t* id) { m_strId = id; }
+    CString GetName() const { return m_strName; }
+    void SetName(const wchar_t* name) { m_strName = name; }
+    CString GetDescription() const { return m_strDescription; }
+    void SetDescription(const wchar_t* description) { m_strDescription = description; }
+    HICON GetIcon() const { return m_hIcon; }
+    void SetIcon(HICON icon) { m_hIcon = icon; }
+    enmTreeCommandBehavior GetTreeCmdBehavior() const { return m_treeCmdBehavior; }
+    void SetTreeCmdBehavior(enmTreeCommandBehavior behavior) { m_treeCmdBehavior = behavior; }
+    enmCommandGroup GetCmdGroup() const { return m_cmdGroup; }
+    /// Has no effect on the group under which the registry already lists the command.
+    void SetCmdGroup(enmCommandGroup group) { m_cmdGroup = group; }
+    /// Tag of the repository family: empty for none, "0" for every family.
+    CString GetRepositoryTag() const { return m_strRepositoryTag; }
+    const CString& RepositoryTagText() const { return m_strRepositoryTag; }
+    void SetRepositoryTag(const wchar_t* tag) { m_strRepositoryTag = tag; }
+    /// Bit set of enmWSTreeItemType.
+    unsigned long GetWsItemTypes() const { return m_nWsItemTypes; }
+    void SetWsItemTypes(unsigned long types) { m_nWsItemTypes = types; }
+    IWsCommandExecutor* GetCmdExecutor() const { return m_pCmdExecutor; }
+    void SetCmdExecutor(IWsCommandExecutor* executor) { m_pCmdExecutor = executor; }
+    int IsSetDataCommand() const { return m_bIsSetDataCommand; }
+    void SetIsSetDataCommand(int isSetDataCommand) { m_bIsSetDataCommand = isSetDataCommand; }
+    enmEntityType GetEntityType() const { return m_entityType; }
+    void SetEntityType(enmEntityType entityType) { m_entityType = entityType; }
+    /// Given by the registry; 0 before that.
+    unsigned int GetMenuCmdId() const { return m_nMenuCmdId; }
+
+    /// Non-zero if the command applies to one of the kinds.
+    unsigned long TestWsItemType(enmWSTreeItemType types) const { return types & m_nWsItemTypes; }
+
+    /// A second record of the same topology and function stands in the vector again, while
+    /// the map keeps the first.
+    void AddWsTopologyData(TopologyDataPtr data);
+    /// Takes the record out of the vector, by pointer, and its key out of the map.
+    void RemoveWsTopologyData(const TopologyDataPtr& data);
+    int DoesTopologyDataExist(const CWsTopologyData* data) const;
+    TopologyDataVector* GetWsTopologyDataVector() { return &m_wsTopologyDataVector; }
+    TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyDataMap; }
+    const TopologyDataMap* GetWsTopologyDataMap() const { return &m_wsTopologyDataMap; }
+
+    CString GetXML() const;
+    void MakeDeepCopy(CWsCommand& target) const { target = *this; }
+
+private:
+    friend class CWsCommandRegistry;
+
+    CString m_strId;
+    CString m_strName;
+    CString m_strDescription;
+    HICON m_hIcon = nullptr;
+    enmTreeCommandBehavior m_treeCmdBehavior = TreeBehaviorNone;
+    enmCommandGroup m_cmdGroup = CommandGroupRun;
+    CString m_strRepositoryTag;
+    unsigned long m_nWsItemTypes = 0;
+    IWsCommandExecutor* m_pCmdExecutor = nullptr;
+    int m_bIsSetDataCommand = 0;
+    enmEntityType m_entityType = EntityNone;
+    TopologyDataVector m_wsTopologyDataVector;
+    TopologyDataMap m_wsTopologyDataMap;
+    unsigned int m_nMenuCmdId = 0;
+};
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,82 @@
+// The command registry as a text, and as a file.
+#include "platform/arx/EdPrompt.h"
+#include "platform/win/Number.h"
+#include "workspacecore/commands/WsCommandRegistry.h"
+#include "workspacecore/foundation/XmlDocument.h"
+#include "workspacecore/foundation/XmlField.h"
+
+namespace Orvane::Workspace {
+
+namespace {
+
+CString ReadText(const XmlDocument& document, const wchar_t* name) {
+    return DecodeXmlField(document.GetAttrib(name));
+}
+
+int ReadInt(const XmlDocument& document, const wchar_t* name) {
+    return TextToInt(document.GetAttrib(name));
+}
+
+/// What a text says of a command. Executor, icon and the set-data mark mean nothing once
+/// they were written, and stay as a fresh record has them.
+boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
+    boost::shared_ptr<CWsCommand> command(new CWsCommand);
+    command->SetId(ReadText(document, L"id"));
+    command->SetName(ReadText(document, L"name"));
+    command->SetDescription(ReadText(document, L"description"));
+    command->SetTreeCmdBehavior(
+        static_cast<enmTreeCommandBehavior>(ReadInt(document, L"repoCmdBehavior")));
+    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadInt(document, L"cmdGroup")));
+    command->SetRepositoryTag(ReadText(document, L"repositoryTag"));
+    command->SetWsItemTypes(static_cast<unsigned long>(ReadInt(document, L"wsItemTypes")));
+    return command;
+}
+
+} // namespace
+
+CString CWsCommandRegistry::GetXML() const {
+    CString xml(L"<wsCommandRegistry >");
+    for (const CommandPtr& command : m_wsCommandVector) {
+        xml += command->GetXML();
+    }
+    return xml += L"</wsCommandRegistry>";
+}
+
+int CWsCommandRegistry::ParseXML(const wchar_t* xml) {
+    Clear();
+    XmlDocument document;
+    // An ill-formed text is read as far as its index goes.
+    document.SetDoc(xml);
+    if (!document.FindElem(L"wsCommandRegistry")) {
+        return 0;
+    }
+    document.IntoElem();
+    while (document.FindElem(L"wsCommand")) {
+        AddWsCommand(ReadCommand(document));
+    }
+    return 1;
+}
+
+int CWsCommandRegistry::Load(const wchar_t* path) {
+    XmlDocument document;
+    return document.Load(path) ? ParseXML(document.GetDoc()) : 0;
+}
+
+int CWsCommandRegistry::Save(const wchar_t* path) const {
+    XmlDocument document;
+    return document.SetDoc(GetXML()) && document.Save(path) ? 1 : 0;
+}
+
+int CWsCommandRegistry::LoadFromDictionary() {
+    AfxMessageBox(L"Not implemented");
+    return ParseXML(L"");
+}
+
+int CWsCommandRegistry::SaveToDictionary() const {
+    const CString xml = GetXML();
+    static_cast<void>(xml);
+    AfxMessageBox(L"Not implemented");
+    return 0;
+}
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,174 @@
+// The developer's trace: one text file for the whole process, switched by CLogEngine.
+//
+// While logging is off a site costs one call of CLogEngine::GetLoggingOnOff; nothing of
+// its arguments is evaluated, so they must have no side effects. While it is on, every
+// line is flushed. Main thread only.
+//
+//     WS_TRACE_SCOPE();                    Entering now, Exiting when the scope ends
+//     WS_TRACE_TEXT(L"DLL Loaded");        a line with a text or a number
+//     WS_TRACE_VALUE("pDoc", pDoc);        a line "pDoc = '...'"
+//     WS_TRACE_VERIFY(p != nullptr, "p")   gives the condition; a line only if it is false
+//     WS_TRACE_FORMAT(L"Module = %s", s);  a line with a formatted text
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "platform/win/String.h"
+#include "siblings/logging/LogEngine.h"
+#include "workspacecore/Api.h"
+
+namespace Orvane::Workspace {
+
+/// What a trace site hands over.
+struct CTraceLocation {
+    const char* m_pszFile;
+    int m_nLine;
+    const char* m_pszFunction;
+    int m_nLevel;
+    bool m_bPrefixOnly = false;
+    std::ostream* m_pStream = nullptr; ///< null for the log
+};
+
+/// Level of all sites of the system.
+inline constexpr int kTraceLevel = 3;
+
+namespace Trace {
+
+/// A function's signature as the compiler spells it, usable as a template argument.
+template <std::size_t N>
+struct Signature {
+    char text[N]{};
+    consteval Signature(const char (&signature)[N]) { std::copy_n(signature, N, text); }
+};
+
+/// The qualified name in a signature: no return type, no arguments.
+consteval std::string_view QualifiedName(std::string_view signature) {
+    constexpr std::string_view kCallOperator = "operator()";
+    std::size_t open = signature.find(kCallOperator);
+    open = open == std::string_view::npos ? signature.find('(')
+                                          : signature.find('(', open + kCallOperator.size());
+    std::string_view name = signature.substr(0, open);
+    int depth = 0;
+    for (std::size_t i = name.size(); i > 0; --i) {
+        const char c = name[i - 1];
+        depth += c == '>' ? 1 : c == '<' ? -1 : 0;
+        if (depth == 0 && (c == ' ' || c == '*' || c == '&')) {
+            name.remove_prefix(i);
+            break;
+        }
+    }
+    return name;
+}
+
+template <Signature S>
+inline constexpr auto kFunctionName = [] {
+    constexpr std::string_view name = QualifiedName(std::string_view(S.text));
+    std::array<char, name.size() + 1> text{};
+    std::copy(name.begin(), name.end(), text.begin());
+    return text;
+}();
+
+/// The level in force; sites above it stay silent.
+WORKSPACE_API int Level();
+/// Writes one line. The site's level was compared already.
+WORKSPACE_API void WriteLine(const CTraceLocation& site, std::string_view text);
+/// Names of the open scopes, the newest last. Kept only while logging is on.
+WORKSPACE_API const std::vector<std::string>& OpenScopes();
+
+WORKSPACE_API std::string Narrow(const wchar_t* text);
+WORKSPACE_API std::string Narrow(const CString& text);
+WORKSPACE_API std::string Narrow(const void* pointer);
+inline std::string Narrow(const char* text) {
+    return text ? text : "Error: Bad pointer";
+}
+template <class T>
+    requires std::is_arithmetic_v<T>
+std::string Narrow(T number) {
+    return std::to_string(number);
+}
+
+template <class T>
+void Text(const CTraceLocation& site, const T& text) {
+    if (site.m_nLevel <= Level()) {
+        WriteLine(site, Narrow(text));
+    }
+}
+
+template <class T>
+void Value(const CTraceLocation& site, const char* name, const T& value) {
+    if (site.m_nLevel <= Level()) {
+        WriteLine(site, std::string(name) + " = '" + Narrow(value) + "'");
+    }
+}
+
+WORKSPACE_API void Failed(const CTraceLocation& site, const char* name);
+
+template <class... Args>
+void Format(const CTraceLocation& site, std::wstring_view format, const Args&... args) {
+    if (site.m_nLevel <= Level()) {
+        WriteLine(site, Narrow(FormatText(format, args...).c_str()));
+    }
+}
+
+/// Writes the Entering line, and the Exiting line when the scope ends, also by an exception.
+class Scope {
+public:
+    explicit Scope(const CTraceLocation& site) : m_site(site) {
+        if (site.m_bPrefixOnly) {
+            PrintPrefix();
+        }
+        if (CLogEngine::GetLoggingOnOff()) {
+            Enter();
+        }
+    }
+    ~Scope() {
+        if (CLogEngine::GetLoggingOnOff()) {
+            Leave();
+        }
+    }
+    Scope(const Scope&) = delete;
+    Scope& operator=(const Scope&) = delete;
+
+private:
+    WORKSPACE_API void PrintPrefix() const;
+    WORKSPACE_API void Enter() const;
+    WORKSPACE_API void Leave() const;
+
+    CTraceLocation m_site;
+};
+
+} // namespace Trace
+} // namespace Orvane::Workspace
+
+#define WS_TRACE_SITE                                                                              \
+    ::Orvane::Workspace::CTraceLocation {                                                          \
+        __FILE_NAME__, __LINE__,                                                                   \
+            ::Orvane::Workspace::Trace::kFunctionName<::Orvane::Workspace::Trace::Signature(       \
+                __PRETTY_FUNCTION__)>                                                              \
+                .data(),                                                                           \
+            ::Orvane::Workspace::kTraceLevel                                                       \
+    }
+#define WS_TRACE_WHEN_ON(call)                                                                     \
+    do {                                                                                           \
+        if (::Orvane::CLogEngine::GetLoggingOnOff()) {                                             \
+            ::Orvane::Workspace::Trace::call;                                                      \
+        }                                                                                          \
+    } while (false)
+
+#define WS_TRACE_SCOPE()                                                                           \
+    const ::Orvane::Workspace::Trace::Scope wsTraceScope { WS_TRACE_SITE }
+#define WS_TRACE_TEXT(text) WS_TRACE_WHEN_ON(Text(WS_TRACE_SITE, text))
+#define WS_TRACE_VALUE(name, value) WS_TRACE_WHEN_ON(Value(WS_TRACE_SITE, name, value))
+#define WS_TRACE_FORMAT(...) WS_TRACE_WHEN_ON(Format(WS_TRACE_SITE, __VA_ARGS__))
+#define WS_TRACE_VERIFY(condition, name)                                                           \
+    ((condition) ? true                                                                            \
+                 : (::Orvane::CLogEngine::GetLoggingOnOff()                                        \
+                        ? ::Orvane::Workspace::Trace::Failed(WS_TRACE_SITE, name)                  \
+                        : void(),                                                                  \
+                    false))

@@ -1,0 +1,41 @@
+// What the host calls when it loads the module.
+#include "platform/arx/RxArxApp.h"
+#include "workspacecore/Api.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Workspace {
+
+namespace {
+
+void StartConsole() {
+    CWsManager::Instance()->StartHalvaneConsole();
+}
+
+constexpr AcRxCommandEntry kCommands[] = {
+    {L"ORVZWorkspaceCore", L"test", L"test", ACRX_CMD_TRANSPARENT, StartConsole},
+};
+
+/// Loading the module registers its command and nothing else: the workspace comes with
+/// the first CWsManager::Instance.
+class CWorkspaceCoreApp final : public AcRxArxApp {
+protected:
+    std::span<const AcRxCommandEntry> CommandTable() const override { return kCommands; }
+};
+
+CWorkspaceCoreApp theApp;
+
+} // namespace
+
+} // namespace Orvane::Workspace
+
+extern "C" {
+
+WORKSPACE_API int acrxEntryPoint(int message, void* packet) {
+    return Orvane::Workspace::theApp.Dispatch(message, packet);
+}
+
+WORKSPACE_API int acrxGetApiVersion() {
+    return kRxApiVersion;
+}
+
+} // extern "C"

@@ -1,0 +1,116 @@
+#include "workspacecore/core/WsManager.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "siblings/conversion/Ansi2UnicodeUtility.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscoreadds/InfoTooltipRegistry.h"
+#include "workspacecore/core/HostWillClose.h"
+#include "workspacecore/core/Trace.h"
+
+namespace Orvane::Workspace {
+
+CWsManager* CWsManager::m_pInstance = nullptr;
+int s_bHostWillClose = 0;
+
+namespace {
+
+/// Characters that conversions may take without allocating while modules are loaded.
+constexpr int kConversionBuffer = 1024;
+
+Notification::CPublisher* Publisher(const wchar_t* name) {
+    return Notification::CNotificationFramework::Instance()->GetPublisher(name);
+}
+
+} // namespace
+
+CWsManager* CWsManager::Instance() {
+    if (m_pInstance) {
+        return m_pInstance;
+    }
+    // Stored before anything else happens: hooks call Instance while it is still starting.
+    m_pInstance = new CWsManager;
+    if (s_bHostWillClose) {
+        return m_pInstance;
+    }
+    WS_TRACE_TEXT("CWsManager - 1");
+    // The document reactor is made and attached here, once there is one.
+    WS_TRACE_TEXT("CWsManager - 2");
+    CAnsi2UnicodeUtility::Instance()->ReserveBufferMemory(kConversionBuffer);
+    m_pInstance->m_PluginMgr.LoadModules();
+    CAnsi2UnicodeUtility::Instance()->ReleaseBufferMemory();
+    WS_TRACE_TEXT("CWsManager - 3");
+    // The system, disk and net tree templates are built here, once there are tree items;
+    // they need every plug-in's definitions.
+    WS_TRACE_TEXT("CWsManager - 4");
+    // The log viewer is made here with its docking pane, once there are panes.
+    WS_TRACE_TEXT("CWsManager - 5");
+    // The editor reactor is made here, once there is one.
+    CModuleConfiguration::Instance()->SetApplicationIsLoaded(1);
+    WS_TRACE_TEXT("CWsManager - 6");
+    CRepositoryManager::Instance()->ReloadRepositories(0);
+    WS_TRACE_TEXT("CWsManager - 7");
+    return m_pInstance;
+}
+
+CWsManager::CWsManager()
+    : m_pRefreshAllPbl(Publisher(L"REFRESH_CHILDREN")),
+      m_pRefreshTreePbl(Publisher(L"REFRESH_TREE")),
+      m_pSelectionInProgressPbl(Publisher(L"SELECTION_IN_PROGRESS")),
+      m_pSelectionCompletedPbl(Publisher(L"SELECTION_COMPLETED")) {}
+
+CWsManager::~CWsManager() {
+    // The pointer is cleared first, so that the teardown runs once, and so that nothing
+    // below reaches a manager that is going.
+    CWsManager* const pLive = std::exchange(m_pInstance, nullptr);
+    if (pLive != this) {
+        delete pLive;
+    }
+}
+
+int CWsManager::RegisterWsCommand(boost::shared_ptr<CWsCommand> command) {
+    return m_CmdMgr.GetCommandRegistry()->AddWsCommand(command);
+}
+
+void CWsManager::RegisterBaseExecutor(IWsCommandExecutor* pExecutor) {
+    if (!m_CmdMgr.m_pBaseExecutor) {
+        m_CmdMgr.m_pBaseExecutor = pExecutor;
+    }
+}
+
+void CWsManager::RegisterInfoTooltip(boost::shared_ptr<Utility::IInfoTooltip> tooltip) {
+    Utility::CInfoTooltipRegistry::Instance()->RegisterInfoTooltip(tooltip);
+}
+
+void CWsManager::RegisterRepositoryFactory(const wchar_t* tag, CRepositoryFactory* pFactory) {
+    CRepositoryManager::Instance()->RegisterRepositoryFactory(tag, pFactory);
+}
+
+void CWsManager::RegisterRepositoryItemFactory(const wchar_t* tag,
+                                               CRepositoryItemFactory* pFactory) {
+    CRepositoryManager::Instance()->RegisterRepositoryItemFactory(tag, pFactory);
+}
+
+void CWsManager::RegisterWsListener(IWsListener* pListener) {
+    if (m_ListenerSet.insert(pListener).second) {
+        m_Listeners.push_back(pListener);
+    }
+}
+
+void CWsManager::UnregisterWsListener(IWsListener* pListener) {
+    m_ListenerSet.erase(pListener);
+    const auto hit = std::find(m_Listeners.begin(), m_Listeners.end(), pListener);
+    if (hit != m_Listeners.end()) {
+        m_Listeners.erase(hit);
+    }
+}
+
+int CWsManager::StartCommandAfterDragAndDrop() const {
+    int value = 0;
+    return CModuleConfiguration::Instance()->GetGSValueInt(L"RUN_AFTER_DROP", value) && value == 1;
+}
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,130 @@
+// The one object through which the whole workspace is reached.
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+#include <set>
+#include <vector>
+
+#include "workspacecore/Api.h"
+#include "workspacecore/commands/WsCommandManager.h"
+#include "workspacecore/core/IWsListener.h"
+#include "workspacecore/plugins/WsPluginManager.h"
+
+namespace Orvane {
+class CRepositoryFactory;
+class CRepositoryItemFactory;
+namespace Notification {
+class CPublisher;
+}
+namespace Utility {
+class IInfoTooltip;
+}
+} // namespace Orvane
+
+namespace Orvane::Workspace {
+
+/// Holds the sub-managers and the listeners, and starts the workspace: the first call of
+/// Instance makes the object, loads the plug-ins and builds everything on top of them.
+/// It lives to the end of the process. Main thread only.
+class WORKSPACE_API CWsManager {
+public:
+    /// The manager. While the first call is still starting the workspace, further calls,
+    /// from plug-in hooks for instance, get the same, partly started object.
+    static CWsManager* Instance();
+    /// Non-zero from the moment the object exists, which is before any plug-in is loaded.
+    static int IsWSInitialized() { return m_pInstance != nullptr; }
+
+    /// Copies are member by member; registries are then shared.
+    CWsManager(const CWsManager&) = default;
+    CWsManager& operator=(const CWsManager&) = default;
+    /// Tears the live manager down, with every plug-in. Nobody does so in normal life.
+    ~CWsManager();
+
+    // The parts. Never null.
+    CWsPluginManager* PluginMgr() { return &m_PluginMgr; }
+    CWsCommandManager* CmdMgr() { return &m_CmdMgr; }
+
+    // Publishers, shared with every module that asks for the same names.
+    Notification::CPublisher* GetRefreshAllPbl() const { return m_pRefreshAllPbl; }
+    Notification::CPublisher* GetRefreshTreePbl() const { return m_pRefreshTreePbl; }
+    Notification::CPublisher* GetSelectionInProgressPbl() const {
+        return m_pSelectionInProgressPbl;
+    }
+    Notification::CPublisher* GetSelectionCompletedPbl() const {
+        return m_pSelectionCompletedPbl;
+    }
+
+    // Registration, for plug-ins in their hooks. No argument is checked.
+    /// 0 if there is a command of that id already.
+    int RegisterWsCommand(boost::shared_ptr<CWsCommand> command);
+    /// The first executor stays; later ones are passed over. Not owned.
+    void RegisterBaseExecutor(IWsCommandExecutor* pExecutor);
+    void RegisterInfoTooltip(boost::shared_ptr<Utility::IInfoTooltip> tooltip);
+    void RegisterRepositoryFactory(const wchar_t* tag, CRepositoryFactory* pFactory);
+    void RegisterRepositoryItemFactory(const wchar_t* tag, CRepositoryItemFactory* pFactory);
+    /// A listener that is registered already keeps its place. Not owned.
+    void RegisterWsListener(IWsListener* pListener);
+    void UnregisterWsListener(IWsListener* pListener);
+
+    /// Non-zero if the general setting "RUN_AFTER_DROP" is 1.
+    int StartCommandAfterDragAndDrop() const;
+    /// Runs the text console on the host's command line until the user leaves it.
+    void StartHalvaneConsole();
+
+    // Events (IWsListener.h). Each does its own housekeeping, then tells every listener in
+    // the order of registration. Once no listener vetoed the end of the host, the events
+    // of documents becoming current or going, of activation, of temporary data and of
+    // commands fall silent. An exception of a listener passes out.
+    int Raise_OnBeforeAcadWillClose();
+    void Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName);
+    void Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName);
+    void Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc);
+    void Raise_OnAcadDocumentToBeDeactivated(AcApDocument* pDoc);
+    void Raise_OnAcadDocumentToBeDestroyed(AcApDocument* pDocToDestroy);
+    void Raise_OnAcadDocumentDestroyed(const wchar_t* lpszFileName);
+    void Raise_OnSystemChanged(System::CGisSystem* pSystem);
+    /// Refreshes linear data and name rules and loads the system's counters first; the
+    /// system may be null.
+    void Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActive);
+    /// Saves the topology's counters to the system first.
+    void Raise_OnSystemBecomeInactive(System::CGisSystem* pSystem);
+    void Raise_OnSystemBecomeHidden(System::CGisSystem* pSystem);
+    void Raise_OnSystemBecomeShown(System::CGisSystem* pSystem);
+    void Raise_OnBeforeSystemDelete(System::CGisSystem* pSystem);
+    void Raise_OnAfterSystemDelete();
+    void Raise_OnNewSystemCreated(System::CGisSystem* pNewSystem);
+    void Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
+                                          const wchar_t* lpszRepositoryTag,
+                                          const wchar_t* lpszNewDefinitionGuid);
+    void Raise_OnTemporaryDataRefreshed();
+    void Raise_OnBeforeConfigDefinitionDeleted(System::CGisSystem* pSystem,
+                                               const wchar_t* lpszRepositoryTag,
+                                               const wchar_t* lpszDefinitionGuidToBeDeleted);
+    void Raise_OnConfigDefinitionChanged(System::CGisSystem* pSystem,
+                                         const wchar_t* lpszRepositoryTag,
+                                         const wchar_t* lpsChangedDefinitionGuid);
+    void Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem, const wchar_t* lpszRepositoryTag,
+                                     const wchar_t* lpszDefaultDefinitionGuid);
+    void Raise_OnBeforeCommandActivated(const wchar_t* lpszCommandId);
+    void Raise_OnAfterCommandCompleted(const wchar_t* lpszCommandId);
+    void Raise_OnAfterGeneralSettingsChanged();
+
+    static CWsManager* m_pInstance;
+
+private:
+    CWsManager();
+    template <class... Params, class... Args>
+    void Deliver(void (IWsListener::*event)(Params...), Args... args) const;
+
+    // In the order of construction: the plug-in manager reads its file first.
+    CWsPluginManager m_PluginMgr;
+    CWsCommandManager m_CmdMgr;
+    std::set<IWsListener*> m_ListenerSet;
+    std::vector<IWsListener*> m_Listeners;
+    Notification::CPublisher* m_pRefreshAllPbl;
+    Notification::CPublisher* m_pRefreshTreePbl;
+    Notification::CPublisher* m_pSelectionInProgressPbl;
+    Notification::CPublisher* m_pSelectionCompletedPbl;
+};
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,223 @@
+// The events: what each does besides telling the listeners.
+#include "siblings/giscore/DataConfiguration.h"
+#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/networkcore/LinearDataManager.h"
+#include "siblings/networkcore/TopologyMultiStorage.h"
+#include "siblings/networkcore/TopologyStorage.h"
+#include "workspacecore/core/HostWillClose.h"
+#include "workspacecore/core/Trace.h"
+#include "workspacecore/core/WsManager.h"
+
+// The name of a system, where there is one.
+#define WS_TRACE_SYSTEM_NAME(pSystem)                                                              \
+    do {                                                                                           \
+        if (pSystem) {                                                                             \
+            WS_TRACE_TEXT((pSystem)->GetSystemName());                                             \
+        }                                                                                          \
+    } while (false)
+
+namespace Orvane::Workspace {
+
+namespace {
+
+Topology::CTopologyStorage* MainTopology() {
+    return Topology::CTopologyMultiStorage::Instance()->GetTopology();
+}
+
+} // namespace
+
+template <class... Params, class... Args>
+void CWsManager::Deliver(void (IWsListener::*event)(Params...), Args... args) const {
+    // The end is fixed in advance. By index, so that a listener which breaks its contract
+    // and registers or unregisters somebody cannot lead the walk into freed memory.
+    const std::size_t count = m_Listeners.size();
+    for (std::size_t i = 0; i < count && i < m_Listeners.size(); ++i) {
+        (m_Listeners[i]->*event)(args...);
+    }
+}
+
+int CWsManager::Raise_OnBeforeAcadWillClose() {
+    WS_TRACE_TEXT("CAD will close");
+    const std::size_t count = m_Listeners.size();
+    for (std::size_t i = 0; i < count && i < m_Listeners.size(); ++i) {
+        if (m_Listeners[i]->OnBeforeAcadWillClose()) {
+            return 1;
+        }
+    }
+    s_bHostWillClose = 1;
+    return 0;
+}
+
+void CWsManager::Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
+    WS_TRACE_TEXT(lpszFileName);
+    Deliver(&IWsListener::OnBeginSaveAcadDocument, pDb, lpszFileName);
+}
+
+void CWsManager::Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb,
+                                                   const wchar_t* lpszFileName) {
+    WS_TRACE_TEXT(lpszFileName);
+    Deliver(&IWsListener::OnSaveCompletedAcadDocument, pDb, lpszFileName);
+}
+
+void CWsManager::Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_VALUE("pActivatedDoc", pActivatedDoc);
+    if (s_bHostWillClose) {
+        return;
+    }
+    if (pActivatedDoc) {
+        Data::CDataConfiguration::Instance()->SetFloatToStrPrecision_Point(
+            CModuleConfiguration::Instance()->GetNodeIndexCoorPrecision());
+    }
+    Deliver(&IWsListener::OnAcadDocumentBecomeCurrent, pActivatedDoc);
+}
+
+void CWsManager::Raise_OnAcadDocumentToBeDeactivated(AcApDocument* pDoc) {
+    if (!s_bHostWillClose) {
+        Deliver(&IWsListener::OnAcadDocumentToBeDeactivated, pDoc);
+    }
+}
+
+void CWsManager::Raise_OnAcadDocumentToBeDestroyed(AcApDocument* pDocToDestroy) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_VALUE("pDocToDestroy", pDocToDestroy);
+    if (!s_bHostWillClose) {
+        Deliver(&IWsListener::OnAcadDocumentToBeDestroyed, pDocToDestroy);
+    }
+}
+
+void CWsManager::Raise_OnAcadDocumentDestroyed(const wchar_t* lpszFileName) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_VALUE("lpszFileName", lpszFileName);
+    if (!s_bHostWillClose) {
+        Deliver(&IWsListener::OnAcadDocumentDestroyed, lpszFileName);
+    }
+}
+
+void CWsManager::Raise_OnSystemChanged(System::CGisSystem* pSystem) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_SYSTEM_NAME(pSystem);
+    Deliver(&IWsListener::OnSystemChanged, pSystem);
+}
+
+void CWsManager::Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActive) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_VALUE("pSysToBecomeActive", pSysToBecomeActive);
+    if (s_bHostWillClose) {
+        return;
+    }
+    if (WS_TRACE_VERIFY(pSysToBecomeActive, "pSysToBecomeActive")) {
+        WS_TRACE_TEXT(pSysToBecomeActive->GetSystemName());
+    }
+    Data::CLinearDataManager::Instance()->RefreshLinearDataDefinitions();
+    MainTopology()->RefreshNameRules();
+    MainTopology()->LoadCountersFromSystem(pSysToBecomeActive);
+    Deliver(&IWsListener::OnSystemBecomeActive, pSysToBecomeActive);
+}
+
+void CWsManager::Raise_OnSystemBecomeInactive(System::CGisSystem* pSystem) {
+    MainTopology()->SaveCountersToSystem(pSystem);
+    Deliver(&IWsListener::OnSystemBecomeInactive, pSystem);
+}
+
+void CWsManager::Raise_OnSystemBecomeHidden(System::CGisSystem* pSystem) {
+    WS_TRACE_SYSTEM_NAME(pSystem);
+    Deliver(&IWsListener::OnSystemBecomeHidden, pSystem);
+}
+
+void CWsManager::Raise_OnSystemBecomeShown(System::CGisSystem* pSystem) {
+    WS_TRACE_SYSTEM_NAME(pSystem);
+    Deliver(&IWsListener::OnSystemBecomeShown, pSystem);
+}
+
+void CWsManager::Raise_OnBeforeSystemDelete(System::CGisSystem* pSystem) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_SYSTEM_NAME(pSystem);
+    Deliver(&IWsListener::OnBeforeSystemDelete, pSystem);
+}
+
+void CWsManager::Raise_OnAfterSystemDelete() {
+    WS_TRACE_TEXT("Marker");
+    Deliver(&IWsListener::OnAfterSystemDelete);
+}
+
+void CWsManager::Raise_OnNewSystemCreated(System::CGisSystem* pNewSystem) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_VALUE("pNewSystem", pNewSystem);
+    WS_TRACE_SYSTEM_NAME(pNewSystem);
+    Deliver(&IWsListener::OnNewSystemCreated, pNewSystem);
+}
+
+void CWsManager::Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
+                                                  const wchar_t* lpszRepositoryTag,
+                                                  const wchar_t* lpszNewDefinitionGuid) {
+    if (pSystem) {
+        WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
+        WS_TRACE_VALUE("lpszNewDefinitionGuid", lpszNewDefinitionGuid);
+    }
+    Deliver(&IWsListener::OnNewConfigDefinitionAdded, pSystem, lpszRepositoryTag,
+            lpszNewDefinitionGuid);
+}
+
+void CWsManager::Raise_OnTemporaryDataRefreshed() {
+    if (!s_bHostWillClose) {
+        Deliver(&IWsListener::OnTemporaryDataRefreshed);
+    }
+}
+
+void CWsManager::Raise_OnBeforeConfigDefinitionDeleted(
+    System::CGisSystem* pSystem, const wchar_t* lpszRepositoryTag,
+    const wchar_t* lpszDefinitionGuidToBeDeleted) {
+    if (pSystem) {
+        WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
+        WS_TRACE_VALUE("lpszDefinitionGuidToBeDeleted", lpszDefinitionGuidToBeDeleted);
+    }
+    Deliver(&IWsListener::OnBeforeConfigDefinitionDeleted, pSystem, lpszRepositoryTag,
+            lpszDefinitionGuidToBeDeleted);
+}
+
+void CWsManager::Raise_OnConfigDefinitionChanged(System::CGisSystem* pSystem,
+                                                 const wchar_t* lpszRepositoryTag,
+                                                 const wchar_t* lpsChangedDefinitionGuid) {
+    if (pSystem) {
+        WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
+        WS_TRACE_VALUE("lpsChangedDefinitionGuid", lpsChangedDefinitionGuid);
+    }
+    Deliver(&IWsListener::OnConfigDefinitionChanged, pSystem, lpszRepositoryTag,
+            lpsChangedDefinitionGuid);
+}
+
+void CWsManager::Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem,
+                                             const wchar_t* lpszRepositoryTag,
+                                             const wchar_t* lpszDefaultDefinitionGuid) {
+    if (pSystem) {
+        WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
+        WS_TRACE_VALUE("lpszDefaultDefinitionGuid", lpszDefaultDefinitionGuid);
+    }
+    Deliver(&IWsListener::OnConfigBecomeDefault, pSystem, lpszRepositoryTag,
+            lpszDefaultDefinitionGuid);
+}
+
+void CWsManager::Raise_OnBeforeCommandActivated(const wchar_t* lpszCommandId) {
+    WS_TRACE_SCOPE();
+    if (!s_bHostWillClose) {
+        WS_TRACE_TEXT(lpszCommandId);
+        Deliver(&IWsListener::OnBeforeCommandActivated, lpszCommandId);
+    }
+}
+
+void CWsManager::Raise_OnAfterCommandCompleted(const wchar_t* lpszCommandId) {
+    WS_TRACE_SCOPE();
+    if (!s_bHostWillClose) {
+        WS_TRACE_TEXT(lpszCommandId);
+        Deliver(&IWsListener::OnAfterCommandCompleted, lpszCommandId);
+    }
+}
+
+void CWsManager::Raise_OnAfterGeneralSettingsChanged() {
+    WS_TRACE_TEXT("Marker");
+    Deliver(&IWsListener::OnAfterGeneralSettingsChanged);
+}
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,49 @@
+// The list of plug-in modules that may be loaded, in load order, and its file.
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+#include <vector>
+
+#include "workspacecore/plugins/WsModule.h"
+
+namespace Orvane::Workspace {
+
+/// A copy shares the records; MakeDeepCopy gives separate ones. Main thread only.
+class WORKSPACE_API CWsModuleRegistry {
+public:
+    using ModulePtr = boost::shared_ptr<CWsModule>;
+    using ModuleVector = std::vector<ModulePtr>;
+
+    CWsModuleRegistry() = default;
+    CWsModuleRegistry(const CWsModuleRegistry&) = default;
+    CWsModuleRegistry& operator=(const CWsModuleRegistry&) = default;
+    virtual ~CWsModuleRegistry() = default;
+
+    /// The list itself. Nobody may change it while somebody else walks it.
+    ModuleVector* GetWsModuleVector() { return &m_vecModules; }
+    const ModuleVector* GetWsModuleVector() const { return &m_vecModules; }
+    void AddWsModule(ModulePtr module) { m_vecModules.push_back(module); }
+    void RemoveWsModule(const ModulePtr& module);
+    void Clear() { m_vecModules.clear(); }
+
+    /// 1 if a loaded record has the file's name, with or without its folder, whatever the
+    /// case. A module that is listed but not loaded does not count.
+    int DoesModuleExist(const wchar_t* lpszFile) const;
+
+    CString GetXML() const;
+    /// Empties the list and reads records from a text; 0 if it has no registry element.
+    int ParseXML(const wchar_t* lpszXml);
+    /// 0, and the list as it was, if the file cannot be read; else as ParseXML.
+    int Load(const wchar_t* lpszPath);
+    int Save(const wchar_t* lpszPath) const;
+    /// There is no storage in a drawing yet: both show "Not implemented" and give 0, and
+    /// the first one empties the list.
+    int LoadFromDictionary();
+    int SaveToDictionary() const;
+    void MakeDeepCopy(CWsModuleRegistry& target) const;
+
+private:
+    ModuleVector m_vecModules;
+};
+
+} // namespace Orvane::Workspace

@@ -1,0 +1,204 @@
+#include "workspacecore/plugins/WsPluginManager.h"
+
+#include <span>
+
+#include "platform/arx/Activity.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/FileVersion.h"
+#include "platform/win/Library.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "workspacecore/core/Trace.h"
+#include "workspacecore/plugins/SplashScreen.h"
+
+namespace Orvane::Workspace {
+
+namespace {
+
+constexpr const char* kProviderEntry = "ORVPluginInfoProvider";
+constexpr const char* kReleaseEntry = "ORVPluginInfoRelease";
+/// A library on a network share may be there at the second look.
+constexpr int kLoadAttempts = 7;
+
+struct Hook {
+    void (IPluginInfo::*call)();
+    const wchar_t* name;
+};
+
+constexpr Hook kStartHooks[] = {
+    {&IPluginInfo::PluginHook6, L"PluginHook6"},
+    {&IPluginInfo::PluginHook1, L"PluginHook1"},
+    {&IPluginInfo::PluginHook2, L"PluginHook2"},
+    {&IPluginInfo::PluginHook3, L"PluginHook3"},
+    {&IPluginInfo::PluginHook4, L"PluginHook4"},
+    {&IPluginInfo::PluginHook5, L"PluginHook5"},
+    {&IPluginInfo::PluginHook7, L"PluginHook7"},
+    {&IPluginInfo::RegisterInfoTooltips, L"RegisterInfoTooltips"},
+    {&IPluginInfo::RegisterWsPanelDialog, L"RegisterWsPanelDialog"},
+    {&IPluginInfo::RegisterCatalogExtenders, L"RegisterCatalogExtenders"},
+};
+
+/// A file that is added to a running workspace is asked in another order, and for less:
+/// hooks 2 and 5 belong to the start.
+constexpr Hook kSingleFileHooks[] = {
+    {&IPluginInfo::PluginHook7, L"PluginHook7"},
+    {&IPluginInfo::PluginHook6, L"PluginHook6"},
+    {&IPluginInfo::PluginHook1, L"PluginHook1"},
+    {&IPluginInfo::PluginHook3, L"PluginHook3"},
+    {&IPluginInfo::PluginHook4, L"PluginHook4"},
+    {&IPluginInfo::RegisterInfoTooltips, L"RegisterInfoTooltips"},
+    {&IPluginInfo::RegisterWsPanelDialog, L"RegisterWsPanelDialog"},
+    {&IPluginInfo::RegisterCatalogExtenders, L"RegisterCatalogExtenders"},
+};
+
+void RunHooks(PluginInfoProvider provider, const wchar_t* fileName, std::span<const Hook> hooks) {
+    for (const Hook& hook : hooks) {
+        const ActivityScope activity(fileName, hook.name);
+        (provider()->*hook.call)();
+    }
+}
+
+HINSTANCE LoadWithAttempts(const wchar_t* path, int attempts) {
+    HINSTANCE library = nullptr;
+    for (int i = 0; i < attempts && !library; ++i) {
+        library = LoadLibrary(path);
+    }
+    return library;
+}
+
+void TakeLibrary(CWsModule& module, HINSTANCE library) {
+    module.SetModuleDLLInstance(library);
+    module.SetPluginInfo(
+        reinterpret_cast<PluginInfoProvider>(GetProcAddress(library, kProviderEntry)));
+    module.SetReleaseModule(GetProcAddress(library, kReleaseEntry));
+}
+
+void DropLibrary(CWsModule& module) {
+    FreeLibrary(module.GetModuleDLLInstance());
+    module.SetModuleDLLInstance(nullptr);
+    module.SetPluginInfo(nullptr);
+    module.SetReleaseModule(nullptr);
+}
+
+CString Path(const wchar_t* folderKey, const wchar_t* fileName) {
+    return CModuleConfiguration::Instance()->GetPath(folderKey) + fileName;
+}
+
+CString ProductTitle() {
+    CString title;
+    title.Format(L"Tessaly 8 (%s)", ReadFileVersionText(Path(L"INSTALL", L"ORVZGisCore.arx")));
+    return title;
+}
+
+void ShowProgress(CSplashScreen& splash, std::size_t index, std::size_t count,
+                  const CString& fileName) {
+    if (splash.Show()) {
+        CString text;
+        text.Format(L"%s ...", fileName);
+        splash.SetProgress(
+            static_cast<int>(static_cast<double>(index + 1) * 100.0 / static_cast<double>(count)),
+            text);
+    } else {
+        acutPrintf(L"\n%s", fileName);
+    }
+}
+
+} // namespace
+
+CWsPluginManager::CWsPluginManager() : m_pModuleRegistry(new CWsModuleRegistry) {
+    CString path;
+    path.Format(L"%sModuleRegistry.xml", CModuleConfiguration::Instance()->GetPath(L"support"));
+    m_bRegistryLoaded = m_pModuleRegistry->Load(path);
+}
+
+CWsPluginManager::~CWsPluginManager() {
+    ReleaseModules();
+    m_pModuleRegistry->Clear();
+}
+
+int CWsPluginManager::LoadModules() {
+    if (!m_bRegistryLoaded || m_bModulesLoaded) {
+        return 0;
+    }
+    CSplashScreen splash;
+    splash.Show();
+    splash.SetTitle(ProductTitle());
+
+    int bAnyAccepted = 0;
+    const CWsModuleRegistry::ModuleVector& modules = *m_pModuleRegistry->GetWsModuleVector();
+    // By index against the size of the moment: a hook may append a record, which is then
+    // loaded in its turn.
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        const CWsModuleRegistry::ModulePtr module = modules[i];
+        ShowProgress(splash, i, modules.size(), module->GetFileName());
+        WS_TRACE_FORMAT(L"Module = %s, %s", module->GetFileName(),
+                        module->GetOn() ? L"ON" : L"OFF");
+        if (module->GetOn()) {
+            bAnyAccepted |= LoadRecord(*module);
+        }
+    }
+    m_bModulesLoaded = 1;
+    splash.Close();
+    // The panel buttons that the plug-ins claimed are stacked here, once there are panel
+    // dialogs.
+    return bAnyAccepted;
+}
+
+int CWsPluginManager::LoadRecord(CWsModule& module) {
+    module.SetLoaded(0);
+    const CString fileName = module.GetFileName();
+    HINSTANCE library = LoadWithAttempts(Path(L"install", fileName), kLoadAttempts);
+    WS_TRACE_TEXT(library ? "DLL Loaded" : "***NOT LOADED***");
+    if (!library) {
+        WS_TRACE_TEXT(LastErrorText().GetString());
+        return 0;
+    }
+    TakeLibrary(module, library);
+    WS_TRACE_TEXT(module.GetPluginInfo() ? "Plugin entry found" : "***Plugin entry NOT found***");
+    if (module.GetPluginInfo()) {
+        module.SetLoaded(1);
+        RunHooks(module.GetPluginInfo(), fileName, kStartHooks);
+    } else {
+        DropLibrary(module);
+        module.SetOn(0);
+    }
+    WS_TRACE_TEXT("---------------------------");
+    return module.GetLoaded();
+}
+
+int CWsPluginManager::LoadModule(const wchar_t* lpszFile) {
+    if (m_pModuleRegistry->DoesModuleExist(lpszFile)) {
+        return 0;
+    }
+    HINSTANCE library = LoadLibrary(lpszFile);
+    if (!library) {
+        return 0;
+    }
+    const CWsModuleRegistry::ModulePtr module(new CWsModule);
+    module->SetFileName(lpszFile);
+    module->SetOn(1);
+    TakeLibrary(*module, library);
+    if (!module->GetPluginInfo()) {
+        DropLibrary(*module);
+        return 0;
+    }
+    module->SetLoaded(1);
+    RunHooks(module->GetPluginInfo(), module->GetFileName(), kSingleFileHooks);
+    m_pModuleRegistry->AddWsModule(module);
+    return 1;
+}
+
+void CWsPluginManager::ReleaseModules() {
+    if (!m_bRegistryLoaded) {
+        return;
+    }
+    for (const auto& module : *m_pModuleRegistry->GetWsModuleVector()) {
+        if (module->GetOn() && module->GetLoaded()) {
+            // The release entry is known and left uncalled: plug-ins end with the process.
+            DropLibrary(*module);
+            module->SetOn(0);
+        }
+    }
+}
+
+} // namespace Orvane::Workspace

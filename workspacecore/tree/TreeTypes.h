@@ -1,0 +1,26 @@
+// Numbers of the tree model. They are persisted and compared, so the values stand.
+#pragma once
+
+namespace Orvane::Workspace {
+
+/// Kinds of tree items; a bit set where a command or a folder serves several.
+enum enmWSTreeItemType : unsigned long {
+    WsItemNone = 0,
+    WsItemSystemManager = 1,
+    WsItemSystem = 2,
+    WsItemSystemRepository = 4,
+    WsItemSystemEntityFolder = 8,
+    WsItemSystemConfiguration = 16,
+    WsItemRepositoryRoot = 32,
+    WsItemRepository = 64,
+    WsItemRepositoryEntityFolder = 128,
+    WsItemRepositoryConfiguration = 256,
+    WsItemSystemTool = 1024,
+    WsItemSystemToolDraw = 4096,
+    WsItemSystemToolEdit = 8192,
+    WsItemSystemToolSetData = 16384,
+    WsItemSystemToolManager = 32768,
+    WsItemSystemToolFastCommand = 65536,
+};
+
+} // namespace Orvane::Workspace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 #ifndef TESSALY_CODE_PAGE
 #define TESSALY_CODE_PAGE 1252
@@ -91,6 +92,43 @@ wchar_t ReadSequence(std::string_view bytes, std::size_t& at) {
     return static_cast<wchar_t>(code);
 }
 
+/// Widens the ASCII at the front of `bytes` and returns how many there were. 
+std::size_t CopyAscii(std::string_view bytes, wchar_t* out) {
+    constexpr std::size_t kStep = 32;
+    std::size_t at = 0;
+    for (; at + kStep <= bytes.size(); at += kStep) {
+        std::uint64_t words[kStep / 8];
+        std::memcpy(words, bytes.data() + at, kStep);
+        if (((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080ULL) != 0) {
+            break;
+        }
+        for (std::size_t i = 0; i < kStep; ++i) {
+            out[at + i] = static_cast<unsigned char>(bytes[at + i]);
+        }
+    }
+    for (; at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80; ++at) {
+        out[at] = static_cast<unsigned char>(bytes[at]);
+    }
+    return at;
+}
+
+/// Writes a scalar value from 0x80 on and returns the place behind it.
+char* WriteSequence(std::uint32_t code, char* out) {
+    if (code < 0x800) {
+        *out++ = static_cast<char>(0xC0 | code >> 6);
+    } else {
+        if (code < 0x10000) {
+            *out++ = static_cast<char>(0xE0 | code >> 12);
+        } else {
+            *out++ = static_cast<char>(0xF0 | code >> 18);
+            *out++ = static_cast<char>(0x80 | (code >> 12 & 0x3F));
+        }
+        *out++ = static_cast<char>(0x80 | (code >> 6 & 0x3F));
+    }
+    *out++ = static_cast<char>(0x80 | (code & 0x3F));
+    return out;
+}
+
 } // namespace
 
 wchar_t AnsiToWide(unsigned char byte) {
@@ -115,39 +153,66 @@ std::wstring AnsiToWide(std::string_view bytes) {
     return text;
 }
 
+std::size_t Utf8ToWide(std::string_view bytes, wchar_t* text) {
+    wchar_t* out = text;
+    std::size_t at = 0;
+    while (at < bytes.size()) {
+        const std::size_t ascii = CopyAscii(bytes.substr(at), out);
+        at += ascii;
+        out += ascii;
+        // Text of other scripts comes in runs too: no search for ASCII before each letter.
+        while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) >= 0x80) {
+            *out++ = ReadSequence(bytes, at);
+        }
+    }
+    return static_cast<std::size_t>(out - text);
+}
+
 std::wstring Utf8ToWide(std::string_view bytes) {
     std::wstring text;
     text.reserve(bytes.size());
-    std::size_t at = 0;
-    while (at < bytes.size()) {
-        text += ReadSequence(bytes, at);
+    wchar_t block[1024];
+    while (!bytes.empty()) {
+        std::string_view piece = bytes.substr(0, std::size(block));
+        if (piece.size() < bytes.size()) {
+            piece = piece.substr(0, FinishedUtf8Length(piece));
+        }
+        text.append(block, Utf8ToWide(piece, block));
+        bytes.remove_prefix(piece.size());
     }
     return text;
 }
 
+std::size_t FinishedUtf8Length(std::string_view bytes) {
+    constexpr std::size_t kLongest = 4;
+    std::size_t at = bytes.size() - std::min(bytes.size(), kLongest - 1);
+    for (; at < bytes.size(); ++at) {
+        const int length = SequenceLength(static_cast<unsigned char>(bytes[at]));
+        if (at + static_cast<std::size_t>(length) > bytes.size()) {
+            break;
+        }
+    }
+    return at;
+}
+
 std::string WideToUtf8(std::wstring_view text) {
+    constexpr std::size_t kLongest = 4;
     std::string bytes;
     bytes.reserve(text.size());
-    for (const wchar_t character : text) {
-        auto code = static_cast<std::uint32_t>(character);
-        if (!IsScalar(code)) {
-            code = kReplacement;
+    char block[4096];
+    while (!text.empty()) {
+        const std::wstring_view piece = text.substr(0, std::size(block) / kLongest);
+        char* out = block;
+        for (const wchar_t character : piece) {
+            const auto code = static_cast<std::uint32_t>(character);
+            if (code < 0x80) {
+                *out++ = static_cast<char>(code);
+            } else {
+                out = WriteSequence(IsScalar(code) ? code : std::uint32_t{kReplacement}, out);
+            }
         }
-        if (code < 0x80) {
-            bytes += static_cast<char>(code);
-        } else if (code < 0x800) {
-            bytes += static_cast<char>(0xC0 | code >> 6);
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        } else if (code < 0x10000) {
-            bytes += static_cast<char>(0xE0 | code >> 12);
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        } else {
-            bytes += static_cast<char>(0xF0 | code >> 18);
-            bytes += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        }
+        bytes.append(block, static_cast<std::size_t>(out - block));
+        text.remove_prefix(piece.size());
     }
     return bytes;
 }

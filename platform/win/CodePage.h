@@ -19,5 +19,10 @@ PLATFORM_API wchar_t AnsiToWide(unsigned char byte);
 
 /// Ill-formed sequences become U+FFFD, one for each byte that starts nothing.
 PLATFORM_API std::wstring Utf8ToWide(std::string_view bytes);
+/// The same into `text`, which has room for one character a byte. Returns the count.
+PLATFORM_API std::size_t Utf8ToWide(std::string_view bytes, wchar_t* text);
+/// How many of these bytes make the same characters whatever follows them: all but an
+/// unfinished sequence at the end. For texts that are converted piece by piece.
+PLATFORM_API std::size_t FinishedUtf8Length(std::string_view bytes);
 /// Characters that are no Unicode scalar values become U+FFFD.
 PLATFORM_API std::string WideToUtf8(std::wstring_view text);

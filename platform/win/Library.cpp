@@ -1,6 +1,7 @@
 #include "platform/win/Library.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include "platform/win/CodePage.h"
 #include "platform/win/ElfFile.h"
@@ -45,7 +46,17 @@ HINSTANCE LoadLibrary(const wchar_t* path) {
 }
 
 void* GetProcAddress(HINSTANCE library, const char* name) {
-    return library ? dlsym(library, name) : nullptr;
+    void* const address = library ? dlsym(library, name) : nullptr;
+    // The loader also searches what the library depends on, which would hand one module
+    // the entry of another.
+    link_map* own = nullptr;
+    Dl_info found{};
+    link_map* owner = nullptr;
+    const bool isOwn = address && dlinfo(library, RTLD_DI_LINKMAP, &own) == 0 &&
+                       dladdr1(address, &found, reinterpret_cast<void**>(&owner),
+                               RTLD_DL_LINKMAP) != 0 &&
+                       owner == own;
+    return isOwn ? address : nullptr;
 }
 
 bool FreeLibrary(HINSTANCE library) {

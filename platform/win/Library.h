@@ -9,7 +9,7 @@
 /// library that was cut short would kill the process instead of failing.
 PLATFORM_API HINSTANCE LoadLibrary(const wchar_t* path);
 
-/// Address of an exported entry; null if the library has none of that name.
+/// Address of an entry that this very library exports; null if it has none of that name.
 PLATFORM_API void* GetProcAddress(HINSTANCE library, const char* name);
 
 /// Gives up one reference to the library. Returns false for a handle that is not loaded.

@@ -1,0 +1,93 @@
+// Look-up of commands beside bare containers, and a trace site while logging is off beside
+// the one call that it makes.
+#include <benchmark/benchmark.h>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "siblings/logging/LogEngine.h"
+#include "workspacecore/commands/WsCommandRegistry.h"
+#include "workspacecore/core/Trace.h"
+
+namespace {
+
+using namespace Orvane::Workspace;
+
+std::vector<std::wstring> Ids(int count) {
+    std::vector<std::wstring> ids;
+    for (int i = 0; i < count; ++i) {
+        ids.push_back(FormatText(L"COMMAND_%d_EDIT", i * 7919 % count));
+    }
+    return ids;
+}
+
+CWsCommandRegistry Registry(const std::vector<std::wstring>& ids, int groups = 23) {
+    CWsCommandRegistry registry;
+    int number = 0;
+    for (const std::wstring& id : ids) {
+        boost::shared_ptr<CWsCommand> command(new CWsCommand);
+        command->SetId(id.c_str());
+        command->SetCmdGroup(static_cast<enmCommandGroup>(1 + number++ % groups));
+        command->SetWsItemTypes(WsItemSystem);
+        registry.AddWsCommand(command);
+    }
+    return registry;
+}
+
+void BM_ById_Registry(benchmark::State& state) {
+    const auto ids = Ids(10000);
+    const CWsCommandRegistry registry = Registry(ids);
+    std::size_t next = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(registry.GetWsCommandById(ids[next].c_str()).get());
+        next = next + 1 == ids.size() ? 0 : next + 1;
+    }
+}
+BENCHMARK(BM_ById_Registry);
+
+void BM_ById_BareMap(benchmark::State& state) {
+    const auto ids = Ids(10000);
+    std::map<std::wstring, boost::shared_ptr<CWsCommand>, std::less<>> map;
+    for (const std::wstring& id : ids) {
+        map.emplace(id, new CWsCommand);
+    }
+    std::size_t next = 0;
+    for (auto _ : state) {
+        const boost::shared_ptr<CWsCommand> found = map.find(ids[next].c_str())->second;
+        benchmark::DoNotOptimize(found.get());
+        next = next + 1 == ids.size() ? 0 : next + 1;
+    }
+}
+BENCHMARK(BM_ById_BareMap);
+
+/// The group keeps its 100 commands while the registry grows.
+void BM_ByGroup(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    const CWsCommandRegistry registry = Registry(Ids(count), count / 100);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(registry.GetWsCommandByGroup(
+            CommandGroupAdd, static_cast<Orvane::enmTopologyType>(-1), 0, WsItemSystem, L""));
+    }
+}
+BENCHMARK(BM_ByGroup)->Arg(1000)->Arg(10000)->Arg(100000);
+
+void BM_TraceOff_Site(benchmark::State& state) {
+    const wchar_t* text = L"a text that is not looked at";
+    for (auto _ : state) {
+        WS_TRACE_VALUE("name", text);
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(BM_TraceOff_Site);
+
+void BM_TraceOff_OneCall(benchmark::State& state) {
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(Orvane::CLogEngine::GetLoggingOnOff());
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(BM_TraceOff_OneCall);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,57 @@
+#include "host/Folders.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "platform/win/CodePage.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+CString ToText(const fs::path& path) {
+    return CString(Utf8ToWide(path.string()));
+}
+
+} // namespace
+
+CString ProgramFolder() {
+    std::error_code ignored;
+    return WithSeparator(ToText(fs::read_symlink("/proc/self/exe", ignored).parent_path()));
+}
+
+CString UserSupportFolder() {
+    const char* const data = std::getenv("XDG_DATA_HOME");
+    const char* const home = std::getenv("HOME");
+    fs::path base = data && *data ? fs::path(data)
+                    : home && *home ? fs::path(home) / ".local/share"
+                                    : fs::temp_directory_path();
+    return WithSeparator(ToText(base / "tessaly/support"));
+}
+
+bool FillSupportFolder(const CString& defaults, const CString& support) {
+    std::error_code error;
+    const fs::path target = NativePath(support);
+    fs::create_directories(target, error);
+    if (error) {
+        SetLastErrorText(support + L": " + CString(Utf8ToWide(error.message())));
+        return false;
+    }
+    for (const fs::directory_entry& file : fs::directory_iterator(NativePath(defaults), error)) {
+        const fs::path copy = target / file.path().filename();
+        if (file.is_regular_file() && !fs::exists(copy)) {
+            fs::copy_file(file.path(), copy, error);
+            if (error) {
+                SetLastErrorText(ToText(copy) + L": " + CString(Utf8ToWide(error.message())));
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace Tessaly

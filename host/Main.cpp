@@ -1,0 +1,68 @@
+#include <clocale>
+#include <unistd.h>
+
+#include "host/Folders.h"
+#include "host/Session.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/arx/HostOptions.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
+
+namespace {
+
+/// Relative paths are the caller's, as everywhere on a command line.
+CString FolderOr(const CString& given, const CString& fallback) {
+    return given.IsEmpty() ? fallback : WithSeparator(given);
+}
+
+bool SetUpFolders(const Tessaly::Options& options) {
+    const CString install = FolderOr(options.install, Tessaly::ProgramFolder());
+    const CString support = FolderOr(options.support, Tessaly::UserSupportFolder());
+    SetHostOption(kHostOptionInstall, install);
+    SetHostOption(kHostOptionSupport, support);
+    SetHostOption(kHostOptionTrace, options.trace);
+    if (!Tessaly::FillSupportFolder(install + L"share/support/", support)) {
+        acutPrintf(L"The settings cannot be set up: %s\n", LastErrorText());
+        return false;
+    }
+    return true;
+}
+
+int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
+    Tessaly::Session session(port);
+    session.Start();
+    if (options.script) {
+        return session.RunScript(*options.script);
+    }
+    if (options.first) {
+        session.RunScript(*options.first);
+    }
+    if (session.HasEnded()) {
+        return Tessaly::kExitDone;
+    }
+    acutPrintf(L"\nTessaly. HELP lists the commands, QUIT leaves.\n");
+    const auto input = Tessaly::StreamLines(stdin);
+    return session.RunPrompt(*input);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
+    Tessaly::ConsolePort port(stdout);
+    SetHostPort(&port);
+
+    const auto [options, error] = Tessaly::ReadOptions({argv + 1, argv + argc});
+    if (!error.IsEmpty()) {
+        acutPrintf(L"%s\n%s", error, Tessaly::UsageText());
+        return Tessaly::kExitBadUsage;
+    }
+    if (options.help) {
+        acutPrintf(L"%s", Tessaly::UsageText());
+        return Tessaly::kExitDone;
+    }
+    const int status = SetUpFolders(options) ? Run(options, port) : Tessaly::kExitBadUsage;
+    SetHostPort(nullptr);
+    return status;
+}

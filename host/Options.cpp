@@ -1,0 +1,65 @@
+#include "host/Options.h"
+
+#include "platform/win/CodePage.h"
+
+namespace Tessaly {
+
+namespace {
+
+struct ValueOption {
+    const char* name;
+    void (*store)(Options&, CString);
+};
+
+constexpr ValueOption kValueOptions[] = {
+    {"--script", [](Options& options, CString value) { options.script = value; }},
+    {"--first", [](Options& options, CString value) { options.first = value; }},
+    {"--trace", [](Options& options, CString value) { options.trace = value; }},
+    {"--support", [](Options& options, CString value) { options.support = value; }},
+    {"--install", [](Options& options, CString value) { options.install = value; }},
+};
+
+const ValueOption* FindValueOption(const std::string& name) {
+    for (const ValueOption& option : kValueOptions) {
+        if (name == option.name) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+OptionsResult ReadOptions(const std::vector<std::string>& arguments) {
+    OptionsResult result;
+    for (std::size_t i = 0; i < arguments.size() && result.error.IsEmpty(); ++i) {
+        const std::string& argument = arguments[i];
+        if (const ValueOption* option = FindValueOption(argument)) {
+            if (i + 1 == arguments.size() || arguments[i + 1].empty()) {
+                result.error.Format(L"%s wants a value", argument);
+            } else {
+                option->store(result.options, Utf8ToWide(arguments[++i]));
+            }
+        } else if (argument == "--console") {
+            result.options.console = true;
+        } else if (argument == "--help" || argument == "-h") {
+            result.options.help = true;
+        } else {
+            result.error.Format(L"%s: no such option", argument);
+        }
+    }
+    return result;
+}
+
+const wchar_t* UsageText() {
+    return L"tessaly [--console] [options]\n"
+           L"  --console       the command line on standard input and output\n"
+           L"  --script FILE   runs the commands of a file, one a line, and ends; the exit\n"
+           L"                  status is that of the first command that fails\n"
+           L"  --first FILE    runs the commands of a file, then goes on at the prompt\n"
+           L"  --trace FILE    writes the developer's trace to a file\n"
+           L"  --support DIR   the folder of the user's settings\n"
+           L"  --install DIR   the folder of the modules\n";
+}
+
+} // namespace Tessaly

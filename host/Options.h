@@ -1,0 +1,32 @@
+// The program's command line.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/win/String.h"
+
+namespace Tessaly {
+
+struct Options {
+    bool console = false;
+    bool help = false;
+    std::optional<CString> script; ///< run it and end with its status
+    std::optional<CString> first;  ///< run it, then go on at the prompt
+    CString trace;
+    CString support; ///< empty: the user's own folder
+    CString install; ///< empty: where the program lies
+};
+
+struct OptionsResult {
+    Options options;
+    CString error; ///< empty if the command line made sense
+};
+
+OptionsResult ReadOptions(const std::vector<std::string>& arguments);
+
+/// How to call the program.
+const wchar_t* UsageText();
+
+} // namespace Tessaly

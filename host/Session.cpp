@@ -1,0 +1,112 @@
+#include "host/Session.h"
+
+#include <exception>
+
+#include "host/HostCommands.h"
+#include "platform/arx/Activity.h"
+#include "platform/arx/ApDocManager.h"
+#include "platform/arx/EdCommandStack.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/arx/HostOptions.h"
+#include "platform/arx/RxDynamicLinker.h"
+#include "platform/win/CodePage.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace {
+
+/// Loaded at the start, in this order: the application module makes the workspace begin.
+constexpr const wchar_t* kStartModules[] = {L"ORVZWorkspaceCore.arx", L"ORVZApplication.arx"};
+constexpr const wchar_t* kNewDrawing = L"Drawing1.dwg";
+constexpr const wchar_t* kPrompt = L"> ";
+
+/// Runs something of a module's. What it throws ends here: the reason goes to the user,
+/// and the command line goes on. False if it threw.
+template <class Call>
+bool Guarded(const wchar_t* what, Call call) {
+    CString reason;
+    try {
+        call();
+        return true;
+    } catch (const std::exception& error) {
+        reason = Utf8ToWide(error.what());
+    } catch (const InputEnded&) {
+        reason = L"it goes on asking although the input has ended";
+    } catch (...) {
+        reason = L"an exception without a text";
+    }
+    const CString activity = TakeInterruptedActivity();
+    acutPrintf(L"\n%s failed: %s\n", activity.IsEmpty() ? what : activity.GetString(), reason);
+    return false;
+}
+
+} // namespace
+
+void Session::Start() {
+    RegisterHostCommands();
+    AcApDocument* const pDoc = acDocManagerPtr()->newDocument(kNewDrawing);
+    for (const wchar_t* module : kStartModules) {
+        const CString path = GetHostOption(kHostOptionInstall) + module;
+        Guarded(module, [&] {
+            if (!acrxDynamicLinker()->loadModule(path)) {
+                acutPrintf(L"Not loaded: %s\n", LastErrorText());
+            }
+        });
+    }
+    // Once more, for the reactors that the modules have brought.
+    Guarded(kNewDrawing, [&] { acDocManagerPtr()->setCurDocument(pDoc); });
+}
+
+bool Session::HasEnded() const {
+    return HasQuit();
+}
+
+int Session::RunScript(const wchar_t* path) {
+    const auto lines = FileLines(path);
+    if (!lines) {
+        acutPrintf(L"%s: %s\n", path, LastErrorText());
+        return kExitBadUsage;
+    }
+    return RunLines(*lines, Mode::StopAtFailure);
+}
+
+int Session::RunPrompt(IInputLines& input) {
+    RunLines(input, Mode::GoOn);
+    return kExitDone;
+}
+
+int Session::RunLines(IInputLines& input, Mode mode) {
+    m_port.SetInput(&input);
+    int status = kExitDone;
+    while (!HasQuit() && (status == kExitDone || mode == Mode::GoOn)) {
+        m_port.DropEscapes();
+        std::optional<CString> line = m_port.NextLine(kPrompt);
+        if (!line) {
+            break;
+        }
+        line->Trim();
+        const bool isComment = line->IsEmpty() || line->GetAt(0) == L';' || line->GetAt(0) == L'#';
+        const int number = input.LineNumber();
+        if (!isComment && !RunCommand(*line)) {
+            status = kExitCommandFailed;
+            if (mode == Mode::StopAtFailure) {
+                acutPrintf(L"%s:%d: stopped at \"%s\"\n", input.Name(), number, *line);
+            }
+        }
+    }
+    m_port.SetInput(nullptr);
+    return status;
+}
+
+bool Session::RunCommand(const CString& name) {
+    CommandOutcome outcome = CommandOutcome::Failed;
+    const bool ran = Guarded(name, [&] { outcome = acedRegCmds()->run(name); });
+    if (ran && outcome == CommandOutcome::Unknown) {
+        acutPrintf(L"Unknown command \"%s\". HELP lists the commands.\n", name);
+    }
+    return ran && outcome == CommandOutcome::Done;
+}
+
+} // namespace Tessaly

@@ -1,0 +1,95 @@
+#include "host/console/ConsolePort.h"
+
+#include "platform/win/CodePage.h"
+
+namespace Tessaly {
+
+namespace {
+
+constexpr std::wstring_view kEscape = L"\x1B";
+constexpr std::wstring_view kBlanks = L" \t";
+/// What the host answers a prompt with when it wants to leave and a command still asks.
+constexpr const wchar_t* kQuitAnswer = L"_quit";
+/// Prompts that are answered so before the command counts as one that will never end.
+constexpr int kMostPromptsBehindEnd = 1000;
+
+} // namespace
+
+void ConsolePort::Print(std::wstring_view text) {
+    if (text.empty()) {
+        return;
+    }
+    const std::string utf8 = WideToUtf8(text);
+    std::fwrite(utf8.data(), 1, utf8.size(), m_output);
+    std::fflush(m_output);
+    m_atLineStart = text.back() == L'\n';
+}
+
+void ConsolePort::Alert(std::wstring_view text, std::wstring_view title) {
+    if (!m_atLineStart) {
+        Print(L"\n");
+    }
+    Print(FormatText(L"%s: %s\n", title, text));
+}
+
+std::optional<CString> ConsolePort::TakePosted() {
+    if (m_posted.empty()) {
+        return std::nullopt;
+    }
+    CString text = m_posted.front();
+    m_posted.pop_front();
+    return text;
+}
+
+void ConsolePort::DropEscapes() {
+    std::erase(m_posted, CString(kEscape));
+}
+
+std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
+    if (!m_atLineStart && !prompt.empty() && prompt.front() != L'\n') {
+        Print(L"\n");
+    }
+    Print(prompt);
+    std::optional<CString> line = TakePosted();
+    const bool posted = line.has_value();
+    if (!posted && m_pInput) {
+        line = m_pInput->Next();
+    }
+    if (!line || posted || m_pInput->WantsEcho()) {
+        Print(line ? line->View() : std::wstring_view());
+        Print(L"\n");
+    }
+    m_atLineStart = true;
+    return line;
+}
+
+PromptEnd ConsolePort::GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) {
+    answer.Empty();
+    const std::optional<CString> line = NextLine(prompt);
+    if (!line) {
+        // A command that asks once hears that it was cancelled. One that asks on and on,
+        // as the text console does on Escape, is told to quit; one that does not listen
+        // to that either must not keep the program from ending.
+        if (m_nPromptsBehindEnd++ == 0) {
+            return PromptEnd::Cancelled;
+        }
+        if (m_nPromptsBehindEnd > kMostPromptsBehindEnd) {
+            throw InputEnded();
+        }
+        answer = kQuitAnswer;
+        return PromptEnd::Answered;
+    }
+    if (line->View() == kEscape) {
+        return PromptEnd::Cancelled;
+    }
+    answer = *line;
+    if (!allowBlanks) {
+        const std::size_t from = std::min(answer.View().find_first_not_of(kBlanks),
+                                          answer.View().size());
+        const std::size_t to = answer.View().find_first_of(kBlanks, from);
+        answer = CString(line->View().substr(from, to - from));
+    }
+    return PromptEnd::Answered;
+}
+
+} // namespace Tessaly

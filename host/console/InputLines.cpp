@@ -1,0 +1,65 @@
+#include "host/console/InputLines.h"
+
+#include <cstdlib>
+#include <unistd.h>
+
+#include "platform/win/CodePage.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace {
+
+class LinesOfStream : public IInputLines {
+public:
+    explicit LinesOfStream(std::FILE* stream) : m_stream(stream) {}
+    ~LinesOfStream() override { std::free(m_line); }
+    LinesOfStream(const LinesOfStream&) = delete;
+    LinesOfStream& operator=(const LinesOfStream&) = delete;
+
+    std::optional<CString> Next() override {
+        ssize_t length = getline(&m_line, &m_capacity, m_stream);
+        if (length < 0) {
+            return std::nullopt;
+        }
+        ++m_nLine;
+        while (length > 0 && (m_line[length - 1] == '\n' || m_line[length - 1] == '\r')) {
+            --length;
+        }
+        return CString(Utf8ToWide({m_line, static_cast<std::size_t>(length)}));
+    }
+    int LineNumber() const override { return m_nLine; }
+    CString Name() const override { return {}; }
+    bool WantsEcho() const override { return isatty(fileno(m_stream)) == 0; }
+
+private:
+    std::FILE* m_stream;
+    char* m_line = nullptr;
+    std::size_t m_capacity = 0;
+    int m_nLine = 0;
+};
+
+class LinesOfFile final : public LinesOfStream {
+public:
+    LinesOfFile(FileHandle file, const wchar_t* path)
+        : LinesOfStream(file.get()), m_file(std::move(file)), m_strName(FileNameOf(path)) {}
+    CString Name() const override { return m_strName; }
+    bool WantsEcho() const override { return true; }
+
+private:
+    FileHandle m_file;
+    CString m_strName;
+};
+
+} // namespace
+
+std::unique_ptr<IInputLines> StreamLines(std::FILE* stream) {
+    return std::make_unique<LinesOfStream>(stream);
+}
+
+std::unique_ptr<IInputLines> FileLines(const wchar_t* path) {
+    FileHandle file = OpenFile(path, "rb");
+    return file ? std::make_unique<LinesOfFile>(std::move(file), path) : nullptr;
+}
+
+} // namespace Tessaly

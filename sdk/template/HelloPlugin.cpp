@@ -1,0 +1,61 @@
+// A whole plug-in: one command that greets the active system.
+#include "platform/arx/EdPrompt.h"
+#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/SystemManager.h"
+#include "workspacecore/core/WsManager.h"
+
+using namespace Orvane;
+using namespace Orvane::Workspace;
+
+namespace {
+
+/// Runs the commands. It is registered by pointer, so it has to live to the end.
+class HelloExecutor final : public IWsCommandExecutor {
+public:
+    boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* lpszCommandId,
+                                                    Query::CQueryDefinition*,
+                                                    CWsTreeItemData*) override {
+        // Listeners, the panel among them, learn that a command runs, and when it has ended.
+        CWsManager::Instance()->Raise_OnBeforeCommandActivated(lpszCommandId);
+        const System::CGisSystem* const pSystem = System::CSystemManager::Instance()->GetActiveSystem();
+        acutPrintf(L"Hello, %s!\n", pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
+        CWsManager::Instance()->Raise_OnAfterCommandCompleted(lpszCommandId);
+        auto result = NeutralReturnValue();
+        result->m_nStatus = 1; // carried out
+        return result;
+    }
+};
+
+class HelloPlugin final : public IPluginInfo {
+public:
+    void PluginHook1() override {
+        boost::shared_ptr<CWsCommand> command(new CWsCommand);
+        command->SetId(L"HELLO");
+        command->SetName(L"Say hello");
+        command->SetDescription(L"Greets the active system");
+        command->SetCmdExecutor(&m_executor);
+        CWsManager::Instance()->RegisterWsCommand(command);
+    }
+    void PluginHook2() override {}
+    void PluginHook3() override {}
+    void PluginHook4() override {}
+    void PluginHook5() override {}
+    void PluginHook6() override {}
+    void PluginHook7() override {}
+
+private:
+    HelloExecutor m_executor;
+};
+
+} // namespace
+
+extern "C" {
+
+__attribute__((visibility("default"))) IPluginInfo* ORVPluginInfoProvider() {
+    static HelloPlugin plugin;
+    return &plugin;
+}
+
+__attribute__((visibility("default"))) void ORVPluginInfoRelease() {}
+
+} // extern "C"

@@ -92,7 +92,7 @@ wchar_t ReadSequence(std::string_view bytes, std::size_t& at) {
     return static_cast<wchar_t>(code);
 }
 
-/// Widens the ASCII at the front of `bytes` and returns how many there were. 
+/// Widens the ASCII at the front of `bytes` and returns how many there were.
 std::size_t CopyAscii(std::string_view bytes, wchar_t* out) {
     constexpr std::size_t kStep = 32;
     std::size_t at = 0;

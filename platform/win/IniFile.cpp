@@ -49,7 +49,7 @@ void IniFile::ReadLine(std::string_view line, int number, const wchar_t* name) {
         return;
     }
     if (text.GetAt(0) == L'[' && text.GetAt(text.GetLength() - 1) == L']') {
-        m_sections.push_back({text.Mid(1, text.GetLength() - 2).Trim(), {}});
+        m_sections.push_back({text.Mid(1, text.GetLength() - 2).Trim(), number, {}});
         return;
     }
     const int equals = text.Find(L'=');

@@ -17,6 +17,7 @@ public:
     };
     struct Section {
         CString name;
+        int line;
         std::vector<Entry> entries;
         const Entry* Find(const wchar_t* key) const;
     };

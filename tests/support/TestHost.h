@@ -34,6 +34,7 @@ public:
 
     std::filesystem::path operator/(const std::string& name) const { return m_path / name; }
     CString Wide(const std::string& name) const { return Utf8ToWide((m_path / name).string()); }
+    std::string Native(const std::string& name) const { return (m_path / name).string(); }
     void Write(const std::string& name, const std::string& content) const {
         std::ofstream(m_path / name, std::ios::binary) << content;
     }

@@ -35,7 +35,7 @@ namespace {
 class TraceTest : public testing::Test {
 protected:
     void SwitchOn(const char* file = "trace.log") {
-        CLogEngine::SetLogging(1, m_folder.Wide(file));
+        CLogEngine::SetLogging(1, m_folder.Native(file));
     }
     std::vector<std::string> Lines() const {
         std::vector<std::string> lines;
@@ -59,7 +59,7 @@ protected:
 };
 
 TEST_F(TraceTest, NothingIsMadeOrEvaluatedWhileLoggingIsOff) {
-    CLogEngine::SetLogging(0, m_folder.Wide("trace.log"));
+    CLogEngine::SetLogging(0, m_folder.Native("trace.log"));
     int evaluated = 0;
     {
         WS_TRACE_SCOPE();
@@ -79,7 +79,7 @@ TEST_F(TraceTest, LinesHaveThePrefixOfTheirSite) {
     WS_TRACE_TEXT("text");
     char number[8];
     std::snprintf(number, sizeof number, "%05d", line);
-    const std::regex expected(R"(\[[ \d]\d:[ \d]\d:[ \d]\d\] TraceTest\.cpp {20}\()" +
+    const std::regex expected(R"(\[[ \d]\d:[ \d]\d:[ \d]\d\] TraceTest\.cpp {19}\()" +
                               std::string(number) + R"(\): \[.*TestBody *\], text)");
     ASSERT_EQ(Lines().size(), 1U);
     EXPECT_TRUE(std::regex_match(Lines()[0], expected)) << Lines()[0];
@@ -88,7 +88,8 @@ TEST_F(TraceTest, LinesHaveThePrefixOfTheirSite) {
 TEST_F(TraceTest, FunctionNamesAreQualifiedAndWhole) {
     SwitchOn();
     AFunctionWithANameOfMoreThanFortyCharactersInIt();
-    CTraceSample::Overloaded("x");
+    const char* const text = "x";
+    CTraceSample::Overloaded(text);
     CTraceSample()(1);
     const char* const expected[] = {
         "[Orvane::Workspace::AFunctionWithANameOfMoreThanFortyCharactersInIt], long",
@@ -151,7 +152,7 @@ TEST_F(TraceTest, ScopesNestAndCloseOnExceptions) {
 }
 
 TEST_F(TraceTest, ScopeSwitchedOnInTheMiddleOnlyLeaves) {
-    CLogEngine::SetLogging(0, m_folder.Wide("trace.log"));
+    CLogEngine::SetLogging(0, m_folder.Native("trace.log"));
     {
         WS_TRACE_SCOPE();
         SwitchOn();

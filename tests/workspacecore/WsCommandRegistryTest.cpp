@@ -229,7 +229,10 @@ TEST(WsCommandRegistryXml, BadTextsGiveWhatCanBeRead) {
         {"no command", L"<wsCommandRegistry ></wsCommandRegistry>", 1, L""},
         {"duplicate", L"<wsCommandRegistry><wsCommand id=\"A\"/><wsCommand id=\"A\"/><wsCommand "
                       L"id=\"B\"/></wsCommandRegistry>", 1, L"A B "},
-        {"cut", L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand><wsCommand id=\"B", 1, L"A "},
+        // An element that is not ended keeps no children.
+        {"cut", L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand><wsCommand id=\"B", 1, L""},
+        {"ended twice", L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand></wsCommand>"
+                        L"</wsCommandRegistry>", 1, L"A "},
         {"foreign elements", L"<wsCommandRegistry><x/><wsCommand id=\"A\"/><wsCommandX id=\"C\"/>"
                              L"</wsCommandRegistry>", 1, L"A "},
     };

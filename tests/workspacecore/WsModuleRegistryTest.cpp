@@ -67,8 +67,11 @@ TEST(WsModuleRegistry, BadTextsGiveWhatCanBeRead) {
                         L"fileName='b'/></moduleRegistry>", 1, L"a- b+ "},
         {"entities", L"<moduleRegistry><module fileName='a&amp;lt;b&#65;'/></moduleRegistry>", 1,
          L"a<bA- "},
+        // An element that is not ended keeps no children.
         {"cut", L"<moduleRegistry><module on='1' fileName='a'></module><module fileName='b", 1,
-         L"a+ "},
+         L""},
+        {"ended twice", L"<moduleRegistry><module on='1' fileName='a'></module></module>"
+                        L"</moduleRegistry>", 1, L"a+ "},
         {"cut escape", L"<moduleRegistry><module fileName='ab=EF=B'/></moduleRegistry>", 1,
          L"ab- "},
     };

@@ -83,7 +83,7 @@ TEST_F(PluginManagerTest, OneModuleThatFailsStopsNothing) {
     std::filesystem::copy_file(folder / "GoodPlugin.arx", folder / "CutInTheMiddle.arx",
                                std::filesystem::copy_options::overwrite_existing);
     std::filesystem::resize_file(folder / "CutInTheMiddle.arx", 5000);
-    CLogEngine::SetLogging(1, m_host.Support().Wide("trace.log"));
+    CLogEngine::SetLogging(1, m_host.Support().Native("trace.log"));
     WriteRegistry({{"NotThere.arx"},
                    {"NoProvider.arx"},
                    {"CutInTheMiddle.arx"},

@@ -14,7 +14,7 @@ CString ReadText(const XmlDocument& document, const wchar_t* name) {
 }
 
 int ReadInt(const XmlDocument& document, const wchar_t* name) {
-    return TextToInt(document.GetAttrib(name));
+    return TextToInt(document.GetAttrib(name).View());
 }
 
 /// What a text says of a command. Executor, icon and the set-data mark mean nothing once

@@ -56,6 +56,11 @@ public:
     /// an empty text.
     CString GetAttrib(const wchar_t* pszName) const;
 
+    static constexpr int kIgnoreCase = 8; ///< names compare ignoring case
+    int GetDocFlags() const { return m_nDocFlags; }
+    /// End tags are compared during a parse, so the flags count from the next one on there.
+    void SetDocFlags(int nDocFlags) { m_nDocFlags = nDocFlags; }
+
     static constexpr int kEscapeQuotes = 1;         ///< apostrophes and double quotes as well
     static constexpr int kEscapeKeepReferences = 2; ///< leaves "&name;" and "&#1;" as they stand
     static CString EscapeEntities(std::wstring_view text, int nFlags = 0);
@@ -65,9 +70,13 @@ public:
 
 private:
     std::wstring_view Text() const { return {m_docText.Data(), m_docText.Length()}; }
+    bool IgnoresCase() const { return (m_nDocFlags & kIgnoreCase) != 0; }
+    void Clear();
+    /// Expects the new text in a cleared document, and in the error text what it should open with.
     bool Parse();
-    bool Refuse(CString strReason);
-    bool ReadText(std::FILE* file, std::size_t nBytes);
+    CString BuildIndex();
+    std::wstring_view ElementName(int nRecord) const;
+    void Swap(XmlDocument& other) noexcept;
     void SetCursor(int nParent, int nPos, int nChild);
 
     WideBuffer m_docText;

@@ -55,6 +55,7 @@ struct XmlNodePos {
         tagLengths = static_cast<std::int32_t>((static_cast<std::uint32_t>(nStartTag) & 0x3FFFFF) |
                                                static_cast<std::uint32_t>(nEndTag) << 22);
     }
+    void SetEndTagLength(int nEndTag) { SetTagLengths(tagLengths, nEndTag); }
     int Level() const { return static_cast<int>(flags & XML_FLAG_LEVEL_MASK); }
     bool IsEmpty() const { return StartTagLength() == length; }
 };

@@ -24,8 +24,8 @@ CString LastPiece(const wchar_t* file) {
 
 boost::shared_ptr<CWsModule> ReadModule(const XmlDocument& document) {
     boost::shared_ptr<CWsModule> module(new CWsModule);
-    module->SetMsgName(TextToInt(document.GetAttrib(L"msgName")));
-    module->SetOn(TextToInt(document.GetAttrib(L"on")));
+    module->SetMsgName(TextToInt(document.GetAttrib(L"msgName").View()));
+    module->SetOn(TextToInt(document.GetAttrib(L"on").View()));
     module->SetFileName(DecodeXmlField(document.GetAttrib(L"fileName")));
     return module;
 }

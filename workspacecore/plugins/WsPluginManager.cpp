@@ -90,9 +90,9 @@ CString ProductTitle() {
     return title;
 }
 
-void ShowProgress(CSplashScreen& splash, std::size_t index, std::size_t count,
+void ShowProgress(CSplashScreen& splash, int bShown, std::size_t index, std::size_t count,
                   const CString& fileName) {
-    if (splash.Show()) {
+    if (bShown) {
         CString text;
         text.Format(L"%s ...", fileName);
         splash.SetProgress(
@@ -121,7 +121,7 @@ int CWsPluginManager::LoadModules() {
         return 0;
     }
     CSplashScreen splash;
-    splash.Show();
+    const int bShown = splash.Show();
     splash.SetTitle(ProductTitle());
 
     int bAnyAccepted = 0;
@@ -130,7 +130,7 @@ int CWsPluginManager::LoadModules() {
     // loaded in its turn.
     for (std::size_t i = 0; i < modules.size(); ++i) {
         const CWsModuleRegistry::ModulePtr module = modules[i];
-        ShowProgress(splash, i, modules.size(), module->GetFileName());
+        ShowProgress(splash, bShown, i, modules.size(), module->GetFileName());
         WS_TRACE_FORMAT(L"Module = %s, %s", module->GetFileName(),
                         module->GetOn() ? L"ON" : L"OFF");
         if (module->GetOn()) {

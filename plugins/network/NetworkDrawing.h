@@ -1,0 +1,63 @@
+// The way of a network into the drawing, and back out of it.
+#pragma once
+
+#include <vector>
+
+#include "plugins/network/NetworkGeometry.h"
+#include "plugins/network/NetworkModel.h"
+#include "siblings/networkcore/TopologyStorage.h"
+
+namespace Orvane::System {
+class CGisSystem;
+}
+
+namespace Orvane::Network {
+
+/// Functions of line systems in the topology configuration.
+inline constexpr int kFunctionWater = 1;
+inline constexpr int kFunctionSewer = 2;
+
+/// What an import added. Null where there was nothing of the kind.
+struct ImportedSystems {
+    System::CGisSystem* pNetwork = nullptr;
+    System::CGisSystem* pPolygons = nullptr;
+};
+
+/// Makes a system of nodes and sections of the current drawing from a network, and one of
+/// polygons named "<name> polygons" if it has any.
+/// \return an empty text, or the reason why nothing was added
+CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
+                     ImportedSystems& imported);
+
+/// One line system of the drawing as arrays, for statistics and checks. A snapshot: it does
+/// not follow later changes of the drawing. The names are read from the drawing, so it has
+/// to live as long as they are asked for.
+class SystemNetwork final : public INetworkNames {
+public:
+    SystemNetwork(const Topology::CTopologyStorage& storage, const System::CGisSystem& system);
+
+    NetworkGeometry Geometry() const;
+
+    std::string NodeName(std::size_t node) const override;
+    std::string SectionName(std::size_t section) const override;
+    std::string MissingStart(std::size_t section) const override;
+    std::string MissingEnd(std::size_t section) const override;
+
+private:
+    void ReadNodes();
+    void ReadSections();
+
+    const Topology::CTopologyStorage& m_storage;
+    std::vector<std::uint32_t> m_nodeIds;
+    std::vector<std::uint32_t> m_sectionIds;
+    std::vector<Point> m_positions;
+    std::vector<NodeKind> m_nodeKinds;
+    std::vector<double> m_elevations;
+    std::vector<std::int32_t> m_startNodes;
+    std::vector<std::int32_t> m_endNodes;
+    PointLists m_vertices;
+    std::vector<SectionKind> m_sectionKinds;
+    std::vector<double> m_statedLengths;
+};
+
+} // namespace Orvane::Network

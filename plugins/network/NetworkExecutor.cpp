@@ -1,0 +1,195 @@
+#include "plugins/network/NetworkExecutor.h"
+
+#include "platform/arx/EdPrompt.h"
+#include "platform/win/CodePage.h"
+#include "platform/win/File.h"
+#include "plugins/network/InpReader.h"
+#include "plugins/network/NetworkCheck.h"
+#include "plugins/network/NetworkDrawing.h"
+#include "plugins/network/NetworkReport.h"
+#include "plugins/network/NetworkStatistics.h"
+#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/GisSystems.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/Topology.h"
+#include "siblings/networkcore/TopologyMultiStorage.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Network {
+
+namespace {
+
+void PrintLine(const std::string& line) {
+    acutPrintf(L"%s\n", line);
+}
+
+/// The answer of a prompt without blanks around it; empty if it was cancelled.
+CString Ask(const wchar_t* prompt) {
+    CString answer;
+    if (acedGetString(kGetStringAllowBlanks, prompt, answer) != RTNORM) {
+        answer.Empty();
+    }
+    return answer.Trim();
+}
+
+bool Refuse(const CString& reason) {
+    acutPrintf(L"%s\n", reason);
+    return false;
+}
+
+/// Systems of the current drawing; empty without a drawing.
+std::vector<System::CGisSystem*> Systems() {
+    const System::CGisSystems* const pSystems = System::CSystemManager::Instance()->GetSystems();
+    return pSystems ? pSystems->GetSystemList() : std::vector<System::CGisSystem*>();
+}
+
+/// Calls for each system that is a network of nodes and sections.
+template <class Call>
+bool ForEachNetwork(Call call) {
+    int count = 0;
+    for (System::CGisSystem* const pSystem : Systems()) {
+        if (pSystem->GetTopologyType() == TopologyLine) {
+            ++count;
+            call(*pSystem,
+                 SystemNetwork(*Topology::CTopologyMultiStorage::Instance()->GetTopology(),
+                               *pSystem));
+        }
+    }
+    return count > 0 || Refuse(L"The drawing has no networks. NETWORK_IMPORT brings one in.");
+}
+
+CString FunctionName(const System::CGisSystem& system) {
+    const CTopology* const pTopology =
+        CModuleConfiguration::Instance()->GetTopology(system.GetTopologyType());
+    if (!pTopology) {
+        return {};
+    }
+    const CTopologyFunction* const pFunction =
+        pTopology->GetTopologyFunctionById(system.GetSystemFunction());
+    return pFunction ? pFunction->GetName() : pTopology->GetNameUI();
+}
+
+bool Import() {
+    const CString file = Ask(L"Network file: ");
+    if (file.IsEmpty()) {
+        return Refuse(L"No file: nothing was imported.");
+    }
+    const CString name = Ask(L"Name of the system: ");
+    if (name.IsEmpty()) {
+        return Refuse(L"No name: nothing was imported.");
+    }
+    const InpResult read = ReadInpFile(file);
+    for (const std::string& warning : ProblemTexts(read, Severity::Warning)) {
+        PrintLine(warning);
+    }
+    if (!read.ok) {
+        for (const std::string& error : ProblemTexts(read, Severity::Error)) {
+            PrintLine(error);
+        }
+        return Refuse(L"Nothing was imported.");
+    }
+    ImportedSystems imported;
+    const CString reason =
+        AddToDrawing(read.model, read.format == InpFormat::Swmm ? kFunctionSewer : kFunctionWater,
+                     name, imported);
+    if (!reason.IsEmpty()) {
+        return Refuse(reason + L" Nothing was imported.");
+    }
+    acutPrintf(L"%s: %u nodes, %u sections", name, read.model.nodes.size(),
+               read.model.sections.size());
+    if (imported.pPolygons) {
+        acutPrintf(L"; %s: %u polygons", imported.pPolygons->GetSystemName(),
+                   read.model.polygons.size());
+    }
+    acutPrintf(L".\n");
+    return true;
+}
+
+bool PrintStatistics() {
+    return ForEachNetwork([](const System::CGisSystem& system, const SystemNetwork& network) {
+        acutPrintf(L"%s (%s)\n", system.GetSystemName(), FunctionName(system));
+        for (const std::string& line : StatisticsLines(ComputeStatistics(network.Geometry()))) {
+            PrintLine(line);
+        }
+    });
+}
+
+bool PrintFindings() {
+    return ForEachNetwork([](const System::CGisSystem& system, const SystemNetwork& network) {
+        const CheckResult result = CheckNetwork(network.Geometry());
+        for (const Finding& finding : result.findings) {
+            PrintLine(FindingText(finding, network));
+        }
+        acutPrintf(L"%s (%s)\n", system.GetSystemName(), CheckSummary(result));
+    });
+}
+
+bool ListSystems() {
+    const System::CGisSystem* const pActive = System::CSystemManager::Instance()->GetActiveSystem();
+    for (const System::CGisSystem* const pSystem : Systems()) {
+        acutPrintf(L"%c %s (%s)%s\n", pSystem == pActive ? L'*' : L' ', pSystem->GetSystemName(),
+                   FunctionName(*pSystem), pSystem->GetVisibility() ? L"" : L", off");
+    }
+    if (Systems().empty()) {
+        acutPrintf(L"The drawing has no systems.\n");
+    }
+    return true;
+}
+
+bool ActivateSystem() {
+    const CString name = Ask(L"Name of the system: ");
+    System::CSystemManager& systems = *System::CSystemManager::Instance();
+    System::CGisSystem* const pSystem = systems.GetSystemByName(name);
+    if (!pSystem) {
+        return Refuse(
+            FormatText(L"The drawing has no system \"%s\". SYSTEM_LIST shows them.", name));
+    }
+    systems.SetSystemActive(pSystem);
+    acutPrintf(L"%s is the active system.\n", pSystem->GetSystemName());
+    return true;
+}
+
+constexpr NetworkCommand kCommands[] = {
+    {L"NETWORK_IMPORT", L"Import network",
+     L"makes systems from a water (EPANET) or sewer (SWMM) network file", Import},
+    {L"NETWORK_STATS", L"Network statistics",
+     L"prints counts, lengths, extents and connected parts of each network", PrintStatistics},
+    {L"NETWORK_CHECK", L"Check network", L"lists what is wrong with each network", PrintFindings},
+    {L"SYSTEM_LIST", L"List systems", L"lists the systems of the drawing", ListSystems},
+    {L"SYSTEM_ACTIVATE", L"Activate system", L"makes a system the active one", ActivateSystem},
+};
+
+/// The command of an id. The registry finds commands by ids with one letter too many, so
+/// the id that comes here may not be the command's own.
+const NetworkCommand* FindCommand(const wchar_t* lpszCommandId) {
+    const auto command =
+        Workspace::CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandById(
+            lpszCommandId);
+    for (const NetworkCommand& entry : kCommands) {
+        if (command && command->GetId() == entry.id) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::span<const NetworkCommand> NetworkCommands() {
+    return kCommands;
+}
+
+boost::shared_ptr<Workspace::CExecutorReturnValue>
+CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*,
+                          Workspace::CWsTreeItemData*) {
+    auto result = Workspace::NeutralReturnValue();
+    if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
+        Workspace::CWsManager::Instance()->Raise_OnBeforeCommandActivated(pCommand->id);
+        result->m_nStatus = pCommand->run() ? 1 : 0;
+        Workspace::CWsManager::Instance()->Raise_OnAfterCommandCompleted(pCommand->id);
+    }
+    return result;
+}
+
+} // namespace Orvane::Network

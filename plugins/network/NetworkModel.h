@@ -1,0 +1,171 @@
+// A network as plain data: what a network file holds, free of any drawing.
+//
+// Lengths, diameters, elevations and positions are in the units of the file. A number
+// that the file does not state is NaN. All texts are UTF-8. Entities are known by their
+// place in their table.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "plugins/network/NetworkTexts.h"
+
+namespace Orvane::Network {
+
+enum class NodeKind : std::uint8_t {
+    Junction,
+    Reservoir,
+    Tank,
+    Outfall,
+    Storage,
+    Divider,
+    Other ///< no kind is known; the last one
+};
+inline constexpr std::size_t kNodeKindCount = 7;
+
+enum class SectionKind : std::uint8_t {
+    Pipe,
+    Pump,
+    Valve,
+    Conduit,
+    Weir,
+    Orifice,
+    Outlet,
+    Other ///< no kind is known; the last one
+};
+inline constexpr std::size_t kSectionKindCount = 8;
+
+/// The word that stands in drawings and lists, as "Junction".
+std::string_view KindName(NodeKind kind);
+std::string_view KindName(SectionKind kind);
+/// The kind of a word of KindName; `Other` for every other word.
+NodeKind NodeKindOf(std::string_view name);
+SectionKind SectionKindOf(std::string_view name);
+
+inline constexpr double kNotStated = std::numeric_limits<double>::quiet_NaN();
+/// Stands for a node that a section names and that does not exist.
+inline constexpr std::int32_t kMissingNode = -1;
+
+struct Point {
+    double x = 0;
+    double y = 0;
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
+/// A named value of an entity: a number or a text.
+struct Attribute {
+    std::string_view name;
+    std::string_view text; ///< empty if it is a number
+    std::optional<double> number;
+};
+
+/// The attributes of all entities of a table. Names and texts are kept once each.
+class AttributeTable {
+public:
+    void Add(std::uint32_t owner, std::string_view name, std::string_view text,
+             std::optional<double> number);
+    /// To be called after the last Add and before Of: gathers the attributes of each
+    /// owner, in the order in which they were added.
+    void Seal();
+    /// The attributes of one entity. The views live as long as the table.
+    std::vector<Attribute> Of(std::uint32_t owner) const;
+    /// One attribute of an entity, if it has that one.
+    std::optional<Attribute> Find(std::uint32_t owner, std::string_view name) const;
+    std::size_t size() const { return m_entries.size(); }
+    /// Keeps the attributes of owners with a new number only; `newNumbers` holds that
+    /// number for each owner, or kDropped.
+    void Renumber(std::span<const std::uint32_t> newNumbers);
+    static constexpr std::uint32_t kDropped = 0xFFFFFFFF;
+
+private:
+    struct Entry {
+        double number = kNotStated;
+        std::uint32_t owner = 0;
+        std::uint32_t name = 0;
+        std::uint32_t text = 0;
+    };
+    static constexpr std::uint32_t kIsNumber = 0xFFFFFFFF; ///< in place of a text
+    std::span<const Entry> EntriesOf(std::uint32_t owner) const;
+    Attribute Make(const Entry& entry) const;
+
+    InternedTexts m_names;
+    InternedTexts m_texts;
+    std::vector<Entry> m_entries;
+};
+
+/// Points of many lines in one array: line i has the points offsets[i] to offsets[i + 1].
+struct PointLists {
+    std::vector<std::uint32_t> offsets{0};
+    std::vector<Point> points;
+
+    std::size_t size() const { return offsets.size() - 1; }
+    std::span<const Point> operator[](std::size_t index) const {
+        return std::span(points).subspan(offsets[index], offsets[index + 1] - offsets[index]);
+    }
+};
+
+struct NodeTable {
+    TextColumn names;
+    std::vector<NodeKind> kinds;
+    std::vector<Point> positions;   ///< always finite numbers
+    std::vector<double> elevations; ///< of a reservoir: its head; of a manhole: its invert
+    AttributeTable attributes;
+
+    std::size_t size() const { return kinds.size(); }
+};
+
+struct SectionTable {
+    TextColumn names;
+    std::vector<SectionKind> kinds;
+    std::vector<std::int32_t> startNodes; ///< number in NodeTable, or kMissingNode
+    std::vector<std::int32_t> endNodes;
+    PointLists innerVertices; ///< between start and end, in that direction
+    std::vector<double> diameters;
+    std::vector<double> statedLengths;
+    AttributeTable attributes;
+
+    std::size_t size() const { return kinds.size(); }
+    bool IsComplete(std::size_t section) const {
+        return startNodes[section] != kMissingNode && endNodes[section] != kMissingNode;
+    }
+    /// The name that a section states for a node that does not exist; empty if the node exists.
+    std::string_view MissingStart(std::size_t section) const { return Missing(section * 2); }
+    std::string_view MissingEnd(std::size_t section) const { return Missing(section * 2 + 1); }
+
+    /// Key (section * 2, plus 1 for the end) of each name in missingNames; ascending.
+    std::vector<std::uint64_t> missingKeys;
+    TextColumn missingNames;
+
+private:
+    std::string_view Missing(std::uint64_t key) const;
+};
+
+struct PolygonTable {
+    TextColumn names;
+    PointLists rings; ///< at least three points each; the first is not repeated at the end
+    AttributeTable attributes;
+
+    std::size_t size() const { return names.size(); }
+};
+
+/// Texts on the map.
+struct LabelTable {
+    TextColumn texts;
+    std::vector<Point> positions;
+
+    std::size_t size() const { return positions.size(); }
+};
+
+struct NetworkModel {
+    NodeTable nodes;
+    SectionTable sections;
+    PolygonTable polygons;
+    LabelTable labels;
+};
+
+} // namespace Orvane::Network

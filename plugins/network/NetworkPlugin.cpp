@@ -1,0 +1,44 @@
+// ORVZNetwork.arx: what the workspace meets of it.
+#include "plugins/network/NetworkExecutor.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace {
+
+using namespace Orvane::Workspace;
+
+class NetworkPlugin final : public IPluginInfo {
+public:
+    /// The executor comes first, so that standard commands of any plug-in find one.
+    void PluginHook6() override { CWsManager::Instance()->RegisterBaseExecutor(&m_executor); }
+    void PluginHook1() override {
+        for (const Orvane::Network::NetworkCommand& entry : Orvane::Network::NetworkCommands()) {
+            boost::shared_ptr<CWsCommand> command(new CWsCommand);
+            command->SetId(entry.id);
+            command->SetName(entry.name);
+            command->SetDescription(entry.description);
+            command->SetCmdExecutor(&m_executor);
+            CWsManager::Instance()->RegisterWsCommand(command);
+        }
+    }
+    void PluginHook2() override {}
+    void PluginHook3() override {}
+    void PluginHook4() override {}
+    void PluginHook5() override {}
+    void PluginHook7() override {}
+
+private:
+    Orvane::Network::CNetworkExecutor m_executor;
+};
+
+} // namespace
+
+extern "C" {
+
+__attribute__((visibility("default"))) IPluginInfo* ORVPluginInfoProvider() {
+    static NetworkPlugin plugin;
+    return &plugin;
+}
+
+__attribute__((visibility("default"))) void ORVPluginInfoRelease() {}
+
+} // extern "C"

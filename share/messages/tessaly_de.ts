@@ -1,0 +1,573 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" sourcelanguage="en" language="de">
+<context>
+    <name></name>
+    <message id="0">
+        <source></source>
+        <extracomment>Short name of the language in the address of the help pages</extracomment>
+        <translation>DE</translation>
+    </message>
+    <message id="235">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="380">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Objekte suchen</translation>
+    </message>
+    <message id="381">
+        <source></source>
+        <extracomment>Tooltip of the main panel and of dialogs</extracomment>
+        <translation>Allgemeine Einstellungen</translation>
+    </message>
+    <message id="464">
+        <source></source>
+        <extracomment>Column of the system manager's details</extracomment>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message id="975">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Zeichnen</translation>
+    </message>
+    <message id="1124">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="1216">
+        <source></source>
+        <extracomment>Column of the system manager: what a system is for</extracomment>
+        <translation>Funktion</translation>
+    </message>
+    <message id="1253">
+        <source></source>
+        <extracomment>Column of the system manager</extracomment>
+        <translation>System</translation>
+    </message>
+    <message id="1257">
+        <source></source>
+        <extracomment>Column of the system manager's details</extracomment>
+        <translation>Wert</translation>
+    </message>
+    <message id="1264">
+        <source></source>
+        <extracomment>Command of a system</extracomment>
+        <translation>System hinzufügen</translation>
+    </message>
+    <message id="1379">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Umbenennen</translation>
+    </message>
+    <message id="1969">
+        <source></source>
+        <extracomment>Column of the system manager</extracomment>
+        <translation>Farbe</translation>
+    </message>
+    <message id="2358">
+        <source></source>
+        <extracomment>Tooltip of the system manager</extracomment>
+        <translation>Gewählte Systeme löschen</translation>
+    </message>
+    <message id="2780">
+        <source></source>
+        <extracomment>Root of the system tree</extracomment>
+        <translation>Systeme</translation>
+    </message>
+    <message id="2781">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message id="2910">
+        <source></source>
+        <extracomment>Command of a system and of a repository item</extracomment>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="3311">
+        <source></source>
+        <extracomment>Tooltip of the main panel and the system manager</extracomment>
+        <translation>System in der Zeichnung wählen</translation>
+    </message>
+    <message id="4037">
+        <source></source>
+        <extracomment>Command of a system; tooltip of the main panel</extracomment>
+        <translation>System löschen</translation>
+    </message>
+    <message id="4378">
+        <source></source>
+        <extracomment>Command of a repository item; tooltip of the main panel</extracomment>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="4994">
+        <source></source>
+        <extracomment>Column of the system manager: a count</extracomment>
+        <translation>Abschnitte</translation>
+    </message>
+    <message id="5082">
+        <source></source>
+        <extracomment>Column of the system manager: a count</extracomment>
+        <translation>Polygone</translation>
+    </message>
+    <message id="5247">
+        <source></source>
+        <extracomment>Prompt on the command line</extracomment>
+        <translation>
+Die Systeme sind markiert. Weiter mit Enter: </translation>
+    </message>
+    <message id="5248">
+        <source></source>
+        <extracomment>Tooltip of the system manager</extracomment>
+        <translation>Auf gewählte Systeme zoomen</translation>
+    </message>
+    <message id="5249">
+        <source></source>
+        <extracomment>Tooltip of the system manager</extracomment>
+        <translation>Gewählte Systeme markieren</translation>
+    </message>
+    <message id="5362">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Temporäre Polygone löschen</translation>
+    </message>
+    <message id="5368">
+        <source></source>
+        <extracomment>Question</extracomment>
+        <translation>Alle temporären Polygone des aktiven Systems löschen?</translation>
+    </message>
+    <message id="5376">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message id="5764">
+        <source></source>
+        <extracomment>Root of the disk and of the net repository tree</extracomment>
+        <translation>Ablage</translation>
+    </message>
+    <message id="6043">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Löschen</translation>
+    </message>
+    <message id="6065">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Ausführen</translation>
+    </message>
+    <message id="6066">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="6072">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Senden an ...</translation>
+    </message>
+    <message id="6218">
+        <source></source>
+        <extracomment>Command of a system</extracomment>
+        <translation>System ein- oder ausblenden</translation>
+    </message>
+    <message id="6356">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Dialogpositionen zurücksetzen</translation>
+    </message>
+    <message id="6534">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Kataloge</translation>
+    </message>
+    <message id="7066">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Topologiekonfiguration ...</translation>
+    </message>
+    <message id="7221">
+        <source></source>
+        <extracomment>Label of the system manager</extracomment>
+        <translation>Details:</translation>
+    </message>
+    <message id="7246">
+        <source></source>
+        <extracomment>Tooltip of a dialog's caption button</extracomment>
+        <translation>Einrollen</translation>
+    </message>
+    <message id="7247">
+        <source></source>
+        <extracomment>Tooltip of a dialog's caption button</extracomment>
+        <translation>Ausrollen</translation>
+    </message>
+    <message id="7533">
+        <source></source>
+        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <translation>Fehler</translation>
+    </message>
+    <message id="7534">
+        <source></source>
+        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <translation>Informationen</translation>
+    </message>
+    <message id="7535">
+        <source></source>
+        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <translation>Warnungen</translation>
+    </message>
+    <message id="7623">
+        <source></source>
+        <extracomment>Question of the system manager</extracomment>
+        <translation>Die gewählten Systeme mit allen Objekten löschen?</translation>
+    </message>
+    <message id="7690">
+        <source></source>
+        <extracomment>Label of the main panel's system selector</extracomment>
+        <translation>System:</translation>
+    </message>
+    <message id="8036">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Info ...</translation>
+    </message>
+    <message id="8038">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>System bearbeiten</translation>
+    </message>
+    <message id="8039">
+        <source></source>
+        <extracomment>Tooltip of the main panel and the system manager</extracomment>
+        <translation>System ein- oder ausschalten</translation>
+    </message>
+    <message id="8040">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Meldungen</translation>
+    </message>
+    <message id="8041">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="8042">
+        <source></source>
+        <extracomment>Tooltip of the main panel</extracomment>
+        <translation>Informationswerkzeuge</translation>
+    </message>
+    <message id="8690">
+        <source></source>
+        <extracomment>Entry of the catalogue menu</extracomment>
+        <translation>Regeleditor ...</translation>
+    </message>
+    <message id="8948">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Teilsysteme in Auswahl einbeziehen</translation>
+    </message>
+    <message id="9056">
+        <source></source>
+        <extracomment>Command of a repository item</extracomment>
+        <translation>Als Standard setzen</translation>
+    </message>
+    <message id="9134">
+        <source></source>
+        <extracomment>Title of the log view</extracomment>
+        <translation>Meldungen</translation>
+    </message>
+    <message id="9571">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Verwaltung</translation>
+    </message>
+    <message id="10276">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Ablagekonfiguration ...</translation>
+    </message>
+    <message id="10299">
+        <source></source>
+        <extracomment>Heading of the memory report</extracomment>
+        <translation>Speicher in MiB</translation>
+    </message>
+    <message id="10300">
+        <source></source>
+        <extracomment>Memory report, with a number behind it</extracomment>
+        <translation>Verfügbar</translation>
+    </message>
+    <message id="10301">
+        <source></source>
+        <extracomment>Memory report, with a number behind it</extracomment>
+        <translation>Belegt</translation>
+    </message>
+    <message id="10530">
+        <source></source>
+        <extracomment>Tooltip at the cursor</extracomment>
+        <translation>Objekt des Systems wählen</translation>
+    </message>
+    <message id="10803">
+        <source></source>
+        <extracomment>Alert of the system manager</extracomment>
+        <translation>Bitte genau ein System wählen.</translation>
+    </message>
+    <message id="10804">
+        <source></source>
+        <extracomment>Title of the system manager; entry of the information menu</extracomment>
+        <translation>Systemverwaltung</translation>
+    </message>
+    <message id="10805">
+        <source></source>
+        <extracomment>Statistic of a network: a count</extracomment>
+        <translation>Abschnitte</translation>
+    </message>
+    <message id="10806">
+        <source></source>
+        <extracomment>Statistic of a network: a count</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="10807">
+        <source></source>
+        <extracomment>Statistic of a network: nodes with one section</extracomment>
+        <translation>Endknoten</translation>
+    </message>
+    <message id="10808">
+        <source></source>
+        <extracomment>Statistic of a network: nodes with two sections</extracomment>
+        <translation>Durchgangsknoten</translation>
+    </message>
+    <message id="10809">
+        <source></source>
+        <extracomment>Statistic of a network: nodes with more sections</extracomment>
+        <translation>Verzweigungsknoten</translation>
+    </message>
+    <message id="10810">
+        <source></source>
+        <extracomment>Statistic of a network: nodes without a section</extracomment>
+        <translation>Isolierte Knoten</translation>
+    </message>
+    <message id="10811">
+        <source></source>
+        <extracomment>Statistic of a network: a count</extracomment>
+        <translation>Unabhängige Maschen</translation>
+    </message>
+    <message id="10812">
+        <source></source>
+        <extracomment>Statistic of a network: a count</extracomment>
+        <translation>Zusammenhängende Teile</translation>
+    </message>
+    <message id="10813">
+        <source></source>
+        <extracomment>Statistic of a network: drawing units</extracomment>
+        <translation>Gesamtlänge</translation>
+    </message>
+    <message id="10814">
+        <source></source>
+        <extracomment>Statistic of an alignment system: a count</extracomment>
+        <translation>Achsen</translation>
+    </message>
+    <message id="10815">
+        <source></source>
+        <extracomment>Statistic of an alignment system: a count</extracomment>
+        <translation>Hauptpunkte</translation>
+    </message>
+    <message id="10816">
+        <source></source>
+        <extracomment>Statistic of an alignment system: a count</extracomment>
+        <translation>Längsschnitte</translation>
+    </message>
+    <message id="10817">
+        <source></source>
+        <extracomment>Statistic of an alignment system: a count</extracomment>
+        <translation>Querprofile</translation>
+    </message>
+    <message id="10818">
+        <source></source>
+        <extracomment>Statistic of a polygon system: a count</extracomment>
+        <translation>Polygone</translation>
+    </message>
+    <message id="10819">
+        <source></source>
+        <extracomment>Statistic of a polygon system: a count</extracomment>
+        <translation>Polygonknoten</translation>
+    </message>
+    <message id="10820">
+        <source></source>
+        <extracomment>Statistic of a polygon system: square drawing units</extracomment>
+        <translation>Gesamtfläche</translation>
+    </message>
+    <message id="10821">
+        <source></source>
+        <extracomment>Alert of the system manager</extracomment>
+        <translation>Das Objekt gehört zu keinem System.</translation>
+    </message>
+    <message id="10831">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Schnellbefehle</translation>
+    </message>
+    <message id="11212">
+        <source></source>
+        <extracomment>Entry of the settings menu</extracomment>
+        <translation>Alle nichtmodalen Dialoge entfernen</translation>
+    </message>
+    <message id="50005">
+        <source></source>
+        <extracomment>Question before dialogs are reset</extracomment>
+        <translation>Sind Sie sicher?</translation>
+    </message>
+    <message id="50156">
+        <source></source>
+        <extracomment>Tooltip of the main panel and of dialogs</extracomment>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="55002">
+        <source></source>
+        <extracomment>Tooltip of the system manager</extracomment>
+        <translation>Gewähltes System aktivieren</translation>
+    </message>
+    <message id="55006">
+        <source></source>
+        <extracomment>Tool group of a system</extracomment>
+        <translation>Daten setzen</translation>
+    </message>
+    <message id="55023">
+        <source></source>
+        <extracomment>Title of the main panel</extracomment>
+        <translation>Arbeitsbereich</translation>
+    </message>
+    <message id="61014">
+        <source></source>
+        <extracomment>Column of the system manager: a count</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="900001">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Netz</translation>
+    </message>
+    <message id="900002">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Paneele</translation>
+    </message>
+    <message id="900200">
+        <source></source>
+        <extracomment>Name of a topology</extracomment>
+        <translation>Linien</translation>
+    </message>
+    <message id="900201">
+        <source></source>
+        <extracomment>Name of a topology</extracomment>
+        <translation>Polygone</translation>
+    </message>
+    <message id="900202">
+        <source></source>
+        <extracomment>Name of a topology</extracomment>
+        <translation>Punkte</translation>
+    </message>
+    <message id="900203">
+        <source></source>
+        <extracomment>Name of a topology</extracomment>
+        <translation>Schemata</translation>
+    </message>
+    <message id="900220">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="900221">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Abschnitt</translation>
+    </message>
+    <message id="900222">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Polygon</translation>
+    </message>
+    <message id="900223">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Polygonknoten</translation>
+    </message>
+    <message id="900224">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Punkt</translation>
+    </message>
+    <message id="900240">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Wasserversorgung</translation>
+    </message>
+    <message id="900241">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Schmutzwasser</translation>
+    </message>
+    <message id="900242">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Regenwasser</translation>
+    </message>
+    <message id="900243">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Gas</translation>
+    </message>
+    <message id="900244">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Fernwärme</translation>
+    </message>
+    <message id="900245">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Strom</translation>
+    </message>
+    <message id="900246">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Telekommunikation</translation>
+    </message>
+    <message id="900247">
+        <source></source>
+        <extracomment>What a line system is for</extracomment>
+        <translation>Achse</translation>
+    </message>
+    <message id="900250">
+        <source></source>
+        <extracomment>What a scheme is for</extracomment>
+        <translation>Montageschema</translation>
+    </message>
+    <message id="900300">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Es gibt keine Zeichnung.</translation>
+    </message>
+    <message id="900301">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Ein System braucht einen Namen.</translation>
+    </message>
+    <message id="900302">
+        <source></source>
+        <extracomment>Reason, with the name of the other system</extracomment>
+        <translation>Die Zeichnung hat bereits ein System „%s“.</translation>
+    </message>
+    <message id="900303">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Konfiguration hat keine Topologie %d.</translation>
+    </message>
+    <message id="900304">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Topologie hat keine Funktion %d.</translation>
+    </message>
+</context>
+</TS>

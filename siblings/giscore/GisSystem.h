@@ -1,0 +1,67 @@
+// A system of a drawing: one network, one set of polygons, one scheme.
+#pragma once
+
+#include <map>
+
+#include "platform/win/String.h"
+#include "siblings/giscore/Api.h"
+#include "siblings/giscore/GisTypes.h"
+
+class AcDbDatabase;
+
+namespace Orvane::System {
+
+class CGisSystems;
+
+/// What is known of a system apart from its entities. Made and owned by CGisSystems; gone
+/// once it is deleted or its document is closed. Changed through CSystemManager, so that
+/// everybody hears of it.
+class GISCORE_API CGisSystem {
+public:
+    CGisSystem(const CGisSystem&) = delete;
+    CGisSystem& operator=(const CGisSystem&) = delete;
+
+    /// Unique in the drawing, without regard to case.
+    const CString& GetSystemName() const { return m_strName; }
+    /// Unique in the drawing, from 1; not used again after a system was deleted.
+    int GetSystemId() const { return m_nId; }
+    /// Unique everywhere.
+    const CString& GetGuid() const { return m_strGuid; }
+    enmTopologyType GetTopologyType() const { return m_enmTopologyType; }
+    /// Number of CTopologyFunction; 0 for topologies without functions.
+    int GetSystemFunction() const { return m_nFunction; }
+    /// Non-zero if its entities are shown.
+    int GetVisibility() const { return m_bVisible; }
+    /// Non-zero if it is the drawing's active system.
+    int GetActive() const;
+    AcDbDatabase* GetDatabase() const;
+
+    /// Name or definition of the coordinate system of its positions; empty if unknown.
+    const CString& GetCoordinateSystem() const { return m_strCoordinateSystem; }
+    void SetCoordinateSystem(const wchar_t* text) { m_strCoordinateSystem = text; }
+
+    /// Named counters that go with the system, such as the last number given to a node.
+    using Counters = std::map<CString, int, CStringLess>;
+    const Counters& GetCounters() const { return m_counters; }
+    void SetCounters(Counters counters) { m_counters = std::move(counters); }
+    /// One of them, 0 at first.
+    int& Counter(const wchar_t* name) { return m_counters[CString(name)]; }
+
+private:
+    friend class CGisSystems;
+    friend class CSystemManager;
+    CGisSystem(CGisSystems& owner, int id, const CString& name, enmTopologyType type,
+               int function);
+
+    CGisSystems& m_owner;
+    int m_nId;
+    CString m_strName;
+    CString m_strGuid;
+    enmTopologyType m_enmTopologyType;
+    int m_nFunction;
+    int m_bVisible = 1;
+    CString m_strCoordinateSystem;
+    Counters m_counters;
+};
+
+} // namespace Orvane::System

@@ -1,0 +1,152 @@
+#include "siblings/giscore/ModuleConfiguration.h"
+
+#include <algorithm>
+
+#include "platform/arx/HostOptions.h"
+#include "platform/win/File.h"
+#include "siblings/giscore/GisEvents.h"
+#include "siblings/giscore/Icon.h"
+#include "siblings/giscore/MessageCatalogue.h"
+#include "siblings/giscore/SupportFile.h"
+#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/WholeNumber.h"
+
+namespace Orvane {
+
+namespace {
+
+constexpr const wchar_t* kGeneral = L"General";
+constexpr const wchar_t* kPrecisionKey = L"NODE_INDEX_PRECISION";
+constexpr int kDefaultPrecision = 3;
+
+/// General settings that make sense as whole numbers only.
+constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP",
+                                          L"PT_MARK_COLOR", kPrecisionKey};
+
+bool IsLanguage(const CString& text) {
+    return !text.IsEmpty() && std::all_of(text.Str().begin(), text.Str().end(), [](wchar_t c) {
+        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'_';
+    });
+}
+
+} // namespace
+
+CModuleConfiguration* CModuleConfiguration::Instance() {
+    static auto* const instance = new CModuleConfiguration;
+    return instance;
+}
+
+CModuleConfiguration::CModuleConfiguration() {
+    ReadSettings();
+    CString language = L"en";
+    GetGSValueText(L"language", language);
+    m_pMessages = std::make_unique<CMessageCatalogue>(
+        GetPath(L"install") + L"share/messages/", IsLanguage(language) ? language : L"en");
+    SetProblems(L"messages", m_pMessages->GetProblems());
+
+    const CString topologies = GetPath(L"support") + L"TopologyConfiguration.ini";
+    m_pTopologies = std::make_unique<CTopologyConfiguration>(
+        topologies, [this](int id) { return GetMsg(id); });
+    SetProblems(L"TopologyConfiguration.ini", m_pTopologies->GetProblems());
+}
+
+void CModuleConfiguration::ReadSettings() {
+    const CString path = GetPath(L"support") + L"Settings.ini";
+    std::vector<CString> problems = LoadSupportFile(m_settings, path);
+    const IniFile::Section* const pGeneral = m_settings.FindSection(kGeneral);
+    for (const wchar_t* key : kNumberKeys) {
+        const IniFile::Entry* const pEntry = pGeneral ? pGeneral->Find(key) : nullptr;
+        if (pEntry && !WholeNumber(pEntry->value.View())) {
+            CString problem;
+            problem.Format(L"%s:%d: \"%s\" is no whole number", path, pEntry->line,
+                           pEntry->value);
+            problems.push_back(problem);
+        }
+    }
+    SetProblems(L"Settings.ini", std::move(problems));
+}
+
+CString CModuleConfiguration::GetMsg(int id) const {
+    return m_pMessages->Text(id);
+}
+
+CString CModuleConfiguration::GetPath(const wchar_t* key) const {
+    const CString name = key;
+    for (const wchar_t* option : {kHostOptionInstall, kHostOptionSupport}) {
+        if (name.CompareNoCase(option) == 0) {
+            return WithSeparator(GetHostOption(option));
+        }
+    }
+    return {};
+}
+
+HICON CModuleConfiguration::GetIcon(const wchar_t* name) {
+    const CString wanted = name;
+    if (const auto known = m_icons.find(wanted); known != m_icons.end()) {
+        return known->second.get();
+    }
+    // A name with a separator would lead out of the folder.
+    const CString path = GetPath(L"install") + L"share/icons/" + wanted + L".svg";
+    if (wanted.IsEmpty() || FileNameOf(wanted) != wanted || !FileExists(path)) {
+        return nullptr;
+    }
+    auto icon = std::make_unique<CIcon>(CIcon{wanted, path});
+    return m_icons.emplace(wanted, std::move(icon)).first->second.get();
+}
+
+int CModuleConfiguration::GetGSValueInt(const wchar_t* key, int& value) const {
+    CString text;
+    if (!GetGSValueText(key, text)) {
+        return 0;
+    }
+    const std::optional<int> number = WholeNumber(text.View());
+    value = number.value_or(value);
+    return number.has_value();
+}
+
+int CModuleConfiguration::GetGSValueText(const wchar_t* key, CString& value) const {
+    const CString* const pText = m_settings.Find(kGeneral, key);
+    if (pText) {
+        value = *pText;
+    }
+    return pText != nullptr;
+}
+
+void CModuleConfiguration::ReloadGeneralSettings() {
+    ReadSettings();
+    System::CGisEvents::Instance()->Raise(&System::ISystemEvents::OnAfterGeneralSettingsChanged);
+}
+
+int CModuleConfiguration::GetNodeIndexCoorPrecision() const {
+    int precision = kDefaultPrecision;
+    GetGSValueInt(kPrecisionKey, precision);
+    return std::clamp(precision, 0, 9);
+}
+
+const CTopologyConfiguration* CModuleConfiguration::GetTopologyConfiguration() const {
+    return m_pTopologies.get();
+}
+
+const CTopology* CModuleConfiguration::GetTopology(enmTopologyType type) const {
+    return m_pTopologies->GetTopologyByTopologyType(type);
+}
+
+int CModuleConfiguration::DoesETbelongTT(enmEntityType entityType,
+                                         enmTopologyType topologyType) const {
+    const CTopology* const pTopology = GetTopology(topologyType);
+    return pTopology && pTopology->GetEntityType(entityType);
+}
+
+std::vector<CString> CModuleConfiguration::GetProblems() const {
+    std::vector<CString> all;
+    for (const auto& [file, problems] : m_problems) {
+        all.insert(all.end(), problems.begin(), problems.end());
+    }
+    return all;
+}
+
+void CModuleConfiguration::SetProblems(const wchar_t* file, std::vector<CString> problems) {
+    m_problems[CString(file)] = std::move(problems);
+}
+
+} // namespace Orvane

@@ -1,0 +1,140 @@
+#include "siblings/giscoreadds/PolygonIndex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "siblings/networkcore/TopologyMultiStorage.h"
+#include "siblings/networkcore/TopologyStorage.h"
+
+namespace Orvane::Selection {
+
+namespace {
+
+using Topology::Point;
+using Ring = std::span<const Point>;
+
+constexpr double kNothing = std::numeric_limits<double>::infinity();
+
+const Topology::CTopologyStorage& Drawing() {
+    return *Topology::CTopologyMultiStorage::Instance()->GetTopology();
+}
+
+Box BoxOf(Ring ring) {
+    Box box{kNothing, kNothing, -kNothing, -kNothing}; // the index leaves an empty one out
+    for (const Point& point : ring) {
+        box.minX = std::min(box.minX, point.x);
+        box.minY = std::min(box.minY, point.y);
+        box.maxX = std::max(box.maxX, point.x);
+        box.maxY = std::max(box.maxY, point.y);
+    }
+    return box;
+}
+
+double DistanceToEdge(double x, double y, const Point& a, const Point& b) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double square = dx * dx + dy * dy;
+    const double along = square > 0 ? ((x - a.x) * dx + (y - a.y) * dy) / square : 0;
+    const double t = std::clamp(along, 0.0, 1.0);
+    return std::hypot(x - (a.x + t * dx), y - (a.y + t * dy));
+}
+
+/// From a point to the area of a ring; 0 inside and on the border.
+double DistanceToArea(double x, double y, Ring ring) {
+    double distance = kNothing;
+    bool inside = false;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const Point& a = ring[i];
+        const Point& b = ring[(i + 1) % ring.size()];
+        distance = std::min(distance, DistanceToEdge(x, y, a, b));
+        if ((a.y > y) != (b.y > y) && x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) {
+            inside = !inside; // the edge is crossed by the ray to the right
+        }
+    }
+    return inside ? 0 : distance;
+}
+
+} // namespace
+
+CPolygonIndex* CPolygonIndex::Instance() {
+    static auto* const instance = new CPolygonIndex;
+    return instance;
+}
+
+void CPolygonIndex::Changed(int changed) {
+    if (changed) {
+        m_pIndex.reset();
+    }
+}
+
+void CPolygonIndex::Build() {
+    const Topology::CTopologyStorage& topology = Drawing();
+    if (m_pIndex && m_nBuiltFor == topology.GetChangeStamp()) {
+        return;
+    }
+    m_entries.clear();
+    std::vector<BoxEntry> boxes;
+    for (const Topology::CPolygon polygon : topology.GetPolygonVector()) {
+        const Box box = BoxOf(polygon.GetRing());
+        m_entries.push_back({polygon.GetId(), polygon.GetSystemId(), box});
+        boxes.push_back({box, polygon.GetId()});
+    }
+    m_pIndex = std::make_unique<CSpatialIndex>(boxes);
+    m_nBuiltFor = topology.GetChangeStamp();
+}
+
+const std::vector<PolygonIndexEntry>& CPolygonIndex::GetPolygonIndex() {
+    Build();
+    return m_entries;
+}
+
+const PolygonIndexEntry* CPolygonIndex::GetIndexEntry(Topology::EntityId id) {
+    Build();
+    // The entries come in the order of their ids.
+    const auto hit = std::lower_bound(
+        m_entries.begin(), m_entries.end(), id,
+        [](const PolygonIndexEntry& entry, Topology::EntityId wanted) { return entry.id < wanted; });
+    return hit != m_entries.end() && hit->id == id ? &*hit : nullptr;
+}
+
+std::vector<Topology::EntityId> CPolygonIndex::GetPolygonsInBox(const Box& box) {
+    Build();
+    std::vector<Topology::EntityId> polygons;
+    m_pIndex->Query(box, [&](std::uint32_t id) { polygons.push_back(id); });
+    std::sort(polygons.begin(), polygons.end());
+    return polygons;
+}
+
+std::vector<Topology::EntityId> CPolygonIndex::GetPolygonsAt(double x, double y) {
+    std::vector<Topology::EntityId> polygons = GetPolygonsInBox({x, y, x, y});
+    std::erase_if(polygons, [&](Topology::EntityId id) {
+        return DistanceToArea(x, y, Drawing().GetPolygonById(id).GetRing()) > 0;
+    });
+    return polygons;
+}
+
+Topology::EntityId CPolygonIndex::GetNearestPolygon(double x, double y, double maxDistance) {
+    Build();
+    Topology::EntityId nearest = Topology::kNoEntity;
+    double best = maxDistance;
+    // A box is never farther away than what it bounds, so the search may end at the first
+    // box that is farther than the best polygon.
+    for (std::size_t count = 8;; count *= 2) {
+        const auto hits = m_pIndex->Nearest(x, y, maxDistance, count);
+        std::size_t looked = 0;
+        for (; looked < hits.size() && hits[looked].distance <= best; ++looked) {
+            const Ring ring = Drawing().GetPolygonById(hits[looked].id).GetRing();
+            const double distance = DistanceToArea(x, y, ring);
+            if (distance < best || (distance == best && nearest == Topology::kNoEntity)) {
+                best = distance;
+                nearest = hits[looked].id;
+            }
+        }
+        if (looked < hits.size() || hits.size() < count) {
+            return nearest;
+        }
+    }
+}
+
+} // namespace Orvane::Selection

@@ -1,0 +1,39 @@
+// A choice of entities of a drawing.
+#pragma once
+
+#include <unordered_set>
+#include <vector>
+
+#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscoreadds/Api.h"
+#include "siblings/networkcore/TopologyTypes.h"
+
+namespace Orvane::Selection {
+
+/// Entities by id, each once, in the order in which they were chosen.
+class GISCOREADDS_API CSelectionSet {
+public:
+    /// False if it was in the set already.
+    bool Add(Topology::EntityId id, enmEntityType type);
+    bool Remove(Topology::EntityId id);
+    void Clear();
+
+    bool Contains(Topology::EntityId id) const;
+    bool IsEmpty() const { return m_entries.empty(); }
+    int GetCount() const { return static_cast<int>(m_entries.size()); }
+    std::vector<Topology::EntityId> GetNodes() const { return OfType(EntityNode); }
+    std::vector<Topology::EntityId> GetSections() const { return OfType(EntitySection); }
+    std::vector<Topology::EntityId> GetPolygons() const { return OfType(EntityPolygon); }
+
+private:
+    struct Entry {
+        Topology::EntityId id;
+        enmEntityType type;
+    };
+    std::vector<Topology::EntityId> OfType(enmEntityType type) const;
+
+    std::vector<Entry> m_entries;
+    std::unordered_set<Topology::EntityId> m_ids; ///< for finding them
+};
+
+} // namespace Orvane::Selection

@@ -1,0 +1,14 @@
+// A text on the map. Its name is the text.
+#pragma once
+
+#include "siblings/networkcore/Entity.h"
+
+namespace Orvane::Topology {
+
+class NETWORKCORE_API CMapText : public CEntity {
+public:
+    using CEntity::CEntity;
+    Point GetPosition() const;
+};
+
+} // namespace Orvane::Topology

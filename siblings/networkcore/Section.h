@@ -1,0 +1,27 @@
+// A section of a network: the line between two nodes.
+#pragma once
+
+#include "siblings/networkcore/Node.h"
+
+namespace Orvane::Topology {
+
+class NETWORKCORE_API CSection : public CEntity {
+public:
+    using CEntity::CEntity;
+
+    /// kNoEntity if there is no such node.
+    EntityId GetStartNodeId() const;
+    EntityId GetEndNodeId() const;
+    CNode GetStartNode() const;
+    CNode GetEndNode() const;
+    /// What the section states for a node that does not exist; UTF-8, empty if it exists.
+    std::string_view GetMissingStart() const;
+    std::string_view GetMissingEnd() const;
+
+    /// Between the nodes, in the direction from start to end.
+    std::span<const Point> GetInnerVertices() const;
+    /// Length of the drawn line in the plane; a missing node is left out of it.
+    double GetDrawnLength() const;
+};
+
+} // namespace Orvane::Topology

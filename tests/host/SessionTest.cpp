@@ -1,0 +1,145 @@
+#include <cstdio>
+#include <gtest/gtest.h>
+
+#include "host/Options.h"
+#include "tests/support/TestHost.h"
+
+namespace Tessaly {
+namespace {
+
+/// Runs the program itself, as a user does, and gives what it printed.
+class ProgramTest : public testing::Test {
+protected:
+    int Run(const std::string& arguments, const std::string& input = "") {
+        m_folder.Write("input", input);
+        const std::string command = std::string(TESSALY_STAGE_DIR "/tessaly --console --support ") +
+                                    m_folder.Native("support") + " " + arguments + " < " +
+                                    m_folder.Native("input") + " > " + m_folder.Native("output") +
+                                    " 2>&1";
+        const int status = std::system(command.c_str());
+        m_output = m_folder.Read("output");
+        return WEXITSTATUS(status);
+    }
+    int RunScript(const std::string& lines) {
+        m_folder.Write("script.scr", lines);
+        return Run("--script " + m_folder.Native("script.scr"));
+    }
+    bool Printed(const std::string& text) const { return m_output.find(text) != std::string::npos; }
+
+    TempFolder m_folder;
+    std::string m_output;
+};
+
+constexpr const char* kImportTown = "NETWORK_IMPORT\n" TESSALY_SOURCE_DIR
+                                    "/share/sample/town-water.inp\nTown\n";
+
+TEST_F(ProgramTest, ImportsAndChecksANetworkByScript) {
+    EXPECT_EQ(RunScript(std::string("# comment\n\n") + kImportTown +
+                        "system_list\nSYSTEM_ACTIVATE\ntown\nNetwork_Stats\nNETWORK_CHECK\n"),
+              0)
+        << m_output;
+    EXPECT_TRUE(Printed("  Town (Water supply)\n")) << m_output;
+    EXPECT_TRUE(Printed("Town is the active system.")) << m_output;
+    EXPECT_TRUE(Printed("components")) << m_output;
+}
+
+TEST_F(ProgramTest, AScriptStopsAtItsFirstFailureWithItsLine) {
+    EXPECT_EQ(RunScript("SYSTEM_LIST\nNO_SUCH_COMMAND\nSYSTEM_LIST\n"), 1);
+    EXPECT_TRUE(Printed("Unknown command \"NO_SUCH_COMMAND\"")) << m_output;
+    EXPECT_TRUE(Printed("script.scr:2: stopped at \"NO_SUCH_COMMAND\"")) << m_output;
+
+    EXPECT_EQ(RunScript("NETWORK_IMPORT\nno-such-file.inp\nTown\nSYSTEM_LIST\n"), 1);
+    EXPECT_TRUE(Printed("no-such-file.inp")) << m_output;
+    EXPECT_TRUE(Printed("script.scr:1: stopped")) << m_output;
+    EXPECT_EQ(RunScript("SYSTEM_LISTX\n"), 1) << "only whole ids count at the host's prompt";
+    EXPECT_EQ(Run("--script " + m_folder.Native("missing.scr")), 2);
+}
+
+TEST_F(ProgramTest, AFailedImportLeavesTheDrawingAsItWas) {
+    m_folder.Write("cut.inp", "[JUNCTIONS]\n J1 10\n[PIPES]\n P1 J1\n[COORDINATES]\n J1 0 0\n");
+    EXPECT_EQ(Run("", "NETWORK_IMPORT\n" + m_folder.Native("cut.inp") +
+                          "\nCut\nSYSTEM_LIST\nNETWORK_CHECK\n"),
+              0);
+    EXPECT_TRUE(Printed("cut.inp:4: ")) << m_output;
+    EXPECT_TRUE(Printed("Nothing was imported.")) << m_output;
+    EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
+
+    const std::string twice = std::string(kImportTown) + kImportTown + "SYSTEM_LIST\n";
+    EXPECT_EQ(Run("", twice), 0);
+    EXPECT_EQ(m_output.find("Town (Water supply)"), m_output.rfind("Town (Water supply)"))
+        << "a name that is taken adds nothing";
+}
+
+TEST_F(ProgramTest, TheConsoleRunsInsideTheHost) {
+    EXPECT_EQ(Run("", "test\nlist\nsystem_list\nnonsense\n\x1B\nexit\nSYSTEM_LIST\nQUIT\nHELP\n"), 0);
+    for (const char* text : {"Halvane Command processor.", "cmdId (description)\n",
+                             "SYSTEM_LIST (lists the systems of the drawing)",
+                             "The drawing has no systems.", "Unknown command!"}) {
+        EXPECT_TRUE(Printed(text)) << text << " in " << m_output;
+    }
+    EXPECT_FALSE(Printed("APPLOAD")) << "nothing runs behind QUIT";
+}
+
+TEST_F(ProgramTest, TheEndOfTheInputEndsEveryPrompt) {
+    EXPECT_EQ(Run("", "test\nlist\n"), 0) << "the console is told to quit";
+    EXPECT_EQ(Run("", "NETWORK_IMPORT\n"), 0);
+    EXPECT_TRUE(Printed("nothing was imported")) << m_output;
+}
+
+TEST_F(ProgramTest, WritesATraceOnlyWhenAsked) {
+    EXPECT_EQ(Run("--trace " + m_folder.Native("trace.log"), "QUIT\n"), 0);
+    const std::string trace = m_folder.Read("trace.log");
+    std::size_t at = 0;
+    for (const char* text :
+         {"CWsManager - 1", "CWsManager - 2", "Module = ORVZNetwork.arx, ON", "DLL Loaded",
+          "Plugin entry found", "---------------------------", "CWsManager - 3", "CWsManager - 4",
+          "CWsManager - 5", "CWsManager - 6", "CWsManager - 7", "CAD will close"}) {
+        at = trace.find(std::string("], ") + text + "\n", at);
+        EXPECT_NE(at, std::string::npos) << text;
+    }
+    std::filesystem::remove(m_folder / "trace.log");
+    Run("", "QUIT\n");
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder / "support")) {
+        EXPECT_EQ(entry.path().extension() == ".log", false) << entry.path();
+    }
+}
+
+TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
+    Run("", "QUIT\n");
+    m_folder.Write("support/ModuleRegistry.xml",
+                   "<moduleRegistry ><module on=\"1\" fileName=\"" TESSALY_FIXTURES_DIR
+                   "/ThrowsInHook3.arx\" ></module></moduleRegistry>");
+    // The registry's names are relative to the modules' folder, so that one becomes "/".
+    const std::string install = m_folder.Native("install");
+    std::filesystem::create_directories(install + TESSALY_FIXTURES_DIR);
+    for (const auto& entry : std::filesystem::directory_iterator(TESSALY_STAGE_DIR)) {
+        std::filesystem::create_symlink(entry.path(), install + "/" + entry.path().filename().string());
+    }
+    std::filesystem::create_symlink(TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx",
+                                    install + TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx");
+    EXPECT_EQ(Run("--install " + install, "HELP\n"), 0);
+    EXPECT_TRUE(Printed("ThrowsInHook3.arx: PluginHook3 failed: no licence for this machine"))
+        << m_output;
+    EXPECT_TRUE(Printed("APPLOAD")) << m_output;
+}
+
+TEST(Options, AreReadOrRefused) {
+    const struct {
+        std::vector<std::string> arguments;
+        const wchar_t* error;
+    } cases[] = {
+        {{}, L""},
+        {{"--console", "--script", "a.scr", "--trace", "t"}, L""},
+        {{"--script"}, L"--script wants a value"},
+        {{"--support", ""}, L"--support wants a value"},
+        {{"--konsole"}, L"--konsole: no such option"},
+        {{"plan.gpkg"}, L"plan.gpkg: no such option"},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(ReadOptions(row.arguments).error, row.error);
+    }
+    EXPECT_EQ(*ReadOptions({"--script", "\xC3\xA8.scr"}).options.script, L"\u00E8.scr");
+}
+
+} // namespace
+} // namespace Tessaly

@@ -1,0 +1,87 @@
+#include "workspacecore/foundation/XmlAttribute.h"
+
+#include <cwchar>
+
+#include "workspacecore/foundation/XmlName.h"
+
+namespace Orvane {
+
+namespace {
+
+/// Walks the tokens of a tag. In the place of a name and in the place of a value a token
+/// ends at different characters: "c/" is a value, but not a name.
+class TagTokens {
+public:
+    explicit TagTokens(std::wstring_view tag)
+        : m_pAt(tag.data()), m_pEnd(tag.data() + tag.size()) {}
+
+    /// The next character that is not blank; ">" at the end of the text.
+    wchar_t Peek() {
+        while (m_pAt < m_pEnd && IsXmlBlank(*m_pAt)) {
+            ++m_pAt;
+        }
+        return m_pAt < m_pEnd ? *m_pAt : L'>';
+    }
+    void Skip() { ++m_pAt; }
+    std::wstring_view Name() {
+        const wchar_t cFirst = Peek();
+        return IsQuote(cFirst) ? Quoted(cFirst) : Run([](wchar_t c) {
+            return c == L'=' || c == L'>' || c == L'/' || c == L'?' || IsXmlBlank(c);
+        });
+    }
+    std::wstring_view Value() {
+        const wchar_t cFirst = Peek();
+        return IsQuote(cFirst) ? Quoted(cFirst)
+                               : Run([](wchar_t c) { return c == L'>' || IsXmlBlank(c); });
+    }
+
+private:
+    static bool IsQuote(wchar_t c) { return c == L'"' || c == L'\''; }
+    std::wstring_view Quoted(wchar_t cQuote) {
+        const wchar_t* pStart = m_pAt + 1;
+        const auto nRest = static_cast<std::size_t>(m_pEnd - pStart);
+        const wchar_t* pClose = std::wmemchr(pStart, cQuote, nRest);
+        m_pAt = pClose ? pClose + 1 : m_pEnd;
+        return {pStart, pClose ? static_cast<std::size_t>(pClose - pStart) : nRest};
+    }
+    template <class Ends>
+    std::wstring_view Run(Ends ends) {
+        const wchar_t* pStart = m_pAt;
+        while (m_pAt < m_pEnd && !ends(*m_pAt)) {
+            ++m_pAt;
+        }
+        return {pStart, static_cast<std::size_t>(m_pAt - pStart)};
+    }
+
+    const wchar_t* m_pAt;
+    const wchar_t* m_pEnd;
+};
+
+} // namespace
+
+std::optional<std::wstring_view> FindXmlAttribute(std::wstring_view tag, std::wstring_view name,
+                                                  bool bIgnoreCase) {
+    TagTokens tokens(tag);
+    tokens.Name(); // the element's own
+    for (;;) {
+        const wchar_t cFirst = tokens.Peek();
+        if (cFirst == L'>' || cFirst == L'/' || cFirst == L'?') {
+            return std::nullopt;
+        }
+        if (cFirst == L'=') {
+            tokens.Skip();
+            tokens.Value();
+            continue;
+        }
+        const std::wstring_view found = tokens.Name();
+        if (MatchXmlName(found, name, bIgnoreCase)) {
+            if (tokens.Peek() != L'=') {
+                return found;
+            }
+            tokens.Skip();
+            return tokens.Value();
+        }
+    }
+}
+
+} // namespace Orvane

@@ -67,17 +67,16 @@ double LoadBare() {
     using Provider = IPluginInfo* (*)();
     using Hook = void (IPluginInfo::*)();
     constexpr Hook kHooks[] = {
-        &IPluginInfo::PluginHook6,          &IPluginInfo::PluginHook1,
-        &IPluginInfo::PluginHook2,          &IPluginInfo::PluginHook3,
-        &IPluginInfo::PluginHook4,          &IPluginInfo::PluginHook5,
-        &IPluginInfo::PluginHook7,          &IPluginInfo::RegisterInfoTooltips,
+        &IPluginInfo::PluginHook6,           &IPluginInfo::PluginHook1,
+        &IPluginInfo::PluginHook2,           &IPluginInfo::PluginHook3,
+        &IPluginInfo::PluginHook4,           &IPluginInfo::PluginHook5,
+        &IPluginInfo::PluginHook7,           &IPluginInfo::RegisterInfoTooltips,
         &IPluginInfo::RegisterWsPanelDialog, &IPluginInfo::RegisterCatalogExtenders};
     CWsManager::Instance();
     const auto from = Clock::now();
     for (int i = 1; i <= kPlugins; ++i) {
         void* library = dlopen((BENCH_PLUGIN_DIR + FileOf(i)).c_str(), RTLD_NOW | RTLD_LOCAL);
-        const auto provider =
-            reinterpret_cast<Provider>(dlsym(library, "ORVPluginInfoProvider"));
+        const auto provider = reinterpret_cast<Provider>(dlsym(library, "ORVPluginInfoProvider"));
         dlsym(library, "ORVPluginInfoRelease");
         for (const Hook hook : kHooks) {
             (provider()->*hook)();
@@ -119,8 +118,8 @@ double Median(std::vector<double> values) {
 } // namespace
 
 int main() {
-    const auto support = std::filesystem::temp_directory_path() /
-                         ("tessaly-bench-" + std::to_string(getpid()));
+    const auto support =
+        std::filesystem::temp_directory_path() / ("tessaly-bench-" + std::to_string(getpid()));
     std::filesystem::create_directories(support);
     std::vector<double> bare;
     std::vector<double> managed;

@@ -27,7 +27,7 @@ CString ProgramFolder() {
 CString UserSupportFolder() {
     const char* const data = std::getenv("XDG_DATA_HOME");
     const char* const home = std::getenv("HOME");
-    fs::path base = data && *data ? fs::path(data)
+    fs::path base = data && *data   ? fs::path(data)
                     : home && *home ? fs::path(home) / ".local/share"
                                     : fs::temp_directory_path();
     return WithSeparator(ToText(base / "tessaly/support"));

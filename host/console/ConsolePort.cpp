@@ -46,13 +46,18 @@ void ConsolePort::DropEscapes() {
 }
 
 std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
+    std::optional<CString> line = TakePosted();
+    const bool posted = line.has_value();
+    // A script is looked at first: at its end no prompt is left behind.
+    const bool isScript = !posted && m_pInput && !m_pInput->Name().IsEmpty();
+    if (isScript && !(line = m_pInput->Next())) {
+        return line;
+    }
     if (!m_atLineStart && !prompt.empty() && prompt.front() != L'\n') {
         Print(L"\n");
     }
     Print(prompt);
-    std::optional<CString> line = TakePosted();
-    const bool posted = line.has_value();
-    if (!posted && m_pInput) {
+    if (!line && m_pInput) {
         line = m_pInput->Next();
     }
     if (!line || posted || m_pInput->WantsEcho()) {
@@ -84,8 +89,8 @@ PromptEnd ConsolePort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
     }
     answer = *line;
     if (!allowBlanks) {
-        const std::size_t from = std::min(answer.View().find_first_not_of(kBlanks),
-                                          answer.View().size());
+        const std::size_t from =
+            std::min(answer.View().find_first_not_of(kBlanks), answer.View().size());
         const std::size_t to = answer.View().find_first_of(kBlanks, from);
         answer = CString(line->View().substr(from, to - from));
     }

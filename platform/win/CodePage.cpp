@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -204,7 +205,7 @@ std::string WideToUtf8(std::wstring_view text) {
         const std::wstring_view piece = text.substr(0, std::size(block) / kLongest);
         char* out = block;
         for (const wchar_t character : piece) {
-            const auto code = static_cast<std::uint32_t>(character);
+            const auto code = std::bit_cast<std::uint32_t>(character);
             if (code < 0x80) {
                 *out++ = static_cast<char>(code);
             } else {

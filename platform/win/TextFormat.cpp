@@ -1,7 +1,8 @@
 #include "platform/win/TextFormat.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cstdio>
+#include <cmath>
 
 #include "platform/win/CodePage.h"
 
@@ -36,9 +37,10 @@ private:
     std::size_t m_nNext = 0;
 };
 
+// Wider fields than this are mistakes; the limit keeps a bad format from eating memory.
+constexpr int kWidest = 100000;
+
 int ReadNumber(std::wstring_view format, std::size_t& at) {
-    // Wider fields than this are mistakes; the limit keeps a bad format from eating memory.
-    constexpr int kWidest = 100000;
     int number = 0;
     while (at < format.size() && format[at] >= L'0' && format[at] <= L'9') {
         number = std::min(kWidest, number * 10 + static_cast<int>(format[at] - L'0'));
@@ -74,7 +76,7 @@ void ReadFlags(std::wstring_view format, std::size_t& at, Directive& directive) 
 void ReadWidth(std::wstring_view format, std::size_t& at, ArgReader& args, Directive& directive) {
     if (at < format.size() && format[at] == L'*') {
         ++at;
-        directive.width = args.NextInt();
+        directive.width = std::clamp(args.NextInt(), -kWidest, kWidest);
         if (directive.width < 0) {
             directive.left = true;
             directive.width = -directive.width;
@@ -92,7 +94,7 @@ void ReadPrecision(std::wstring_view format, std::size_t& at, ArgReader& args,
     ++at;
     if (at < format.size() && format[at] == L'*') {
         ++at;
-        directive.precision = args.NextInt();
+        directive.precision = std::min(args.NextInt(), kWidest);
         return;
     }
     directive.precision = ReadNumber(format, at);
@@ -197,11 +199,11 @@ void PutReal(std::wstring& out, const Directive& directive, const FormatArg* arg
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), arg->Real(), form, precision)
             .ptr;
     std::wstring text(buffer.data(), end);
-    if (arg->Real() >= 0 && (directive.plus || directive.blank)) {
+    if (!std::signbit(arg->Real()) && (directive.plus || directive.blank)) {
         text.insert(text.begin(), directive.plus ? L'+' : L' ');
     }
     const auto width = static_cast<std::size_t>(directive.width);
-    if (directive.zero && !directive.left && text.size() < width) {
+    if (directive.zero && !directive.left && text.size() < width && std::isfinite(arg->Real())) {
         const bool hasSign = text[0] == L'-' || text[0] == L'+' || text[0] == L' ';
         text.insert(hasSign ? 1 : 0, width - text.size(), L'0');
     }

@@ -74,11 +74,10 @@ void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
         AddNumber(attributes, kDiameter, sections.diameters[i]);
         AddNumber(attributes, kStatedLength, sections.statedLengths[i]);
         AddOthers(attributes, sections.attributes, i);
-        storage.AddSection(system, {sections.names[i],
-                                    end(sections.startNodes[i], sections.MissingStart(i)),
-                                    end(sections.endNodes[i], sections.MissingEnd(i)),
-                                    Flat(sections.innerVertices[i]), KindName(sections.kinds[i]),
-                                    attributes});
+        storage.AddSection(
+            system, {sections.names[i], end(sections.startNodes[i], sections.MissingStart(i)),
+                     end(sections.endNodes[i], sections.MissingEnd(i)),
+                     Flat(sections.innerVertices[i]), KindName(sections.kinds[i]), attributes});
     }
 }
 
@@ -131,8 +130,7 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
     CString reason;
     imported.pNetwork = systems.CreateSystem(name, TopologyLine, systemFunction, &reason);
     if (imported.pNetwork && model.polygons.size() > 0) {
-        imported.pPolygons =
-            systems.CreateSystem(name + L" polygons", TopologyPolygon, 0, &reason);
+        imported.pPolygons = systems.CreateSystem(name + L" polygons", TopologyPolygon, 0, &reason);
     }
     if (!reason.IsEmpty()) {
         return reason;

@@ -56,7 +56,8 @@ void AttributeTable::Seal() {
 }
 
 std::span<const AttributeTable::Entry> AttributeTable::EntriesOf(std::uint32_t owner) const {
-    const auto [first, last] = std::ranges::equal_range(m_entries, owner, {}, &Entry::owner);
+    const auto first = std::ranges::lower_bound(m_entries, owner, {}, &Entry::owner);
+    const auto last = std::ranges::upper_bound(first, m_entries.end(), owner, {}, &Entry::owner);
     return {first, last};
 }
 

@@ -12,12 +12,12 @@ namespace {
 /// Runs the commands. It is registered by pointer, so it has to live to the end.
 class HelloExecutor final : public IWsCommandExecutor {
 public:
-    boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* lpszCommandId,
-                                                    Query::CQueryDefinition*,
-                                                    CWsTreeItemData*) override {
+    boost::shared_ptr<CExecutorReturnValue>
+    Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*, CWsTreeItemData*) override {
         // Listeners, the panel among them, learn that a command runs, and when it has ended.
         CWsManager::Instance()->Raise_OnBeforeCommandActivated(lpszCommandId);
-        const System::CGisSystem* const pSystem = System::CSystemManager::Instance()->GetActiveSystem();
+        const System::CGisSystem* const pSystem =
+            System::CSystemManager::Instance()->GetActiveSystem();
         acutPrintf(L"Hello, %s!\n", pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
         CWsManager::Instance()->Raise_OnAfterCommandCompleted(lpszCommandId);
         auto result = NeutralReturnValue();

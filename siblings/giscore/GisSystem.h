@@ -50,8 +50,7 @@ public:
 private:
     friend class CGisSystems;
     friend class CSystemManager;
-    CGisSystem(CGisSystems& owner, int id, const CString& name, enmTopologyType type,
-               int function);
+    CGisSystem(CGisSystems& owner, int id, const CString& name, enmTopologyType type, int function);
 
     CGisSystems& m_owner;
     int m_nId;

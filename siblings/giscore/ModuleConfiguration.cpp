@@ -20,8 +20,8 @@ constexpr const wchar_t* kPrecisionKey = L"NODE_INDEX_PRECISION";
 constexpr int kDefaultPrecision = 3;
 
 /// General settings that make sense as whole numbers only.
-constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP",
-                                          L"PT_MARK_COLOR", kPrecisionKey};
+constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP", L"PT_MARK_COLOR",
+                                          kPrecisionKey};
 
 bool IsLanguage(const CString& text) {
     return !text.IsEmpty() && std::all_of(text.Str().begin(), text.Str().end(), [](wchar_t c) {
@@ -38,15 +38,9 @@ CModuleConfiguration* CModuleConfiguration::Instance() {
 
 CModuleConfiguration::CModuleConfiguration() {
     ReadSettings();
-    CString language = L"en";
-    GetGSValueText(L"language", language);
-    m_pMessages = std::make_unique<CMessageCatalogue>(
-        GetPath(L"install") + L"share/messages/", IsLanguage(language) ? language : L"en");
-    SetProblems(L"messages", m_pMessages->GetProblems());
-
     const CString topologies = GetPath(L"support") + L"TopologyConfiguration.ini";
-    m_pTopologies = std::make_unique<CTopologyConfiguration>(
-        topologies, [this](int id) { return GetMsg(id); });
+    m_pTopologies =
+        std::make_unique<CTopologyConfiguration>(topologies, [this](int id) { return GetMsg(id); });
     SetProblems(L"TopologyConfiguration.ini", m_pTopologies->GetProblems());
 }
 
@@ -58,12 +52,25 @@ void CModuleConfiguration::ReadSettings() {
         const IniFile::Entry* const pEntry = pGeneral ? pGeneral->Find(key) : nullptr;
         if (pEntry && !WholeNumber(pEntry->value.View())) {
             CString problem;
-            problem.Format(L"%s:%d: \"%s\" is no whole number", path, pEntry->line,
-                           pEntry->value);
+            problem.Format(L"%s:%d: \"%s\" is no whole number", path, pEntry->line, pEntry->value);
             problems.push_back(problem);
         }
     }
     SetProblems(L"Settings.ini", std::move(problems));
+    ChooseLanguage();
+}
+
+void CModuleConfiguration::ChooseLanguage() {
+    CString language;
+    if (!GetGSValueText(L"language", language) || !IsLanguage(language)) {
+        language = L"en";
+    }
+    if (!m_pMessages || language != m_strLanguage) {
+        m_pMessages =
+            std::make_unique<CMessageCatalogue>(GetPath(L"install") + L"share/messages/", language);
+        m_strLanguage = language;
+        SetProblems(L"messages", m_pMessages->GetProblems());
+    }
 }
 
 CString CModuleConfiguration::GetMsg(int id) const {

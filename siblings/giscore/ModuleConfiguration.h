@@ -41,7 +41,8 @@ public:
     int GetGSValueInt(const wchar_t* key, int& value) const;
     /// The same for a text.
     int GetGSValueText(const wchar_t* key, CString& value) const;
-    /// Reads the settings file again and tells the observers of the GIS core.
+    /// Reads the settings file again, the language included, and tells the observers of
+    /// the GIS core. Names of topologies keep their language until the next start.
     void ReloadGeneralSettings();
     /// Decimal places by which coordinates of nodes count as equal; 0 to 9.
     int GetNodeIndexCoorPrecision() const;
@@ -67,8 +68,10 @@ public:
 private:
     CModuleConfiguration();
     void ReadSettings();
+    void ChooseLanguage();
 
     IniFile m_settings;
+    CString m_strLanguage; ///< of the messages
     std::unique_ptr<CMessageCatalogue> m_pMessages;
     std::unique_ptr<CTopologyConfiguration> m_pTopologies;
     std::map<CString, std::unique_ptr<CIcon>, CStringLess> m_icons;

@@ -7,8 +7,8 @@
 namespace Orvane::Notification {
 
 void CPublisher::RegisterSubscriber(CSubscriber* pSubscriber) {
-    if (pSubscriber && std::find(m_subscribers.begin(), m_subscribers.end(), pSubscriber) ==
-                           m_subscribers.end()) {
+    if (pSubscriber &&
+        std::find(m_subscribers.begin(), m_subscribers.end(), pSubscriber) == m_subscribers.end()) {
         m_subscribers.push_back(pSubscriber);
     }
 }

@@ -11,8 +11,7 @@ std::vector<CString> LoadSupportFile(IniFile& file, const CString& path) {
     }
     const CString reason = LastErrorText();
     file = IniFile();
-    return FileExists(path) ? std::vector<CString>{path + L": " + reason}
-                            : std::vector<CString>();
+    return FileExists(path) ? std::vector<CString>{path + L": " + reason} : std::vector<CString>();
 }
 
 } // namespace Orvane

@@ -66,9 +66,7 @@ public:
     explicit DocumentReactor(CSystemManager& manager) : m_manager(manager) {
         acDocManagerPtr()->addReactor(this);
     }
-    void documentToBeDestroyed(AcApDocument* pDoc) override {
-        m_dying.push_back(pDoc->database());
-    }
+    void documentToBeDestroyed(AcApDocument* pDoc) override { m_dying.push_back(pDoc->database()); }
     void documentDestroyed(const wchar_t*) override {
         for (AcDbDatabase* pDatabase : m_dying) {
             m_manager.m_drawings.erase(pDatabase);
@@ -118,9 +116,10 @@ CGisSystem* CSystemManager::CreateSystem(const wchar_t* name, enmTopologyType ty
         !IsKnownKind(type, function, pReason)) {
         return nullptr;
     }
-    const bool hasFunctions = CModuleConfiguration::Instance()->GetTopology(type)->GetHasFunctions();
-    std::unique_ptr<CGisSystem> system(new CGisSystem(
-        *pSystems, pSystems->m_nLastId + 1, trimmed, type, hasFunctions ? function : 0));
+    const bool hasFunctions =
+        CModuleConfiguration::Instance()->GetTopology(type)->GetHasFunctions();
+    std::unique_ptr<CGisSystem> system(new CGisSystem(*pSystems, pSystems->m_nLastId + 1, trimmed,
+                                                      type, hasFunctions ? function : 0));
     CGisSystem* const pSystem = system.get();
     pSystems->m_systems.push_back(std::move(system));
     ++pSystems->m_nLastId;

@@ -63,9 +63,8 @@ enmTopologyType TypeOf(const CString& word) {
 /// The number of a key such as "function.4"; nothing if it is not of that kind.
 std::optional<int> NumberOfKey(const CString& key, std::wstring_view kind) {
     const int length = static_cast<int>(kind.size());
-    return key.Left(length).CompareNoCase(CString(kind)) == 0
-               ? WholeNumber(key.Mid(length).View())
-               : std::nullopt;
+    return key.Left(length).CompareNoCase(CString(kind)) == 0 ? WholeNumber(key.Mid(length).View())
+                                                              : std::nullopt;
 }
 
 } // namespace
@@ -186,9 +185,10 @@ CTopologyConfiguration::CTopologyConfiguration(const wchar_t* path,
 CTopologyConfiguration::~CTopologyConfiguration() = default;
 
 const CTopology* CTopologyConfiguration::GetTopologyByTopologyType(enmTopologyType type) const {
-    const auto hit = std::find_if(
-        m_topologies.begin(), m_topologies.end(),
-        [type](const CTopology& topology) { return topology.GetTopologyType() == type; });
+    const auto hit =
+        std::find_if(m_topologies.begin(), m_topologies.end(), [type](const CTopology& topology) {
+            return topology.GetTopologyType() == type;
+        });
     return hit == m_topologies.end() ? nullptr : &*hit;
 }
 

@@ -92,9 +92,9 @@ const std::vector<PolygonIndexEntry>& CPolygonIndex::GetPolygonIndex() {
 const PolygonIndexEntry* CPolygonIndex::GetIndexEntry(Topology::EntityId id) {
     Build();
     // The entries come in the order of their ids.
-    const auto hit = std::lower_bound(
-        m_entries.begin(), m_entries.end(), id,
-        [](const PolygonIndexEntry& entry, Topology::EntityId wanted) { return entry.id < wanted; });
+    const auto hit = std::lower_bound(m_entries.begin(), m_entries.end(), id,
+                                      [](const PolygonIndexEntry& entry,
+                                         Topology::EntityId wanted) { return entry.id < wanted; });
     return hit != m_entries.end() && hit->id == id ? &*hit : nullptr;
 }
 

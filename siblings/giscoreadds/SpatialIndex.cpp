@@ -1,5 +1,8 @@
 #include "siblings/giscoreadds/SpatialIndex.h"
 
+// Boost includes headers of its own that it calls outdated, and says so at each build.
+#define BOOST_ALLOW_DEPRECATED_HEADERS
+
 #include <algorithm>
 #include <boost/geometry/core/cs.hpp>
 #include <boost/geometry/geometries/box.hpp>

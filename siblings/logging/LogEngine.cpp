@@ -31,10 +31,10 @@ void ReadLoggingSettings() {
     const CString asked = GetHostOption(kHostOptionTrace);
 
     namespace fs = std::filesystem;
-    const fs::path stated =
-        asked.IsEmpty() ? fs::path(NativePath(support)) /
-                              NativePath(pFile && !pFile->IsEmpty() ? *pFile : L"trace.log")
-                        : fs::path(NativePath(asked));
+    const fs::path stated = asked.IsEmpty()
+                                ? fs::path(NativePath(support)) /
+                                      NativePath(pFile && !pFile->IsEmpty() ? *pFile : L"trace.log")
+                                : fs::path(NativePath(asked));
     std::error_code unknown; // then the path stays as it was stated
     const fs::path absolute = fs::absolute(stated, unknown);
     LogFile() = (unknown ? stated : absolute).string();

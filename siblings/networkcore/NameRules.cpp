@@ -57,8 +57,8 @@ std::optional<Scope> ReadScope(const CString& name) {
     const auto hit = std::find_if(std::begin(kWords), std::end(kWords), [&](const auto& entry) {
         return word.CompareNoCase(entry.word) == 0;
     });
-    const bool isMeant = hit != std::end(kWords) && function &&
-                         (dot < 0 || (*function > 0 && hit->topology != 0));
+    const bool isMeant =
+        hit != std::end(kWords) && function && (dot < 0 || (*function > 0 && hit->topology != 0));
     return isMeant ? std::optional(Scope{hit->topology, *function}) : std::nullopt;
 }
 
@@ -79,8 +79,7 @@ std::optional<NamePattern> NamePattern::Read(const CString& text) {
     }
     NamePattern pattern;
     std::size_t at = percent + 1;
-    if (at + 1 < bytes.size() && bytes[at] == '0' && bytes[at + 1] >= '1' &&
-        bytes[at + 1] <= '9') {
+    if (at + 1 < bytes.size() && bytes[at] == '0' && bytes[at + 1] >= '1' && bytes[at + 1] <= '9') {
         pattern.width = bytes[at + 1] - '0';
         at += 2;
     }
@@ -92,8 +91,7 @@ std::optional<NamePattern> NamePattern::Read(const CString& text) {
     return pattern;
 }
 
-NameRules::NameRules(const IniFile& file, const wchar_t* fileName,
-                     std::vector<CString>& problems) {
+NameRules::NameRules(const IniFile& file, const wchar_t* fileName, std::vector<CString>& problems) {
     const auto note = [&](int line, const wchar_t* reason, const CString& word) {
         CString problem;
         problem.Format(L"%s:%d: %s \"%s\"", fileName, line, reason, word);

@@ -18,9 +18,7 @@ public:
         acDocManagerPtr()->addReactor(this);
         System::CGisEvents::Instance()->Register(this);
     }
-    void documentToBeDestroyed(AcApDocument* pDoc) override {
-        m_dying.push_back(pDoc->database());
-    }
+    void documentToBeDestroyed(AcApDocument* pDoc) override { m_dying.push_back(pDoc->database()); }
     void documentDestroyed(const wchar_t*) override {
         for (AcDbDatabase* pDatabase : m_dying) {
             m_owner.m_storages.erase(pDatabase);

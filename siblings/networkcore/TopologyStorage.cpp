@@ -45,9 +45,9 @@ EntityId CTopologyStorage::AddNode(System::CGisSystem& system, const NodeData& d
     if (system.GetDatabase() != m_pDatabase) {
         return kNoEntity;
     }
-    const EntityId id = m_pTables->AddRow(Tables::Kind::Node, system.GetSystemId(),
-                                          NameFor(system, EntityNode, data.name), data.kind,
-                                          data.attributes);
+    const EntityId id =
+        m_pTables->AddRow(Tables::Kind::Node, system.GetSystemId(),
+                          NameFor(system, EntityNode, data.name), data.kind, data.attributes);
     m_pTables->nodePositions.push_back(data.position);
     Changed();
     return id;
@@ -69,9 +69,9 @@ EntityId CTopologyStorage::AddSection(System::CGisSystem& system, const SectionD
             missing[i] = end.missingName;
         }
     }
-    const EntityId id = tables.AddRow(Tables::Kind::Section, system.GetSystemId(),
-                                      NameFor(system, EntitySection, data.name), data.kind,
-                                      data.attributes);
+    const EntityId id =
+        tables.AddRow(Tables::Kind::Section, system.GetSystemId(),
+                      NameFor(system, EntitySection, data.name), data.kind, data.attributes);
     tables.sectionEnds.push_back(ends);
     tables.sectionVertices.push_back(vertices);
     if (!missing[0].empty() || !missing[1].empty()) {
@@ -86,9 +86,9 @@ EntityId CTopologyStorage::AddPolygon(System::CGisSystem& system, const PolygonD
         return kNoEntity;
     }
     const Run ring = m_pTables->AddPoints(data.ring);
-    const EntityId id = m_pTables->AddRow(Tables::Kind::Polygon, system.GetSystemId(),
-                                          NameFor(system, EntityPolygon, data.name), data.kind,
-                                          data.attributes);
+    const EntityId id =
+        m_pTables->AddRow(Tables::Kind::Polygon, system.GetSystemId(),
+                          NameFor(system, EntityPolygon, data.name), data.kind, data.attributes);
     m_pTables->polygonRings.push_back(ring);
     Changed();
     return id;

@@ -56,7 +56,7 @@ struct SectionData {
 };
 
 struct PolygonData {
-    std::string_view name; ///< empty: named by the name rules
+    std::string_view name;       ///< empty: named by the name rules
     std::span<const Point> ring; ///< the first point is not repeated at the end
     std::string_view kind = {};
     std::span<const AttributeData> attributes = {};

@@ -34,7 +34,9 @@ public:
             shape += (node.flags & XML_FLAG_EMPTY) != 0 ? "/" : "";
             shape += (node.flags & XML_FLAG_NO_END_TAG) != 0 ? "!" : "";
             shape += (node.flags & XML_FLAG_CONTENT_ERROR) != 0 ? "~" : "";
-            shape += node.child != 0 ? "(" + Shape(nRecord) + ")" : "";
+            if (node.child != 0) {
+                (shape += "(").append(Shape(nRecord)) += ")";
+            }
         }
         return shape;
     }

@@ -30,8 +30,8 @@ protected:
     std::string m_output;
 };
 
-constexpr const char* kImportTown = "NETWORK_IMPORT\n" TESSALY_SOURCE_DIR
-                                    "/share/sample/town-water.inp\nTown\n";
+constexpr const char* kImportTown =
+    "NETWORK_IMPORT\n" TESSALY_SOURCE_DIR "/share/sample/town-water.inp\nTown\n";
 
 TEST_F(ProgramTest, ImportsAndChecksANetworkByScript) {
     EXPECT_EQ(RunScript(std::string("# comment\n\n") + kImportTown +
@@ -71,7 +71,8 @@ TEST_F(ProgramTest, AFailedImportLeavesTheDrawingAsItWas) {
 }
 
 TEST_F(ProgramTest, TheConsoleRunsInsideTheHost) {
-    EXPECT_EQ(Run("", "test\nlist\nsystem_list\nnonsense\n\x1B\nexit\nSYSTEM_LIST\nQUIT\nHELP\n"), 0);
+    EXPECT_EQ(Run("", "test\nlist\nsystem_list\nnonsense\n\x1B\nexit\nSYSTEM_LIST\nQUIT\nHELP\n"),
+              0);
     for (const char* text : {"Halvane Command processor.", "cmdId (description)\n",
                              "SYSTEM_LIST (lists the systems of the drawing)",
                              "The drawing has no systems.", "Unknown command!"}) {
@@ -113,7 +114,8 @@ TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
     const std::string install = m_folder.Native("install");
     std::filesystem::create_directories(install + TESSALY_FIXTURES_DIR);
     for (const auto& entry : std::filesystem::directory_iterator(TESSALY_STAGE_DIR)) {
-        std::filesystem::create_symlink(entry.path(), install + "/" + entry.path().filename().string());
+        std::filesystem::create_symlink(entry.path(),
+                                        install + "/" + entry.path().filename().string());
     }
     std::filesystem::create_symlink(TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx",
                                     install + TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx");

@@ -8,10 +8,12 @@ namespace Orvane::Workspace {
 namespace {
 
 const std::string kStars = std::string(53, '*') + "\n";
-const std::string kBanner = kStars + "Halvane Command processor.\n"
-                                     "type 'exit' to quit\n"
-                                     "type 'list' to show available commands\n"
-                                     "type 'config' to show plugin dialog\n" + kStars;
+const std::string kBanner = kStars +
+                            "Halvane Command processor.\n"
+                            "type 'exit' to quit\n"
+                            "type 'list' to show available commands\n"
+                            "type 'config' to show plugin dialog\n" +
+                            kStars;
 
 /// Notes what it was asked to run, and how the command line looked meanwhile.
 class Recorder final : public IWsCommandExecutor {

@@ -118,16 +118,15 @@ TEST_F(TraceTest, TextsOfAllKinds) {
     EXPECT_FALSE(WS_TRACE_VERIFY(object, "object"));
     EXPECT_TRUE(WS_TRACE_VERIFY(pointer, "pointer"));
     WS_TRACE_FORMAT(L"Module = %s, %s", CString(L"a.arx"), L"ON");
-    const std::vector<std::string> expected = {
-        "wide \u00E8",
-        "Error: Bad pointer",
-        "name \xE8",
-        "42",
-        "lpszFileName = 'C:\\a.dwg'",
-        "lpszFileName = 'Error: Bad pointer'",
-        "pDoc = '" + address.str() + "'",
-        "Failed verification:  'object'",
-        "Module = a.arx, ON"};
+    const std::vector<std::string> expected = {"wide \u00E8",
+                                               "Error: Bad pointer",
+                                               "name \xE8",
+                                               "42",
+                                               "lpszFileName = 'C:\\a.dwg'",
+                                               "lpszFileName = 'Error: Bad pointer'",
+                                               "pDoc = '" + address.str() + "'",
+                                               "Failed verification:  'object'",
+                                               "Module = a.arx, ON"};
     EXPECT_EQ(Texts(), expected);
 }
 

@@ -60,9 +60,14 @@ TEST(WsCommandRegistry, LookUpByIdTriesOnceMoreWithoutTheLastCharacter) {
     const struct {
         const wchar_t* asked;
         const wchar_t* found;
-    } cases[] = {{L"RUN_X", L"RUN_X"}, {L"RUN_X1", L"RUN_X"},  {L"RUN_XY", L"RUN_XY"},
-                 {L"", L""},           {L"Z", L""},            {L"RUN_X12", nullptr},
-                 {L"run_x", nullptr},  {L"RUN_XYZ", L"RUN_XY"}};
+    } cases[] = {{L"RUN_X", L"RUN_X"},
+                 {L"RUN_X1", L"RUN_X"},
+                 {L"RUN_XY", L"RUN_XY"},
+                 {L"", L""},
+                 {L"Z", L""},
+                 {L"RUN_X12", nullptr},
+                 {L"run_x", nullptr},
+                 {L"RUN_XYZ", L"RUN_XY"}};
     for (const auto& row : cases) {
         const CommandPtr command = registry.GetWsCommandById(row.asked);
         ASSERT_EQ(command != nullptr, row.found != nullptr) << CString(row.asked).Str().size();
@@ -227,14 +232,20 @@ TEST(WsCommandRegistryXml, BadTextsGiveWhatCanBeRead) {
         {"empty", L"", 0, L""},
         {"wrong root", L"<registry><wsCommand id=\"A\"/></registry>", 0, L""},
         {"no command", L"<wsCommandRegistry ></wsCommandRegistry>", 1, L""},
-        {"duplicate", L"<wsCommandRegistry><wsCommand id=\"A\"/><wsCommand id=\"A\"/><wsCommand "
-                      L"id=\"B\"/></wsCommandRegistry>", 1, L"A B "},
+        {"duplicate",
+         L"<wsCommandRegistry><wsCommand id=\"A\"/><wsCommand id=\"A\"/><wsCommand "
+         L"id=\"B\"/></wsCommandRegistry>",
+         1, L"A B "},
         // An element that is not ended keeps no children.
         {"cut", L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand><wsCommand id=\"B", 1, L""},
-        {"ended twice", L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand></wsCommand>"
-                        L"</wsCommandRegistry>", 1, L"A "},
-        {"foreign elements", L"<wsCommandRegistry><x/><wsCommand id=\"A\"/><wsCommandX id=\"C\"/>"
-                             L"</wsCommandRegistry>", 1, L"A "},
+        {"ended twice",
+         L"<wsCommandRegistry><wsCommand id=\"A\"></wsCommand></wsCommand>"
+         L"</wsCommandRegistry>",
+         1, L"A "},
+        {"foreign elements",
+         L"<wsCommandRegistry><x/><wsCommand id=\"A\"/><wsCommandX id=\"C\"/>"
+         L"</wsCommandRegistry>",
+         1, L"A "},
     };
     for (const auto& row : cases) {
         CWsCommandRegistry registry;

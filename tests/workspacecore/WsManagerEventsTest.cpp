@@ -30,7 +30,9 @@ public:
         Note("SaveCompleted", {Text(p), Text(t)});
     }
     void OnAcadDocumentBecomeCurrent(AcApDocument* p) override { Note("Current", {Text(p)}); }
-    void OnAcadDocumentToBeDeactivated(AcApDocument* p) override { Note("ToBeDeactivated", {Text(p)}); }
+    void OnAcadDocumentToBeDeactivated(AcApDocument* p) override {
+        Note("ToBeDeactivated", {Text(p)});
+    }
     void OnAcadDocumentToBeDestroyed(AcApDocument* p) override { Note("ToBeDestroyed", {Text(p)}); }
     void OnAcadDocumentDestroyed(const wchar_t* t) override { Note("Destroyed", {Text(t)}); }
     void OnSystemChanged(System::CGisSystem* p) override { Note("Changed", {Text(p)}); }
@@ -59,8 +61,7 @@ public:
                                    const wchar_t* g) override {
         Note("DefinitionChanged", {Text(p), Text(t), Text(g)});
     }
-    void OnConfigBecomeDefault(System::CGisSystem* p, const wchar_t* t,
-                               const wchar_t* g) override {
+    void OnConfigBecomeDefault(System::CGisSystem* p, const wchar_t* t, const wchar_t* g) override {
         Note("Default", {Text(p), Text(t), Text(g)});
     }
     void OnBeforeCommandActivated(const wchar_t* t) override { Note("BeforeCommand", {Text(t)}); }
@@ -149,7 +150,8 @@ protected:
             }
             texts += (text.find("tering function") != std::string::npos   ? "{"
                       : text.find("xiting function") != std::string::npos ? "}"
-                                                                          : text) + "|";
+                                                                          : text) +
+                     "|";
         }
         return texts;
     }
@@ -219,8 +221,7 @@ TEST_F(EventsTest, AnExceptionEndsTheDeliveryAndEventsNestDepthFirst) {
               "1Active,null 1Settings 2Settings 2Active,null ");
     first.m_whenActive = [] { throw std::runtime_error("listener"); };
     m_log.clear();
-    EXPECT_THROW(CWsManager::Instance()->Raise_OnSystemBecomeActive(m_pSystem),
-                 std::runtime_error);
+    EXPECT_THROW(CWsManager::Instance()->Raise_OnSystemBecomeActive(m_pSystem), std::runtime_error);
     EXPECT_EQ(m_log, "1Active,object ");
 }
 
@@ -265,19 +266,28 @@ TEST_F(EventsTest, TracesOfEveryEvent) {
     CLogEngine::SetLogging(1, m_host.Support().Native("trace.log"));
     CWsManager::Instance();
     Traced();
-    const char* const expected[] = {
-        "a.dwg|", "a.dwg|",
-        "{|pActivatedDoc = '@'|}|", "",
-        "{|pDocToDestroy = '@'|}|", "{|lpszFileName = 'a.dwg'|}|",
-        "{|Water|}|", "{|pSysToBecomeActive = '@'|Water|}|",
-        "", "Water|",
-        "Water|", "{|Water|}|",
-        "Marker|", "{|pNewSystem = '@'|Water|}|",
-        "lpszRepositoryTag = 't'|lpszNewDefinitionGuid = 'g'|", "",
-        "lpszRepositoryTag = 't'|lpszDefinitionGuidToBeDeleted = 'g'|",
-        "lpszRepositoryTag = 't'|lpsChangedDefinitionGuid = 'g'|",
-        "lpszRepositoryTag = 't'|lpszDefaultDefinitionGuid = 'g'|", "{|ID|}|",
-        "{|ID|}|", "Marker|"};
+    const char* const expected[] = {"a.dwg|",
+                                    "a.dwg|",
+                                    "{|pActivatedDoc = '@'|}|",
+                                    "",
+                                    "{|pDocToDestroy = '@'|}|",
+                                    "{|lpszFileName = 'a.dwg'|}|",
+                                    "{|Water|}|",
+                                    "{|pSysToBecomeActive = '@'|Water|}|",
+                                    "",
+                                    "Water|",
+                                    "Water|",
+                                    "{|Water|}|",
+                                    "Marker|",
+                                    "{|pNewSystem = '@'|Water|}|",
+                                    "lpszRepositoryTag = 't'|lpszNewDefinitionGuid = 'g'|",
+                                    "",
+                                    "lpszRepositoryTag = 't'|lpszDefinitionGuidToBeDeleted = 'g'|",
+                                    "lpszRepositoryTag = 't'|lpsChangedDefinitionGuid = 'g'|",
+                                    "lpszRepositoryTag = 't'|lpszDefaultDefinitionGuid = 'g'|",
+                                    "{|ID|}|",
+                                    "{|ID|}|",
+                                    "Marker|"};
     const auto events = AllEvents();
     ASSERT_EQ(events.size(), std::size(expected));
     for (std::size_t i = 0; i < events.size(); ++i) {

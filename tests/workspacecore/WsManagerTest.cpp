@@ -38,9 +38,8 @@ boost::shared_ptr<CWsCommand> Command(const wchar_t* id, IWsCommandExecutor* pEx
 
 bool IsNeutral(const CExecutorReturnValue& value) {
     return value.m_nStatus == 0 && value.m_nNumber == -1 && value.m_enmEntityType == EntityNone &&
-           value.m_strText1.IsEmpty() && value.m_strText2.IsEmpty() &&
-           value.m_strText3.IsEmpty() && value.m_strText4.IsEmpty() &&
-           value.m_strText5.IsEmpty() && value.m_strText6.IsEmpty();
+           value.m_strText1.IsEmpty() && value.m_strText2.IsEmpty() && value.m_strText3.IsEmpty() &&
+           value.m_strText4.IsEmpty() && value.m_strText5.IsEmpty() && value.m_strText6.IsEmpty();
 }
 
 TEST(WsManager, TheFirstExecutorStaysTheBaseExecutor) {
@@ -69,9 +68,9 @@ TEST(WsManager, PublishersAreSharedByName) {
 }
 
 TEST(WsManager, RunsAfterDropOnlyForExactlyOne) {
-    for (const auto& [text, expected] : {std::pair("", 0), std::pair("RUN_AFTER_DROP=1", 1),
-                                         std::pair("RUN_AFTER_DROP=2", 0),
-                                         std::pair("RUN_AFTER_DROP=0", 0)}) {
+    for (const auto& [text, expected] :
+         {std::pair("", 0), std::pair("RUN_AFTER_DROP=1", 1), std::pair("RUN_AFTER_DROP=2", 0),
+          std::pair("RUN_AFTER_DROP=0", 0)}) {
         const TestHost host;
         host.Support().Write("Settings.ini", std::string("[General]\n") + text + "\n");
         CModuleConfiguration::Instance()->ReloadGeneralSettings();
@@ -140,8 +139,8 @@ TEST(WsCommandManager, SetDataCommandsOfASystem) {
     for (const auto& row : rows) {
         const auto command = Command(row.id);
         command->SetIsSetDataCommand(row.isSetData);
-        command->AddWsTopologyData(boost::shared_ptr<CWsTopologyData>(
-            new CWsTopologyData(TopologyLine, row.function)));
+        command->AddWsTopologyData(
+            boost::shared_ptr<CWsTopologyData>(new CWsTopologyData(TopologyLine, row.function)));
         pManager->RegisterWsCommand(command);
     }
     CWsCommandRegistry::CommandVector commands(3);

@@ -63,15 +63,19 @@ TEST(WsModuleRegistry, BadTextsGiveWhatCanBeRead) {
         {"wrong root", L"<modules><module on='1' fileName='a'/></modules>", 0, L""},
         {"no module", L"<moduleRegistry ></moduleRegistry>", 1, L""},
         {"missing attributes", L"<moduleRegistry><module/></moduleRegistry>", 1, L"- "},
-        {"bad numbers", L"<moduleRegistry><module on='yes' fileName='a'/><module on=' 7th' "
-                        L"fileName='b'/></moduleRegistry>", 1, L"a- b+ "},
+        {"bad numbers",
+         L"<moduleRegistry><module on='yes' fileName='a'/><module on=' 7th' "
+         L"fileName='b'/></moduleRegistry>",
+         1, L"a- b+ "},
         {"entities", L"<moduleRegistry><module fileName='a&amp;lt;b&#65;'/></moduleRegistry>", 1,
          L"a<bA- "},
         // An element that is not ended keeps no children.
         {"cut", L"<moduleRegistry><module on='1' fileName='a'></module><module fileName='b", 1,
          L""},
-        {"ended twice", L"<moduleRegistry><module on='1' fileName='a'></module></module>"
-                        L"</moduleRegistry>", 1, L"a+ "},
+        {"ended twice",
+         L"<moduleRegistry><module on='1' fileName='a'></module></module>"
+         L"</moduleRegistry>",
+         1, L"a+ "},
         {"cut escape", L"<moduleRegistry><module fileName='ab=EF=B'/></moduleRegistry>", 1,
          L"ab- "},
     };
@@ -93,8 +97,10 @@ TEST(WsModuleRegistry, FilesKeepTheListOnlyIfTheyCannotBeRead) {
         int result;
         const wchar_t* files;
     } cases[] = {
-        {"missing.xml", 0, L"old+ "}, {"good.xml", 1, L"a- "},
-        {"ill.xml", 1, L"a- "},       {"empty.xml", 0, L""},
+        {"missing.xml", 0, L"old+ "},
+        {"good.xml", 1, L"a- "},
+        {"ill.xml", 1, L"a- "},
+        {"empty.xml", 0, L""},
     };
     for (const auto& row : cases) {
         CWsModuleRegistry registry;
@@ -126,9 +132,14 @@ TEST(WsModuleRegistry, OnlyLoadedModulesExist) {
         const wchar_t* file;
         int exists;
     } cases[] = {
-        {L"C:\\x\\abc.arx", 1},     {L"/usr/lib/abc.arx", 1}, {L"abc.arx", 1},
-        {L"listed.arx", 0},         {L"whole.arx", 0},        {L"/OPT/x/whole.arx", 1},
-        {L"/other/abc.arx.bak", 0}, {L"", 0},
+        {L"C:\\x\\abc.arx", 1},
+        {L"/usr/lib/abc.arx", 1},
+        {L"abc.arx", 1},
+        {L"listed.arx", 0},
+        {L"whole.arx", 0},
+        {L"/OPT/x/whole.arx", 1},
+        {L"/other/abc.arx.bak", 0},
+        {L"", 0},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(registry.DoesModuleExist(row.file), row.exists) << CString(row.file).Str().size();

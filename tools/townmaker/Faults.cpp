@@ -9,8 +9,9 @@ constexpr double kField = 60;
 Place FieldOf(const Town& town, std::uint64_t number) {
     const Place corner = town.PlaceOf({0, 0});
     const std::uint64_t perRow = 2 * std::uint64_t{town.Columns()};
+    const std::uint64_t row = number / perRow;
     return {corner.x + static_cast<double>(number % perRow) * kField,
-            corner.y - 500 - static_cast<double>(number / perRow) * kField};
+            corner.y - 500 - static_cast<double>(row) * kField};
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "Networks.h"
 
@@ -36,23 +38,30 @@ std::optional<std::uint64_t> ToNumber(std::string_view text) {
     return isWhole ? std::optional(value) : std::nullopt;
 }
 
+/// Whether the option is known; its value may still be unsound.
+bool TakeOption(Wishes& wishes, std::string_view option, const char* value) {
+    if (option == "--format") {
+        wishes.format = value;
+        return true;
+    }
+    const std::pair<std::string_view, std::optional<std::uint64_t>&> numbers[] = {
+        {"--seed", wishes.seed}, {"--sections", wishes.sections}, {"--faults", wishes.faults}};
+    for (const auto& [name, number] : numbers) {
+        if (name == option) {
+            number = ToNumber(value);
+            return true;
+        }
+    }
+    return false;
+}
+
 std::optional<Wishes> ReadWishes(int count, char** words) {
     Wishes wishes;
     for (int i = 1; i < count; ++i) {
         const std::string_view word = words[i];
         if (!word.starts_with("--")) {
             wishes.file = word;
-        } else if (i + 1 == count) {
-            return std::nullopt;
-        } else if (word == "--seed") {
-            wishes.seed = ToNumber(words[++i]);
-        } else if (word == "--sections") {
-            wishes.sections = ToNumber(words[++i]);
-        } else if (word == "--faults") {
-            wishes.faults = ToNumber(words[++i]);
-        } else if (word == "--format") {
-            wishes.format = words[++i];
-        } else {
+        } else if (i + 1 == count || !TakeOption(wishes, word, words[++i])) {
             return std::nullopt;
         }
     }

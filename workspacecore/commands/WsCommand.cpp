@@ -51,14 +51,14 @@ CString CWsCommand::GetXML() const {
         return static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(pointer));
     };
     CString xml(L"<wsCommand ");
-    xml.AppendFormat(
-        L"id=\"%s\" name=\"%s\" description=\"%s\" icon=\"%d\" repoCmdBehavior=\"%d\" "
-        L"cmdGroup=\"%d\" repositoryTag=\"%s\" wsItemTypes=\"%d\" cmdExecutor=\"%d\" "
-        L"setCmd=\"%s\" ",
-        EncodeXmlField(m_strId), EncodeXmlField(m_strName), EncodeXmlField(m_strDescription),
-        low32(m_hIcon), m_treeCmdBehavior, m_cmdGroup, EncodeXmlField(m_strRepositoryTag),
-        static_cast<std::int32_t>(m_nWsItemTypes), low32(m_pCmdExecutor),
-        FormatText(L"%d", m_bIsSetDataCommand));
+    xml.AppendFormat(L"id=\"%s\" name=\"%s\" description=\"%s\" icon=\"%d\" repoCmdBehavior=\"%d\" "
+                     L"cmdGroup=\"%d\" repositoryTag=\"%s\" wsItemTypes=\"%d\" cmdExecutor=\"%d\" "
+                     L"setCmd=\"%s\" ",
+                     EncodeXmlField(m_strId), EncodeXmlField(m_strName),
+                     EncodeXmlField(m_strDescription), low32(m_hIcon), m_treeCmdBehavior,
+                     m_cmdGroup, EncodeXmlField(m_strRepositoryTag),
+                     static_cast<std::int32_t>(m_nWsItemTypes), low32(m_pCmdExecutor),
+                     FormatText(L"%d", m_bIsSetDataCommand));
     return xml += L"></wsCommand>";
 }
 

@@ -20,9 +20,9 @@ IWsCommandExecutor* CWsCommandManager::FindExecutor(const wchar_t* lpszCommandId
     return command ? command->GetCmdExecutor() : nullptr;
 }
 
-boost::shared_ptr<CExecutorReturnValue>
-CWsCommandManager::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* pQuery,
-                           CWsTreeItemData* pItemData) {
+boost::shared_ptr<CExecutorReturnValue> CWsCommandManager::Execute(const wchar_t* lpszCommandId,
+                                                                   Query::CQueryDefinition* pQuery,
+                                                                   CWsTreeItemData* pItemData) {
     m_strLastCommand = lpszCommandId;
     WS_TRACE_SCOPE();
     WS_TRACE_TEXT(lpszCommandId);

@@ -25,10 +25,9 @@ public:
     boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* lpszCommandId,
                                                     Query::CQueryDefinition* pQuery,
                                                     CWsTreeItemData* pItemData);
-    boost::shared_ptr<CExecutorReturnValue> ExecuteExplicite(const wchar_t* lpszCommandId,
-                                                             CRepositoryItem* pRepositoryItem,
-                                                             Selection::CSelectionSet* pSelectionSet,
-                                                             void* pData);
+    boost::shared_ptr<CExecutorReturnValue>
+    ExecuteExplicite(const wchar_t* lpszCommandId, CRepositoryItem* pRepositoryItem,
+                     Selection::CSelectionSet* pSelectionSet, void* pData);
 
     CString GetLastCommand() const { return m_strLastCommand; }
     void SetLastCommand(const wchar_t* lpszCommandId) { m_strLastCommand = lpszCommandId; }

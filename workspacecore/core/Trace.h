@@ -40,15 +40,8 @@ inline constexpr int kTraceLevel = 3;
 
 namespace Trace {
 
-/// A function's signature as the compiler spells it, usable as a template argument.
-template <std::size_t N>
-struct Signature {
-    char text[N]{};
-    consteval Signature(const char (&signature)[N]) { std::copy_n(signature, N, text); }
-};
-
 /// The qualified name in a signature: no return type, no arguments.
-consteval std::string_view QualifiedName(std::string_view signature) {
+constexpr std::string_view QualifiedName(std::string_view signature) {
     constexpr std::string_view kCallOperator = "operator()";
     std::size_t open = signature.find(kCallOperator);
     open = open == std::string_view::npos ? signature.find('(')
@@ -66,13 +59,14 @@ consteval std::string_view QualifiedName(std::string_view signature) {
     return name;
 }
 
-template <Signature S>
-inline constexpr auto kFunctionName = [] {
-    constexpr std::string_view name = QualifiedName(std::string_view(S.text));
-    std::array<char, name.size() + 1> text{};
+/// The qualified name of a function whose signature the compiler spells, ended with a NUL.
+template <std::size_t N>
+consteval std::array<char, N> FunctionName(const char (&signature)[N]) {
+    std::array<char, N> text{};
+    const std::string_view name = QualifiedName(std::string_view(signature, N - 1));
     std::copy(name.begin(), name.end(), text.begin());
     return text;
-}();
+}
 
 /// The level in force; sites above it stay silent.
 WORKSPACE_API int Level();
@@ -88,8 +82,7 @@ inline std::string Narrow(const char* text) {
     return text ? text : "Error: Bad pointer";
 }
 template <class T>
-    requires std::is_arithmetic_v<T>
-std::string Narrow(T number) {
+requires std::is_arithmetic_v<T> std::string Narrow(T number) {
     return std::to_string(number);
 }
 
@@ -147,13 +140,12 @@ private:
 } // namespace Orvane::Workspace
 
 #define WS_TRACE_SITE                                                                              \
-    ::Orvane::Workspace::CTraceLocation {                                                          \
-        __FILE_NAME__, __LINE__,                                                                   \
-            ::Orvane::Workspace::Trace::kFunctionName<::Orvane::Workspace::Trace::Signature(       \
-                __PRETTY_FUNCTION__)>                                                              \
-                .data(),                                                                           \
-            ::Orvane::Workspace::kTraceLevel                                                       \
-    }
+    __extension__({                                                                                \
+        static constexpr auto wsFunctionName =                                                     \
+            ::Orvane::Workspace::Trace::FunctionName(__PRETTY_FUNCTION__);                         \
+        ::Orvane::Workspace::CTraceLocation{__FILE_NAME__, __LINE__, wsFunctionName.data(),        \
+                                            ::Orvane::Workspace::kTraceLevel};                     \
+    })
 #define WS_TRACE_WHEN_ON(call)                                                                     \
     do {                                                                                           \
         if (::Orvane::CLogEngine::GetLoggingOnOff()) {                                             \
@@ -162,7 +154,9 @@ private:
     } while (false)
 
 #define WS_TRACE_SCOPE()                                                                           \
-    const ::Orvane::Workspace::Trace::Scope wsTraceScope { WS_TRACE_SITE }
+    const ::Orvane::Workspace::Trace::Scope wsTraceScope {                                         \
+        WS_TRACE_SITE                                                                              \
+    }
 #define WS_TRACE_TEXT(text) WS_TRACE_WHEN_ON(Text(WS_TRACE_SITE, text))
 #define WS_TRACE_VALUE(name, value) WS_TRACE_WHEN_ON(Value(WS_TRACE_SITE, name, value))
 #define WS_TRACE_FORMAT(...) WS_TRACE_WHEN_ON(Format(WS_TRACE_SITE, __VA_ARGS__))

@@ -50,9 +50,7 @@ public:
     Notification::CPublisher* GetSelectionInProgressPbl() const {
         return m_pSelectionInProgressPbl;
     }
-    Notification::CPublisher* GetSelectionCompletedPbl() const {
-        return m_pSelectionCompletedPbl;
-    }
+    Notification::CPublisher* GetSelectionCompletedPbl() const { return m_pSelectionCompletedPbl; }
 
     // Registration, for plug-ins in their hooks. No argument is checked.
     /// 0 if there is a command of that id already.

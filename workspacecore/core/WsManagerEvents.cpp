@@ -54,8 +54,7 @@ void CWsManager::Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t*
     Deliver(&IWsListener::OnBeginSaveAcadDocument, pDb, lpszFileName);
 }
 
-void CWsManager::Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb,
-                                                   const wchar_t* lpszFileName) {
+void CWsManager::Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
     WS_TRACE_TEXT(lpszFileName);
     Deliver(&IWsListener::OnSaveCompletedAcadDocument, pDb, lpszFileName);
 }

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include "platform/win/CodePage.h"
+#include "tests/support/TestHost.h"
+#include "workspacecore/foundation/XmlDocument.h"
+
+namespace Orvane {
+namespace {
+
+using namespace std::string_literals;
+
+class XmlDocumentFile : public testing::Test {
+protected:
+    bool Load(const std::string& content) {
+        m_folder.Write("a.xml", content);
+        return m_doc.Load(m_folder.Wide("a.xml"));
+    }
+    std::string Error() const { return WideToUtf8(m_doc.GetError().View()); }
+
+    TempFolder m_folder;
+    XmlDocument m_doc;
+};
+
+TEST_F(XmlDocumentFile, ReportsWhatItHasRead) {
+    const struct {
+        std::string content;
+        bool wellFormed;
+        const char* error;
+    } cases[] = {
+        {"<a/>", true, "4 bytes to 4 wide chars"},
+        {"<a b='\xC3\xA9\xF0\x9F\x98\x80'/>", true, "15 bytes to 11 wide chars"},
+        {"", false, "0 bytes to 0 wide chars, Empty document"},
+        {"<a>", false, "3 bytes to 3 wide chars, Element 'a' at offset 0 not ended"},
+        {"\xEF\xBB\xBF<a/>", true, "7 bytes to 5 wide chars"},
+        {"<a b='\xFF\xC3'/>", true, "11 bytes to 11 wide chars"},
+        {"<a>\xF0\x9F", false, "5 bytes to 5 wide chars, Element 'a' at offset 0 not ended"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(Load(c.content), c.wellFormed) << c.content;
+        EXPECT_EQ(Error(), c.error);
+        EXPECT_EQ(m_doc.GetDoc().Str(), Utf8ToWide(c.content));
+    }
+}
+
+TEST_F(XmlDocumentFile, ReadsTheSameWhereverThePiecesOfAFileEnd) {
+    std::string content = "<a b='";
+    while (content.size() < 700000) {
+        // Lengths without a common divisor, so that letters of every size lie across any border.
+        content += "abc\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\xE2\x82\xFFplain text in between";
+    }
+    content += "'/>";
+    for (const char* pszShift : {"", " ", "  ", "   "}) {
+        ASSERT_TRUE(Load(pszShift + content)) << Error();
+        EXPECT_TRUE(m_doc.GetDoc().Str() == Utf8ToWide(pszShift + content));
+    }
+}
+
+TEST_F(XmlDocumentFile, TakesNulsAsCharacters) {
+    EXPECT_TRUE(Load("<a b='1\0002'><c\0d e='3'/></a>"s)) << Error();
+    ASSERT_TRUE(m_doc.FindElem(L"a"));
+    EXPECT_EQ(m_doc.GetAttrib(L"b").View(), L"1\0002"s);
+    m_doc.IntoElem();
+    EXPECT_FALSE(m_doc.FindElem(L"c")) << "only a part of its name";
+    EXPECT_TRUE(m_doc.FindElem());
+    EXPECT_EQ(m_doc.GetAttrib(L"e"), L"3");
+
+    EXPECT_TRUE(Load("<a\0></a\0>"s)) << Error();
+    EXPECT_FALSE(Load("<a\0></a>"s)) << Error();
+    EXPECT_FALSE(Load("<a><\0/></a>"s));
+    EXPECT_NE(Error().find("Incorrect tag name character at offset 3"), std::string::npos);
+    EXPECT_TRUE(m_doc.Save(m_folder.Wide("b.xml")));
+    EXPECT_EQ(m_folder.Read("b.xml"), "<a><\0/></a>"s);
+}
+
+TEST_F(XmlDocumentFile, KeepsItsTextIfThereIsNothingToRead) {
+    m_doc.SetDoc(L"<a n='1'><b/></a>");
+    m_doc.FindElem();
+    EXPECT_FALSE(m_doc.Load(m_folder.Wide("missing.xml")));
+    EXPECT_EQ(Error(), "No such file or directory");
+    EXPECT_FALSE(m_doc.Load(m_folder.Wide("")));
+    EXPECT_EQ(Error(), "Is a directory");
+    EXPECT_EQ(m_doc.GetDoc(), L"<a n='1'><b/></a>");
+    EXPECT_EQ(m_doc.GetAttrib(L"n"), L"1");
+}
+
+TEST_F(XmlDocumentFile, RefusesWhatOffsetsCannotReach) {
+    Load("<a/>");
+    m_folder.Write("large.xml", "<a>");
+    std::filesystem::resize_file(m_folder / "large.xml", 1ULL << 31);
+    EXPECT_FALSE(m_doc.Load(m_folder.Wide("large.xml")));
+    EXPECT_EQ(Error(),
+              "Document of 2147483648 bytes exceeds the limit of 2147483647, Empty document");
+    EXPECT_EQ(m_doc.GetDoc(), L"");
+    EXPECT_FALSE(m_doc.FindElem());
+}
+
+TEST_F(XmlDocumentFile, WritesTheTextAsItStands) {
+    const struct {
+        const wchar_t* text;
+        std::string content;
+        const char* report;
+    } cases[] = {
+        {L"<a/>", "<a/>", "4 wide chars to 4 bytes"},
+        {L"<a b='\u00E9\u20AC\U0001F600'/>", "<a b='\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80'/>",
+         "12 wide chars to 18 bytes"},
+        {L"\xFEFF<a>\r\n", "\xEF\xBB\xBF<a>\r\n", "6 wide chars to 8 bytes"},
+        {L"", "", "0 wide chars to 0 bytes"},
+    };
+    for (const auto& c : cases) {
+        m_doc.SetDoc(c.text);
+        EXPECT_TRUE(m_doc.Save(m_folder.Wide("out.xml")));
+        EXPECT_EQ(Error(), c.report);
+        EXPECT_EQ(m_folder.Read("out.xml"), c.content);
+    }
+}
+
+TEST_F(XmlDocumentFile, TellsWhyItCouldNotWrite) {
+    m_doc.SetDoc(L"<a/>");
+    EXPECT_FALSE(m_doc.Save(m_folder.Wide("missing/out.xml")));
+    EXPECT_EQ(Error(), "No such file or directory");
+    EXPECT_FALSE(m_doc.Save(L"/dev/full"));
+    EXPECT_EQ(Error(), "No space left on device");
+    m_doc.SetDoc(std::wstring(100000, L'x').c_str());
+    EXPECT_FALSE(m_doc.Save(L"/dev/full"));
+    EXPECT_EQ(Error(), "No space left on device");
+}
+
+} // namespace
+} // namespace Orvane

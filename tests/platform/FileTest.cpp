@@ -1,0 +1,82 @@
+#include "platform/win/File.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/win/ErrorText.h"
+#include "platform/win/IniFile.h"
+#include "tests/support/TestHost.h"
+
+TEST(File, ABackslashSeparatesFoldersToo) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "Öl");
+    folder.Write("Öl/a.txt", "content");
+    EXPECT_EQ(ReadFileBytes(folder.Wide("") + L"\\Öl\\a.txt"), "content");
+    EXPECT_TRUE(FileExists(folder.Wide("Öl\\a.txt")));
+    EXPECT_EQ(FileNameOf(L"a/b\\c.txt").Str(), L"c.txt");
+    EXPECT_EQ(FileNameOf(L"a\\b/c.txt").Str(), L"c.txt");
+    EXPECT_EQ(FileNameOf(L"c.txt").Str(), L"c.txt");
+    EXPECT_EQ(FileNameOf(L"c/").Str(), L"");
+    EXPECT_EQ(FileNameOf(nullptr).Str(), L"");
+}
+
+TEST(File, WithSeparatorAddsOneAtMost) {
+    EXPECT_EQ(WithSeparator(L"").Str(), L"");
+    EXPECT_EQ(WithSeparator(L"/a").Str(), L"/a/");
+    EXPECT_EQ(WithSeparator(L"/a/").Str(), L"/a/");
+    EXPECT_EQ(WithSeparator(L"a\\").Str(), L"a\\");
+    EXPECT_EQ(WithSeparator(L"/").Str(), L"/");
+}
+
+TEST(File, AFailedReadSaysWhy) {
+    const TempFolder folder;
+    EXPECT_FALSE(ReadFileBytes(folder.Wide("none")));
+    EXPECT_EQ(LastErrorText().Str(), L"No such file or directory");
+    EXPECT_FALSE(ReadFileBytes(folder.Wide("")));
+    EXPECT_EQ(LastErrorText().Str(), L"Is a directory");
+    EXPECT_FALSE(ReadFileBytes(nullptr));
+}
+
+TEST(File, AnEmptyFileIsNoFailure) {
+    const TempFolder folder;
+    folder.Write("empty", "");
+    EXPECT_EQ(ReadFileBytes(folder.Wide("empty")), "");
+}
+
+TEST(IniFile, ReadsSectionsInTheirOrder) {
+    IniFile file;
+    file.Parse("\xEF\xBB\xBF; comment\r\n[ One ]\r\n key = a=b \r\nKEY=second\r\n# c\n"
+               "[two]\nempty=\nlast=Straße",
+               L"x.ini");
+    EXPECT_TRUE(file.GetProblems().empty());
+    ASSERT_EQ(file.GetSections().size(), 2U);
+    EXPECT_EQ(file.GetSections()[0].name.Str(), L"One");
+    EXPECT_EQ(file.GetSections()[1].line, 6);
+    EXPECT_EQ(file.GetSections()[1].entries[1].line, 8);
+    EXPECT_EQ(file.Find(L"ONE", L"Key")->Str(), L"a=b"); // the first of two
+    EXPECT_EQ(file.Find(L"two", L"empty")->Str(), L"");
+    EXPECT_EQ(file.Find(L"two", L"last")->Str(), L"Straße");
+    EXPECT_EQ(file.Find(L"two", L"key"), nullptr);
+    EXPECT_EQ(file.Find(L"three", L"key"), nullptr);
+}
+
+TEST(IniFile, NamesEachLineThatItPassesOver) {
+    IniFile file;
+    file.Parse("early=1\n[a]\nno equals\n=no key\n[unclosed\nk=v\n", L"f.ini");
+    ASSERT_EQ(file.GetProblems().size(), 4U);
+    const wchar_t* const places[] = {L"f.ini:1: ", L"f.ini:3: ", L"f.ini:4: ", L"f.ini:5: "};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(file.GetProblems()[i].Find(places[i]), 0) << i;
+    }
+    EXPECT_EQ(file.Find(L"a", L"k")->Str(), L"v");
+}
+
+TEST(IniFile, ANewReadForgetsTheOldOne) {
+    const TempFolder folder;
+    folder.Write("a.ini", "[s]\nk=1\nbad\n");
+    IniFile file;
+    ASSERT_TRUE(file.Load(folder.Wide("a.ini")));
+    file.Parse("[t]\n", L"b");
+    EXPECT_EQ(file.Find(L"s", L"k"), nullptr);
+    EXPECT_TRUE(file.GetProblems().empty());
+    EXPECT_FALSE(file.Load(folder.Wide("none.ini")));
+}

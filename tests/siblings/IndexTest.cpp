@@ -1,0 +1,138 @@
+// Search by place, over the current drawing.
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+
+#include "siblings/giscoreadds/NodeIndex.h"
+#include "siblings/giscoreadds/PolygonIndex.h"
+#include "siblings/networkcore/TopologyStorage.h"
+#include "tests/support/TestDrawing.h"
+
+using namespace Orvane;
+using namespace Orvane::Selection;
+using Topology::EntityId;
+using Topology::Point;
+
+namespace {
+
+class IndexTest : public TestDrawing {
+protected:
+    static CNodeIndex& Nodes() { return *CNodeIndex::Instance(); }
+    static CPolygonIndex& Polygons() { return *CPolygonIndex::Instance(); }
+    EntityId Node(System::CGisSystem& system, double x, double y) {
+        return Storage().AddNode(system, {{}, {x, y}});
+    }
+    EntityId Polygon(System::CGisSystem& system, std::vector<Point> ring) {
+        return Storage().AddPolygon(system, {{}, ring});
+    }
+};
+
+using Ids = std::vector<EntityId>;
+
+} // namespace
+
+TEST_F(IndexTest, NodesAreFoundInABoxAndItsBorder) {
+    System::CGisSystem& system = MakeSystem(L"1");
+    const EntityId a = Node(system, 0, 0);
+    const EntityId b = Node(system, 1, 1);
+    Node(system, 1.001, 0);
+    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a, b}));
+    EXPECT_EQ(Nodes().GetNearestNode(0.9, 0.9, 10), b);
+    EXPECT_EQ(Nodes().GetNearestNode(5, 5, 1), std::nullopt);
+}
+
+TEST_F(IndexTest, ANewNodeIsSeenWithoutATelling) {
+    System::CGisSystem& system = MakeSystem(L"1");
+    EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
+    const EntityId a = Node(system, 0, 0);
+    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
+    Nodes().Changed(1);
+    Nodes().Changed(0);
+    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
+    Storage().RemoveSystemEntities(system.GetSystemId());
+    EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
+}
+
+TEST_F(IndexTest, TheCurrentDrawingIsTheOneSearched) {
+    System::CGisSystem& system = MakeSystem(L"1");
+    const EntityId a = Node(system, 0, 0);
+    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
+    AcApDocument* const pOther = acDocManagerPtr()->newDocument(L"b.dwg");
+    EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
+    EXPECT_TRUE(Polygons().GetPolygonIndex().empty());
+    acDocManagerPtr()->closeDocument(pOther);
+    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
+}
+
+TEST_F(IndexTest, PolygonsAreFoundByPoint) {
+    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
+    // An L with its notch at the upper right, and a square in the notch.
+    const EntityId l = Polygon(parcels, {{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 4}, {0, 4}});
+    const EntityId square = Polygon(parcels, {{2, 2}, {4, 2}, {4, 4}, {2, 4}});
+    struct Case {
+        const char* what;
+        double x, y;
+        Ids expected;
+    };
+    const Case cases[] = {
+        {"inside", 1, 1, {l}},
+        {"in the notch", 3, 3, {square}},
+        {"common edge", 3, 2, {l, square}},
+        {"common corner", 2, 2, {l, square}},
+        {"outer edge", 0, 2, {l}},
+        {"outside", 5, 1, {}},
+        {"level with a corner", -1, 2, {}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Polygons().GetPolygonsAt(c.x, c.y), c.expected) << c.what;
+    }
+    EXPECT_EQ(Polygons().GetPolygonsInBox({2.5, 2.5, 3, 3}), (Ids{l, square})); // by their boxes
+    const PolygonIndexEntry* const pEntry = Polygons().GetIndexEntry(square);
+    ASSERT_NE(pEntry, nullptr);
+    EXPECT_EQ(pEntry->systemId, parcels.GetSystemId());
+    EXPECT_EQ(pEntry->box.minX, 2);
+    EXPECT_EQ(Polygons().GetIndexEntry(square + 1), nullptr);
+    EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
+}
+
+TEST_F(IndexTest, ADegeneratePolygonIsListedAndDoesNoHarm) {
+    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
+    const EntityId none = Polygon(parcels, {});
+    const EntityId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
+    EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
+    EXPECT_NE(Polygons().GetIndexEntry(none), nullptr);
+    EXPECT_EQ(Polygons().GetPolygonsAt(1, 1), (Ids{dot}));
+    EXPECT_EQ(Polygons().GetNearestPolygon(0, 0, 10), dot);
+}
+
+TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
+    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
+    // Thin diagonal strips: their boxes say little about where they are.
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> place(0, 100);
+    std::vector<std::pair<Point, EntityId>> strips;
+    for (int i = 0; i < 300; ++i) {
+        const Point at{place(random), place(random)};
+        const EntityId id =
+            Polygon(parcels,
+                    {at, {at.x + 40, at.y + 40}, {at.x + 40, at.y + 40.001}, {at.x, at.y + 0.001}});
+        strips.emplace_back(at, id);
+    }
+    const auto distance = [](const Point& strip, double x, double y) {
+        const double t = std::clamp(((x - strip.x) + (y - strip.y)) / 2, 0.0, 40.0);
+        return std::hypot(x - strip.x - t, y - strip.y - t);
+    };
+    for (int i = 0; i < 200; ++i) {
+        const double x = place(random);
+        const double y = place(random);
+        double best = 1e9;
+        double found = 1e9;
+        const EntityId nearest = Polygons().GetNearestPolygon(x, y, 1000);
+        for (const auto& [strip, id] : strips) {
+            best = std::min(best, distance(strip, x, y));
+            found = id == nearest ? distance(strip, x, y) : found;
+        }
+        EXPECT_NEAR(found, best, 0.002);
+    }
+    EXPECT_EQ(Polygons().GetNearestPolygon(-500, 0, 10), Topology::kNoEntity);
+}

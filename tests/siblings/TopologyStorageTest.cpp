@@ -1,0 +1,264 @@
+#include "siblings/networkcore/TopologyStorage.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+#include "siblings/giscore/SystemManager.h"
+#include "siblings/networkcore/TopologyMultiStorage.h"
+#include "tests/support/TestDrawing.h"
+
+using namespace Orvane;
+using namespace Orvane::Topology;
+
+namespace {
+
+class TopologyStorageTest : public TestDrawing {
+protected:
+    EntityId Node(System::CGisSystem& system, std::string_view name, double x = 0, double y = 0) {
+        return Storage().AddNode(system, {name, {x, y}});
+    }
+    static std::string NameOf(const CEntity& entity) { return std::string(entity.GetNameUtf8()); }
+};
+
+} // namespace
+
+TEST_F(TopologyStorageTest, ASectionKeepsEverythingItWasMadeOf) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    const EntityId a = Storage().AddNode(system, {"A", {0, 0, 12.5}, "Tank"});
+    const EntityId b = Node(system, "B", 3, 8);
+    const Point vertices[] = {{3, 0}, {3, 4}};
+    const AttributeData attributes[] = {{"diameter", "", 0.2}, {"note", "Größe", {}}};
+    const EntityId id =
+        Storage().AddSection(system, {"AB", {a}, {b}, vertices, "Pipe", attributes});
+    const CSection section = Storage().GetSectionById(id);
+    ASSERT_TRUE(section);
+    EXPECT_EQ(section.GetName().Str(), L"AB");
+    EXPECT_EQ(section.GetKind().Str(), L"Pipe");
+    EXPECT_EQ(section.GetSystem(), &system);
+    EXPECT_EQ(section.GetEntityType(), EntitySection);
+    EXPECT_EQ(section.GetStartNode().GetKind().Str(), L"Tank");
+    EXPECT_EQ(section.GetStartNode().GetPosition().z, 12.5);
+    EXPECT_EQ(section.GetEndNodeId(), b);
+    EXPECT_DOUBLE_EQ(section.GetDrawnLength(), 3 + 4 + 4);
+    EXPECT_EQ(section.GetInnerVertices()[1].y, 4);
+    EXPECT_EQ(section.GetNumber(Storage().FindAttributeName("diameter")), 0.2);
+    EXPECT_EQ(section.GetNumber(Storage().FindAttributeName("note")), std::nullopt);
+    EXPECT_EQ(section.GetAttribute(Storage().FindAttributeName("note"))->text, "Größe");
+    EXPECT_EQ(Storage().FindAttributeName("Diameter"), AttributeName::Unknown);
+    EXPECT_FALSE(section.GetAttribute(AttributeName::Unknown));
+}
+
+TEST_F(TopologyStorageTest, AnIdIsOfOneKindOnly) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    const EntityId node = Node(system, "A");
+    const EntityId section = Storage().AddSection(system, {"S", {node}, {node}});
+    EXPECT_FALSE(Storage().GetSectionById(node));
+    EXPECT_FALSE(Storage().GetNodeById(section));
+    EXPECT_FALSE(Storage().GetPolygonById(node));
+    EXPECT_FALSE(Storage().GetNodeById(kNoEntity));
+    EXPECT_FALSE(Storage().GetNodeById(section + 1));
+    EXPECT_FALSE(Storage().GetNodeById(0xFFFFFFFF));
+    EXPECT_FALSE(CNode());
+}
+
+TEST_F(TopologyStorageTest, AMissingNodeIsKnownByItsStatedName) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    const EntityId node = Node(system, "A", 1, 1);
+    const Point vertex[] = {{4, 5}};
+    const EntityId other = Storage().AddSection(system, {"T", {node, "not looked at"}, {node}});
+    const CSection section =
+        Storage().GetSectionById(Storage().AddSection(system, {"S", {node}, {other, "B"}, vertex}));
+    EXPECT_EQ(section.GetEndNodeId(), kNoEntity); // a section is no node
+    EXPECT_FALSE(section.GetEndNode());
+    EXPECT_EQ(section.GetMissingStart(), "");
+    EXPECT_EQ(section.GetMissingEnd(), "B");
+    EXPECT_DOUBLE_EQ(section.GetDrawnLength(), 5);
+    EXPECT_EQ(Storage().GetSectionById(other).GetMissingStart(), "");
+}
+
+TEST_F(TopologyStorageTest, AttributesAreSetAddedAndRemoved) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    const AttributeData twice[] = {{"a", "1", {}}, {"", "nameless", {}}, {"a", "", 2.0}};
+    const EntityId first = Storage().AddNode(system, {"A", {}, "", twice});
+    const EntityId second = Node(system, "B");
+    for (const char* name : {"x", "y", "z"}) {
+        // In turns, so that the attributes of both have to move.
+        EXPECT_EQ(Storage().SetAttribute(first, {name, name, {}}), 1);
+        EXPECT_EQ(Storage().SetAttribute(second, {name, "", 1.0}), 1);
+    }
+    EXPECT_EQ(Storage().SetAttribute(first, {"y", "", 7.0}), 1);
+    EXPECT_EQ(Storage().RemoveAttribute(first, Storage().FindAttributeName("x")), 1);
+    EXPECT_EQ(Storage().RemoveAttribute(first, Storage().FindAttributeName("x")), 0);
+    std::string text;
+    for (const AttributeData& attribute : Storage().GetNodeById(first).GetAttributes()) {
+        text += std::string(attribute.name) + '=' +
+                (attribute.number ? std::to_string(static_cast<int>(*attribute.number))
+                                  : std::string(attribute.text)) +
+                ' ';
+    }
+    EXPECT_EQ(text, "a=2 y=7 z=z ");
+    EXPECT_EQ(Storage().GetNodeById(second).GetAttributes().size(), 3U);
+    EXPECT_EQ(Storage().SetAttribute(second, {"", "", 1.0}), 0);
+    EXPECT_EQ(Storage().SetAttribute(99, {"a", "", 1.0}), 0);
+    EXPECT_EQ(Storage().RemoveAttribute(99, AttributeName::Unknown), 0);
+}
+
+TEST_F(TopologyStorageTest, EntitiesCanBeCopiedFromTheStorageItself) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    const EntityId node = Node(system, "A");
+    const Point vertices[] = {{1, 2}, {3, 4}, {5, 6}};
+    const AttributeData attributes[] = {{"note", "a text that is not short", {}}};
+    EntityId id =
+        Storage().AddSection(system, {"original", {node}, {node}, vertices, "Pipe", attributes});
+    for (int i = 0; i < 200; ++i) { // long enough for every table to move
+        const CSection from = Storage().GetSectionById(id);
+        const auto values = from.GetAttributes();
+        id = Storage().AddSection(system, {from.GetNameUtf8(),
+                                           {node},
+                                           {node},
+                                           from.GetInnerVertices(),
+                                           from.GetKindUtf8(),
+                                           values});
+    }
+    const CSection last = Storage().GetSectionById(id);
+    EXPECT_EQ(NameOf(last), "original");
+    EXPECT_EQ(last.GetInnerVertices()[2].x, 5);
+    EXPECT_EQ(last.GetAttributes()[0].text, "a text that is not short");
+}
+
+TEST_F(TopologyStorageTest, NamesAreFoundInTheirSystem) {
+    System::CGisSystem& water = MakeSystem(L"Water");
+    System::CGisSystem& sewer = MakeSystem(L"Sewer");
+    const EntityId first = Node(water, "A");
+    const EntityId second = Node(water, "A");
+    const EntityId other = Node(sewer, "A");
+    const int waterId = water.GetSystemId();
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetId(), first);
+    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "A").GetId(), other);
+    EXPECT_FALSE(Storage().FindNodeByName(waterId, "a"));
+    EXPECT_FALSE(Storage().FindNodeByName(99, "A"));
+    EXPECT_FALSE(Storage().FindSectionByName(waterId, "A"));
+
+    Storage().SetName(first, L"B");
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetId(), second);
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "B").GetId(), first);
+    EXPECT_EQ(Storage().SetName(0, L"x"), 0);
+}
+
+TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
+    System::CGisSystem& water = MakeSystem(L"Water");
+    System::CGisSystem& sewer = MakeSystem(L"Sewer");
+    std::mt19937 random(7);
+    const auto anyName = [&] { return "n" + std::to_string(random() % 400); };
+    std::vector<std::pair<int, std::string>> names; // by node in the order of creation
+    std::vector<EntityId> ids;
+    for (int step = 0; step < 6000; ++step) {
+        if (step % 3 == 0 || ids.empty()) {
+            System::CGisSystem& system = random() % 2 ? water : sewer;
+            names.emplace_back(system.GetSystemId(), anyName());
+            ids.push_back(Node(system, names.back().second));
+        } else if (step % 7 == 0) {
+            const std::size_t i = random() % ids.size();
+            names[i].second = anyName();
+            Storage().SetName(ids[i], Utf8ToWide(names[i].second).c_str());
+        } else {
+            const auto wanted = std::pair(water.GetSystemId(), anyName());
+            const auto hit = std::find(names.begin(), names.end(), wanted);
+            const CNode found = Storage().FindNodeByName(wanted.first, wanted.second);
+            const EntityId expected =
+                hit == names.end() ? kNoEntity : ids[static_cast<std::size_t>(hit - names.begin())];
+            ASSERT_EQ(found.GetId(), expected) << step;
+        }
+    }
+}
+
+TEST_F(TopologyStorageTest, ASystemGoesAndTheOthersStay) {
+    System::CGisSystem& water = MakeSystem(L"Water");
+    System::CGisSystem& sewer = MakeSystem(L"Sewer");
+    const AttributeData kept[] = {{"depth", "", 3.0}};
+    const EntityId w1 = Node(water, "W1");
+    const EntityId s1 = Storage().AddNode(sewer, {"S1", {7, 8}, "Manhole", kept});
+    const Point vertices[] = {{1, 2}};
+    const EntityId ww = Storage().AddSection(water, {"WW", {w1}, {w1}, vertices});
+    const EntityId sw = Storage().AddSection(sewer, {"SW", {s1}, {w1}, vertices});
+    const Point ring[] = {{0, 0}, {1, 0}, {0, 1}};
+    const EntityId polygon = Storage().AddPolygon(sewer, {"P", ring});
+    const EntityId text = Storage().AddText(sewer, {"label", {5, 6}});
+    const std::uint64_t stamp = Storage().GetChangeStamp();
+
+    Storage().RemoveSystemEntities(water.GetSystemId());
+    EXPECT_NE(Storage().GetChangeStamp(), stamp);
+    EXPECT_FALSE(Storage().GetNodeById(w1));
+    EXPECT_FALSE(Storage().GetSectionById(ww));
+    const CNode node = Storage().GetNodeById(s1);
+    EXPECT_EQ(NameOf(node), "S1");
+    EXPECT_EQ(node.GetPosition().y, 8);
+    EXPECT_EQ(node.GetKindUtf8(), "Manhole");
+    EXPECT_EQ(node.GetNumber(Storage().FindAttributeName("depth")), 3.0);
+    const CSection section = Storage().GetSectionById(sw);
+    EXPECT_EQ(section.GetStartNodeId(), s1);
+    EXPECT_EQ(section.GetEndNodeId(), kNoEntity);
+    EXPECT_EQ(section.GetMissingEnd(), "W1");
+    EXPECT_EQ(section.GetInnerVertices()[0].y, 2);
+    EXPECT_EQ(Storage().GetPolygonById(polygon).GetRing()[1].x, 1);
+    EXPECT_EQ(Storage().GetTextById(text).GetName().Str(), L"label");
+    EXPECT_EQ(Storage().GetTextById(text).GetPosition().x, 5);
+    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "S1").GetId(), s1);
+    EXPECT_GT(Node(sewer, "new"), text); // ids are not used again
+
+    const std::uint64_t after = Storage().GetChangeStamp();
+    Storage().RemoveSystemEntities(water.GetSystemId());
+    EXPECT_EQ(Storage().GetChangeStamp(), after); // nothing to remove
+}
+
+TEST_F(TopologyStorageTest, WalksGoInTheOrderOfCreation) {
+    System::CGisSystem& water = MakeSystem(L"Water");
+    System::CGisSystem& sewer = MakeSystem(L"Sewer");
+    const EntityId a = Node(water, "a");
+    const EntityId b = Node(sewer, "b");
+    const EntityId c = Node(water, "c");
+    std::string names;
+    for (const CNode node : Storage().GetNodeVector()) {
+        names += node.GetNameUtf8();
+    }
+    EXPECT_EQ(names, "abc");
+    EXPECT_EQ(Storage().GetSystemNodes(water.GetSystemId()), (std::vector<EntityId>{a, c}));
+    EXPECT_EQ(Storage().GetSystemNodes(sewer.GetSystemId()), (std::vector<EntityId>{b}));
+    EXPECT_TRUE(Storage().GetSectionVector().empty());
+    EXPECT_TRUE(Storage().GetSystemTexts(water.GetSystemId()).empty());
+}
+
+TEST_F(TopologyStorageTest, EntitiesOfAnotherDrawingsSystemAreRefused) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    CTopologyStorage other(nullptr);
+    EXPECT_EQ(other.AddNode(system, {"A", {}}), kNoEntity);
+    EXPECT_EQ(other.AddSection(system, {"A", {}, {}}), kNoEntity);
+    EXPECT_EQ(other.AddPolygon(system, {"A", {}}), kNoEntity);
+    EXPECT_EQ(other.AddText(system, {"A", {}}), kNoEntity);
+    EXPECT_TRUE(other.GetNodeVector().empty());
+}
+
+TEST_F(TopologyStorageTest, EachDrawingHasItsOwnStorageAndLosesItWithTheDocument) {
+    System::CGisSystem& system = MakeSystem(L"Water");
+    Node(system, "A");
+    CTopologyStorage* const pFirst = &Storage();
+    AcApDocument* const pSecond = acDocManagerPtr()->newDocument(L"b.dwg");
+    EXPECT_NE(&Storage(), pFirst);
+    EXPECT_TRUE(Storage().GetNodeVector().empty());
+    EXPECT_NE(Storage().GetChangeStamp(), pFirst->GetChangeStamp());
+    acDocManagerPtr()->closeDocument(pSecond);
+    EXPECT_EQ(&Storage(), pFirst);
+    acDocManagerPtr()->closeDocument(Document());
+    ASSERT_NE(CTopologyMultiStorage::Instance()->GetTopology(), nullptr);
+    EXPECT_TRUE(Storage().GetNodeVector().empty());
+}
+
+TEST_F(TopologyStorageTest, ADeletedSystemTakesItsEntitiesAlong) {
+    System::CGisSystem& water = MakeSystem(L"Water");
+    System::CGisSystem& sewer = MakeSystem(L"Sewer");
+    Node(water, "A");
+    Node(sewer, "B");
+    System::CSystemManager::Instance()->DeleteSystem(&water);
+    ASSERT_EQ(Storage().GetNodeVector().size(), 1U);
+    EXPECT_EQ(NameOf(Storage().GetNodeVector()[0]), "B");
+}

@@ -30,17 +30,17 @@ inline constexpr std::size_t kNoColumn = 0xFF;
 
 /// A section of the file by its heading. Columns count from 0.
 struct InpSectionRule {
-    std::string_view heading; ///< upper case, without brackets
-    InpRole role = InpRole::Ignored;
-    std::uint8_t fewestColumns = 0;
-    std::string_view columns; ///< names of these, for people
-    NodeKind nodeKind = NodeKind::Other;
-    SectionKind sectionKind = SectionKind::Other;
-    std::size_t lengthColumn = kNoColumn;
-    std::size_t diameterColumn = kNoColumn;
-    std::size_t attributeColumn = 0;              ///< the columns from here on have the names below
+    std::string_view heading;                     ///< upper case, without brackets
+    std::string_view columns;                     ///< names of those that a line needs, for people
     std::span<const std::string_view> attributes; ///< in EPANET's files and by default
     std::span<const std::string_view> swmmAttributes; ///< in SWMM's files if they differ
+    std::size_t attributeColumn = 0; ///< the columns from here on have the names above
+    std::size_t lengthColumn = kNoColumn;
+    std::size_t diameterColumn = kNoColumn;
+    InpRole role = InpRole::Ignored;
+    std::uint8_t fewestColumns = 0;
+    NodeKind nodeKind = NodeKind::Other;
+    SectionKind sectionKind = SectionKind::Other;
 };
 
 /// The rule for a heading in any case of letters; null for one that no format knows.

@@ -63,8 +63,9 @@ struct CheckResult {
     std::size_t Count(FindingKind kind) const { return counts[static_cast<std::size_t>(kind)]; }
 };
 
-/// Takes n log n operations and one for each crossing. The decision whether lines cross
-/// is exact. The arrays must be sound, see GeometryFault.
+/// Takes n log n operations, and one for each two segments whose rectangles meet: few in
+/// a network that is drawn to be read, but the square of n where all n lie upon each other.
+/// The decision whether lines cross is exact. The arrays must be sound, see GeometryFault.
 CheckResult CheckNetwork(const NetworkGeometry& geometry, const CheckOptions& options = {});
 
 /// One line that begins with the entity's name, as

@@ -1,6 +1,7 @@
 // How entities without a name are named.
 #pragma once
 
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
@@ -36,12 +37,8 @@ public:
     static const wchar_t* WordOf(enmEntityType type);
 
 private:
-    struct Key {
-        int topology = 0; ///< 0: any
-        int function = 0; ///< 0: any
-        enmEntityType type = EntityNone;
-        auto operator<=>(const Key&) const = default;
-    };
+    /// Topology, function (0: any of either) and kind of entity.
+    using Key = std::array<int, 3>;
     std::map<Key, NamePattern> m_patterns;
 };
 

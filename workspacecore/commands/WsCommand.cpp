@@ -11,6 +11,8 @@ CWsCommand::CWsCommand(const CWsCommand& other) {
     *this = other;
 }
 
+// Field by field, which bears assignment to itself.
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
 CWsCommand& CWsCommand::operator=(const CWsCommand& other) {
     m_strId = other.m_strId;
     m_strName = other.m_strName;

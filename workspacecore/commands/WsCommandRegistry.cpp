@@ -1,7 +1,6 @@
 #include "workspacecore/commands/WsCommandRegistry.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace Orvane::Workspace {
 
@@ -84,7 +83,8 @@ CWsCommandRegistry::GetWsCommandByGroup(enmCommandGroup group, enmTopologyType t
     const std::wstring_view tag(repositoryTag ? repositoryTag : L"");
     const auto [first, last] = m_wsCommandMapByGroup.equal_range(group);
     CommandVector found;
-    for (const CommandPtr& command : std::ranges::subrange(first, last) | std::views::values) {
+    for (auto entry = first; entry != last; ++entry) {
+        const CommandPtr& command = entry->second;
         if (command->TestWsItemType(itemType) &&
             (topologyType == kAnyTopology || command->m_wsTopologyDataMap.contains(key)) &&
             DoesTagMatch(command->m_strRepositoryTag.View(), tag)) {

@@ -1,5 +1,4 @@
 #include <clocale>
-#include <unistd.h>
 
 #include "host/Folders.h"
 #include "host/Session.h"
@@ -21,6 +20,10 @@ bool SetUpFolders(const Tessaly::Options& options) {
     SetHostOption(kHostOptionInstall, install);
     SetHostOption(kHostOptionSupport, support);
     SetHostOption(kHostOptionTrace, options.trace);
+    if (!options.trace.IsEmpty() && !OpenFile(options.trace, "ab")) {
+        acutPrintf(L"%s: %s\n", options.trace, LastErrorText());
+        return false;
+    }
     if (!Tessaly::FillSupportFolder(install + L"share/support/", support)) {
         acutPrintf(L"The settings cannot be set up: %s\n", LastErrorText());
         return false;
@@ -31,18 +34,19 @@ bool SetUpFolders(const Tessaly::Options& options) {
 int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
     Tessaly::Session session(port);
     session.Start();
+    int status = Tessaly::kExitDone;
     if (options.script) {
-        return session.RunScript(*options.script);
+        status = session.RunScript(*options.script);
+    } else {
+        if (options.first) {
+            session.RunScript(*options.first);
+        }
+        acutPrintf(L"\nTessaly. HELP lists the commands, QUIT leaves.\n");
+        const auto input = Tessaly::StreamLines(stdin);
+        session.RunPrompt(*input);
     }
-    if (options.first) {
-        session.RunScript(*options.first);
-    }
-    if (session.HasEnded()) {
-        return Tessaly::kExitDone;
-    }
-    acutPrintf(L"\nTessaly. HELP lists the commands, QUIT leaves.\n");
-    const auto input = Tessaly::StreamLines(stdin);
-    return session.RunPrompt(*input);
+    session.End();
+    return status;
 }
 
 } // namespace

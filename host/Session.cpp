@@ -8,6 +8,7 @@
 #include "platform/arx/EdCommandStack.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/arx/HostReactor.h"
 #include "platform/arx/RxDynamicLinker.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
@@ -19,7 +20,7 @@ namespace {
 
 /// Loaded at the start, in this order: the application module makes the workspace begin.
 constexpr const wchar_t* kStartModules[] = {L"ORVZWorkspaceCore.arx", L"ORVZApplication.arx"};
-constexpr const wchar_t* kNewDrawing = L"Drawing1.dwg";
+constexpr const wchar_t* kNewDrawing = L"Drawing1";
 constexpr const wchar_t* kPrompt = L"> ";
 
 /// Runs something of a module's. What it throws ends here: the reason goes to the user,
@@ -27,6 +28,8 @@ constexpr const wchar_t* kPrompt = L"> ";
 template <class Call>
 bool Guarded(const wchar_t* what, Call call) {
     CString reason;
+    // What somebody else has caught meanwhile is not this call's business.
+    TakeInterruptedActivity();
     try {
         call();
         return true;
@@ -59,8 +62,10 @@ void Session::Start() {
     Guarded(kNewDrawing, [&] { acDocManagerPtr()->setCurDocument(pDoc); });
 }
 
-bool Session::HasEnded() const {
-    return HasQuit();
+void Session::End() {
+    if (!HasQuit()) {
+        Guarded(L"QUIT", [] { acedAskToClose(); });
+    }
 }
 
 int Session::RunScript(const wchar_t* path) {

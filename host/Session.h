@@ -1,8 +1,6 @@
 // One run of the host: its modules, its drawing, and its command line.
 #pragma once
 
-#include <vector>
-
 #include "host/Options.h"
 #include "host/console/ConsolePort.h"
 
@@ -25,7 +23,9 @@ public:
     int RunScript(const wchar_t* path);
     /// Obeys the user until they leave or the input ends.
     int RunPrompt(IInputLines& input);
-    bool HasEnded() const;
+    /// Tells the modules that the host ends, unless the user's QUIT has done so. There is no
+    /// input left to ask for, so nobody can veto any more.
+    void End();
 
 private:
     /// What a failing command does to the lines behind it.

@@ -1,9 +1,12 @@
 #include "host/console/InputLines.h"
 
+#include <cerrno>
 #include <cstdlib>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/win/CodePage.h"
+#include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 
 namespace Tessaly {
@@ -26,7 +29,12 @@ public:
         while (length > 0 && (m_line[length - 1] == '\n' || m_line[length - 1] == '\r')) {
             --length;
         }
-        return CString(Utf8ToWide({m_line, static_cast<std::size_t>(length)}));
+        std::string_view text(m_line, static_cast<std::size_t>(length));
+        constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+        if (m_nLine == 1 && text.starts_with(kByteOrderMark)) {
+            text.remove_prefix(kByteOrderMark.size());
+        }
+        return CString(Utf8ToWide(text));
     }
     int LineNumber() const override { return m_nLine; }
     CString Name() const override { return {}; }
@@ -59,6 +67,11 @@ std::unique_ptr<IInputLines> StreamLines(std::FILE* stream) {
 
 std::unique_ptr<IInputLines> FileLines(const wchar_t* path) {
     FileHandle file = OpenFile(path, "rb");
+    struct stat info {};
+    if (file && (fstat(fileno(file.get()), &info) != 0 || S_ISDIR(info.st_mode))) {
+        SetLastErrorNumber(EISDIR);
+        return nullptr;
+    }
     return file ? std::make_unique<LinesOfFile>(std::move(file), path) : nullptr;
 }
 

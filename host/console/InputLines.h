@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdio>
-#include <deque>
 #include <memory>
 #include <optional>
 

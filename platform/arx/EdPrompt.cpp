@@ -39,15 +39,15 @@ int acedGetString(int flags, const wchar_t* prompt, wchar_t* buffer, std::size_t
 }
 
 void acedAlert(const wchar_t* message) {
-    HostPort().Alert(message, kMessageTitle);
+    HostPort().Alert(message ? message : L"", kMessageTitle);
 }
 
 void AfxMessageBox(const wchar_t* message) {
-    HostPort().Alert(message, kMessageTitle);
+    HostPort().Alert(message ? message : L"", kMessageTitle);
 }
 
 void acedPostCommand(const wchar_t* text) {
-    HostPort().PostCommand(text);
+    HostPort().PostCommand(text ? text : L"");
 }
 
 bool acedGetCurrentColors(AcColorSettings* pColors) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <elf.h>
 #include <sys/stat.h>
 
 namespace {
@@ -40,7 +41,7 @@ std::optional<ElfFile> ElfFile::Read(std::FILE* file) {
             }
             elf.loadedEnd = std::max(elf.loadedEnd, end);
         } else if (segment.p_type == PT_NOTE) {
-            elf.notes.push_back(segment);
+            elf.notes.push_back({segment.p_offset, segment.p_filesz});
         }
     }
     return elf;

@@ -2,18 +2,21 @@
 #pragma once
 
 #include <cstdint>
-#include <elf.h>
+#include <cstdio>
 #include <optional>
-#include <string>
 #include <vector>
 
 /// Program headers of an ELF file of this machine's word size, checked against the
 /// file's real length.
 struct ElfFile {
+    struct Range {
+        std::uint64_t offset;
+        std::uint64_t size;
+    };
     std::uint64_t fileLength = 0;
     /// End of the last loadable segment; a library shorter than this is cut.
     std::uint64_t loadedEnd = 0;
-    std::vector<Elf64_Phdr> notes;
+    std::vector<Range> notes;
 
     bool IsCut() const { return loadedEnd > fileLength; }
 

@@ -1,6 +1,7 @@
 #include "platform/win/FileVersion.h"
 
 #include <cstring>
+#include <elf.h>
 
 #include "platform/win/ElfFile.h"
 #include "platform/win/File.h"
@@ -45,13 +46,13 @@ std::optional<FileVersion> ReadFileVersion(const wchar_t* path) {
     if (!elf) {
         return std::nullopt;
     }
-    for (const Elf64_Phdr& segment : elf->notes) {
-        if (segment.p_offset > elf->fileLength ||
-            segment.p_filesz > elf->fileLength - segment.p_offset) {
+    for (const ElfFile::Range& segment : elf->notes) {
+        if (segment.offset > elf->fileLength ||
+            segment.size > elf->fileLength - segment.offset) {
             continue;
         }
-        std::string notes(segment.p_filesz, '\0');
-        if (std::fseek(file.get(), static_cast<long>(segment.p_offset), SEEK_SET) != 0 ||
+        std::string notes(segment.size, '\0');
+        if (std::fseek(file.get(), static_cast<long>(segment.offset), SEEK_SET) != 0 ||
             std::fread(notes.data(), 1, notes.size(), file.get()) != notes.size()) {
             continue;
         }

@@ -5,6 +5,7 @@
 
 #include "platform/win/CodePage.h"
 #include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
@@ -15,6 +16,10 @@ namespace {
 using Topology::AttributeData;
 using Topology::CTopologyStorage;
 using Topology::EntityId;
+
+// Messages.
+constexpr int kPolygonsName = 900120;
+constexpr int kNameTaken = 900302;
 
 // Attributes under which the figures of a network are kept.
 constexpr std::string_view kElevation = "ELEVATION";
@@ -128,9 +133,16 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
     imported = {};
     Undo undo(imported);
     CString reason;
+    const CModuleConfiguration& messages = *CModuleConfiguration::Instance();
+    const CString polygonName = FormatText(messages.GetMsg(kPolygonsName).View(), name);
+    const bool hasPolygons = model.polygons.size() > 0;
+    // Before anything is made: nobody is to hear of systems that go again at once.
+    if (hasPolygons && systems.GetSystemByName(polygonName)) {
+        return FormatText(messages.GetMsg(kNameTaken).View(), polygonName);
+    }
     imported.pNetwork = systems.CreateSystem(name, TopologyLine, systemFunction, &reason);
-    if (imported.pNetwork && model.polygons.size() > 0) {
-        imported.pPolygons = systems.CreateSystem(name + L" polygons", TopologyPolygon, 0, &reason);
+    if (imported.pNetwork && hasPolygons) {
+        imported.pPolygons = systems.CreateSystem(polygonName, TopologyPolygon, 0, &reason);
     }
     if (!reason.IsEmpty()) {
         return reason;

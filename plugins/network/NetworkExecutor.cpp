@@ -106,7 +106,29 @@ bool Import() {
     return true;
 }
 
+/// Count and extents of a system of polygons.
+void PrintPolygons(const System::CGisSystem& system) {
+    const auto& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
+    std::size_t count = 0;
+    std::vector<Point> points;
+    for (const auto id : storage.GetSystemPolygons(system.GetSystemId())) {
+        ++count;
+        for (const Topology::Point& point : storage.GetPolygonById(id).GetRing()) {
+            points.push_back({point.x, point.y});
+        }
+    }
+    acutPrintf(L"%s (%s)\n", system.GetSystemName(), FunctionName(system));
+    for (const std::string& line : PolygonLines(count, points)) {
+        PrintLine(line);
+    }
+}
+
 bool PrintStatistics() {
+    for (const System::CGisSystem* const pSystem : Systems()) {
+        if (pSystem->GetTopologyType() == TopologyPolygon) {
+            PrintPolygons(*pSystem);
+        }
+    }
     return ForEachNetwork([](const System::CGisSystem& system, const SystemNetwork& network) {
         acutPrintf(L"%s (%s)\n", system.GetSystemName(), FunctionName(system));
         for (const std::string& line : StatisticsLines(ComputeStatistics(network.Geometry()))) {
@@ -151,13 +173,25 @@ bool ActivateSystem() {
 }
 
 constexpr NetworkCommand kCommands[] = {
-    {L"NETWORK_IMPORT", L"Import network",
-     L"makes systems from a water (EPANET) or sewer (SWMM) network file", Import},
-    {L"NETWORK_STATS", L"Network statistics",
-     L"prints counts, lengths, extents and connected parts of each network", PrintStatistics},
-    {L"NETWORK_CHECK", L"Check network", L"lists what is wrong with each network", PrintFindings},
-    {L"SYSTEM_LIST", L"List systems", L"lists the systems of the drawing", ListSystems},
-    {L"SYSTEM_ACTIVATE", L"Activate system", L"makes a system the active one", ActivateSystem},
+    {L"NETWORK_IMPORT", 900101, 900102, Import},
+    {L"NETWORK_STATS", 900103, 900104, PrintStatistics},
+    {L"NETWORK_CHECK", 900105, 900106, PrintFindings},
+    {L"SYSTEM_LIST", 900107, 900108, ListSystems},
+    {L"SYSTEM_ACTIVATE", 900109, 900110, ActivateSystem},
+};
+
+/// Tells the listeners that a command runs, and that it has ended, however it does.
+class CommandEvents {
+public:
+    explicit CommandEvents(const wchar_t* id) : m_id(id) {
+        Workspace::CWsManager::Instance()->Raise_OnBeforeCommandActivated(m_id);
+    }
+    ~CommandEvents() { Workspace::CWsManager::Instance()->Raise_OnAfterCommandCompleted(m_id); }
+    CommandEvents(const CommandEvents&) = delete;
+    CommandEvents& operator=(const CommandEvents&) = delete;
+
+private:
+    const wchar_t* m_id;
 };
 
 /// The command of an id. The registry finds commands by ids with one letter too many, so
@@ -185,9 +219,8 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
                           Workspace::CWsTreeItemData*) {
     auto result = Workspace::NeutralReturnValue();
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
-        Workspace::CWsManager::Instance()->Raise_OnBeforeCommandActivated(pCommand->id);
+        const CommandEvents events(pCommand->id);
         result->m_nStatus = pCommand->run() ? 1 : 0;
-        Workspace::CWsManager::Instance()->Raise_OnAfterCommandCompleted(pCommand->id);
     }
     return result;
 }

@@ -11,8 +11,8 @@ namespace Orvane::Network {
 /// the command was not carried out; it has told the user why.
 struct NetworkCommand {
     const wchar_t* id;
-    const wchar_t* name;
-    const wchar_t* description;
+    int msgName;
+    int msgDescription;
     bool (*run)();
 };
 

@@ -1,5 +1,6 @@
 // ORVZNetwork.arx: what the workspace meets of it.
 #include "plugins/network/NetworkExecutor.h"
+#include "siblings/giscore/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace {
@@ -11,11 +12,12 @@ public:
     /// The executor comes first, so that standard commands of any plug-in find one.
     void PluginHook6() override { CWsManager::Instance()->RegisterBaseExecutor(&m_executor); }
     void PluginHook1() override {
+        const Orvane::CModuleConfiguration& messages = *Orvane::CModuleConfiguration::Instance();
         for (const Orvane::Network::NetworkCommand& entry : Orvane::Network::NetworkCommands()) {
             boost::shared_ptr<CWsCommand> command(new CWsCommand);
             command->SetId(entry.id);
-            command->SetName(entry.name);
-            command->SetDescription(entry.description);
+            command->SetName(messages.GetMsg(entry.msgName));
+            command->SetDescription(messages.GetMsg(entry.msgDescription));
             command->SetCmdExecutor(&m_executor);
             CWsManager::Instance()->RegisterWsCommand(command);
         }

@@ -1,5 +1,7 @@
 #include "plugins/network/NetworkReport.h"
 
+#include <algorithm>
+
 #include "platform/win/CodePage.h"
 #include "platform/win/TextFormat.h"
 
@@ -25,6 +27,11 @@ std::string KindCounts(const Counts& counts) {
     return text.empty() ? text : " (" + text + ")";
 }
 
+std::string ExtentsLine(const Extents& extents) {
+    return Line(L"  extents        %.2f, %.2f to %.2f, %.2f", extents.low.x, extents.low.y,
+                extents.high.x, extents.high.y);
+}
+
 } // namespace
 
 std::vector<std::string> StatisticsLines(const NetworkStatistics& statistics) {
@@ -40,11 +47,20 @@ std::vector<std::string> StatisticsLines(const NetworkStatistics& statistics) {
              statistics.largestComponentNodes),
     };
     if (const auto& extents = statistics.extents) {
-        lines.push_back(Line(L"  extents        %.2f, %.2f to %.2f, %.2f", extents->low.x,
-                             extents->low.y, extents->high.x, extents->high.y));
+        lines.push_back(ExtentsLine(*extents));
     }
     if (const auto& range = statistics.elevations) {
         lines.push_back(Line(L"  elevations     %.2f to %.2f", range->low, range->high));
+    }
+    return lines;
+}
+
+std::vector<std::string> PolygonLines(std::size_t count, std::span<const Point> points) {
+    std::vector<std::string> lines = {Line(L"  polygons       %u", count)};
+    if (!points.empty()) {
+        const auto [west, east] = std::ranges::minmax(points, {}, &Point::x);
+        const auto [south, north] = std::ranges::minmax(points, {}, &Point::y);
+        lines.push_back(ExtentsLine({{west.x, south.y}, {east.x, north.y}}));
     }
     return lines;
 }

@@ -9,17 +9,30 @@ using namespace Orvane::Workspace;
 
 namespace {
 
+/// Listeners, the panel among them, learn that a command runs, and that it has ended, however
+/// it does.
+class CommandEvents {
+public:
+    explicit CommandEvents(const wchar_t* id) : m_id(id) {
+        CWsManager::Instance()->Raise_OnBeforeCommandActivated(m_id);
+    }
+    ~CommandEvents() { CWsManager::Instance()->Raise_OnAfterCommandCompleted(m_id); }
+    CommandEvents(const CommandEvents&) = delete;
+    CommandEvents& operator=(const CommandEvents&) = delete;
+
+private:
+    CString m_id;
+};
+
 /// Runs the commands. It is registered by pointer, so it has to live to the end.
 class HelloExecutor final : public IWsCommandExecutor {
 public:
     boost::shared_ptr<CExecutorReturnValue>
     Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*, CWsTreeItemData*) override {
-        // Listeners, the panel among them, learn that a command runs, and when it has ended.
-        CWsManager::Instance()->Raise_OnBeforeCommandActivated(lpszCommandId);
+        const CommandEvents events(lpszCommandId);
         const System::CGisSystem* const pSystem =
             System::CSystemManager::Instance()->GetActiveSystem();
         acutPrintf(L"Hello, %s!\n", pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
-        CWsManager::Instance()->Raise_OnAfterCommandCompleted(lpszCommandId);
         auto result = NeutralReturnValue();
         result->m_nStatus = 1; // carried out
         return result;

@@ -569,5 +569,60 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Reason</extracomment>
         <translation>Die Topologie hat keine Funktion %d.</translation>
     </message>
+    <message id="900101">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netz einlesen</translation>
+    </message>
+    <message id="900102">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>erzeugt Systeme aus einer Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM)</translation>
+    </message>
+    <message id="900103">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netzstatistik</translation>
+    </message>
+    <message id="900104">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>nennt Anzahlen, Längen, Ausdehnung und zusammenhängende Teile jedes Netzes</translation>
+    </message>
+    <message id="900105">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netz prüfen</translation>
+    </message>
+    <message id="900106">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>listet auf, was an jedem Netz nicht stimmt</translation>
+    </message>
+    <message id="900107">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Systeme auflisten</translation>
+    </message>
+    <message id="900108">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>listet die Systeme der Zeichnung auf</translation>
+    </message>
+    <message id="900109">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>System aktivieren</translation>
+    </message>
+    <message id="900110">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>macht ein System zum aktiven</translation>
+    </message>
+    <message id="900120">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>%s Flächen</translation>
+    </message>
 </context>
 </TS>

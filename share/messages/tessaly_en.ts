@@ -569,5 +569,60 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Reason</extracomment>
         <translation>The topology has no function %d.</translation>
     </message>
+    <message id="900101">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Import network</translation>
+    </message>
+    <message id="900102">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>makes systems from a water (EPANET) or sewer (SWMM) network file</translation>
+    </message>
+    <message id="900103">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Network statistics</translation>
+    </message>
+    <message id="900104">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>prints counts, lengths, extents and connected parts of each network</translation>
+    </message>
+    <message id="900105">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Check network</translation>
+    </message>
+    <message id="900106">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>lists what is wrong with each network</translation>
+    </message>
+    <message id="900107">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>List systems</translation>
+    </message>
+    <message id="900108">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>lists the systems of the drawing</translation>
+    </message>
+    <message id="900109">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Activate system</translation>
+    </message>
+    <message id="900110">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>makes a system the active one</translation>
+    </message>
+    <message id="900120">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>%s polygons</translation>
+    </message>
 </context>
 </TS>

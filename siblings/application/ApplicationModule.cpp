@@ -78,8 +78,8 @@ public:
         if (!commands.GetCommandRegistry()->GetWsCommandMapById()->contains(id)) {
             return CommandOutcome::Unknown;
         }
-        return commands.Execute(id, nullptr, nullptr)->m_nStatus ? CommandOutcome::Done
-                                                                 : CommandOutcome::Failed;
+        const auto result = commands.Execute(id, nullptr, nullptr);
+        return result && result->m_nStatus ? CommandOutcome::Done : CommandOutcome::Failed;
     }
     std::vector<std::pair<CString, CString>> List() const override {
         std::vector<std::pair<CString, CString>> list;
@@ -105,7 +105,10 @@ public:
         for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
             acutPrintf(L"%s\n", problem);
         }
-        CWsManager::Instance();
+        if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
+            acutPrintf(L"%sModuleRegistry.xml: no list of modules; there are no plug-ins.\n",
+                       CModuleConfiguration::Instance()->GetPath(L"support"));
+        }
         return result;
     }
     AcRx::AppRetCode On_kUnloadAppMsg(void* pPacket) override {

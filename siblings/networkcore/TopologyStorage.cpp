@@ -229,12 +229,15 @@ void CTopologyStorage::RefreshNameRules() {
 }
 
 void CTopologyStorage::LoadCountersFromSystem(const System::CGisSystem* pSystem) {
-    m_pNaming->loadedSystem = pSystem ? pSystem->GetSystemId() : 0;
-    m_pNaming->counters = pSystem ? pSystem->GetCounters() : System::CGisSystem::Counters();
+    // Ids are unique in one drawing only.
+    const bool isOwn = pSystem && pSystem->GetDatabase() == m_pDatabase;
+    m_pNaming->loadedSystem = isOwn ? pSystem->GetSystemId() : 0;
+    m_pNaming->counters = isOwn ? pSystem->GetCounters() : System::CGisSystem::Counters();
 }
 
 void CTopologyStorage::SaveCountersToSystem(System::CGisSystem* pSystem) {
-    if (pSystem && pSystem->GetSystemId() == m_pNaming->loadedSystem) {
+    if (pSystem && pSystem->GetDatabase() == m_pDatabase &&
+        pSystem->GetSystemId() == m_pNaming->loadedSystem) {
         pSystem->SetCounters(m_pNaming->counters);
     }
 }

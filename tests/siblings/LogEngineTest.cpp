@@ -1,7 +1,6 @@
 #include "siblings/logging/LogEngine.h"
 
 #include <gtest/gtest.h>
-#include <regex>
 
 #include "tests/support/TestHost.h"
 
@@ -48,7 +47,9 @@ TEST(LogEngine, BothCanBeChangedLater) {
 TEST(LogEngine, VersionsAreRead) {
     const TestHost host;
     EXPECT_EQ(CLogEngine::GetTessalyVersion(), "8.0.0.0");
-    EXPECT_TRUE(std::regex_match(CLogEngine::GetWindowsVersion(), std::regex(R"(Linux \d+\..+)")));
+    const std::string system = CLogEngine::GetWindowsVersion();
+    EXPECT_EQ(system.find("Linux "), 0U) << system;
+    EXPECT_NE(system.find('.'), std::string::npos) << system;
     EXPECT_EQ(CLogEngine::GetIsTessaly64bit(), "1");
     SetHostOption(kHostOptionInstall, host.Support().Wide(""));
     EXPECT_EQ(CLogEngine::GetTessalyVersion(), "");

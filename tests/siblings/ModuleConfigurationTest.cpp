@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <map>
-#include <regex>
 
 #include "siblings/giscore/GisEvents.h"
 #include "siblings/giscore/Icon.h"
@@ -17,23 +16,37 @@ CModuleConfiguration& Configuration() {
     return *CModuleConfiguration::Instance();
 }
 
+/// What stands behind `begin` up to `end`, from a place on, which moves behind it; empty if
+/// there is no more.
+std::string Between(const std::string& text, std::size_t& at, const std::string& begin,
+                    const std::string& end) {
+    const std::size_t from = text.find(begin, at);
+    if (from == std::string::npos) {
+        return {};
+    }
+    at = text.find(end, from + begin.size());
+    return text.substr(from + begin.size(), at - from - begin.size());
+}
+
 /// Texts of a message file by id.
 std::map<int, std::string> Messages(const std::string& language) {
     std::ifstream file(TESSALY_SOURCE_DIR "/share/messages/tessaly_" + language + ".ts");
     const std::string text(std::istreambuf_iterator<char>(file), {});
-    const std::regex message(R"re(<message id="(\d+)">[^]*?<translation>([^]*?)</translation>)re");
     std::map<int, std::string> messages;
-    for (std::sregex_iterator hit(text.begin(), text.end(), message), end; hit != end; ++hit) {
-        messages.emplace(std::stoi((*hit)[1]), (*hit)[2]);
+    std::size_t at = 0;
+    for (std::string id; !(id = Between(text, at, "<message id=\"", "\"")).empty();) {
+        messages[std::stoi(id)] = Between(text, at, "<translation>", "</translation>");
     }
     return messages;
 }
 
+/// The letters behind the percent signs, in their order.
 std::string Placeholders(const std::string& text) {
-    static const std::regex placeholder("%[a-z]");
     std::string all;
-    for (std::sregex_iterator hit(text.begin(), text.end(), placeholder), end; hit != end; ++hit) {
-        all += hit->str();
+    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] == '%') {
+            all += text[i + 1];
+        }
     }
     return all;
 }

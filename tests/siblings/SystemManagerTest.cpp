@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <gtest/gtest.h>
-#include <regex>
 
 #include "platform/arx/ApDocManager.h"
 #include "siblings/giscore/DataConfiguration.h"
@@ -52,6 +51,15 @@ private:
     std::string m_log;
 };
 
+/// Every digit as "x".
+std::string Shape(const CString& guid) {
+    std::string shape = WideToUtf8(guid.View());
+    for (char& c : shape) {
+        c = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') ? 'x' : c;
+    }
+    return shape;
+}
+
 class SystemManagerTest : public testing::Test {
 protected:
     SystemManagerTest() : m_pDoc(acDocManagerPtr()->newDocument(L"a.dwg")) {}
@@ -88,9 +96,8 @@ TEST_F(SystemManagerTest, ANewSystemIsKnownByEverythingItHas) {
     EXPECT_EQ(pB->GetDatabase(), m_pDoc->database());
     EXPECT_EQ(Manager().GetSystems()->GetSystemList(), (std::vector<CGisSystem*>{pA, pB}));
     EXPECT_NE(pA->GetGuid(), pB->GetGuid());
-    EXPECT_TRUE(std::regex_match(
-        WideToUtf8(pA->GetGuid().View()),
-        std::regex("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}")));
+    EXPECT_EQ(Shape(pA->GetGuid()), "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx");
+    EXPECT_EQ(pA->GetGuid().GetAt(14), L'4');
 }
 
 TEST_F(SystemManagerTest, ASystemThatCannotBeSaysWhy) {

@@ -83,6 +83,18 @@ TEST_F(ConsoleTest, RunsAnyOtherTextAsAnUpperCaseId) {
     EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetLastCommand(), L"SYSTEM_EDIT2");
 }
 
+TEST_F(ConsoleTest, ConfigListsTheModulesAndLongAnswersAreCut) {
+    boost::shared_ptr<CWsModule> module(new CWsModule);
+    module->SetFileName(L"a.arx");
+    module->SetOn(1);
+    CWsManager::Instance()->PluginMgr()->GetModuleRegistry()->AddWsModule(module);
+    EXPECT_EQ(Run({L"Config", L"exit"}), "Command: a.arx (): on, not loaded\nCommand: ");
+    const std::wstring id(132, L'X');
+    Register(id.c_str(), L"", &m_recorder);
+    Run({(id + L"YZ").c_str(), L"exit"});
+    EXPECT_EQ(m_recorder.m_ids, (id + L";").c_str());
+}
+
 TEST_F(ConsoleTest, ColoursAreTheConsolesOwnWhileItRuns) {
     AcColorSettings before;
     before.m_colors.fill(7);

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <regex>
 #include <sstream>
 
 #include "siblings/logging/LogEngine.h"
@@ -79,10 +78,17 @@ TEST_F(TraceTest, LinesHaveThePrefixOfTheirSite) {
     WS_TRACE_TEXT("text");
     char number[8];
     std::snprintf(number, sizeof number, "%05d", line);
-    const std::regex expected(R"(\[[ \d]\d:[ \d]\d:[ \d]\d\] TraceTest\.cpp {19}\()" +
-                              std::string(number) + R"(\): \[.*TestBody *\], text)");
     ASSERT_EQ(Lines().size(), 1U);
-    EXPECT_TRUE(std::regex_match(Lines()[0], expected)) << Lines()[0];
+    std::string prefix = Lines()[0];
+    for (char& c : prefix) {
+        c = prefix.size() > 10 && &c - prefix.data() < 10 && c != '[' && c != ']' && c != ':' ? '0'
+                                                                                              : c;
+    }
+    // Two characters for each part of the time, then file, line and function.
+    const std::string expected =
+        "[00:00:00] TraceTest.cpp" + std::string(19, ' ') + "(" + number + "): [";
+    EXPECT_EQ(prefix.substr(0, expected.size()), expected);
+    EXPECT_TRUE(prefix.ends_with("::TestBody], text")) << prefix;
 }
 
 TEST_F(TraceTest, FunctionNamesAreQualifiedAndWhole) {

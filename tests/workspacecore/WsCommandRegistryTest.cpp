@@ -204,7 +204,7 @@ TEST(WsCommandRegistryXml, RoundTripKeepsWhatTheReaderTakes) {
     const TempFolder folder;
     CWsCommandRegistry registry;
     const CommandPtr command = Listed(L"A", L"T<", 258, {CWsTopologyData(TopologyLine, 1)});
-    command->SetName(L"n=\"1\" \u20AC");
+    command->SetName(L"n=\"1\" \u20AC &amp; c");
     command->SetCmdGroup(CommandGroupDelete);
     command->SetIsSetDataCommand(1);
     registry.AddWsCommand(command);
@@ -214,7 +214,8 @@ TEST(WsCommandRegistryXml, RoundTripKeepsWhatTheReaderTakes) {
     ASSERT_EQ(read.Load(folder.Wide("commands.xml")), 1);
     const CommandPtr back = read.GetWsCommandById(L"A");
     ASSERT_TRUE(back);
-    EXPECT_EQ(back->GetName(), L"n=\"1\" \u20AC");
+    EXPECT_EQ(back->GetName(), L"n=\"1\" \u20AC & c")
+        << "a reference is read as what it stands for";
     EXPECT_EQ(back->GetRepositoryTag(), L"T<");
     EXPECT_EQ(back->GetCmdGroup(), CommandGroupDelete);
     EXPECT_EQ(back->GetWsItemTypes(), 258UL);
@@ -257,6 +258,7 @@ TEST(WsCommandRegistryXml, BadTextsGiveWhatCanBeRead) {
     registry.ParseXML(L"<wsCommandRegistry><wsCommand id=\"A\" cmdGroup=\" 12x\" "
                       L"wsItemTypes=\"-1\"/></wsCommandRegistry>");
     EXPECT_EQ(static_cast<int>(registry.GetWsCommandById(L"A")->GetCmdGroup()), 12);
+    EXPECT_EQ(registry.GetWsCommandById(L"A")->GetWsItemTypes(), 0xFFFFFFFFUL);
     registry.ParseXML(L"<wsCommandRegistry><wsCommand id=\"A\"/></wsCommandRegistry>");
     EXPECT_EQ(static_cast<int>(registry.GetWsCommandById(L"A")->GetCmdGroup()), 0)
         << "a missing number is no default";

@@ -8,6 +8,9 @@
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
+#include "siblings/networkcore/LinearDataManager.h"
+#include "siblings/networkcore/TopologyMultiStorage.h"
+#include "siblings/networkcore/TopologyStorage.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/WsManager.h"
 
@@ -260,6 +263,42 @@ TEST_F(EventsTest, ABecomingDocumentSetsThePrecisionOfPoints) {
     CWsManager::Instance()->Raise_OnBeforeAcadWillClose();
     CWsManager::Instance()->Raise_OnAcadDocumentBecomeCurrent(m_pDoc);
     EXPECT_EQ(pData->GetFloatToStrPrecision_Point(), precision + 5);
+}
+
+TEST_F(EventsTest, ActivationRefreshesAndLoadsBeforeAnyListenerHears) {
+    auto& linear = *Data::CLinearDataManager::Instance();
+    auto& topology = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
+    auto* const pOther =
+        System::CSystemManager::Instance()->CreateSystem(L"Other", TopologyLine, 1);
+    Notes listener("", m_log);
+    CWsManager::Instance()->RegisterWsListener(&listener);
+    const auto addNode = [&](System::CGisSystem& system) {
+        return WideToUtf8(topology.GetNodeById(topology.AddNode(system, {})).GetName().View());
+    };
+
+    CWsManager::Instance()->Raise_OnSystemBecomeActive(nullptr);
+    m_pSystem->SetCounters({{L"node", 41}});
+    m_host.Support().Write("LinearData.ini", "[bedding]\nlabel=Bedding\ntype=text\n");
+    m_host.Support().Write("NameRules.ini", "[line.1]\nnode=N-%d\n");
+    const std::size_t definitions = linear.GetLinearDataDefinitions().size();
+    std::string heard;
+    listener.m_whenActive = [&] {
+        heard = addNode(*m_pSystem) + (linear.GetLinearDataDefinitions().size() == definitions
+                                           ? " old definitions"
+                                           : " new definitions");
+    };
+    CWsManager::Instance()->Raise_OnSystemBecomeActive(m_pSystem);
+    EXPECT_EQ(heard, "N-42 new definitions");
+    listener.m_whenActive = nullptr;
+    EXPECT_EQ(m_pSystem->GetCounters().at(L"node"), 41) << "the counters in use are the topology's";
+    CWsManager::Instance()->Raise_OnSystemBecomeInactive(pOther);
+    CWsManager::Instance()->Raise_OnSystemBecomeInactive(m_pSystem);
+    EXPECT_EQ(m_pSystem->GetCounters().at(L"node"), 42);
+
+    CWsManager::Instance()->Raise_OnBeforeAcadWillClose();
+    m_host.Support().Write("NameRules.ini", "[line.1]\nnode=LATE-%d\n");
+    CWsManager::Instance()->Raise_OnSystemBecomeActive(m_pSystem);
+    EXPECT_EQ(addNode(*m_pSystem).substr(0, 2), "N-") << "nothing is refreshed at the end";
 }
 
 TEST_F(EventsTest, TracesOfEveryEvent) {

@@ -4,6 +4,7 @@
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/QueryDefinition.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
@@ -25,8 +26,17 @@ public:
         result->m_nStatus = 3;
         return result;
     }
+    boost::shared_ptr<CExecutorReturnValue> ExecuteExplicite(const wchar_t* id,
+                                                             CRepositoryItem* pItem,
+                                                             Selection::CSelectionSet* pSet,
+                                                             void* pData) override {
+        m_strId = id;
+        m_explicit = {pItem, pSet, pData};
+        return IWsCommandExecutor::ExecuteExplicite(id, pItem, pSet, pData);
+    }
     CString m_strId;
     CWsTreeItemData* m_pItemData = nullptr;
+    std::vector<void*> m_explicit;
 };
 
 boost::shared_ptr<CWsCommand> Command(const wchar_t* id, IWsCommandExecutor* pExecutor = nullptr) {
@@ -121,10 +131,26 @@ TEST(WsCommandManager, HandsTheCallToTheExecutor) {
     auto* const pItem = reinterpret_cast<CWsTreeItemData*>(&executor);
     EXPECT_EQ(commands.Execute(L"INNER", nullptr, pItem)->m_nStatus, 3);
     EXPECT_EQ(executor.m_pItemData, pItem);
-    EXPECT_TRUE(IsNeutral(*commands.ExecuteExplicite(L"INNER", nullptr, nullptr, nullptr)));
+    Query::CQueryDefinition query(L"{guid}", L"All pipes");
+    auto* const pSet = reinterpret_cast<Selection::CSelectionSet*>(&query);
+    EXPECT_TRUE(IsNeutral(
+        *commands.ExecuteExplicite(L"INNER", &query, pSet, const_cast<TestHost*>(&host))));
+    EXPECT_EQ(executor.m_explicit, (std::vector<void*>{static_cast<CRepositoryItem*>(&query), pSet,
+                                                       const_cast<TestHost*>(&host)}));
     commands.Execute(L"OUTER", nullptr, nullptr);
     EXPECT_EQ(commands.GetLastCommand(), L"INNER") << "the inner id stays";
     EXPECT_EQ(commands.GetAllowStopCommand(), 1);
+}
+
+TEST(WsCommandManager, TheFullResultTakesItsValuesInOrder) {
+    const CExecutorReturnValue value(1, L"a", L"b", L"c", L"d", 2, L"e", EntitySection);
+    EXPECT_EQ(value.m_nStatus, 1);
+    EXPECT_EQ(value.m_strText1 + value.m_strText2 + value.m_strText3 + value.m_strText4 +
+                  value.m_strText5 + value.m_strText6,
+              L"abcde");
+    EXPECT_EQ(value.m_nNumber, 2);
+    EXPECT_EQ(value.m_enmEntityType, EntitySection);
+    EXPECT_TRUE(value.m_strText6.IsEmpty());
 }
 
 TEST(WsCommandManager, SetDataCommandsOfASystem) {
@@ -158,10 +184,12 @@ TEST(WsCommandManager, TracesTheIdInAScope) {
     TestHost host;
     CWsManager* const pManager = CWsManager::Instance();
     CLogEngine::SetLogging(1, host.Support().Native("trace.log"));
-    pManager->CmdMgr()->Execute(L"ID", nullptr, nullptr);
+    Query::CQueryDefinition query(L"{guid}", L"All pipes");
+    pManager->CmdMgr()->Execute(L"ID", &query, nullptr);
     pManager->CmdMgr()->ExecuteExplicite(nullptr, nullptr, nullptr, nullptr);
     const std::string trace = host.Support().Read("trace.log");
     for (const char* part : {"[Orvane::Workspace::CWsCommandManager::Execute], ID\n",
+                             "CommandManager::Execute], All pipes\n",
                              "Exiting function , Orvane::Workspace::CWsCommandManager::Execute\n",
                              "CommandManager::ExecuteExplicite], Error: Bad pointer\n"}) {
         EXPECT_NE(trace.find(part), std::string::npos) << part;

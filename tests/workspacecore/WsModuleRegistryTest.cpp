@@ -97,10 +97,8 @@ TEST(WsModuleRegistry, FilesKeepTheListOnlyIfTheyCannotBeRead) {
         int result;
         const wchar_t* files;
     } cases[] = {
-        {"missing.xml", 0, L"old+ "},
-        {"good.xml", 1, L"a- "},
-        {"ill.xml", 1, L"a- "},
-        {"empty.xml", 0, L""},
+        {"missing.xml", 0, L"old+ "}, {"", 0, L"old+ "},     {"good.xml", 1, L"a- "},
+        {"ill.xml", 1, L"a- "},       {"empty.xml", 0, L""},
     };
     for (const auto& row : cases) {
         CWsModuleRegistry registry;
@@ -142,7 +140,7 @@ TEST(WsModuleRegistry, OnlyLoadedModulesExist) {
         {L"", 0},
     };
     for (const auto& row : cases) {
-        EXPECT_EQ(registry.DoesModuleExist(row.file), row.exists) << CString(row.file).Str().size();
+        EXPECT_EQ(registry.DoesModuleExist(row.file), row.exists) << WideToUtf8(row.file);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/plugins/LoadSteps.h"
 
 namespace Orvane::Workspace {
 namespace {
@@ -35,7 +36,7 @@ protected:
         }
         return ids;
     }
-    /// on, loaded and whether there is a handle, of each record: "110 " is off or dropped.
+    /// How each record stands: "on,loaded,handle " runs, "off " is off or was dropped.
     static std::string States() {
         std::string states;
         for (const auto& module : *Plugins().GetModuleRegistry()->GetWsModuleVector()) {
@@ -48,6 +49,21 @@ protected:
 
     TestHost m_host;
 };
+
+TEST(LoadSteps, PercentAndAttempts) {
+    const int expected[] = {33, 66, 100};
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_EQ(LoadPercent(i, std::size(expected)), expected[i]);
+    }
+    int library = 0;
+    for (const auto& [failures, attempts] : {std::pair(0, 1), std::pair(6, 7), std::pair(9, 7)}) {
+        int calls = 0;
+        HINSTANCE loaded = LoadWithAttempts(
+            [&]() -> HINSTANCE { return ++calls > failures ? &library : nullptr; });
+        EXPECT_EQ(calls, attempts);
+        EXPECT_EQ(loaded, failures < 7 ? &library : nullptr);
+    }
+}
 
 TEST_F(PluginManagerTest, WithoutRegistryFileTheStartGoesOn) {
     EXPECT_EQ(Plugins().IsRegistryLoaded(), 0);
@@ -87,12 +103,13 @@ TEST_F(PluginManagerTest, OneModuleThatFailsStopsNothing) {
     WriteRegistry({{"NotThere.arx"},
                    {"NoProvider.arx"},
                    {"CutInTheMiddle.arx"},
+                   {"NullProvider.arx"},
                    {"GoodPlugin.arx", false},
                    {"NoReleaseEntry.arx"}});
     CWsManager::Instance();
-    EXPECT_EQ(States(), "on off on off on,loaded,handle ");
+    EXPECT_EQ(States(), "on off on off off on,loaded,handle ");
     EXPECT_EQ(m_host.Output(), "\nNotThere.arx\nNoProvider.arx\nCutInTheMiddle.arx"
-                               "\nGoodPlugin.arx\nNoReleaseEntry.arx");
+                               "\nNullProvider.arx\nGoodPlugin.arx\nNoReleaseEntry.arx");
     std::string trace;
     std::istringstream lines(m_host.Support().Read("trace.log"));
     for (std::string line; std::getline(lines, line);) {
@@ -105,6 +122,8 @@ TEST_F(PluginManagerTest, OneModuleThatFailsStopsNothing) {
                      "Module = NoProvider.arx, ON\nDLL Loaded\n***Plugin entry NOT found***\n"
                      "---------------------------\n"
                      "Module = CutInTheMiddle.arx, ON\n***NOT LOADED***\n(reason)\n"
+                     "Module = NullProvider.arx, ON\nDLL Loaded\nPlugin entry found\n"
+                     "---------------------------\n"
                      "Module = GoodPlugin.arx, OFF\n"
                      "Module = NoReleaseEntry.arx, ON\nDLL Loaded\nPlugin entry found\n"
                      "---------------------------\n"

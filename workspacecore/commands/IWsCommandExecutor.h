@@ -53,7 +53,7 @@ inline boost::shared_ptr<CExecutorReturnValue> NeutralReturnValue() {
 /// as long as they do. Called on the main thread; may be called again from inside a call.
 class IWsCommandExecutor {
 public:
-    /// Any argument but the id may be null. Never returns null.
+    /// Any argument may be null. Must not return null.
     virtual boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* lpszCommandId,
                                                             Query::CQueryDefinition* pQuery,
                                                             CWsTreeItemData* pItemData) = 0;

@@ -30,8 +30,6 @@ public:
     virtual ~CWsCommand() = default;
 
     CString GetId() const { return m_strId; }
-    /// The id as the registry compares it, without a copy.
-    const CString& IdText() const { return m_strId; }
     void SetId(const wchar_t* id) { m_strId = id; }
     CString GetName() const { return m_strName; }
     void SetName(const wchar_t* name) { m_strName = name; }
@@ -46,7 +44,6 @@ public:
     void SetCmdGroup(enmCommandGroup group) { m_cmdGroup = group; }
     /// Tag of the repository family: empty for none, "0" for every family.
     CString GetRepositoryTag() const { return m_strRepositoryTag; }
-    const CString& RepositoryTagText() const { return m_strRepositoryTag; }
     void SetRepositoryTag(const wchar_t* tag) { m_strRepositoryTag = tag; }
     /// Bit set of enmWSTreeItemType.
     unsigned long GetWsItemTypes() const { return m_nWsItemTypes; }

@@ -24,7 +24,8 @@ public:
     /// Takes the record out of the vector, by pointer, and its id out of the look-up by id.
     /// By menu id and by group it is still found, so that menus on the screen keep working.
     void RemoveWsCommand(const CommandPtr& command);
-    /// Empties the vector and the look-up by id; menu ids are never given twice.
+    /// Empties the vector and the look-up by id. By menu id and by group the commands are
+    /// still found, and this registry gives no menu id twice.
     void Clear();
 
     /// Looks the id up as it stands, then once more without its last character.

@@ -1,4 +1,6 @@
 // The command registry as a text, and as a file.
+#include <cstdint>
+
 #include "platform/arx/EdPrompt.h"
 #include "platform/win/Number.h"
 #include "workspacecore/commands/WsCommandRegistry.h"
@@ -28,7 +30,7 @@ boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
         static_cast<enmTreeCommandBehavior>(ReadInt(document, L"repoCmdBehavior")));
     command->SetCmdGroup(static_cast<enmCommandGroup>(ReadInt(document, L"cmdGroup")));
     command->SetRepositoryTag(ReadText(document, L"repositoryTag"));
-    command->SetWsItemTypes(static_cast<unsigned long>(ReadInt(document, L"wsItemTypes")));
+    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadInt(document, L"wsItemTypes")));
     return command;
 }
 

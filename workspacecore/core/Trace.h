@@ -1,8 +1,10 @@
 // The developer's trace: one text file for the whole process, switched by CLogEngine.
 //
 // While logging is off a site costs one call of CLogEngine::GetLoggingOnOff; nothing of
-// its arguments is evaluated, so they must have no side effects. While it is on, every
-// line is flushed. Main thread only.
+// its arguments is evaluated (but the condition of a verification, which is handed back),
+// so they must have no side effects. While it is on, every line is flushed. Wide texts are
+// written in UTF-8, names of systems and items (CString) in the ANSI code page. Main thread
+// only.
 //
 //     WS_TRACE_SCOPE();                    Entering now, Exiting when the scope ends
 //     WS_TRACE_TEXT(L"DLL Loaded");        a line with a text or a number
@@ -42,18 +44,24 @@ namespace Trace {
 
 /// The qualified name in a signature: no return type, no arguments.
 constexpr std::string_view QualifiedName(std::string_view signature) {
-    constexpr std::string_view kCallOperator = "operator()";
-    std::size_t open = signature.find(kCallOperator);
-    open = open == std::string_view::npos ? signature.find('(')
-                                          : signature.find('(', open + kCallOperator.size());
-    std::string_view name = signature.substr(0, open);
+    // Words in which a parenthesis, a bracket or a blank belongs to the name.
+    constexpr std::string_view kOperator = "operator";
+    constexpr std::string_view kUnnamed = "(anonymous";
+    const std::size_t op = signature.find(kOperator);
+    std::size_t open = op == std::string_view::npos ? 0 : op + kOperator.size();
+    open += op != std::string_view::npos && signature.substr(open).starts_with("()") ? 2 : 0;
+    while ((open = signature.find('(', open)) != std::string_view::npos &&
+           signature.substr(open).starts_with(kUnnamed)) {
+        ++open;
+    }
+    const std::string_view name = signature.substr(0, open);
+    // Backwards over the qualified name to the blank behind the return type.
     int depth = 0;
-    for (std::size_t i = name.size(); i > 0; --i) {
+    for (std::size_t i = std::min(op, name.size()); i > 0; --i) {
         const char c = name[i - 1];
-        depth += c == '>' ? 1 : c == '<' ? -1 : 0;
+        depth += c == '>' || c == ')' ? 1 : c == '<' || c == '(' ? -1 : 0;
         if (depth == 0 && (c == ' ' || c == '*' || c == '&')) {
-            name.remove_prefix(i);
-            break;
+            return name.substr(i);
         }
     }
     return name;

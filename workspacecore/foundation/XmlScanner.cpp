@@ -242,9 +242,10 @@ void XmlScanner::ScanDocType(XmlToken& token, bool bNested) {
     for (const wchar_t* pAt = m_pAt + 2; pAt < m_pEnd; ++pAt) {
         if (cQuote != 0) {
             cQuote = *pAt == cQuote ? L'\0' : cQuote;
-        } else if (*pAt == L'"' || *pAt == L'\'') {
+        } else if (bNested && (*pAt == L'"' || *pAt == L'\'')) {
+            // A declaration ends at its first ">", whatever it quotes.
             cQuote = *pAt;
-        } else if (*pAt == L'<' && bNested) {
+        } else if (bNested && *pAt == L'<') {
             ++nLevel;
         } else if (*pAt == L'>' && --nLevel == 0) {
             Finish(token, XML_NODE_DOCTYPE, pAt + 1);

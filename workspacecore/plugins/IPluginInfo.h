@@ -6,7 +6,8 @@
 //     extern "C" void         ORVPluginInfoRelease();     (optional; not called today)
 //
 // The provider is asked again before every call, so it must hand out the same living
-// object each time, cheaply. The object belongs to the plug-in.
+// object each time, cheaply; a null one makes the library count as no plug-in. The object
+// belongs to the plug-in.
 #pragma once
 
 #include "platform/win/String.h"
@@ -24,6 +25,9 @@ enum class SelectionType : int;
 /// RegisterWsPanelDialog and RegisterCatalogExtenders, in this order. In all of them
 /// CWsManager::Instance gives the manager with its registries, and what earlier modules
 /// registered is there; tree templates, log view, main panel and repositories are not.
+///
+/// A file that is added to a running workspace is called otherwise: PluginHook7, 6, 1, 3, 4,
+/// then the three Register operations as above. Hooks 2 and 5 are for the start alone.
 class IPluginInfo {
 public:
     virtual ~IPluginInfo() = default;

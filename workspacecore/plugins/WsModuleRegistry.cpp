@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/arx/EdPrompt.h"
-#include "platform/win/File.h"
 #include "platform/win/Number.h"
 #include "platform/win/StringArray.h"
 #include "siblings/giscore/Utility.h"
@@ -71,13 +70,11 @@ int CWsModuleRegistry::ParseXML(const wchar_t* lpszXml) {
 }
 
 int CWsModuleRegistry::Load(const wchar_t* lpszPath) {
-    if (!OpenFile(lpszPath, "rb")) {
-        return 0;
-    }
     XmlDocument document;
-    // Whether it is well formed does not matter here: what can be read of it, counts.
-    document.Load(lpszPath);
-    return ParseXML(document.GetDoc());
+    // Whether it is well formed does not matter here: what can be read of it, counts. A file
+    // that could be read at all is reported with its length.
+    const bool bRead = document.Load(lpszPath) || document.GetError().Find(L" bytes to ") > 0;
+    return bRead ? ParseXML(document.GetDoc()) : 0;
 }
 
 int CWsModuleRegistry::Save(const wchar_t* lpszPath) const {

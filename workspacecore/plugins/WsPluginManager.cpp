@@ -9,6 +9,7 @@
 #include "platform/win/Library.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "workspacecore/core/Trace.h"
+#include "workspacecore/plugins/LoadSteps.h"
 #include "workspacecore/plugins/SplashScreen.h"
 
 namespace Orvane::Workspace {
@@ -17,9 +18,6 @@ namespace {
 
 constexpr const char* kProviderEntry = "ORVPluginInfoProvider";
 constexpr const char* kReleaseEntry = "ORVPluginInfoRelease";
-/// A library on a network share may be there at the second look.
-constexpr int kLoadAttempts = 7;
-
 struct Hook {
     void (IPluginInfo::*call)();
     const wchar_t* name;
@@ -58,19 +56,16 @@ void RunHooks(PluginInfoProvider provider, const wchar_t* fileName, std::span<co
     }
 }
 
-HINSTANCE LoadWithAttempts(const wchar_t* path, int attempts) {
-    HINSTANCE library = nullptr;
-    for (int i = 0; i < attempts && !library; ++i) {
-        library = LoadLibrary(path);
-    }
-    return library;
-}
-
 void TakeLibrary(CWsModule& module, HINSTANCE library) {
     module.SetModuleDLLInstance(library);
     module.SetPluginInfo(
         reinterpret_cast<PluginInfoProvider>(GetProcAddress(library, kProviderEntry)));
     module.SetReleaseModule(GetProcAddress(library, kReleaseEntry));
+}
+
+/// It has a provider, and the provider has something to hand out.
+bool IsPlugin(const CWsModule& module) {
+    return module.GetPluginInfo() && module.GetPluginInfo()();
 }
 
 void DropLibrary(CWsModule& module) {
@@ -95,9 +90,7 @@ void ShowProgress(CSplashScreen& splash, int bShown, std::size_t index, std::siz
     if (bShown) {
         CString text;
         text.Format(L"%s ...", fileName);
-        splash.SetProgress(
-            static_cast<int>(static_cast<double>(index + 1) * 100.0 / static_cast<double>(count)),
-            text);
+        splash.SetProgress(LoadPercent(index, count), text);
     } else {
         acutPrintf(L"\n%s", fileName);
     }
@@ -130,40 +123,39 @@ int CWsPluginManager::LoadModules() {
     // loaded in its turn.
     for (std::size_t i = 0; i < modules.size(); ++i) {
         const CWsModuleRegistry::ModulePtr module = modules[i];
-        ShowProgress(splash, bShown, i, modules.size(), module->GetFileName());
-        WS_TRACE_FORMAT(L"Module = %s, %s", module->GetFileName(),
-                        module->GetOn() ? L"ON" : L"OFF");
-        if (module->GetOn()) {
-            bAnyAccepted |= LoadRecord(*module);
+        const CString fileName = module->GetFileName();
+        ShowProgress(splash, bShown, i, modules.size(), fileName);
+        WS_TRACE_FORMAT(L"Module = %s, %s", fileName, module->GetOn() ? L"ON" : L"OFF");
+        if (!module->GetOn()) {
+            continue;
         }
+        module->SetLoaded(0);
+        HINSTANCE library =
+            LoadWithAttempts([&] { return LoadLibrary(Path(L"install", fileName)); });
+        WS_TRACE_TEXT(library ? "DLL Loaded" : "***NOT LOADED***");
+        if (!library) {
+            WS_TRACE_TEXT(LastErrorText().GetString());
+            continue;
+        }
+        TakeLibrary(*module, library);
+        WS_TRACE_TEXT(module->GetPluginInfo() ? "Plugin entry found"
+                                              : "***Plugin entry NOT found***");
+        if (IsPlugin(*module)) {
+            bAnyAccepted = 1;
+            module->SetLoaded(1);
+            RunHooks(module->GetPluginInfo(), fileName, kStartHooks);
+        }
+        if (!module->GetLoaded()) {
+            DropLibrary(*module);
+            module->SetOn(0);
+        }
+        WS_TRACE_TEXT("---------------------------");
     }
     m_bModulesLoaded = 1;
     splash.Close();
     // The panel buttons that the plug-ins claimed are stacked here, once there are panel
     // dialogs.
     return bAnyAccepted;
-}
-
-int CWsPluginManager::LoadRecord(CWsModule& module) {
-    module.SetLoaded(0);
-    const CString fileName = module.GetFileName();
-    HINSTANCE library = LoadWithAttempts(Path(L"install", fileName), kLoadAttempts);
-    WS_TRACE_TEXT(library ? "DLL Loaded" : "***NOT LOADED***");
-    if (!library) {
-        WS_TRACE_TEXT(LastErrorText().GetString());
-        return 0;
-    }
-    TakeLibrary(module, library);
-    WS_TRACE_TEXT(module.GetPluginInfo() ? "Plugin entry found" : "***Plugin entry NOT found***");
-    if (module.GetPluginInfo()) {
-        module.SetLoaded(1);
-        RunHooks(module.GetPluginInfo(), fileName, kStartHooks);
-    } else {
-        DropLibrary(module);
-        module.SetOn(0);
-    }
-    WS_TRACE_TEXT("---------------------------");
-    return module.GetLoaded();
 }
 
 int CWsPluginManager::LoadModule(const wchar_t* lpszFile) {
@@ -178,7 +170,7 @@ int CWsPluginManager::LoadModule(const wchar_t* lpszFile) {
     module->SetFileName(lpszFile);
     module->SetOn(1);
     TakeLibrary(*module, library);
-    if (!module->GetPluginInfo()) {
+    if (!IsPlugin(*module)) {
         DropLibrary(*module);
         return 0;
     }

@@ -32,8 +32,6 @@ public:
     void ReleaseModules();
 
 private:
-    int LoadRecord(CWsModule& module);
-
     boost::shared_ptr<CWsModuleRegistry> m_pModuleRegistry;
     int m_bRegistryLoaded = 0;
     int m_bModulesLoaded = 0;

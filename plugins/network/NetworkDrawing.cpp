@@ -144,7 +144,7 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
     if (imported.pNetwork && hasPolygons) {
         imported.pPolygons = systems.CreateSystem(polygonName, TopologyPolygon, 0, &reason);
     }
-    if (!reason.IsEmpty()) {
+    if (!imported.pNetwork || (hasPolygons && !imported.pPolygons)) {
         return reason;
     }
     CTopologyStorage& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();

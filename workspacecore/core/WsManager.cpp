@@ -97,6 +97,7 @@ void CWsManager::RegisterRepositoryItemFactory(const wchar_t* tag,
 void CWsManager::RegisterWsListener(IWsListener* pListener) {
     if (m_ListenerSet.insert(pListener).second) {
         m_Listeners.push_back(pListener);
+        ++m_nListenerChanges;
     }
 }
 
@@ -105,6 +106,7 @@ void CWsManager::UnregisterWsListener(IWsListener* pListener) {
     const auto hit = std::find(m_Listeners.begin(), m_Listeners.end(), pListener);
     if (hit != m_Listeners.end()) {
         m_Listeners.erase(hit);
+        ++m_nListenerChanges;
     }
 }
 

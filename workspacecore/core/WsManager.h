@@ -111,14 +111,15 @@ public:
 
 private:
     CWsManager();
-    template <class... Params, class... Args>
-    void Deliver(void (IWsListener::*event)(Params...), Args... args) const;
+    template <auto Event, class... Args>
+    void Deliver(Args... args) const;
 
     // In the order of construction: the plug-in manager reads its file first.
     CWsPluginManager m_PluginMgr;
     CWsCommandManager m_CmdMgr;
     std::set<IWsListener*> m_ListenerSet;
     std::vector<IWsListener*> m_Listeners;
+    unsigned int m_nListenerChanges = 0;
     Notification::CPublisher* m_pRefreshAllPbl;
     Notification::CPublisher* m_pRefreshTreePbl;
     Notification::CPublisher* m_pSelectionInProgressPbl;

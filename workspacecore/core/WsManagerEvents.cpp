@@ -27,13 +27,23 @@ Topology::CTopologyStorage* MainTopology() {
 
 } // namespace
 
-template <class... Params, class... Args>
-void CWsManager::Deliver(void (IWsListener::*event)(Params...), Args... args) const {
-    // The end is fixed in advance. By index, so that a listener which breaks its contract
-    // and registers or unregisters somebody cannot lead the walk into freed memory.
+template <auto Event, class... Args>
+void CWsManager::Deliver(Args... args) const {
+    // The end is fixed in advance.
     const std::size_t count = m_Listeners.size();
-    for (std::size_t i = 0; i < count && i < m_Listeners.size(); ++i) {
-        (m_Listeners[i]->*event)(args...);
+    const unsigned int changes = m_nListenerChanges;
+    IWsListener* const* const pFirst = m_Listeners.data();
+    for (IWsListener* const* pNext = pFirst; pNext != pFirst + count;) {
+        ((*pNext++)->*Event)(args...);
+        if (changes != m_nListenerChanges) [[unlikely]] {
+            // A listener broke its contract and registered or unregistered somebody: go on
+            // by index, so that it leads nobody into freed memory.
+            for (auto i = static_cast<std::size_t>(pNext - pFirst);
+                 i < count && i < m_Listeners.size(); ++i) {
+                (m_Listeners[i]->*Event)(args...);
+            }
+            return;
+        }
     }
 }
 
@@ -51,12 +61,12 @@ int CWsManager::Raise_OnBeforeAcadWillClose() {
 
 void CWsManager::Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
     WS_TRACE_TEXT(lpszFileName);
-    Deliver(&IWsListener::OnBeginSaveAcadDocument, pDb, lpszFileName);
+    Deliver<&IWsListener::OnBeginSaveAcadDocument>(pDb, lpszFileName);
 }
 
 void CWsManager::Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
     WS_TRACE_TEXT(lpszFileName);
-    Deliver(&IWsListener::OnSaveCompletedAcadDocument, pDb, lpszFileName);
+    Deliver<&IWsListener::OnSaveCompletedAcadDocument>(pDb, lpszFileName);
 }
 
 void CWsManager::Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc) {
@@ -69,12 +79,12 @@ void CWsManager::Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc) 
         Data::CDataConfiguration::Instance()->SetFloatToStrPrecision_Point(
             CModuleConfiguration::Instance()->GetNodeIndexCoorPrecision());
     }
-    Deliver(&IWsListener::OnAcadDocumentBecomeCurrent, pActivatedDoc);
+    Deliver<&IWsListener::OnAcadDocumentBecomeCurrent>(pActivatedDoc);
 }
 
 void CWsManager::Raise_OnAcadDocumentToBeDeactivated(AcApDocument* pDoc) {
     if (!s_bHostWillClose) {
-        Deliver(&IWsListener::OnAcadDocumentToBeDeactivated, pDoc);
+        Deliver<&IWsListener::OnAcadDocumentToBeDeactivated>(pDoc);
     }
 }
 
@@ -82,7 +92,7 @@ void CWsManager::Raise_OnAcadDocumentToBeDestroyed(AcApDocument* pDocToDestroy) 
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("pDocToDestroy", pDocToDestroy);
     if (!s_bHostWillClose) {
-        Deliver(&IWsListener::OnAcadDocumentToBeDestroyed, pDocToDestroy);
+        Deliver<&IWsListener::OnAcadDocumentToBeDestroyed>(pDocToDestroy);
     }
 }
 
@@ -90,14 +100,14 @@ void CWsManager::Raise_OnAcadDocumentDestroyed(const wchar_t* lpszFileName) {
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("lpszFileName", lpszFileName);
     if (!s_bHostWillClose) {
-        Deliver(&IWsListener::OnAcadDocumentDestroyed, lpszFileName);
+        Deliver<&IWsListener::OnAcadDocumentDestroyed>(lpszFileName);
     }
 }
 
 void CWsManager::Raise_OnSystemChanged(System::CGisSystem* pSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver(&IWsListener::OnSystemChanged, pSystem);
+    Deliver<&IWsListener::OnSystemChanged>(pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActive) {
@@ -112,40 +122,40 @@ void CWsManager::Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActi
     Data::CLinearDataManager::Instance()->RefreshLinearDataDefinitions();
     MainTopology()->RefreshNameRules();
     MainTopology()->LoadCountersFromSystem(pSysToBecomeActive);
-    Deliver(&IWsListener::OnSystemBecomeActive, pSysToBecomeActive);
+    Deliver<&IWsListener::OnSystemBecomeActive>(pSysToBecomeActive);
 }
 
 void CWsManager::Raise_OnSystemBecomeInactive(System::CGisSystem* pSystem) {
     MainTopology()->SaveCountersToSystem(pSystem);
-    Deliver(&IWsListener::OnSystemBecomeInactive, pSystem);
+    Deliver<&IWsListener::OnSystemBecomeInactive>(pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeHidden(System::CGisSystem* pSystem) {
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver(&IWsListener::OnSystemBecomeHidden, pSystem);
+    Deliver<&IWsListener::OnSystemBecomeHidden>(pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeShown(System::CGisSystem* pSystem) {
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver(&IWsListener::OnSystemBecomeShown, pSystem);
+    Deliver<&IWsListener::OnSystemBecomeShown>(pSystem);
 }
 
 void CWsManager::Raise_OnBeforeSystemDelete(System::CGisSystem* pSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver(&IWsListener::OnBeforeSystemDelete, pSystem);
+    Deliver<&IWsListener::OnBeforeSystemDelete>(pSystem);
 }
 
 void CWsManager::Raise_OnAfterSystemDelete() {
     WS_TRACE_TEXT("Marker");
-    Deliver(&IWsListener::OnAfterSystemDelete);
+    Deliver<&IWsListener::OnAfterSystemDelete>();
 }
 
 void CWsManager::Raise_OnNewSystemCreated(System::CGisSystem* pNewSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("pNewSystem", pNewSystem);
     WS_TRACE_SYSTEM_NAME(pNewSystem);
-    Deliver(&IWsListener::OnNewSystemCreated, pNewSystem);
+    Deliver<&IWsListener::OnNewSystemCreated>(pNewSystem);
 }
 
 void CWsManager::Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
@@ -155,13 +165,13 @@ void CWsManager::Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszNewDefinitionGuid", lpszNewDefinitionGuid);
     }
-    Deliver(&IWsListener::OnNewConfigDefinitionAdded, pSystem, lpszRepositoryTag,
-            lpszNewDefinitionGuid);
+    Deliver<&IWsListener::OnNewConfigDefinitionAdded>(pSystem, lpszRepositoryTag,
+                                                      lpszNewDefinitionGuid);
 }
 
 void CWsManager::Raise_OnTemporaryDataRefreshed() {
     if (!s_bHostWillClose) {
-        Deliver(&IWsListener::OnTemporaryDataRefreshed);
+        Deliver<&IWsListener::OnTemporaryDataRefreshed>();
     }
 }
 
@@ -172,8 +182,8 @@ void CWsManager::Raise_OnBeforeConfigDefinitionDeleted(
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszDefinitionGuidToBeDeleted", lpszDefinitionGuidToBeDeleted);
     }
-    Deliver(&IWsListener::OnBeforeConfigDefinitionDeleted, pSystem, lpszRepositoryTag,
-            lpszDefinitionGuidToBeDeleted);
+    Deliver<&IWsListener::OnBeforeConfigDefinitionDeleted>(pSystem, lpszRepositoryTag,
+                                                           lpszDefinitionGuidToBeDeleted);
 }
 
 void CWsManager::Raise_OnConfigDefinitionChanged(System::CGisSystem* pSystem,
@@ -183,8 +193,8 @@ void CWsManager::Raise_OnConfigDefinitionChanged(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpsChangedDefinitionGuid", lpsChangedDefinitionGuid);
     }
-    Deliver(&IWsListener::OnConfigDefinitionChanged, pSystem, lpszRepositoryTag,
-            lpsChangedDefinitionGuid);
+    Deliver<&IWsListener::OnConfigDefinitionChanged>(pSystem, lpszRepositoryTag,
+                                                     lpsChangedDefinitionGuid);
 }
 
 void CWsManager::Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem,
@@ -194,15 +204,15 @@ void CWsManager::Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszDefaultDefinitionGuid", lpszDefaultDefinitionGuid);
     }
-    Deliver(&IWsListener::OnConfigBecomeDefault, pSystem, lpszRepositoryTag,
-            lpszDefaultDefinitionGuid);
+    Deliver<&IWsListener::OnConfigBecomeDefault>(pSystem, lpszRepositoryTag,
+                                                 lpszDefaultDefinitionGuid);
 }
 
 void CWsManager::Raise_OnBeforeCommandActivated(const wchar_t* lpszCommandId) {
     WS_TRACE_SCOPE();
     if (!s_bHostWillClose) {
         WS_TRACE_TEXT(lpszCommandId);
-        Deliver(&IWsListener::OnBeforeCommandActivated, lpszCommandId);
+        Deliver<&IWsListener::OnBeforeCommandActivated>(lpszCommandId);
     }
 }
 
@@ -210,13 +220,13 @@ void CWsManager::Raise_OnAfterCommandCompleted(const wchar_t* lpszCommandId) {
     WS_TRACE_SCOPE();
     if (!s_bHostWillClose) {
         WS_TRACE_TEXT(lpszCommandId);
-        Deliver(&IWsListener::OnAfterCommandCompleted, lpszCommandId);
+        Deliver<&IWsListener::OnAfterCommandCompleted>(lpszCommandId);
     }
 }
 
 void CWsManager::Raise_OnAfterGeneralSettingsChanged() {
     WS_TRACE_TEXT("Marker");
-    Deliver(&IWsListener::OnAfterGeneralSettingsChanged);
+    Deliver<&IWsListener::OnAfterGeneralSettingsChanged>();
 }
 
 } // namespace Orvane::Workspace

@@ -47,8 +47,7 @@ std::optional<FileVersion> ReadFileVersion(const wchar_t* path) {
         return std::nullopt;
     }
     for (const ElfFile::Range& segment : elf->notes) {
-        if (segment.offset > elf->fileLength ||
-            segment.size > elf->fileLength - segment.offset) {
+        if (segment.offset > elf->fileLength || segment.size > elf->fileLength - segment.offset) {
             continue;
         }
         std::string notes(segment.size, '\0');

@@ -52,10 +52,10 @@ void* GetProcAddress(HINSTANCE library, const char* name) {
     link_map* own = nullptr;
     Dl_info found{};
     link_map* owner = nullptr;
-    const bool isOwn = address && dlinfo(library, RTLD_DI_LINKMAP, &own) == 0 &&
-                       dladdr1(address, &found, reinterpret_cast<void**>(&owner),
-                               RTLD_DL_LINKMAP) != 0 &&
-                       owner == own;
+    const bool isOwn =
+        address && dlinfo(library, RTLD_DI_LINKMAP, &own) == 0 &&
+        dladdr1(address, &found, reinterpret_cast<void**>(&owner), RTLD_DL_LINKMAP) != 0 &&
+        owner == own;
     return isOwn ? address : nullptr;
 }
 

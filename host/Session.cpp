@@ -6,6 +6,7 @@
 #include "platform/arx/Activity.h"
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
+#include "platform/arx/EdEditor.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
 #include "platform/arx/HostReactor.h"
@@ -49,6 +50,7 @@ bool Guarded(const wchar_t* what, Call call) {
 
 void Session::Start() {
     RegisterHostCommands();
+    acedEditor();
     AcApDocument* const pDoc = acDocManagerPtr()->newDocument(kNewDrawing);
     for (const wchar_t* module : kStartModules) {
         const CString path = GetHostOption(kHostOptionInstall) + module;

@@ -40,10 +40,10 @@ void AcApDocManager::setCurDocument(AcApDocument* pDoc) {
     Tell([pDoc](AcApDocManagerReactor& reactor) { reactor.documentBecameCurrent(pDoc); });
 }
 
-void AcApDocManager::closeDocument(AcApDocument* pDoc) {
+bool AcApDocManager::closeDocument(AcApDocument* pDoc) {
     const auto own = [pDoc](const auto& entry) { return entry.get() == pDoc; };
-    if (std::none_of(m_documents.begin(), m_documents.end(), own)) {
-        return;
+    if (std::none_of(m_documents.begin(), m_documents.end(), own) || pDoc->isLocked()) {
+        return false;
     }
     const CString fileName = pDoc->fileName();
     const bool wasCurrent = pDoc == m_pCurrent;
@@ -60,6 +60,7 @@ void AcApDocManager::closeDocument(AcApDocument* pDoc) {
     if (wasCurrent) {
         setCurDocument(m_documents.empty() ? nullptr : m_documents.back().get());
     }
+    return true;
 }
 
 void AcApDocManager::popResourceHandle() {

@@ -17,7 +17,13 @@ public:
     const wchar_t* fileName() const { return m_strFileName; }
     AcDbDatabase* database() const { return m_pDatabase.get(); }
 
+    /// A document is not closed while somebody holds a lock on it. Locks nest.
+    void lock() { ++m_nLocks; }
+    void unlock() { --m_nLocks; }
+    bool isLocked() const { return m_nLocks > 0; }
+
 private:
+    int m_nLocks = 0;
     CString m_strFileName;
     std::unique_ptr<AcDbDatabase> m_pDatabase;
 };
@@ -51,8 +57,9 @@ public:
     AcApDocument* newDocument(const wchar_t* fileName);
     /// Makes a document current: the old one is told first that it will no longer be.
     void setCurDocument(AcApDocument* pDoc);
-    /// Destroys a document; the one opened last of the others becomes current.
-    void closeDocument(AcApDocument* pDoc);
+    /// Destroys a document; the one opened last of the others becomes current. False, and
+    /// nothing happens, for a locked document and for one that is not open.
+    bool closeDocument(AcApDocument* pDoc);
 
     /// Makes a module's dialogs and icons the ones that are found first.
     void pushResourceHandle(HINSTANCE hInstance) { m_resources.push_back(hInstance); }

@@ -1,6 +1,7 @@
 // What the host calls when it loads the module.
 #include "platform/arx/RxArxApp.h"
 #include "workspacecore/Api.h"
+#include "workspacecore/core/EditorReactor.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Workspace {
@@ -15,11 +16,16 @@ constexpr AcRxCommandEntry kCommands[] = {
     {L"ORVZWorkspaceCore", L"test", L"test", ACRX_CMD_TRANSPARENT, StartConsole},
 };
 
-/// Loading the module registers its command and nothing else: the workspace comes with
-/// the first CWsManager::Instance.
+constexpr AcRxClassEntry kClasses[] = {
+    {ORVZWorkspaceCore_EditorReactor::rxInit, ORVZWorkspaceCore_EditorReactor::desc},
+};
+
+/// Loading the module registers its command and its class and nothing else: the workspace comes
+/// with the first CWsManager::Instance.
 class CWorkspaceCoreApp final : public AcRxArxApp {
 protected:
     std::span<const AcRxCommandEntry> CommandTable() const override { return kCommands; }
+    std::span<const AcRxClassEntry> ClassTable() const override { return kClasses; }
 };
 
 CWorkspaceCoreApp theApp;

@@ -8,6 +8,8 @@
 #include "siblings/giscore/NotificationFramework.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscoreadds/InfoTooltipRegistry.h"
+#include "workspacecore/core/DocumentReactorWorkspace.h"
+#include "workspacecore/core/EditorReactor.h"
 #include "workspacecore/core/HostWillClose.h"
 #include "workspacecore/core/Trace.h"
 
@@ -37,7 +39,8 @@ CWsManager* CWsManager::Instance() {
         return m_pInstance;
     }
     WS_TRACE_TEXT("CWsManager - 1");
-    // The document reactor is made and attached here, once there is one.
+    m_pInstance->m_pDocumentReactor = new CWsDocumentReactor;
+    acDocManagerPtr()->addReactor(m_pInstance->m_pDocumentReactor);
     WS_TRACE_TEXT("CWsManager - 2");
     CAnsi2UnicodeUtility::Instance()->ReserveBufferMemory(kConversionBuffer);
     m_pInstance->m_PluginMgr.LoadModules();
@@ -48,7 +51,7 @@ CWsManager* CWsManager::Instance() {
     WS_TRACE_TEXT("CWsManager - 4");
     // The log viewer is made here with its docking pane, once there are panes.
     WS_TRACE_TEXT("CWsManager - 5");
-    // The editor reactor is made here, once there is one.
+    m_pInstance->m_pEditorReactor = new ORVZWorkspaceCore_EditorReactor(true);
     CModuleConfiguration::Instance()->SetApplicationIsLoaded(1);
     WS_TRACE_TEXT("CWsManager - 6");
     CRepositoryManager::Instance()->ReloadRepositories(0);
@@ -66,6 +69,11 @@ CWsManager::~CWsManager() {
     // The pointer is cleared first, so that the teardown runs once, and so that nothing
     // below reaches a manager that is going.
     CWsManager* const pLive = std::exchange(m_pInstance, nullptr);
+    if (pLive) {
+        acDocManagerPtr()->removeReactor(pLive->m_pDocumentReactor);
+        delete std::exchange(pLive->m_pDocumentReactor, nullptr);
+        delete std::exchange(pLive->m_pEditorReactor, nullptr);
+    }
     if (pLive != this) {
         delete pLive;
     }

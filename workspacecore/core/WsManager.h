@@ -10,6 +10,8 @@
 #include "workspacecore/core/IWsListener.h"
 #include "workspacecore/plugins/WsPluginManager.h"
 
+class ORVZWorkspaceCore_EditorReactor;
+
 namespace Orvane {
 class CRepositoryFactory;
 class CRepositoryItemFactory;
@@ -22,6 +24,8 @@ class IInfoTooltip;
 } // namespace Orvane
 
 namespace Orvane::Workspace {
+
+class CWsDocumentReactor;
 
 /// Holds the sub-managers and the listeners, and starts the workspace: the first call of
 /// Instance makes the object, loads the plug-ins and builds everything on top of them.
@@ -115,6 +119,8 @@ private:
     void Deliver(Args... args) const;
 
     // In the order of construction: the plug-in manager reads its file first.
+    CWsDocumentReactor* m_pDocumentReactor = nullptr;            ///< owned
+    ORVZWorkspaceCore_EditorReactor* m_pEditorReactor = nullptr; ///< owned
     CWsPluginManager m_PluginMgr;
     CWsCommandManager m_CmdMgr;
     std::set<IWsListener*> m_ListenerSet;

@@ -1,0 +1,62 @@
+// A GeoPackage that is open, and the few operations on it that reading and writing share.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "host/storage/GdalErrors.h"
+
+class GDALDataset;
+class OGRFeature;
+class OGRLayer;
+
+namespace Tessaly {
+
+/// Closes with its end. What goes wrong is in the errors that it was made with.
+class GeoPackageFile {
+public:
+    enum class Mode {
+        Read,
+        Write,  ///< in place: every commit is on the disk before it counts
+        Draft,  ///< a file that nobody else knows yet: fast, the disk is asked once at its end
+        Create, ///< a new draft
+    };
+
+    GeoPackageFile(const std::string& path, Mode mode);
+    ~GeoPackageFile();
+    GeoPackageFile(const GeoPackageFile&) = delete;
+    GeoPackageFile& operator=(const GeoPackageFile&) = delete;
+
+    bool IsOpen() const { return m_pDataset != nullptr; }
+    GDALDataset& Dataset() { return *m_pDataset; }
+    /// Null if there is no table of the name.
+    OGRLayer* Table(const std::string& name);
+    bool Execute(const std::string& sql);
+    /// Calls for each row of the result.
+    bool Query(const std::string& sql, const std::function<void(const OGRFeature&)>& row);
+
+    bool Begin();
+    /// Everything to the disk, or nothing of it.
+    bool Commit();
+    void Rollback();
+
+private:
+    void Open(const std::string& path, Mode mode);
+    bool IsDurable();
+
+    GDALDataset* m_pDataset = nullptr;
+    bool m_bInTransaction = false;
+};
+
+/// A name (a text) as it stands in SQL.
+std::string QuoteName(const std::string& name);
+std::string QuoteText(const std::string& text);
+
+/// Lets a write that another process left unfinished be taken back. Empty on success.
+CString SettleJournal(const std::string& path);
+/// The same for a file that is to be replaced: no journal of its may be left, since it would
+/// be taken for one of the new file. Empty on success.
+CString ClearJournals(const std::string& path);
+
+} // namespace Tessaly

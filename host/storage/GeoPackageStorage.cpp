@@ -1,0 +1,274 @@
+#include "host/storage/GeoPackageStorage.h"
+
+#include <exception>
+#include <filesystem>
+#include <map>
+#include <new>
+
+#include "host/storage/DrawingReader.h"
+#include "host/storage/DrawingWriter.h"
+#include "host/storage/Files.h"
+#include "host/storage/GeoPackageFile.h"
+#include "host/storage/SourceCopy.h"
+#include "platform/arx/DbDatabase.h"
+#include "platform/win/CodePage.h"
+
+namespace Tessaly {
+
+namespace {
+
+using Mode = GeoPackageFile::Mode;
+using Scope = DrawingWriter::Scope;
+
+AcDbStorageResult Refusal(const std::string& path, const CString& reason) {
+    AcDbStorageResult result;
+    result.reason = FileReason(path, reason);
+    return result;
+}
+
+class GeoPackageStorage final : public IDbStorage {
+public:
+    AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
+                           const AcDbProgress& progress) override;
+    AcDbStorageResult Save(AcDbDatabase& database, const wchar_t* path,
+                           const AcDbProgress& progress) override;
+    AcDbStorageResult SaveAs(AcDbDatabase& database, const wchar_t* from, const wchar_t* path,
+                             const AcDbProgress& progress) override;
+
+private:
+    AcDbStorageResult ReadFile(AcDbDatabase& database, const std::string& path,
+                               const AcDbProgress& progress);
+    AcDbStorageResult SaveChanges(AcDbDatabase& database, const std::string& path,
+                                  const AcDbProgress& progress);
+    AcDbStorageResult SaveTo(AcDbDatabase& database, const wchar_t* from, const std::string& path,
+                             const AcDbProgress& progress);
+    DrawingFile* FileOf(const AcDbDatabase& database, const std::string& path);
+    AcDbStorageResult SaveCopy(AcDbDatabase& database, const std::string& from,
+                               const std::string& path, const AcDbProgress& progress);
+    AcDbStorageResult SaveWhole(AcDbDatabase& database, const std::string& path,
+                                const AcDbProgress& progress);
+
+    std::map<const AcDbDatabase*, DrawingFile> m_files;
+};
+
+/// One transaction into a file. Empty on success; `file` is brought up to date then.
+CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabase& database,
+              DrawingFile& remembered, const AcDbProgress& progress) {
+    GdalErrors errors;
+    GeoPackageFile file(path, mode);
+    if (!file.IsOpen()) {
+        return errors.Reason();
+    }
+    DrawingWriter writer(file, errors, database, remembered, progress);
+    CString reason = writer.Write(scope);
+    if (reason.IsEmpty()) {
+        writer.Update(remembered);
+    }
+    return reason;
+}
+
+/// Whether what is in the file has other coordinates than the drawing has now.
+bool HasOtherCoordinates(const std::string& path, const AcDbDatabase& database) {
+    GdalErrors errors;
+    GeoPackageFile file(path, Mode::Read);
+    Schema schema;
+    return file.IsOpen() && LoadSchema(file, schema).IsEmpty() && schema.exists &&
+           schema.coordinateSystem != WideToUtf8(database.coordinateSystem().View());
+}
+
+CString WhyNotTarget(const std::string& path) {
+    std::error_code ignored;
+    const std::filesystem::path target(path);
+    if (!std::filesystem::is_directory(target.parent_path(), ignored)) {
+        return L"its folder is not there";
+    }
+    if (std::filesystem::is_directory(target, ignored)) {
+        return L"it is a folder";
+    }
+    const CString reason = WhyNotWritable(path);
+    return reason.IsEmpty() ? ClearJournals(path) : reason;
+}
+
+/// Memory may run out, and a file may hold more than a database can. That is a reason as any
+/// other.
+template <class Work>
+AcDbStorageResult Guarded(const std::string& path, Work work) {
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return Refusal(path, L"there is not enough memory for it");
+    } catch (const std::exception& error) {
+        return Refusal(path, Utf8ToWide(error.what()));
+    }
+}
+
+AcDbStorageResult GeoPackageStorage::Read(AcDbDatabase& database, const wchar_t* path,
+                                          const AcDbProgress& progress) {
+    const std::string native = AbsolutePath(path);
+    return Guarded(native, [&] { return ReadFile(database, native, progress); });
+}
+
+AcDbStorageResult GeoPackageStorage::Save(AcDbDatabase& database, const wchar_t* path,
+                                          const AcDbProgress& progress) {
+    const std::string native = AbsolutePath(path);
+    return Guarded(native, [&] { return SaveChanges(database, native, progress); });
+}
+
+AcDbStorageResult GeoPackageStorage::SaveAs(AcDbDatabase& database, const wchar_t* from,
+                                            const wchar_t* path, const AcDbProgress& progress) {
+    const std::string native = AbsolutePath(path);
+    return Guarded(native, [&] { return SaveTo(database, from, native, progress); });
+}
+
+AcDbStorageResult GeoPackageStorage::ReadFile(AcDbDatabase& database, const std::string& native,
+                                              const AcDbProgress& progress) {
+    CString reason = WhyNoDatabase(native);
+    if (reason.IsEmpty()) {
+        reason = SettleJournal(native);
+    }
+    if (!reason.IsEmpty()) {
+        return Refusal(native, reason);
+    }
+    GdalErrors errors;
+    const std::uint32_t counter = ChangeCounter(native);
+    GeoPackageFile file(native, Mode::Read);
+    if (!file.IsOpen()) {
+        return Refusal(native, errors.Reason());
+    }
+    DrawingReader reader(file, errors, progress);
+    reason = reader.Read(database);
+    if (!reason.IsEmpty()) {
+        return Refusal(native, reason);
+    }
+    DrawingFile remembered;
+    reader.MoveInto(database, remembered);
+    remembered.path = native;
+    remembered.changeCounter = counter;
+    m_files[&database] = std::move(remembered);
+    AcDbStorageResult result;
+    for (const CString& warning : reader.Warnings()) {
+        result.warnings.push_back(FileReason(native, warning));
+    }
+    return result;
+}
+
+DrawingFile* GeoPackageStorage::FileOf(const AcDbDatabase& database, const std::string& path) {
+    const auto found = m_files.find(&database);
+    return found != m_files.end() && found->second.path == path ? &found->second : nullptr;
+}
+
+AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const std::string& native,
+                                                 const AcDbProgress& progress) {
+    DrawingFile* pFile = FileOf(database, native);
+    CString reason = pFile ? WhyNoDatabase(native) : CString(L"the drawing is not from this file");
+    if (reason.IsEmpty()) {
+        reason = WhyNotWritable(native);
+    }
+    if (reason.IsEmpty()) {
+        reason = SettleJournal(native);
+    }
+    if (!reason.IsEmpty()) {
+        return Refusal(native, reason);
+    }
+    // Each geometry says in which system it is: all are written anew, and beside the file,
+    // where a stop in the middle leaves the old ones.
+    if (database.isHeaderUnsaved() && HasOtherCoordinates(native, database)) {
+        return SaveCopy(database, native, native, progress);
+    }
+    AcDbStorageResult result;
+    if (pFile->changeCounter != ChangeCounter(native)) {
+        result.warnings.push_back(
+            FileReason(native, L"another program has changed it since it was opened; what that "
+                               L"did to other objects is kept, and seen when it is opened again"));
+    }
+    reason = Write(native, Mode::Write, Scope::Changes, database, *pFile, progress);
+    if (!reason.IsEmpty()) {
+        return Refusal(native, reason);
+    }
+    pFile->changeCounter = ChangeCounter(native);
+    database.markSaved();
+    return result;
+}
+
+AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_t* from,
+                                            const std::string& target,
+                                            const AcDbProgress& progress) {
+    const CString reason = WhyNotTarget(target);
+    if (!reason.IsEmpty()) {
+        return Refusal(target, reason);
+    }
+    if (!from || !*from) {
+        return SaveWhole(database, target, progress);
+    }
+    const std::string source = AbsolutePath(from);
+    const CString sourceReason = WhyNoDatabase(source);
+    if (!sourceReason.IsEmpty()) {
+        // The drawing is in memory as a whole: it must not be lost with its file.
+        AcDbStorageResult result = SaveWhole(database, target, progress);
+        result.warnings.push_back(
+            FileReason(source, sourceReason + L"; what it held beside the drawing is not copied"));
+        return result;
+    }
+    if (!FileOf(database, source)) {
+        return Refusal(source, L"the drawing is not from this file");
+    }
+    return SaveCopy(database, source, target, progress);
+}
+
+AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std::string& from,
+                                              const std::string& path,
+                                              const AcDbProgress& progress) {
+    UnfinishedFile unfinished(path);
+    CString reason = CopySource(from, unfinished);
+    if (!reason.IsEmpty()) {
+        return Refusal(path, reason);
+    }
+    DrawingFile remembered = *FileOf(database, from);
+    Scope scope = Scope::Changes;
+    if (HasOtherCoordinates(unfinished.Path(), database)) {
+        scope = Scope::Rewrite;
+        reason =
+            SetCoordinateSystem(unfinished.Path(), WideToUtf8(database.coordinateSystem().View()));
+    }
+    if (reason.IsEmpty()) {
+        reason = Write(unfinished.Path(), Mode::Draft, scope, database, remembered, progress);
+    }
+    if (reason.IsEmpty()) {
+        reason = unfinished.PutInPlace();
+    }
+    if (!reason.IsEmpty()) {
+        return Refusal(path, reason);
+    }
+    remembered.path = path;
+    remembered.changeCounter = ChangeCounter(path);
+    m_files[&database] = std::move(remembered);
+    database.markSaved();
+    return {};
+}
+
+AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std::string& path,
+                                               const AcDbProgress& progress) {
+    UnfinishedFile unfinished(path);
+    DrawingFile remembered;
+    CString reason =
+        Write(unfinished.Path(), Mode::Create, Scope::Everything, database, remembered, progress);
+    if (reason.IsEmpty()) {
+        reason = unfinished.PutInPlace();
+    }
+    if (!reason.IsEmpty()) {
+        return Refusal(path, reason);
+    }
+    remembered.path = path;
+    remembered.changeCounter = ChangeCounter(path);
+    m_files[&database] = std::move(remembered);
+    database.markSaved();
+    return {};
+}
+
+} // namespace
+
+std::unique_ptr<IDbStorage> MakeGeoPackageStorage() {
+    return std::make_unique<GeoPackageStorage>();
+}
+
+} // namespace Tessaly

@@ -1,0 +1,73 @@
+#include "host/storage/ImportCheck.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <gdal_priv.h>
+
+#include "host/storage/Files.h"
+
+namespace Tessaly {
+
+namespace {
+
+/// What is wrong with a file in the text form of DXF. GDAL's reader never comes back from a
+/// file that ends within the end of a line, or has a NUL there.
+CString WhyNoDxf(std::ifstream& file) {
+    std::array<char, 65536> part{};
+    std::string tail;
+    while (file.read(part.data(), part.size()), file.gcount() > 0) {
+        const std::string_view read(part.data(), static_cast<std::size_t>(file.gcount()));
+        if (read.find('\0') != read.npos) {
+            return L"it is damaged, or a binary DXF";
+        }
+        tail += read.substr(read.size() - std::min<std::size_t>(read.size(), 100));
+        tail.erase(0, tail.size() - std::min<std::size_t>(tail.size(), 100));
+    }
+    const std::size_t end = tail.find_last_not_of(" \t\r\n");
+    const bool isWhole =
+        end != tail.npos && end >= 2 && tail.compare(end - 2, 3, "EOF") == 0 && tail.back() != '\r';
+    return isWhole ? CString() : CString(L"it is cut short: its last line is not EOF");
+}
+
+CString WhyNoFile(const std::string& path, const char* const* drivers) {
+    constexpr std::string_view kDatabase = "SQLite";
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        return L"it cannot be opened";
+    }
+    std::array<char, kDatabase.size()> start{};
+    file.read(start.data(), start.size());
+    if (file.gcount() == 0) {
+        return L"it is empty";
+    }
+    if (std::string_view(start.data(), start.size()) == kDatabase) {
+        return WhyNoDatabase(path);
+    }
+    const GDALDriverH hDriver =
+        GDALIdentifyDriverEx(path.c_str(), GDAL_OF_VECTOR, drivers, nullptr);
+    if (hDriver && EQUAL(GDALGetDescription(hDriver), "DXF")) {
+        file.clear();
+        file.seekg(0);
+        return WhyNoDxf(file);
+    }
+    return {};
+}
+
+} // namespace
+
+CString WhyNotImportable(const std::string& path, const char* const* drivers) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status)) {
+        return L"there is no such file";
+    }
+    if (std::filesystem::is_directory(status)) {
+        return {};
+    }
+    // A pipe would be waited for.
+    return std::filesystem::is_regular_file(status) ? WhyNoFile(path, drivers)
+                                                    : CString(L"it is no ordinary file");
+}
+
+} // namespace Tessaly

@@ -1,0 +1,194 @@
+#include "host/storage/Schema.h"
+
+#include <charconv>
+#include <functional>
+#include <map>
+#include <ogrsf_frmts.h>
+
+#include "host/storage/GeoPackageFile.h"
+#include "platform/win/CodePage.h"
+
+namespace Tessaly {
+
+namespace {
+
+struct Column {
+    const char* name;
+    OGRFieldType type;
+};
+
+struct Table {
+    const char* name;
+    std::vector<Column> columns;
+};
+
+const std::vector<Table>& Tables() {
+    static const std::vector<Table> tables = {
+        {kMetaTable, {{"key", OFTString}, {"value", OFTString}}},
+        {kLayerTable, {{"name", OFTString}, {"color", OFTInteger64}, {"off", OFTInteger64}}},
+        {kBlockTable, {{"name", OFTString}}},
+        {kDictionaryTable, {{"name", OFTString}}},
+        {kRecordTable, {{"dictionary", OFTInteger64}, {"name", OFTString}, {"text", OFTString}}},
+        {kColumnTable,
+         {{"table_name", OFTString}, {"column_name", OFTString}, {"attribute", OFTString}}},
+        {kForeignTable,
+         {{"table_name", OFTString}, {"row_fid", OFTInteger64}, {"part", OFTInteger64}}},
+        {kIdTable,
+         {{"table_name", OFTString},
+          {"place", OFTInteger64},
+          {"first_id", OFTInteger64},
+          {"count", OFTInteger64}}},
+    };
+    return tables;
+}
+
+bool ForEachRow(GeoPackageFile& file, const char* table,
+                const std::function<void(const OGRFeature&)>& visit) {
+    OGRLayer* pLayer = file.Table(table);
+    if (!pLayer) {
+        return true;
+    }
+    CPLErrorReset();
+    pLayer->ResetReading();
+    while (const OGRFeatureUniquePtr row{pLayer->GetNextFeature()}) {
+        visit(*row);
+    }
+    return CPLGetLastErrorType() < CE_Failure;
+}
+
+std::int64_t Whole(const OGRFeature& row, const char* field) {
+    const int index = row.GetFieldIndex(field);
+    return index < 0 ? 0 : row.GetFieldAsInteger64(index);
+}
+
+std::int64_t WholeOf(const std::string& text) {
+    std::int64_t value = -1;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+CString CheckVersion(const std::string& version) {
+    const std::int64_t number = WholeOf(version);
+    if (number < 1) {
+        return L"it is damaged: its table orv_meta states no version";
+    }
+    CString reason;
+    if (number > kSchemaVersion) {
+        reason.Format(L"it was written by a newer program: its version is %d, and %d is the "
+                      L"newest that this program knows",
+                      number, kSchemaVersion);
+    }
+    return reason;
+}
+
+bool LoadNotes(GeoPackageFile& file, Schema& schema) {
+    const bool columns = ForEachRow(file, kColumnTable, [&](const OGRFeature& row) {
+        schema.columns.push_back({FieldText(row, "table_name"), FieldText(row, "column_name"),
+                                  FieldText(row, "attribute")});
+    });
+    const bool foreign = ForEachRow(file, kForeignTable, [&](const OGRFeature& row) {
+        schema.foreign.emplace(FieldText(row, "table_name"), Whole(row, "row_fid"),
+                               Whole(row, "part"));
+    });
+    const bool runs = ForEachRow(file, kIdTable, [&](const OGRFeature& row) {
+        const std::int64_t first = Whole(row, "first_id");
+        const std::int64_t count = Whole(row, "count");
+        // Others may have written here: a run that cannot be is no run.
+        if (first > 0 && count > 0 && first < schema.nextId && count <= schema.nextId - first) {
+            schema.runs.push_back({FieldText(row, "table_name"), Whole(row, "place"),
+                                   static_cast<std::uint32_t>(first),
+                                   static_cast<std::uint32_t>(count)});
+        }
+    });
+    return columns && foreign && runs;
+}
+
+bool CreateTable(GeoPackageFile& file, const Table& table) {
+    OGRLayer* pLayer = file.Dataset().CreateLayer(table.name, nullptr, wkbNone, nullptr);
+    if (!pLayer) {
+        return false;
+    }
+    for (const Column& column : table.columns) {
+        OGRFieldDefn field(column.name, column.type);
+        if (pLayer->CreateField(&field) != OGRERR_NONE) {
+            return false;
+        }
+    }
+    return pLayer->SyncToDisk() == OGRERR_NONE;
+}
+
+/// A dictionary's records are looked up whenever it is written.
+bool CreateIndex(GeoPackageFile& file) {
+    return file.Execute("CREATE INDEX IF NOT EXISTS orv_records_by_dictionary ON orv_records "
+                        "(dictionary, name)");
+}
+
+} // namespace
+
+bool Schema::IsOurs(const std::string& table) const {
+    for (const Table& own : Tables()) {
+        if (table == own.name) {
+            return true;
+        }
+    }
+    for (const std::string& own : tables) {
+        if (table == own) {
+            return true;
+        }
+    }
+    return false;
+}
+
+CString LoadSchema(GeoPackageFile& file, Schema& schema) {
+    schema = Schema();
+    if (!file.Table(kMetaTable)) {
+        return {};
+    }
+    std::map<std::string, std::string> meta;
+    CString damaged = L"it is damaged: its own tables cannot be read";
+    if (!ForEachRow(file, kMetaTable, [&](const OGRFeature& row) {
+            meta[FieldText(row, "key")] = FieldText(row, "value");
+        })) {
+        return damaged;
+    }
+    CString version = CheckVersion(meta["version"]);
+    if (!version.IsEmpty()) {
+        return version;
+    }
+    const std::int64_t nextId = WholeOf(meta["next_id"]);
+    if (nextId < 1 || nextId > kHighestId) {
+        return L"it is damaged: its table orv_meta states an impossible next id";
+    }
+    schema.exists = true;
+    schema.nextId = static_cast<std::uint32_t>(nextId);
+    schema.coordinateSystem = meta["srs"];
+    for (std::size_t i = 0; i < kEntityKinds; ++i) {
+        schema.tables[i] = meta[std::string("table.") + kEntityTables[i]];
+        schema.lastFids[i] = WholeOf(meta[std::string("last.") + kEntityTables[i]]);
+    }
+    return LoadNotes(file, schema) ? CString() : damaged;
+}
+
+bool CreateSchema(GeoPackageFile& file) {
+    for (const Table& table : Tables()) {
+        if (!file.Table(table.name) && !CreateTable(file, table)) {
+            return false;
+        }
+    }
+    return CreateIndex(file);
+}
+
+bool WriteMeta(GeoPackageFile& file, const std::string& key, const std::string& value) {
+    const std::string where = " WHERE key = " + QuoteText(key);
+    return file.Execute("DELETE FROM orv_meta" + where) &&
+           file.Execute("INSERT INTO orv_meta (key, value) VALUES (" + QuoteText(key) + ", " +
+                        QuoteText(value) + ")");
+}
+
+std::string FieldText(const OGRFeature& row, const char* field) {
+    const int index = row.GetFieldIndex(field);
+    return index < 0 || !row.IsFieldSetAndNotNull(index) ? std::string()
+                                                         : row.GetFieldAsString(index);
+}
+
+} // namespace Tessaly

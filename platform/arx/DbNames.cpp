@@ -1,0 +1,54 @@
+#include <deque>
+#include <mutex>
+#include <shared_mutex>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+
+#include "platform/arx/DbAttributes.h"
+
+namespace {
+
+/// The bits that a value has for its name.
+constexpr std::size_t kMostNames = std::size_t{1} << 24;
+
+/// Lives to the end of the process, as views of its texts are handed out.
+struct NameTable {
+    std::shared_mutex mutex;
+    std::deque<std::string> names; ///< a deque leaves its texts where they are
+    std::unordered_map<std::string_view, AcDbNameId> numbers;
+};
+
+NameTable& Names() {
+    static auto* const names = new NameTable;
+    return *names;
+}
+
+} // namespace
+
+AcDbNameId AcDbIntern(std::string_view name) {
+    NameTable& table = Names();
+    {
+        const std::shared_lock lock(table.mutex);
+        if (const auto hit = table.numbers.find(name); hit != table.numbers.end()) {
+            return hit->second;
+        }
+    }
+    const std::unique_lock lock(table.mutex);
+    if (const auto hit = table.numbers.find(name); hit != table.numbers.end()) {
+        return hit->second; // another thread was first
+    }
+    if (table.names.size() == kMostNames) {
+        throw std::length_error("There are too many names of attributes.");
+    }
+    const AcDbNameId id{static_cast<std::uint32_t>(table.names.size())};
+    table.numbers.emplace(table.names.emplace_back(name), id);
+    return id;
+}
+
+std::string_view AcDbNameOf(AcDbNameId id) {
+    NameTable& table = Names();
+    const std::shared_lock lock(table.mutex);
+    const auto index = static_cast<std::size_t>(id);
+    return index < table.names.size() ? std::string_view(table.names[index]) : std::string_view();
+}

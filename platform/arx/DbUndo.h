@@ -1,0 +1,63 @@
+// The undo history of a database.
+//
+// What a group holds are the states before its first change of each part of an object: that
+// it is there at all, its body, its layer, its colour, each attribute, each record of a
+// dictionary. Undo and redo exchange them with the present ones.
+//
+// A change made while recording is off wins over the history: of the part that it touched,
+// all states noted before, on the undo and on the redo side, are passed over from then on.
+// The other parts of the object are still undone. Such a change does not clear the redo side.
+// A layer or block on which an entity is put off the record stays, too, and so does a
+// dictionary in which a record is written.
+#pragma once
+
+#include <memory>
+
+#include "platform/arx/DbDictionary.h"
+#include "platform/arx/DbEntity.h"
+
+/// Groups of changes. Owned by its database.
+class PLATFORM_API AcDbUndo {
+public:
+    explicit AcDbUndo(AcDbDatabase& database);
+    ~AcDbUndo();
+    AcDbUndo(const AcDbUndo&) = delete;
+    AcDbUndo& operator=(const AcDbUndo&) = delete;
+
+    /// What follows, up to endGroup, is taken back by one UNDO. Groups nest: the outermost
+    /// counts. A group without changes leaves nothing.
+    void beginGroup(const wchar_t* name);
+    /// Throws std::logic_error if no group is open.
+    void endGroup();
+
+    /// Name of the group that the next undo (redo) takes, empty for a change outside of
+    /// groups; null if there is none. Valid until the history changes.
+    const CString* undoName() const;
+    const CString* redoName() const;
+    /// False if there is nothing, while a group is open, and while an object is open for
+    /// writing. Reactors are told when all is done.
+    bool undo();
+    bool redo();
+    /// Forgets all. An open group stays open.
+    void clear();
+
+private:
+    friend class AcDbDatabase;
+    friend class AcDbDictionary;
+    friend class AcDbEntity;
+    friend class AcDbObject;
+    struct State;
+
+    // Each before the change, on or off the record.
+    void noteBody(AcDbObject& object);
+    void noteLayer(AcDbEntity& entity, AcDbObjectId layer);
+    void noteColor(AcDbEntity& entity);
+    void noteAttribute(AcDbEntity& entity, AcDbNameId name);
+    void noteRecord(AcDbDictionary& dictionary, const CString& record);
+    void noteCoordinateSystem();
+    void noteCreated(const AcDbObject& object);
+    void noteErased(const AcDbObject& object, bool bErased);
+    void noteClosed(AcDbObject& object);
+
+    std::unique_ptr<State> m_pState;
+};

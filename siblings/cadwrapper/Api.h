@@ -1,0 +1,4 @@
+// Export mark of ORVZCADWrapper.arx.
+#pragma once
+
+#define CADWRAPPER_API __attribute__((visibility("default")))

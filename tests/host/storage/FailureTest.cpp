@@ -1,0 +1,370 @@
+// Whatever goes wrong, the file and the drawing stay whole, and the user is told why.
+#include <csignal>
+#include <map>
+#include <random>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include "platform/win/CodePage.h"
+#include "tests/host/storage/StorageFixture.h"
+
+namespace Tessaly {
+namespace {
+
+class FailureTest : public StorageTest {
+protected:
+    /// A drawing of some size, saved as "plan.gpkg".
+    void MakePlan(AcDbDatabase& database, int nodes = 300) {
+        for (int i = 0; i < nodes; ++i) {
+            m_ids.push_back(AddNode(database, i, i, "a node of the plan"));
+        }
+        Edit<AcDbDictionary>(database, database.dictionary(L"__HV__"),
+                             [](AcDbDictionary& records) { records.setAt(L"r", L"text"); });
+        SaveNew(database, "plan.gpkg");
+    }
+    void Rename(AcDbDatabase& database, const char* name) {
+        for (const AcDbObjectId id : m_ids) {
+            Edit<AcDbPoint>(database, id,
+                            [&](AcDbPoint& point) { point.setAttribute(Name("NAME"), name); });
+        }
+    }
+    /// Saves where it must fail, and tells why it did.
+    std::string WhyNotSaved(AcDbDatabase& database, const std::string& name) {
+        return Refused(database, m_storage->Save(database, m_folder.Wide(name), {}));
+    }
+    std::string WhyNotSavedAs(AcDbDatabase& database, const std::string& path) {
+        const std::string from = path.find("/disk/") == path.npos ? "plan.gpkg" : "disk/plan.gpkg";
+        return Refused(database, m_storage->SaveAs(database, m_folder.Wide(from),
+                                                   CString(Utf8ToWide(path)), {}));
+    }
+    std::string Refused(const AcDbDatabase& database, const AcDbStorageResult& result) {
+        EXPECT_FALSE(result.ok());
+        EXPECT_TRUE(database.isModified()) << "nothing was saved";
+        return WideToUtf8(result.reason.View());
+    }
+    /// Runs in a process of its own, as nobody, to whom permissions mean something.
+    template <class Work>
+    void AsNobody(Work work) {
+        ASSERT_EQ(chown(m_folder.Native("").c_str(), 65534, 65534), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            const bool isNobody = setgid(65534) == 0 && setuid(65534) == 0;
+            if (!isNobody) {
+                _exit(1);
+            }
+            work();
+            _exit(testing::Test::HasFailure() ? 1 : 0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+
+    std::vector<AcDbObjectId> m_ids;
+};
+
+bool Contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
+
+TEST_F(FailureTest, FilesThatAreNoDrawingsAreRefusedWithTheReason) {
+    m_folder.Write("empty.gpkg", "");
+    m_folder.Write("text.gpkg",
+                   "This is a text, and long enough to be one.\n" + std::string(200, 'x'));
+    std::filesystem::create_directory(m_folder / "folder.gpkg");
+    EXPECT_TRUE(Contains(WhyNotRead("missing.gpkg"), "there is no such file"));
+    EXPECT_TRUE(Contains(WhyNotRead("folder.gpkg"), "it is a folder"));
+    EXPECT_TRUE(Contains(WhyNotRead("empty.gpkg"), "it is empty"));
+    EXPECT_TRUE(Contains(WhyNotRead("text.gpkg"), "it is no GeoPackage"));
+    Sqlite(m_folder.Native("plain.gpkg")).Execute("CREATE TABLE t (x); INSERT INTO t VALUES (1);");
+    EXPECT_FALSE(WhyNotRead("plain.gpkg").empty());
+}
+
+TEST_F(FailureTest, ANewerDrawingIsRefusedByItsVersion) {
+    AcDbDatabase database;
+    MakePlan(database);
+    Sqlite(m_folder.Native("plan.gpkg"))
+        .Execute("UPDATE orv_meta SET value = '2' WHERE key = 'version'");
+    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "its version is 2, and 1 is the newest"));
+    Rename(database, "changed");
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "its version is 2"));
+    Sqlite(m_folder.Native("plan.gpkg")).Execute("DELETE FROM orv_meta");
+    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "states no version"));
+}
+
+TEST_F(FailureTest, AnImpossibleNextIdIsRefused) {
+    AcDbDatabase database;
+    MakePlan(database);
+    for (const char* number : {"-1", "0", "4294967296", "99999999999999999999", "x"}) {
+        Sqlite(m_folder.Native("plan.gpkg"))
+            .Execute(std::string("UPDATE orv_meta SET value = '") + number +
+                     "' WHERE key = 'next_id'");
+        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "impossible next id")) << number;
+    }
+}
+
+TEST_F(FailureTest, ACutFileIsRefusedWhereverItIsCut) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string whole = m_folder.Read("plan.gpkg");
+    for (std::size_t length = 0; length < whole.size();
+         length += length < 8192 ? 509 : whole.size() / 50) {
+        m_folder.Write("cut.gpkg", whole.substr(0, length));
+        EXPECT_FALSE(WhyNotRead("cut.gpkg").empty()) << length << " of " << whole.size();
+    }
+}
+
+TEST_F(FailureTest, DamageInsideIsNeverACrash) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string whole = m_folder.Read("plan.gpkg");
+    std::mt19937 random(7);
+    int refused = 0;
+    for (int run = 0; run < 60; ++run) {
+        std::string broken = whole;
+        for (int i = 0; i < 1 + run % 40; ++i) {
+            broken[100 + random() % (broken.size() - 100)] = static_cast<char>(random());
+        }
+        m_folder.Write("broken.gpkg", broken);
+        refused += !WhyNotRead("broken.gpkg").empty();
+    }
+    EXPECT_GT(refused, 0);
+}
+
+TEST_F(FailureTest, ALockOfAnotherProgramIsWaitedForShortlyAndTold) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string before = DescribeFile("plan.gpkg");
+    Rename(database, "changed");
+    {
+        Sqlite other(m_folder.Native("plan.gpkg"));
+        for (const char* lock : {"BEGIN IMMEDIATE", "BEGIN EXCLUSIVE"}) {
+            other.Execute(lock);
+            EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"),
+                                 "plan.gpkg: another program has locked it"))
+                << lock;
+            other.Execute("ROLLBACK");
+        }
+        other.Execute("BEGIN");
+        other.Query("SELECT count(*) FROM nodes");
+        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "locked")) << "a reader";
+        other.Execute("COMMIT");
+        other.Execute("BEGIN EXCLUSIVE");
+        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "another program has locked it"));
+        other.Execute("ROLLBACK");
+    }
+    EXPECT_EQ(DescribeFile("plan.gpkg"), before);
+    Save(database, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database)) << "the lock has gone";
+    EXPECT_TRUE(Leftovers({"plan.gpkg"}).empty());
+}
+
+TEST_F(FailureTest, AFileInUseWithAWriteAheadLogIsReadAndSaved) {
+    AcDbDatabase database;
+    MakePlan(database);
+    Sqlite other(m_folder.Native("plan.gpkg"));
+    other.Execute("PRAGMA journal_mode = WAL; UPDATE nodes SET NAME = 'theirs';");
+    const auto again = Open("plan.gpkg");
+    EXPECT_EQ(again->peek(m_ids[0])->isErased(), false);
+    EXPECT_TRUE(Contains(Describe(*again), "'theirs'"));
+    AddNode(*again, 1, 1, "ours");
+    EXPECT_TRUE(
+        m_storage->SaveAs(*again, m_folder.Wide("plan.gpkg"), m_folder.Wide("copy.gpkg"), {}).ok());
+    EXPECT_EQ(DescribeFile("copy.gpkg"), Describe(*again));
+    EXPECT_TRUE(Contains(Describe(*again), "'theirs'"));
+}
+
+TEST_F(FailureTest, PlacesThatCannotBeWrittenToAreToldApart) {
+    AcDbDatabase database;
+    MakePlan(database);
+    Rename(database, "changed");
+    EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("no/such/plan.gpkg")),
+                         "its folder is not there"));
+    std::filesystem::create_directory(m_folder / "folder");
+    EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("folder")), "it is a folder"));
+    EXPECT_FALSE(WhyNotSavedAs(database, "/proc/plan.gpkg").empty());
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "other.gpkg"), "not from this file"));
+    std::filesystem::rename(m_folder / "plan.gpkg", m_folder / "moved.gpkg");
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "there is no such file"));
+    EXPECT_TRUE(Leftovers({"moved.gpkg", "folder"}).empty());
+}
+
+TEST_F(FailureTest, WriteProtectionIsRespected) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string before = m_folder.Read("plan.gpkg");
+    Rename(database, "changed");
+    chmod(m_folder.Native("plan.gpkg").c_str(), 0444);
+    AsNobody([&] {
+        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "it is write-protected"));
+        EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("plan.gpkg")),
+                             "it is write-protected"));
+        EXPECT_TRUE(Open("plan.gpkg")->entityCount() > 0) << "reading is allowed";
+    });
+    chmod(m_folder.Native("plan.gpkg").c_str(), 0666);
+    AsNobody([&] {
+        chmod(m_folder.Native("").c_str(), 0555);
+        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "its folder is write-protected"));
+        EXPECT_FALSE(WhyNotSavedAs(database, m_folder.Native("new.gpkg")).empty());
+        chmod(m_folder.Native("").c_str(), 0755);
+    });
+    EXPECT_EQ(m_folder.Read("plan.gpkg"), before);
+    EXPECT_TRUE(Leftovers({"plan.gpkg"}).empty());
+}
+
+TEST_F(FailureTest, AFullDiskLosesNothing) {
+    AcDbDatabase database;
+    MakePlan(database, 3000);
+    const std::string before = DescribeFile("plan.gpkg");
+    std::signal(SIGXFSZ, SIG_IGN);
+    const pid_t child = fork();
+    if (child == 0) {
+        // No file may grow beyond this: the nearest to a full disk that needs no disk.
+        const auto size = std::filesystem::file_size(m_folder / "plan.gpkg");
+        const rlimit limit{size + 20000, size + 20000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        Rename(database, std::string(500, 'x').c_str());
+        EXPECT_FALSE(WhyNotSaved(database, "plan.gpkg").empty());
+        EXPECT_FALSE(WhyNotSavedAs(database, m_folder.Native("copy.gpkg")).empty());
+        const AcDbStorageResult whole =
+            m_storage->SaveAs(database, L"", m_folder.Wide("new.gpkg"), {});
+        EXPECT_FALSE(whole.ok());
+        EXPECT_TRUE(Leftovers({"plan.gpkg"}).empty());
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(DescribeFile("plan.gpkg"), before);
+    EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
+}
+
+/// A disk of a few pages, where the machine lets one be made.
+class SmallDisk {
+public:
+    SmallDisk(std::string folder, std::size_t bytes) : m_folder(std::move(folder)) {
+        std::filesystem::create_directory(m_folder);
+        const std::string size = "size=" + std::to_string(bytes);
+        m_bThere = mount("none", m_folder.c_str(), "tmpfs", 0, size.c_str()) == 0;
+    }
+    ~SmallDisk() {
+        if (m_bThere) {
+            umount(m_folder.c_str());
+        }
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+    bool IsThere() const { return m_bThere; }
+
+private:
+    std::string m_folder;
+    bool m_bThere = false;
+};
+
+TEST_F(FailureTest, ADiskThatRunsFullIsToldAndSavingGoesOnOnceThereIsRoom) {
+    const SmallDisk disk(m_folder.Native("disk"), 3'000'000);
+    if (!disk.IsThere()) {
+        GTEST_SKIP() << "no disk may be made here";
+    }
+    AcDbDatabase database;
+    for (int i = 0; i < 1000; ++i) {
+        m_ids.push_back(AddNode(database, i, i, "a node of the plan"));
+    }
+    SaveNew(database, "disk/plan.gpkg");
+    const std::string before = DescribeFile("disk/plan.gpkg");
+    m_folder.Write("disk/filler", std::string(3'000'000, 'x'));
+    Rename(database, std::string(600, 'y').c_str());
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "disk/plan.gpkg"), "the disk is full"));
+    EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("disk/copy.gpkg")), "full"));
+    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == before);
+    std::filesystem::remove(m_folder / "disk/filler");
+    Save(database, "disk/plan.gpkg");
+    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == Describe(database));
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "disk/copy.gpkg"));
+}
+
+TEST_F(FailureTest, StoppingLeavesEverythingAsItWas) {
+    AcDbDatabase database;
+    MakePlan(database, 9000);
+    const std::string before = DescribeFile("plan.gpkg");
+    AcDbDatabase empty;
+    const std::string nothing = Describe(empty);
+    int calls = 0;
+    const AcDbProgress stop = [&](int) { return ++calls < 2; };
+    EXPECT_FALSE(m_storage->Read(empty, m_folder.Wide("plan.gpkg"), stop).ok());
+    EXPECT_EQ(Describe(empty), nothing);
+    Rename(database, "changed");
+    calls = 0;
+    EXPECT_TRUE(Contains(
+        Refused(database, m_storage->Save(database, m_folder.Wide("plan.gpkg"), stop)), "stopped"));
+    EXPECT_EQ(DescribeFile("plan.gpkg"), before);
+    Save(database, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+}
+
+TEST_F(FailureTest, AnObjectInAnImpossiblePlaceIsNamedAndNothingIsSaved) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string before = DescribeFile("plan.gpkg");
+    Rename(database, "changed");
+    const AcDbObjectId far = AddLine(database, {{0, 0}, {1e300, 0}});
+    EXPECT_TRUE(
+        Contains(WhyNotSaved(database, "plan.gpkg"),
+                 ("the object " + std::to_string(far.number()) + " on layer \"0\"").c_str()));
+    EXPECT_EQ(DescribeFile("plan.gpkg"), before);
+    Edit<AcDbPolyline>(database, far, [](AcDbPolyline& line) { line.erase(); });
+    Save(database, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+}
+
+/// How many processes are killed; TESSALY_KILLS asks for more than a quick test does.
+int KillCount() {
+    const char* count = std::getenv("TESSALY_KILLS"); // NOLINT(concurrency-mt-unsafe)
+    return count ? std::atoi(count) : 25;
+}
+
+TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
+    AcDbDatabase database;
+    MakePlan(database, 2000);
+    const std::string oldState = DescribeFile("plan.gpkg");
+    m_folder.Write("kept", m_folder.Read("plan.gpkg"));
+    Rename(database, "a longer name for each of the nodes, so that pages have to be split");
+    const std::string newState = Describe(database);
+    std::mt19937 random(11);
+    std::map<std::string, int> seen;
+    for (int run = 0; run < KillCount(); ++run) {
+        const bool isCopy = run % 3 == 0;
+        const pid_t child = fork();
+        if (child == 0) {
+            if (isCopy) {
+                m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"), m_folder.Wide("plan.gpkg"),
+                                  {});
+            } else {
+                m_storage->Save(database, m_folder.Wide("plan.gpkg"), {});
+            }
+            _exit(0);
+        }
+        usleep(static_cast<useconds_t>(random() % 60'000));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        const std::string state = DescribeFile("plan.gpkg");
+        EXPECT_TRUE(state == oldState || state == newState) << "run " << run;
+        ++seen[state == oldState ? "old" : "new"];
+        EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
+        m_folder.Write("plan.gpkg", m_folder.Read("kept"));
+    }
+    RecordProperty("old", seen["old"]);
+    RecordProperty("new", seen["new"]);
+    // What the killed ones left is cleared by the next.
+    EXPECT_TRUE(
+        m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"), m_folder.Wide("plan.gpkg"), {})
+            .ok());
+    EXPECT_TRUE(DescribeFile("plan.gpkg") == newState);
+    EXPECT_TRUE(Leftovers({"plan.gpkg", "kept"}).empty());
+}
+
+} // namespace
+} // namespace Tessaly

@@ -1,0 +1,282 @@
+#include "platform/arx/DbObject.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/DbDrawing.h"
+
+namespace {
+
+/// Carries out steps on one object and returns their results: r and w open for reading and
+/// writing, c closes, u and d change the mode, e and b erase and bring back.
+std::vector<int> Play(AcDbDatabase& database, AcDbObjectId id, std::string_view steps) {
+    auto* const pObject = const_cast<AcDbObject*>(database.peek(id));
+    AcDbObject* pOpened = nullptr;
+    std::vector<int> results;
+    for (const char step : steps) {
+        switch (step) {
+        case 'r':
+        case 'w':
+            results.push_back(acdbOpenAcDbObject(
+                pOpened, id, step == 'r' ? AcDb::kForRead : AcDb::kForWrite, false, &database));
+            break;
+        case 'c':
+            results.push_back(pObject->close());
+            break;
+        case 'u':
+            results.push_back(pObject->upgradeOpen());
+            break;
+        case 'd':
+            results.push_back(pObject->downgradeOpen());
+            break;
+        default:
+            results.push_back(pObject->erase(step == 'e'));
+        }
+    }
+    return results;
+}
+
+} // namespace
+
+TEST(OpeningObjects, IsForManyReadersOrOneWriter) {
+    using namespace Acad;
+    const struct {
+        std::string_view steps;
+        std::vector<int> results;
+    } cases[] = {
+        {"rrrccc", {0, 0, 0, 0, 0, 0}},
+        {"wc", {0, 0}},
+        {"rw", {0, eWasOpenForRead}},
+        {"rcw", {0, 0, 0}},
+        {"wr", {0, eWasOpenForWrite}},
+        {"ww", {0, eWasOpenForWrite}},
+        {"c", {eInvalidInput}},
+        {"rcc", {0, 0, eInvalidInput}},
+        {"wcc", {0, 0, eInvalidInput}},
+        {"rucc", {0, 0, 0, eInvalidInput}},
+        {"rru", {0, 0, eWasOpenForRead}},
+        {"rrcu", {0, 0, 0, 0}},
+        {"wu", {0, eWasOpenForWrite}},
+        {"u", {eInvalidInput}},
+        {"d", {eNotOpenForWrite}},
+        {"rd", {0, eNotOpenForWrite}},
+        {"wdrcc", {0, 0, 0, 0, 0}},
+        {"wduc", {0, 0, 0, 0}},
+        {"e", {eNotOpenForWrite}},
+        {"re", {0, eNotOpenForWrite}},
+        {"weebbc", {0, 0, eWasErased, 0, 0, 0}},
+        {"wecr", {0, 0, 0, eWasErased}},
+        {"wecw", {0, 0, 0, eWasErased}},
+    };
+    for (const auto& row : cases) {
+        AcDbDatabase database;
+        EXPECT_EQ(Play(database, AddPoint(database, 1), row.steps), row.results) << row.steps;
+    }
+}
+
+TEST(OpeningObjects, TellsWhyItCannot) {
+    AcDbDatabase database;
+    AcDbDatabase other;
+    const AcDbObjectId id = AddPoint(database, 1);
+    const struct {
+        AcDbObjectId id;
+        AcDb::OpenMode mode;
+        AcDbDatabase* pDatabase;
+        int status;
+    } cases[] = {
+        {id, AcDb::kForRead, nullptr, Acad::eNoDatabase}, // none is current
+        {{}, AcDb::kForRead, &database, Acad::eNullObjectId},
+        {AcDbObjectId(4000000000U), AcDb::kForRead, &database, Acad::eUnknownObject},
+        {id, AcDb::kForRead, &other, Acad::eUnknownObject},
+        {id, AcDb::OpenMode(7), &database, Acad::eInvalidInput},
+        {id, AcDb::kForWrite, &database, Acad::eOk},
+    };
+    for (const auto& row : cases) {
+        auto* pObject = const_cast<AcDbObject*>(database.peek(id));
+        const int status = acdbOpenAcDbObject(pObject, row.id, row.mode, false, row.pDatabase);
+        EXPECT_EQ(status, row.status);
+        EXPECT_EQ(pObject != nullptr, row.status == Acad::eOk);
+    }
+}
+
+TEST(OpeningObjects, AnotherClassIsLeftClosed) {
+    AcDbDatabase database;
+    const AcDbObjectId id = AddPoint(database, 1);
+    AcDbPolyline* pLine = nullptr;
+    EXPECT_EQ(acdbOpenObject(pLine, id, AcDb::kForRead, false, &database), Acad::eInvalidInput);
+    EXPECT_EQ(pLine, nullptr);
+    EXPECT_EQ(Play(database, id, "wc"), (std::vector<int>{0, 0}));
+}
+
+TEST(OpeningObjects, TheWorkingDatabaseIsMeantIfNoneIsGiven) {
+    AcDbPoint* pPoint = nullptr;
+    {
+        AcDbDatabase database;
+        acdbHostApplicationServices()->setWorkingDatabase(&database);
+        EXPECT_EQ(acdbOpenObject(pPoint, AddPoint(database, 5), AcDb::kForRead), Acad::eOk);
+        EXPECT_EQ(pPoint->position().x, 5);
+    }
+    // It is forgotten with its end.
+    EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), nullptr);
+}
+
+TEST(ChangingObjects, NeedsAnOpeningForWriting) {
+    AcDbDatabase database;
+    const AcDbObjectId layer = database.layer(L"Sewer");
+    const AcDbObjectId point = AddPoint(database, 1);
+    const AcDbObjectId line = database.appendEntity(std::make_unique<AcDbPolyline>());
+    const AcDbObjectId area = database.appendEntity(std::make_unique<AcDbMPolygon>());
+    const AcDbObjectId text = database.appendEntity(std::make_unique<AcDbText>());
+    const AcDbObjectId dictionary = database.dictionary(L"records");
+    SetAttribute(database, point, "a", 1);
+    SetRecord(database, dictionary, L"r", L"text");
+    const Parts before = PartsOf(database);
+    database.markSaved();
+
+    const auto as = [&]<class T>(AcDbObjectId id, void (*edit)(T&)) {
+        T* pObject = nullptr;
+        ASSERT_EQ(acdbOpenObject(pObject, id, AcDb::kForRead, false, &database), Acad::eOk);
+        EXPECT_THROW(edit(*pObject), std::logic_error);
+        pObject->close();
+        EXPECT_THROW(edit(*pObject), std::logic_error);
+    };
+    as(
+        layer, +[](AcDbLayerTableRecord& o) { o.setColorIndex(1); });
+    as(
+        layer, +[](AcDbLayerTableRecord& o) { o.setIsOff(true); });
+    as(
+        point, +[](AcDbPoint& o) {
+            o.setPosition({9, 9, 9});
+        });
+    as(
+        point, +[](AcDbPoint& o) { o.setColorIndex(1); });
+    as(
+        point, +[](AcDbPoint& o) { o.setLayer(o.database()->layer(L"Sewer")); });
+    as(
+        point, +[](AcDbPoint& o) { o.setAttribute(AcDbIntern("a"), 2); });
+    as(
+        point, +[](AcDbPoint& o) { o.removeAttribute(AcDbIntern("a")); });
+    as(
+        line, +[](AcDbPolyline& o) { o.setVertices({}); });
+    as(
+        line, +[](AcDbPolyline& o) { o.setClosed(true); });
+    as(
+        area, +[](AcDbMPolygon& o) { o.setRings({{}}); });
+    as(
+        text, +[](AcDbText& o) { o.setText("x"); });
+    as(
+        text, +[](AcDbText& o) {
+            o.setPosition({9, 9, 9});
+        });
+    as(
+        text, +[](AcDbText& o) { o.setHeight(2); });
+    as(
+        dictionary, +[](AcDbDictionary& o) { o.setAt(L"r", L"other"); });
+    as(
+        dictionary, +[](AcDbDictionary& o) { o.remove(L"r"); });
+    EXPECT_EQ(PartsOf(database), before);
+    EXPECT_FALSE(database.isModified());
+}
+
+TEST(ChangingObjects, TakesTheObjectsOwnContent) {
+    AcDbDatabase database;
+    const AcGePoint3d points[] = {{1, 1, 0}, {2, 2, 0}, {3, 3, 0}};
+    const AcDbObjectId line = database.appendEntity(std::make_unique<AcDbPolyline>(points));
+    Change<AcDbPolyline>(database, line,
+                         [](AcDbPolyline& o) { o.setVertices(o.vertices().subspan(1)); });
+    EXPECT_EQ(BodyText(*database.peek(line)), "2,2 3,3 ");
+    const AcDbObjectId dictionary = database.dictionary(L"d");
+    SetRecord(database, dictionary, L"r", L"a long enough text of a record");
+    Change<AcDbDictionary>(database, dictionary, [](AcDbDictionary& o) {
+        o.setAt(L"copy", *o.getAt(L"r"));
+        o.setAt(L"r", *o.getAt(L"r"));
+        EXPECT_EQ(*o.getAt(L"copy"), L"a long enough text of a record");
+        EXPECT_EQ(*o.getAt(L"r"), L"a long enough text of a record");
+        EXPECT_EQ(o.remove(L"R"), Acad::eKeyNotFound); // told apart by case
+        EXPECT_EQ(o.getAt(nullptr), nullptr);
+    });
+}
+
+TEST(ChangingObjects, ColoursOutsideTheTableAreTheDefault) {
+    AcDbPoint point;
+    AcDbLayerTableRecord layer(L"l");
+    for (const int index : {-1, 257, 70000, 65536 + 3}) {
+        point.setColorIndex(3);
+        point.setColorIndex(index);
+        EXPECT_EQ(point.colorIndex(), kColorByLayer) << index;
+        layer.setColorIndex(3);
+        layer.setColorIndex(index);
+        EXPECT_EQ(layer.colorIndex(), 7) << index;
+    }
+}
+
+TEST(Objects, KnowTheirClassAndItsBases) {
+    AcDbDatabase database;
+    const AcDbObjectId point = AddPoint(database, 1);
+    const AcDbObject& layer = *database.peek(database.layer(L"0"));
+    EXPECT_TRUE(database.peek(point)->isKindOf(AcDbPoint::desc()));
+    EXPECT_TRUE(database.peek(point)->isKindOf(AcDbEntity::desc()));
+    EXPECT_TRUE(database.peek(point)->isKindOf(AcDbObject::desc()));
+    EXPECT_TRUE(database.peek(point)->isKindOf(AcRxObject::desc()));
+    EXPECT_FALSE(database.peek(point)->isKindOf(AcDbText::desc()));
+    EXPECT_FALSE(layer.isKindOf(AcDbEntity::desc()));
+    const std::pair<AcRxClass*, const wchar_t*> names[] = {
+        {AcDbDatabase::desc(), L"AcDbDatabase"},
+        {AcDbPolyline::desc(), L"AcDbPolyline"},
+        {AcDbMPolygon::desc(), L"AcDbMPolygon"},
+        {AcDbText::desc(), L"AcDbText"},
+        {AcDbDictionary::desc(), L"AcDbDictionary"},
+        {AcDbLayerTableRecord::desc(), L"AcDbLayerTableRecord"},
+        {AcDbBlockTableRecord::desc(), L"AcDbBlockTableRecord"},
+    };
+    for (const auto& [pClass, name] : names) {
+        EXPECT_EQ(acrxClassDictionary()->at(name), pClass);
+        EXPECT_TRUE(pClass->isDerivedFrom(AcRxObject::desc()));
+    }
+}
+
+TEST(Objects, AreClonedWithTheirContentAlone) {
+    AcDbDatabase database;
+    auto made = std::make_unique<AcDbText>(AcGePoint3d{1, 2, 3}, "manhole");
+    made->setHeight(2.5);
+    made->setLayer(database.layer(L"Sewer"));
+    made->setColorIndex(3);
+    made->setAttribute(AcDbIntern("a"), "an attribute of it");
+    const AcDbObjectId id = database.appendEntity(std::move(made));
+
+    const auto copy = database.peek(id)->clone();
+    EXPECT_EQ(copy->database(), nullptr);
+    EXPECT_TRUE(copy->objectId().isNull());
+    EXPECT_TRUE(static_cast<const AcDbEntity&>(*copy).blockId().isNull());
+    Parts ofCopy;
+    Parts ofOriginal;
+    AddParts(*copy, ofCopy, true);
+    AddParts(*database.peek(id), ofOriginal, true);
+    const auto texts = [](const Parts& parts) {
+        std::vector<std::string> values;
+        for (const auto& [name, text] : parts) {
+            values.push_back(text);
+        }
+        return values;
+    };
+    EXPECT_EQ(texts(ofCopy), texts(ofOriginal));
+    EXPECT_EQ(copy->close(), Acad::eNoDatabase);
+    EXPECT_EQ(copy->erase(), Acad::eNoDatabase);
+}
+
+TEST(Entities, HaveTheBoxAroundAllTheirPoints) {
+    const double nan = std::nan("");
+    const AcGePoint3d points[] = {{3, 1, nan}, {-2, 5, 0}, {nan, nan, nan}};
+    AcDbMPolygon area({{{{0, 0, 0}, {1, 1, 0}}, false}, {{{9, -9, 0}}, true}});
+    const AcGeExtents2d ofLine = AcDbPolyline(points).extents();
+    EXPECT_EQ(ofLine.minX, -2);
+    EXPECT_EQ(ofLine.minY, 1);
+    EXPECT_EQ(ofLine.maxX, 3);
+    EXPECT_EQ(ofLine.maxY, 5);
+    EXPECT_EQ(area.extents().maxX, 9);
+    EXPECT_EQ(area.extents().minY, -9);
+    EXPECT_TRUE(AcDbPolyline().extents().isEmpty());
+    EXPECT_TRUE(AcDbMPolygon().extents().isEmpty());
+    EXPECT_TRUE(AcDbPoint({nan, nan, 0}).extents().isEmpty());
+}

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include "platform/arx/EdEditor.h"
+#include "siblings/cadwrapper/DictionaryPtr.h"
+#include "siblings/cadwrapper/DocLock.h"
+#include "siblings/giscore/Publisher.h"
+#include "siblings/giscore/Subscriber.h"
+#include "siblings/logging/LogEngine.h"
+#include "tests/support/TestHost.h"
+#include "workspacecore/core/DocumentReactorWorkspace.h"
+#include "workspacecore/core/EditorReactor.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Workspace {
+namespace {
+
+class Notes final : public IWsListener {
+public:
+    void OnAcadDocumentBecomeCurrent(AcApDocument* p) override {
+        m_log += WideToUtf8(p->fileName()) + " current ";
+    }
+    void OnAcadDocumentToBeDeactivated(AcApDocument* p) override {
+        m_log += WideToUtf8(p->fileName()) + " leaves ";
+    }
+    void OnAcadDocumentToBeDestroyed(AcApDocument* p) override {
+        m_log += WideToUtf8(p->fileName()) + " goes ";
+    }
+    void OnAcadDocumentDestroyed(const wchar_t* name) override {
+        m_log += WideToUtf8(name) + " gone ";
+    }
+    void OnSystemBecomeActive(System::CGisSystem*) override { m_log += "active "; }
+    void OnBeginSaveAcadDocument(AcDbDatabase*, const wchar_t*) override {
+        CString value;
+        m_log += Orvane::CORVCDictionaryPtr(AcDb::kForRead)
+                             .dctReadBigString(L"__HV__", L"ACVER", value) == Acad::eOk
+                     ? "save after the stamp "
+                     : "save before the stamp ";
+    }
+    void OnSaveCompletedAcadDocument(AcDbDatabase*, const wchar_t*) override { m_log += "saved "; }
+    std::string Take() { return std::exchange(m_log, {}); }
+
+private:
+    std::string m_log;
+};
+
+class HostReactorsTest : public testing::Test {
+protected:
+    HostReactorsTest() {
+        acedEditor();
+        ORVZWorkspaceCore_EditorReactor::rxInit();
+        acrxBuildClassHierarchy();
+        CWsManager::Instance()->RegisterWsListener(&m_notes);
+    }
+    AcApDocManager& Documents() { return *acDocManagerPtr(); }
+
+    TestHost m_host;
+    Notes m_notes;
+};
+
+TEST_F(HostReactorsTest, ADocumentIsSetUpOnceForEachChange) {
+    AcApDocument* const pFirst = Documents().newDocument(L"a");
+    EXPECT_EQ(m_notes.Take(), "a current active ");
+    Documents().setCurDocument(pFirst);
+    EXPECT_EQ(m_notes.Take(), "") << "the same document again";
+    EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetAllowStopCommand(), 1);
+
+    AcApDocument* const pSecond = Documents().newDocument(L"b");
+    EXPECT_EQ(m_notes.Take(), "a leaves b current active ");
+    EXPECT_TRUE(Documents().closeDocument(pSecond));
+    EXPECT_EQ(m_notes.Take(), "b leaves b goes b gone a current active ");
+    EXPECT_TRUE(Documents().closeDocument(pFirst));
+    EXPECT_EQ(m_notes.Take(), "a leaves a goes a gone ") << "no document is no news to listeners";
+    EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetAllowStopCommand(), 0);
+}
+
+TEST_F(HostReactorsTest, PanelsRefreshEvenWhenTheHostIsClosing) {
+    struct Counter final : Notification::CSubscriber {
+        Counter() : CSubscriber(1) {}
+        void Update(Notification::CPublisher*, void*, void*) override { ++m_nCalls; }
+        int m_nCalls = 0;
+    } counter;
+    CWsManager::Instance()->GetRefreshAllPbl()->RegisterSubscriber(&counter);
+    CWsManager::Instance()->Raise_OnBeforeAcadWillClose();
+    Documents().newDocument(L"a");
+    EXPECT_EQ(counter.m_nCalls, 1);
+    EXPECT_EQ(m_notes.Take(), "");
+}
+
+TEST_F(HostReactorsTest, ASaveIsStampedBeforeAnybodyHearsOfIt) {
+    AcApDocument* const pDoc = Documents().newDocument(L"a");
+    m_notes.Take();
+    acedEditor()->fireBeginSave(pDoc->database(), L"a.gpkg");
+    acedEditor()->fireSaveComplete(pDoc->database(), L"a.gpkg");
+    EXPECT_EQ(m_notes.Take(), "save after the stamp saved ");
+    const Orvane::CORVCDictionaryPtr dictionary(AcDb::kForRead);
+    for (const auto& [key, expected] :
+         {std::pair(L"ACVER", CLogEngine::GetAcadVersion()),
+          std::pair(L"APPVER", CLogEngine::GetTessalyVersion()),
+          std::pair(L"WINVER", CLogEngine::GetWindowsVersion()),
+          std::pair(L"ISAPP64", std::string("1")), std::pair(L"ISWIN64", std::string("1"))}) {
+        CString value(L"none");
+        EXPECT_EQ(dictionary.dctReadBigString(L"__HV__", key, value), Acad::eOk);
+        EXPECT_EQ(WideToUtf8(value.View()), expected);
+    }
+    EXPECT_FALSE(pDoc->isLocked());
+}
+
+TEST_F(HostReactorsTest, TheEditorReactorIsOfItsClassAndComesAndGoes) {
+    ORVZWorkspaceCore_EditorReactor reactor(false);
+    EXPECT_FALSE(reactor.IsAttached());
+    EXPECT_TRUE(reactor.isKindOf(AcEditorReactor::desc()));
+    EXPECT_EQ(reactor.isA()->name(), L"ORVZWorkspaceCore_EditorReactor");
+    reactor.Attach();
+    reactor.Attach();
+    EXPECT_TRUE(reactor.IsAttached());
+    AcApDocument* const pDoc = Documents().newDocument(L"a");
+    m_notes.Take();
+    acedEditor()->fireSaveComplete(pDoc->database(), L"a");
+    EXPECT_EQ(m_notes.Take(), "saved saved ");
+    reactor.Detach();
+    acedEditor()->fireSaveComplete(pDoc->database(), L"a");
+    EXPECT_EQ(m_notes.Take(), "saved ");
+}
+
+TEST_F(HostReactorsTest, DictionariesHoldLongTextsAndALockKeepsADocumentOpen) {
+    AcApDocument* const pDoc = Documents().newDocument(L"a");
+    const std::wstring text(200000, L'\u00E8');
+    {
+        const Orvane::CORVCDocLock lock;
+        EXPECT_FALSE(Documents().closeDocument(pDoc));
+        Orvane::CORVCDictionaryPtr dictionary(AcDb::kForWrite);
+        EXPECT_EQ(dictionary.upgradeOpen(), Acad::eWasOpenForWrite);
+        EXPECT_EQ(dictionary.dctWrite(L"D", L"r", L"x", false, false, 1), Acad::eKeyNotFound);
+        EXPECT_EQ(dictionary.dctWriteBigString(L"D", L"r", text.c_str()), Acad::eOk);
+        EXPECT_EQ(dictionary.dctWrite(L"D", L"r", L"x", true, false, 1), Acad::eOk);
+        CString read(L"before");
+        EXPECT_EQ(dictionary.dctReadBigString(L"D", L"none", read), Acad::eKeyNotFound);
+        EXPECT_EQ(read, L"before");
+        EXPECT_EQ(dictionary.dctReadBigString(L"D", L"r", read), Acad::eOk);
+        EXPECT_EQ(read.Str(), text + L"x");
+        EXPECT_EQ(dictionary.dctErase(L"D"), Acad::eOk);
+        EXPECT_EQ(dictionary.dctReadBigString(L"D", L"r", read), Acad::eKeyNotFound);
+    }
+    EXPECT_TRUE(Documents().closeDocument(pDoc));
+    EXPECT_EQ(Orvane::CORVCDictionaryPtr(AcDb::kForRead).openStatus(), Acad::eNoDatabase);
+}
+
+} // namespace
+} // namespace Orvane::Workspace

@@ -1,0 +1,85 @@
+#include "workspacecore/core/DocumentReactorWorkspace.h"
+
+#include "siblings/giscore/DataConfiguration.h"
+#include "siblings/giscore/GisSystems.h"
+#include "siblings/giscore/Publisher.h"
+#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscoreadds/NodeIndex.h"
+#include "siblings/giscoreadds/PolygonIndex.h"
+#include "workspacecore/core/Trace.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Workspace {
+
+AcApDocument* CWsDocumentReactor::s_pLastCurrentDocument = nullptr;
+
+namespace {
+
+/// Without a drawing there is nothing that panels and dialogs could show.
+void CloseAllWindows() {
+    // The panes are closed and the dialogs hidden here, once there are any.
+}
+
+} // namespace
+
+CWsDocumentReactor::CWsDocumentReactor()
+    : m_pPolygonIndex(Selection::CPolygonIndex::Instance()),
+      m_pNodeIndex(Selection::CNodeIndex::Instance()) {}
+
+void CWsDocumentReactor::MarkIndexesChanged() {
+    m_pPolygonIndex->Changed(1);
+    m_pNodeIndex->Changed(1);
+}
+
+void CWsDocumentReactor::documentBecameCurrent(AcApDocument* pDoc) {
+    WS_TRACE_SCOPE();
+    if (pDoc) {
+        // The workspace panel is started here, once there is one.
+        WS_TRACE_TEXT(pDoc->fileName());
+    }
+    AcDbDatabase* const currentDB = acdbHostApplicationServices()->workingDatabase();
+    WS_TRACE_VALUE("currentDB", currentDB);
+    if (!pDoc || !currentDB) {
+        MarkIndexesChanged();
+        CloseAllWindows();
+        s_pLastCurrentDocument = nullptr;
+    } else if (pDoc != s_pLastCurrentDocument) {
+        SetUp(pDoc);
+    }
+}
+
+void CWsDocumentReactor::SetUp(AcApDocument* pDoc) {
+    CWsManager& manager = *CWsManager::Instance();
+    manager.Raise_OnAcadDocumentBecomeCurrent(pDoc);
+    // The log view is emptied here, once there is one.
+    s_pLastCurrentDocument = pDoc;
+    MarkIndexesChanged();
+    manager.GetRefreshAllPbl()->Notify(nullptr, nullptr);
+    manager.CmdMgr()->SetAllowStopCommand(1);
+    Data::CDataConfiguration::Instance()->RefreshTemporaryDataDefinitions();
+    // Systems that an earlier version wrote are upgraded here, once drawings keep systems.
+    manager.Raise_OnSystemBecomeActive(System::CSystemManager::Instance()->GetActiveSystem());
+}
+
+void CWsDocumentReactor::documentToBeDeactivated(AcApDocument* pDoc) {
+    WS_TRACE_SCOPE();
+    CWsManager::Instance()->Raise_OnAcadDocumentToBeDeactivated(pDoc);
+    CWsManager::Instance()->CmdMgr()->SetAllowStopCommand(0);
+}
+
+void CWsDocumentReactor::documentToBeDestroyed(AcApDocument* pDoc) {
+    CWsManager::Instance()->Raise_OnAcadDocumentToBeDestroyed(pDoc);
+}
+
+void CWsDocumentReactor::documentDestroyed(const wchar_t* lpszFileName) {
+    WS_TRACE_SCOPE();
+    WS_TRACE_TEXT(lpszFileName);
+    MarkIndexesChanged();
+    CWsManager::Instance()->Raise_OnAcadDocumentDestroyed(lpszFileName);
+    if (acDocManagerPtr()->documentCount() < 2) {
+        CloseAllWindows();
+    }
+    s_pLastCurrentDocument = nullptr;
+}
+
+} // namespace Orvane::Workspace

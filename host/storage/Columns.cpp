@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <ogrsf_frmts.h>
+#include <optional>
 
 #include "host/storage/GeoPackageFile.h"
 #include "platform/win/CodePage.h"
@@ -14,8 +15,21 @@ namespace {
 using Type = AttributeColumn::Type;
 using Kind = AcDbValue::Kind;
 
-constexpr std::array kFixedColumns = {kLayerColumn,  kColorColumn, kBlockColumn, kExtraColumn,
-                                      kClosedColumn, kTextColumn,  kHeightColumn};
+/// A column that is no attribute, and the one table that has it if not all do.
+struct FixedColumn {
+    const char* name;
+    OGRFieldType type;
+    std::optional<EntityKind> only;
+};
+constexpr std::array<FixedColumn, 7> kFixedColumns = {{
+    {kLayerColumn, OFTString, {}},
+    {kColorColumn, OFTInteger64, {}},
+    {kBlockColumn, OFTString, {}},
+    {kExtraColumn, OFTString, {}},
+    {kClosedColumn, OFTInteger64, EntityKind::Section},
+    {kTextColumn, OFTString, EntityKind::Text},
+    {kHeightColumn, OFTReal, EntityKind::Text},
+}};
 /// Names by which the database reaches a row's number or its geometry.
 constexpr std::array kReservedColumns = {"fid", "geom", "rowid", "oid", "_rowid_"};
 /// SQLite allows 2,000; what is left is for others.
@@ -97,28 +111,36 @@ std::string Sanitized(std::string_view attribute) {
     return name.empty() ? "_" : name;
 }
 
+const FixedColumn* FindFixed(const char* name) {
+    const auto found =
+        std::find_if(kFixedColumns.begin(), kFixedColumns.end(),
+                     [&](const FixedColumn& column) { return EQUAL(name, column.name); });
+    return found != kFixedColumns.end() ? &*found : nullptr;
+}
+
 bool IsReserved(const std::string& name) {
-    const auto same = [&](const char* reserved) { return EQUAL(name.c_str(), reserved); };
-    return std::any_of(kFixedColumns.begin(), kFixedColumns.end(), same) ||
-           std::any_of(kReservedColumns.begin(), kReservedColumns.end(), same);
+    return FindFixed(name.c_str()) ||
+           std::any_of(kReservedColumns.begin(), kReservedColumns.end(),
+                       [&](const char* reserved) { return EQUAL(name.c_str(), reserved); });
+}
+
+/// Makes GDAL hand values on as they are: it would clamp numbers to the width that a column
+/// states, and write days and times in its own spelling.
+void Loosen(OGRFieldDefn& field, const FixedColumn* pFixed) {
+    const OGRFieldType type = pFixed ? pFixed->type : field.GetType();
+    if (type == OFTBinary) {
+        return;
+    }
+    field.SetSubType(OFSTNone);
+    field.SetWidth(0);
+    field.SetType(type == OFTInteger || type == OFTInteger64 ? OFTInteger64
+                  : type == OFTReal                          ? OFTReal
+                                                             : OFTString);
 }
 
 bool AddField(OGRLayer& layer, const char* name, OGRFieldType type) {
     OGRFieldDefn field(name, type);
     return layer.CreateField(&field) == OGRERR_NONE;
-}
-
-bool AddFixedColumns(OGRLayer& layer, EntityKind kind) {
-    bool isDone =
-        AddField(layer, kLayerColumn, OFTString) && AddField(layer, kColorColumn, OFTInteger64) &&
-        AddField(layer, kBlockColumn, OFTString) && AddField(layer, kExtraColumn, OFTString);
-    if (kind == EntityKind::Section) {
-        isDone = isDone && AddField(layer, kClosedColumn, OFTInteger64);
-    } else if (kind == EntityKind::Text) {
-        isDone = isDone && AddField(layer, kTextColumn, OFTString) &&
-                 AddField(layer, kHeightColumn, OFTReal);
-    }
-    return isDone;
 }
 
 OGRwkbGeometryType GeometryOf(EntityKind kind) {
@@ -196,6 +218,9 @@ AcDbValue FieldValue(const OGRFeature& row, const AttributeColumn& column, std::
 }
 
 void SetFieldValue(OGRFeature& row, int field, const AcDbValue& value) {
+    if (field < 0) {
+        return;
+    }
     switch (value.kind()) {
     case Kind::Integer:
         row.SetField(field, static_cast<GIntBig>(*value.asInteger()));
@@ -225,11 +250,14 @@ EntityTable::EntityTable(OGRLayer& layer, EntityKind kind, const Schema& schema)
     const auto find = [&](const char* name) { return definition.GetFieldIndex(name); };
     m_fixed = {find(kLayerColumn),  find(kColorColumn), find(kBlockColumn), find(kExtraColumn),
                find(kClosedColumn), find(kTextColumn),  find(kHeightColumn)};
-    std::vector<std::string> ignored;
-    for (AttributeColumn column : AttributeColumns(definition, ignored)) {
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        OGRFieldDefn& field = *definition.GetFieldDefn(i);
+        Loosen(field, FindFixed(field.GetNameRef()));
+    }
+    std::vector<std::string> binary;
+    for (AttributeColumn column : AttributeColumns(definition, binary)) {
         const std::string name = definition.GetFieldDefn(column.field)->GetNameRef();
-        if (std::any_of(kFixedColumns.begin(), kFixedColumns.end(),
-                        [&](const char* fixed) { return EQUAL(name.c_str(), fixed); })) {
+        if (FindFixed(name.c_str())) {
             continue;
         }
         for (const ColumnName& noted : schema.columns) {
@@ -302,7 +330,18 @@ OGRLayer* CreateEntityTable(GeoPackageFile& file, EntityKind kind, const std::st
                                            nullptr};
     OGRLayer* pLayer = file.Dataset().CreateLayer(name.c_str(), &reference, GeometryOf(kind),
                                                   const_cast<char**>(kOptions));
-    return pLayer && AddFixedColumns(*pLayer, kind) ? pLayer : nullptr;
+    return pLayer && CompleteEntityTable(*pLayer, kind) ? pLayer : nullptr;
+}
+
+bool CompleteEntityTable(OGRLayer& layer, EntityKind kind) {
+    for (const FixedColumn& column : kFixedColumns) {
+        const bool isWanted = !column.only || column.only == kind;
+        if (isWanted && layer.GetLayerDefn()->GetFieldIndex(column.name) < 0 &&
+            !AddField(layer, column.name, column.type)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace Tessaly

@@ -30,7 +30,8 @@ std::vector<AttributeColumn> AttributeColumns(const OGRFeatureDefn& definition,
 
 /// What a row has in a column; null if nothing. A text belongs to the row or to `scratch`.
 AcDbValue FieldValue(const OGRFeature& row, const AttributeColumn& column, std::string& scratch);
-/// Sets a field to a value that its column's kind can hold, or to nothing.
+/// Sets a field to a value that its column's kind can hold, or to nothing. A field of -1 is
+/// passed over.
 void SetFieldValue(OGRFeature& row, int field, const AcDbValue& value);
 
 /// One of our feature tables: where the fixed columns and the attributes are.
@@ -69,5 +70,7 @@ private:
 /// `name` is given the table's name. Null on failure.
 OGRLayer* CreateEntityTable(GeoPackageFile& file, EntityKind kind, const std::string& wkt,
                             std::string& name);
+/// Adds the columns that another program has taken away. False on failure.
+bool CompleteEntityTable(OGRLayer& layer, EntityKind kind);
 
 } // namespace Tessaly

@@ -199,7 +199,7 @@ bool DrawingWriter::PrepareTable(std::size_t kind, const std::vector<Counts>& co
         const std::string wkt = WideToUtf8(m_database.coordinateSystem().View());
         pLayer = CreateEntityTable(m_file, static_cast<EntityKind>(kind), wkt, name);
     }
-    if (!pLayer) {
+    if (!pLayer || !CompleteEntityTable(*pLayer, static_cast<EntityKind>(kind))) {
         return false;
     }
     m_tables[kind] =

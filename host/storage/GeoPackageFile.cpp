@@ -81,14 +81,12 @@ OGRLayer* GeoPackageFile::Table(const std::string& name) {
 }
 
 bool GeoPackageFile::Execute(const std::string& sql) {
-    const CPLErr before = CPLGetLastErrorType();
     CPLErrorReset();
     OGRLayer* pResult = m_pDataset->ExecuteSQL(sql.c_str(), nullptr, nullptr);
     if (pResult) {
         m_pDataset->ReleaseResultSet(pResult);
     }
-    const bool isDone = CPLGetLastErrorType() < CE_Failure;
-    return isDone && before < CE_Failure;
+    return CPLGetLastErrorType() < CE_Failure;
 }
 
 bool GeoPackageFile::Query(const std::string& sql,

@@ -324,6 +324,38 @@ TEST_F(ForeignTest, RowsThatAnotherProgramAddsToOurTablesAreKept) {
     EXPECT_NE(Describe(*last).find("'ours, of the same number'"), std::string::npos);
 }
 
+TEST_F(ForeignTest, ColumnsOfOtherProgramsInOurTablesKeepTheirValues) {
+    AcDbDatabase database;
+    const AcDbObjectId node = AddNode(database, 1, 1, "one");
+    SaveNew(database, "plan.gpkg");
+    Run("plan.gpkg",
+        "ALTER TABLE nodes ADD COLUMN built DATE; ALTER TABLE nodes ADD COLUMN seen DATETIME;"
+        "ALTER TABLE nodes ADD COLUMN small TINYINT; ALTER TABLE nodes ADD COLUMN short TEXT(3);"
+        "ALTER TABLE nodes ADD COLUMN good BOOLEAN; ALTER TABLE nodes ADD COLUMN photo BLOB;"
+        "ALTER TABLE nodes ADD COLUMN f FLOAT; ALTER TABLE nodes DROP COLUMN orv_extra;"
+        "UPDATE nodes SET built = '2020-02-29', seen = '2020-02-29T10:11:12Z', small = 7,"
+        "short = 'abc', good = 1, photo = x'0102', f = 0.1;");
+    const auto again = Open("plan.gpkg");
+    Edit<AcDbPoint>(*again, node, [](AcDbPoint& point) {
+        EXPECT_EQ(point.attribute(Name("seen")).asText(), "2020-02-29T10:11:12Z");
+        point.setAttribute(Name("NAME"), 12);
+        point.setAttribute(Name("small"), std::int64_t{1} << 40);
+        point.setAttribute(Name("short"), "longer than that");
+    });
+    Save(*again, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(*again));
+    EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg"))
+                  .Query("SELECT built, seen, small, short, good, photo, f FROM nodes"),
+              "'2020-02-29'|'2020-02-29T10:11:12Z'|1099511627776|'longer than that'|1|x'0102'|"
+              "0.10000000000000001\n");
+    Edit<AcDbPoint>(*again, node, [](AcDbPoint& point) {
+        point.setAttribute(Name("built"), "some day");
+        point.setAttribute(Name("good"), "yes");
+    });
+    Save(*again, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(*again));
+}
+
 TEST_F(ForeignTest, WhatAnotherProgramChangedInOurTablesCounts) {
     AcDbDatabase database;
     for (const AcDbValue& value :

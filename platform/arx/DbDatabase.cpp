@@ -28,6 +28,7 @@ AcDbDatabase::~AcDbDatabase() {
     if (pServices->workingDatabase() == this) {
         pServices->setWorkingDatabase(nullptr);
     }
+    tellGoodbye();
 }
 
 AcDbObject* AcDbDatabase::object(AcDbObjectId id) const {

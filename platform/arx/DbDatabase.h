@@ -23,6 +23,8 @@ public:
     virtual void objectErased(const AcDbDatabase*, const AcDbObject*, bool /*bErased*/) {}
     /// The whole content is another one: the drawing was read.
     virtual void databaseReplaced(const AcDbDatabase*) {}
+    /// The database is about to go, and will not ask for its reactors to be removed.
+    virtual void goodbye(const AcDbDatabase*) {}
 };
 
 /// One drawing's content. Owned by its document. Main thread only.
@@ -142,6 +144,7 @@ private:
     void tell(Call call);
     void tellAppended(const AcDbObject& object);
     void tellReplaced();
+    void tellGoodbye();
     void tellChanges(const AcDbObject& object, bool bErasedChanged, bool bModified);
 
     // Index is the id's number; 0 stays empty.

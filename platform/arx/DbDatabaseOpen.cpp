@@ -141,6 +141,10 @@ void AcDbDatabase::tellReplaced() {
     tell([this](AcDbDatabaseReactor& reactor) { reactor.databaseReplaced(this); });
 }
 
+void AcDbDatabase::tellGoodbye() {
+    tell([this](AcDbDatabaseReactor& reactor) { reactor.goodbye(this); });
+}
+
 void AcDbDatabase::tellChanges(const AcDbObject& object, bool bErasedChanged, bool bModified) {
     if (m_bLoading) {
         return;

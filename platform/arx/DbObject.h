@@ -53,6 +53,8 @@ public:
     /// Null until it was added to a database.
     AcDbDatabase* database() const { return m_pDatabase; }
     bool isErased() const { return m_bErased; }
+    /// Derived from AcDbEntity; spares a cast where millions are looked at.
+    bool isEntity() const { return m_bEntity; }
     bool isReadEnabled() const { return m_nReaders > 0 || m_bWriter; }
     bool isWriteEnabled() const { return m_bWriter || !m_pDatabase; }
 

@@ -15,7 +15,6 @@ namespace {
 
 using Topology::AttributeData;
 using Topology::CTopologyStorage;
-using Topology::EntityId;
 
 // Messages.
 constexpr int kPolygonsName = 900120;
@@ -28,14 +27,15 @@ constexpr std::string_view kStatedLength = "LENGTH";
 
 void AddNumber(std::vector<AttributeData>& attributes, std::string_view name, double value) {
     if (value == value) {
-        attributes.push_back({name, {}, value});
+        attributes.push_back({name, value});
     }
 }
 
 void AddOthers(std::vector<AttributeData>& attributes, const AttributeTable& table,
                std::size_t owner) {
     for (const Attribute& attribute : table.Of(static_cast<std::uint32_t>(owner))) {
-        attributes.push_back({attribute.name, attribute.text, attribute.number});
+        attributes.push_back({attribute.name, attribute.number ? AcDbValue(*attribute.number)
+                                                               : AcDbValue(attribute.text)});
     }
 }
 
@@ -50,9 +50,9 @@ std::vector<Topology::Point> Flat(std::span<const Point> points) {
     return flat;
 }
 
-std::vector<EntityId> AddNodes(CTopologyStorage& storage, System::CGisSystem& system,
-                               const NodeTable& nodes) {
-    std::vector<EntityId> ids;
+std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem& system,
+                                   const NodeTable& nodes) {
+    std::vector<AcDbObjectId> ids;
     ids.reserve(nodes.size());
     std::vector<AttributeData> attributes;
     for (std::size_t i = 0; i < nodes.size(); ++i) {
@@ -68,9 +68,9 @@ std::vector<EntityId> AddNodes(CTopologyStorage& storage, System::CGisSystem& sy
 }
 
 void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
-                 const SectionTable& sections, const std::vector<EntityId>& nodeIds) {
+                 const SectionTable& sections, const std::vector<AcDbObjectId>& nodeIds) {
     const auto end = [&](std::int32_t node, std::string_view missingName) {
-        return Topology::SectionEnd{node == kMissingNode ? Topology::kNoEntity : nodeIds[node],
+        return Topology::SectionEnd{node == kMissingNode ? AcDbObjectId() : nodeIds[node],
                                     missingName};
     };
     std::vector<AttributeData> attributes;
@@ -89,10 +89,12 @@ void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
 void AddPolygons(CTopologyStorage& storage, System::CGisSystem& system,
                  const PolygonTable& polygons) {
     std::vector<AttributeData> attributes;
+    std::vector<AcDbMPolygon::Ring> rings(1);
     for (std::size_t i = 0; i < polygons.size(); ++i) {
         attributes.clear();
         AddOthers(attributes, polygons.attributes, i);
-        storage.AddPolygon(system, {polygons.names[i], Flat(polygons.rings[i]), {}, attributes});
+        rings[0].points = Flat(polygons.rings[i]);
+        storage.AddPolygon(system, {polygons.names[i], rings, {}, attributes});
     }
 }
 
@@ -148,8 +150,7 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
         return reason;
     }
     CTopologyStorage& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
-    storage.Reserve(model.nodes.size(), model.sections.size());
-    const std::vector<EntityId> nodeIds = AddNodes(storage, *imported.pNetwork, model.nodes);
+    const std::vector<AcDbObjectId> nodeIds = AddNodes(storage, *imported.pNetwork, model.nodes);
     AddSections(storage, *imported.pNetwork, model.sections, nodeIds);
     AddLabels(storage, *imported.pNetwork, model.labels);
     if (imported.pPolygons) {
@@ -167,8 +168,8 @@ SystemNetwork::SystemNetwork(const CTopologyStorage& storage, const System::CGis
 }
 
 void SystemNetwork::ReadNodes() {
-    const auto elevation = m_storage.FindAttributeName(kElevation);
-    for (const EntityId id : m_nodeIds) {
+    const AcDbNameId elevation = AcDbIntern(kElevation);
+    for (const AcDbObjectId id : m_nodeIds) {
         const Topology::CNode node = m_storage.GetNodeById(id);
         const Topology::Point position = node.GetPosition();
         m_positions.push_back({position.x, position.y});
@@ -181,9 +182,9 @@ void SystemNetwork::ReadSections() {
     // Ids of a system ascend, so a node's number is found by search. A section may end at
     // a node of another system; that one joins the snapshot at its end.
     const auto ownCount = m_nodeIds.size();
-    std::unordered_map<EntityId, std::int32_t> foreign;
-    const auto numberOf = [&](EntityId id) -> std::int32_t {
-        if (id == Topology::kNoEntity) {
+    std::unordered_map<AcDbObjectId, std::int32_t> foreign;
+    const auto numberOf = [&](AcDbObjectId id) -> std::int32_t {
+        if (id.isNull()) {
             return kMissingNode;
         }
         const auto end = m_nodeIds.begin() + static_cast<std::ptrdiff_t>(ownCount);
@@ -202,8 +203,8 @@ void SystemNetwork::ReadSections() {
         }
         return entry->second;
     };
-    const auto length = m_storage.FindAttributeName(kStatedLength);
-    for (const EntityId id : m_sectionIds) {
+    const AcDbNameId length = AcDbIntern(kStatedLength);
+    for (const AcDbObjectId id : m_sectionIds) {
         const Topology::CSection section = m_storage.GetSectionById(id);
         m_startNodes.push_back(numberOf(section.GetStartNodeId()));
         m_endNodes.push_back(numberOf(section.GetEndNodeId()));

@@ -48,8 +48,8 @@ private:
     void ReadSections();
 
     const Topology::CTopologyStorage& m_storage;
-    std::vector<std::uint32_t> m_nodeIds;
-    std::vector<std::uint32_t> m_sectionIds;
+    std::vector<AcDbObjectId> m_nodeIds;
+    std::vector<AcDbObjectId> m_sectionIds;
     std::vector<Point> m_positions;
     std::vector<NodeKind> m_nodeKinds;
     std::vector<double> m_elevations;

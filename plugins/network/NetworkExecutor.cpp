@@ -113,8 +113,10 @@ void PrintPolygons(const System::CGisSystem& system) {
     std::vector<Point> points;
     for (const auto id : storage.GetSystemPolygons(system.GetSystemId())) {
         ++count;
-        for (const Topology::Point& point : storage.GetPolygonById(id).GetRing()) {
-            points.push_back({point.x, point.y});
+        for (const AcDbMPolygon::Ring& ring : storage.GetPolygonById(id).GetRings()) {
+            for (const Topology::Point& point : ring.points) {
+                points.push_back({point.x, point.y});
+            }
         }
     }
     acutPrintf(L"%s (%s)\n", system.GetSystemName(), FunctionName(system));

@@ -3,53 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <numeric>
-#include <vector>
+
+#include "siblings/networkcore/Components.h"
 
 namespace Orvane::Network {
 
 namespace {
-
-/// Which nodes hang together: each points towards the representative of its part.
-class Components {
-public:
-    explicit Components(std::size_t nodeCount) : m_parents(nodeCount), m_sizes(nodeCount, 1) {
-        std::iota(m_parents.begin(), m_parents.end(), 0U);
-    }
-
-    void Join(std::size_t a, std::size_t b) {
-        std::uint32_t large = Root(a);
-        std::uint32_t small = Root(b);
-        if (large == small) {
-            return;
-        }
-        if (m_sizes[large] < m_sizes[small]) {
-            std::swap(large, small);
-        }
-        m_parents[small] = large;
-        m_sizes[large] += m_sizes[small];
-        --m_count;
-    }
-
-    std::size_t Count() const { return m_count; }
-    std::size_t Largest() const {
-        return m_sizes.empty() ? 0 : *std::max_element(m_sizes.begin(), m_sizes.end());
-    }
-
-private:
-    std::uint32_t Root(std::size_t node) {
-        auto at = static_cast<std::uint32_t>(node);
-        while (m_parents[at] != at) {
-            m_parents[at] = m_parents[m_parents[at]]; // shortens the way for the next time
-            at = m_parents[at];
-        }
-        return at;
-    }
-
-    std::vector<std::uint32_t> m_parents;
-    std::vector<std::uint32_t> m_sizes;
-    std::size_t m_count = m_parents.size();
-};
 
 template <class Kind, std::size_t N>
 void CountKinds(std::span<const Kind> kinds, std::array<std::size_t, N>& counts) {
@@ -114,7 +73,7 @@ void AddStatedLengths(const NetworkGeometry& geometry, NetworkStatistics& result
 }
 
 void AddComponents(const NetworkGeometry& geometry, NetworkStatistics& result) {
-    Components components(geometry.NodeCount());
+    Topology::Components components(geometry.NodeCount());
     for (std::size_t section = 0; section < geometry.SectionCount(); ++section) {
         const std::int32_t start = geometry.startNodes[section];
         const std::int32_t end = geometry.endNodes[section];

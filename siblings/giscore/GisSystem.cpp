@@ -1,34 +1,18 @@
 #include "siblings/giscore/GisSystem.h"
 
-#include <random>
-
 #include "siblings/giscore/GisSystems.h"
 
 namespace Orvane::System {
 
 namespace {
 
-/// A random one of the usual form (variant 1, version 4).
-CString NewGuid() {
-    static std::random_device source;
-    unsigned int words[4];
-    for (unsigned int& word : words) {
-        word = source();
-    }
-    words[1] = (words[1] & 0xFFFF0FFFU) | 0x4000U;
-    words[2] = (words[2] & 0x3FFFFFFFU) | 0x80000000U;
-    CString text;
-    text.Format(L"%08X-%04X-%04X-%04X-%04X%08X", words[0], words[1] >> 16, words[1] & 0xFFFFU,
-                words[2] >> 16, words[2] & 0xFFFFU, words[3]);
-    return text;
-}
+ISystemStatistics* s_pStatistics = nullptr;
 
 } // namespace
 
-CGisSystem::CGisSystem(CGisSystems& owner, int id, const CString& name, enmTopologyType type,
-                       int function)
-    : m_owner(owner), m_nId(id), m_strName(name), m_strGuid(NewGuid()), m_enmTopologyType(type),
-      m_nFunction(function) {}
+void SetSystemStatistics(ISystemStatistics* pStatistics) {
+    s_pStatistics = pStatistics;
+}
 
 int CGisSystem::GetActive() const {
     return m_owner.GetActiveSystem() == this;
@@ -36,6 +20,43 @@ int CGisSystem::GetActive() const {
 
 AcDbDatabase* CGisSystem::GetDatabase() const {
     return m_owner.GetDatabase();
+}
+
+const CGisSystemLayer* CGisSystem::GetLayerByReference(const wchar_t* reference) const {
+    for (const CGisSystemLayer& layer : m_layers) {
+        if (layer.GetReference() == reference) {
+            return &layer;
+        }
+    }
+    return nullptr;
+}
+
+AcDbObjectId CGisSystem::GetLayerFor(enmEntityType type) const {
+    const CGisSystemLayer* const pLayer =
+        GetLayerByReference(LayerReferenceOf(m_enmTopologyType, m_nFunction, type));
+    if (pLayer) {
+        return pLayer->GetLayerId();
+    }
+    return m_layers.empty() ? AcDbObjectId() : m_layers.front().GetLayerId();
+}
+
+void CGisSystem::SetCoordinateSystem(const wchar_t* text) {
+    m_strCoordinateSystem = text;
+    m_owner.Store(*this);
+}
+
+int CGisSystem::GetStatisticValue_int(enmStatistic statistic, int& value) const {
+    double number = 0;
+    const int found = GetStatisticValue_dbl(statistic, number);
+    value = found ? static_cast<int>(number) : value;
+    return found;
+}
+
+int CGisSystem::GetStatisticValue_dbl(enmStatistic statistic, double& value) const {
+    const auto number =
+        s_pStatistics ? s_pStatistics->GetStatistic(*this, statistic) : std::optional<double>();
+    value = number.value_or(value);
+    return number.has_value();
 }
 
 } // namespace Orvane::System

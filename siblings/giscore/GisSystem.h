@@ -2,20 +2,21 @@
 #pragma once
 
 #include <map>
+#include <vector>
 
-#include "platform/win/String.h"
 #include "siblings/giscore/Api.h"
+#include "siblings/giscore/GisSystemLayer.h"
 #include "siblings/giscore/GisTypes.h"
-
-class AcDbDatabase;
+#include "siblings/giscore/SystemStatistics.h"
 
 namespace Orvane::System {
 
 class CGisSystems;
 
-/// What is known of a system apart from its entities. Made and owned by CGisSystems; gone
-/// once it is deleted or its document is closed. Changed through CSystemManager, so that
-/// everybody hears of it.
+/// What is known of a system apart from its entities. Kept in the drawing as a dictionary,
+/// so that it is saved, and undone, with it. Made and owned by CGisSystems; gone once it is
+/// deleted or its document is closed. Changed through CSystemManager, so that everybody
+/// hears of it.
 class GISCORE_API CGisSystem {
 public:
     CGisSystem(const CGisSystem&) = delete;
@@ -36,30 +37,44 @@ public:
     int GetActive() const;
     AcDbDatabase* GetDatabase() const;
 
+    /// By their references.
+    const std::vector<CGisSystemLayer>& GetLayers() const { return m_layers; }
+    /// Null if the system has no such layer.
+    const CGisSystemLayer* GetLayerByReference(const wchar_t* reference) const;
+    /// The layer for its entities of a kind, EntityNone for texts; its first layer if it has
+    /// none of its own for them, null if it has none at all.
+    AcDbObjectId GetLayerFor(enmEntityType type) const;
+
     /// Name or definition of the coordinate system of its positions; empty if unknown.
     const CString& GetCoordinateSystem() const { return m_strCoordinateSystem; }
-    void SetCoordinateSystem(const wchar_t* text) { m_strCoordinateSystem = text; }
+    void SetCoordinateSystem(const wchar_t* text);
 
     /// Named counters that go with the system, such as the last number given to a node.
+    /// Written into the drawing with each save; undoing does not turn them back.
     using Counters = std::map<CString, int, CStringLess>;
     const Counters& GetCounters() const { return m_counters; }
     void SetCounters(Counters counters) { m_counters = std::move(counters); }
     /// One of them, 0 at first.
     int& Counter(const wchar_t* name) { return m_counters[CString(name)]; }
 
+    // 1, and the value, if the statistic is there for this system; 0 otherwise.
+    int GetStatisticValue_int(enmStatistic statistic, int& value) const;
+    int GetStatisticValue_dbl(enmStatistic statistic, double& value) const;
+
 private:
     friend class CGisSystems;
     friend class CSystemManager;
-    CGisSystem(CGisSystems& owner, int id, const CString& name, enmTopologyType type, int function);
+    CGisSystem(CGisSystems& owner, int id) : m_owner(owner), m_nId(id) {}
 
     CGisSystems& m_owner;
     int m_nId;
     CString m_strName;
     CString m_strGuid;
-    enmTopologyType m_enmTopologyType;
-    int m_nFunction;
+    enmTopologyType m_enmTopologyType = TopologyNone;
+    int m_nFunction = 0;
     int m_bVisible = 1;
     CString m_strCoordinateSystem;
+    std::vector<CGisSystemLayer> m_layers;
     Counters m_counters;
 };
 

@@ -1,8 +1,43 @@
 #include "siblings/giscore/GisSystems.h"
 
+#include <algorithm>
+#include <random>
+
+#include "platform/arx/DbUndoScopes.h"
+#include "siblings/giscore/DrawingRecords.h"
+#include "siblings/giscore/GisEvents.h"
+#include "siblings/giscore/WholeNumber.h"
+
 namespace Orvane::System {
 
 namespace {
+
+constexpr const wchar_t* kSystems = L"ORVZ_SYSTEMS";
+constexpr const wchar_t* kLastId = L"LASTID";
+constexpr const wchar_t* kActive = L"ACTIVE";
+constexpr const wchar_t* kCounter = L"COUNTER.";
+
+constexpr const wchar_t* kSystemPrefix = L"ORVZ_SYSTEM_";
+constexpr const wchar_t* kGuid = L"GUID";
+constexpr const wchar_t* kName = L"NAME";
+constexpr const wchar_t* kTopology = L"TOPOLOGY";
+constexpr const wchar_t* kFunction = L"FUNCTION";
+constexpr const wchar_t* kVisible = L"VISIBLE";
+constexpr const wchar_t* kCoordinateSystem = L"SRS";
+constexpr const wchar_t* kLayer = L"LAYER.";
+
+/// A random one of the usual form (variant 1, version 4).
+CString NewGuid() {
+    static std::random_device source;
+    unsigned int words[4];
+    for (unsigned int& word : words) {
+        word = source();
+    }
+    words[1] = (words[1] & 0xFFFF0FFFU) | 0x4000U;
+    words[2] = (words[2] & 0x3FFFFFFFU) | 0x80000000U;
+    return FormatText(L"%08X-%04X-%04X-%04X-%04X%08X", words[0], words[1] >> 16, words[1] & 0xFFFFU,
+                      words[2] >> 16, words[2] & 0xFFFFU, words[3]);
+}
 
 template <class Test>
 CGisSystem* FindIf(const std::vector<std::unique_ptr<CGisSystem>>& systems, Test test) {
@@ -14,7 +49,83 @@ CGisSystem* FindIf(const std::vector<std::unique_ptr<CGisSystem>>& systems, Test
     return nullptr;
 }
 
+DrawingRecords RecordsOf(AcDbDatabase& database, int id) {
+    return {database, FormatText(L"%s%d", kSystemPrefix, id)};
+}
+
+DrawingRecords SharedRecords(AcDbDatabase& database) {
+    return {database, kSystems};
+}
+
+CString CounterPrefix(int id) {
+    return FormatText(L"%s%d.", kCounter, id);
+}
+
+/// What follows a prefix; nothing if the text does not begin with it.
+std::optional<CString> Behind(const CString& text, const CString& prefix) {
+    return text.Left(prefix.GetLength()) == prefix ? std::optional(text.Mid(prefix.GetLength()))
+                                                   : std::nullopt;
+}
+
+void SwitchLayer(AcDbDatabase& database, AcDbObjectId id, bool off) {
+    AcDbLayerTableRecord* pLayer = nullptr;
+    if (acdbOpenObject(pLayer, id, AcDb::kForWrite, false, &database) == Acad::eOk) {
+        if (pLayer->isOff() != off) {
+            pLayer->setIsOff(off);
+        }
+        pLayer->close();
+    }
+}
+
+AcDbObjectId MakeLayer(AcDbDatabase& database, const CString& name, int colorIndex) {
+    const AcDbObjectId id = database.layer(name);
+    AcDbLayerTableRecord* pLayer = nullptr;
+    if (acdbOpenObject(pLayer, id, AcDb::kForWrite, false, &database) == Acad::eOk) {
+        pLayer->setColorIndex(colorIndex);
+        pLayer->setIsOff(false);
+        pLayer->close();
+    }
+    return id;
+}
+
+/// An unused name of a layer: what lies on one of the same name is none of the system's.
+CString FreeLayerName(const AcDbDatabase& database, const CString& wanted) {
+    CString name = wanted;
+    for (int number = 2; !database.findLayer(name).isNull(); ++number) {
+        name.Format(L"%s %d", wanted, number);
+    }
+    return name;
+}
+
+template <class... Params, class... Args>
+void Tell(void (ISystemEvents::*event)(Params...), Args... args) {
+    CGisEvents::Instance()->Raise(event, args...);
+}
+
 } // namespace
+
+/// While the dictionaries are changed from here, they need not be read back.
+class CGisSystems::OwnChange {
+public:
+    explicit OwnChange(CGisSystems& systems) : m_systems(systems) { ++m_systems.m_nOwnChanges; }
+    ~OwnChange() { --m_systems.m_nOwnChanges; }
+    OwnChange(const OwnChange&) = delete;
+    OwnChange& operator=(const OwnChange&) = delete;
+
+private:
+    CGisSystems& m_systems;
+};
+
+CGisSystems::CGisSystems(AcDbDatabase* pDatabase) : m_pDatabase(pDatabase) {
+    m_pDatabase->addReactor(this);
+    Load();
+}
+
+CGisSystems::~CGisSystems() {
+    if (m_pDatabase) {
+        m_pDatabase->removeReactor(this);
+    }
+}
 
 std::vector<CGisSystem*> CGisSystems::GetSystemList() const {
     std::vector<CGisSystem*> list;
@@ -39,6 +150,300 @@ CGisSystem* CGisSystems::GetSystemByName(const wchar_t* name) const {
     return FindIf(m_systems, [name](const CGisSystem& system) {
         return system.GetSystemName().CompareNoCase(name) == 0;
     });
+}
+
+void CGisSystems::Load() {
+    m_systems.clear();
+    m_pActive = nullptr;
+    ++m_nRosterStamp;
+    for (const AcDbObjectId id : m_pDatabase->dictionaries()) {
+        if (const int systemId = IdOf(*m_pDatabase->peek(id))) {
+            Read(Insert(systemId));
+        }
+    }
+    m_pActive = GetSystemById(SharedRecords(*m_pDatabase).GetInt(kActive, 0));
+}
+
+int CGisSystems::IdOf(const AcDbObject& object) const {
+    if (object.isA() != AcDbDictionary::desc()) {
+        return 0;
+    }
+    const auto number = Behind(static_cast<const AcDbDictionary&>(object).name(), kSystemPrefix);
+    const int id = number ? WholeNumber(number->View()).value_or(0) : 0;
+    // One way of writing a number only: there is one dictionary for it.
+    return id > 0 && *number == FormatText(L"%d", id) ? id : 0;
+}
+
+CGisSystem& CGisSystems::Insert(int id) {
+    ++m_nRosterStamp;
+    const auto place = std::find_if(m_systems.begin(), m_systems.end(), [id](const auto& system) {
+        return system->GetSystemId() > id;
+    });
+    return **m_systems.insert(place, std::unique_ptr<CGisSystem>(new CGisSystem(*this, id)));
+}
+
+void CGisSystems::Read(CGisSystem& system) const {
+    const DrawingRecords records = RecordsOf(*m_pDatabase, system.m_nId);
+    system.m_strGuid = records.Get(kGuid);
+    system.m_strName = records.Get(kName);
+    system.m_enmTopologyType = static_cast<enmTopologyType>(records.GetInt(kTopology, 0));
+    system.m_nFunction = records.GetInt(kFunction, 0);
+    system.m_bVisible = records.GetInt(kVisible, 1) != 0;
+    system.m_strCoordinateSystem = records.Get(kCoordinateSystem);
+    system.m_layers.clear();
+    if (const AcDbDictionary* const pDictionary = records.Dictionary()) {
+        for (const auto& [record, text] : pDictionary->records()) {
+            if (const auto reference = Behind(record, kLayer)) {
+                system.m_layers.emplace_back(*m_pDatabase, *reference, text);
+            }
+        }
+    }
+    ReadCounters(system);
+}
+
+void CGisSystems::ReadCounters(CGisSystem& system) const {
+    const CString prefix = CounterPrefix(system.m_nId);
+    if (const AcDbDictionary* const pShared = SharedRecords(*m_pDatabase).Dictionary()) {
+        for (const auto& [record, text] : pShared->records()) {
+            const auto counter = Behind(record, prefix);
+            const auto value = WholeNumber(text.View());
+            if (counter && value) {
+                // One in memory is never behind the one that was saved.
+                system.m_counters.try_emplace(*counter, *value);
+            }
+        }
+    }
+}
+
+void CGisSystems::Store(const CGisSystem& system) {
+    const OwnChange own(*this);
+    DrawingRecords records = RecordsOf(*m_pDatabase, system.m_nId);
+    records.Set(kGuid, system.m_strGuid);
+    records.Set(kName, system.m_strName);
+    records.Set(kTopology, system.m_enmTopologyType);
+    records.Set(kFunction, system.m_nFunction);
+    records.Set(kVisible, system.m_bVisible);
+    if (!system.m_strCoordinateSystem.IsEmpty() || !records.Get(kCoordinateSystem).IsEmpty()) {
+        records.Set(kCoordinateSystem, system.m_strCoordinateSystem);
+    }
+    for (const CGisSystemLayer& layer : system.m_layers) {
+        records.Set(kLayer + layer.GetReference(), layer.GetLayerName());
+    }
+}
+
+void CGisSystems::StoreState() {
+    const AcDbUndoPause pause(*m_pDatabase);
+    const OwnChange own(*this);
+    DrawingRecords shared = SharedRecords(*m_pDatabase);
+    if (!m_systems.empty() || shared.Dictionary()) {
+        shared.Set(kActive, m_pActive ? m_pActive->GetSystemId() : 0);
+    }
+    for (const auto& system : m_systems) {
+        for (const auto& [name, value] : system->m_counters) {
+            shared.Set(CounterPrefix(system->m_nId) + name, value);
+        }
+    }
+}
+
+CGisSystem& CGisSystems::Add(const CString& name, enmTopologyType type, int function) {
+    DrawingRecords shared = SharedRecords(*m_pDatabase);
+    const int highest = m_systems.empty() ? 0 : m_systems.back()->m_nId;
+    const int id = std::max(shared.GetInt(kLastId, 0), highest) + 1;
+    {
+        // Not to be undone: an id never comes twice.
+        const AcDbUndoPause pause(*m_pDatabase);
+        const OwnChange own(*this);
+        shared.Set(kLastId, id);
+    }
+    const AcDbUndoGroup group(*m_pDatabase, name);
+    CGisSystem& system = Insert(id);
+    system.m_strName = name;
+    system.m_strGuid = NewGuid();
+    system.m_enmTopologyType = type;
+    system.m_nFunction = function;
+    CreateMissingLayers(system);
+    Store(system);
+    Tell(&ISystemEvents::OnNewSystemCreated, &system);
+    return system;
+}
+
+void CGisSystems::Remove(CGisSystem& system) {
+    const AcDbUndoGroup group(*m_pDatabase, system.m_strName);
+    Tell(&ISystemEvents::OnBeforeSystemDelete, &system);
+    if (m_pActive == &system) {
+        SetActive(nullptr);
+    }
+    Tell(&ISystemEvents::OnDropSystemContent, &system);
+    const OwnChange own(*this);
+    RecordsOf(*m_pDatabase, system.m_nId).Erase();
+    for (const CGisSystemLayer& layer : system.m_layers) {
+        // A layer that others have drawn on stays.
+        AcDbLayerTableRecord* pLayer = nullptr;
+        if (acdbOpenObject(pLayer, layer.GetLayerId(), AcDb::kForWrite, false, m_pDatabase) ==
+            Acad::eOk) {
+            pLayer->erase();
+            pLayer->close();
+        }
+    }
+    ++m_nRosterStamp;
+    std::erase_if(m_systems, [&](const auto& entry) { return entry.get() == &system; });
+    Tell(&ISystemEvents::OnAfterSystemDelete);
+}
+
+void CGisSystems::Rename(CGisSystem& system, const CString& name) {
+    if (system.m_strName != name) {
+        const AcDbUndoGroup group(*m_pDatabase, name);
+        system.m_strName = name;
+        Store(system);
+        Tell(&ISystemEvents::OnSystemChanged, &system);
+    }
+}
+
+void CGisSystems::SetActive(CGisSystem* pSystem) {
+    CGisSystem* const pOld = m_pActive;
+    if (pOld == pSystem) {
+        return;
+    }
+    m_pActive = pSystem;
+    if (pOld) {
+        Tell(&ISystemEvents::OnSystemBecomeInactive, pOld);
+    }
+    // An observer may have activated yet another one, and told so.
+    if (m_pActive == pSystem) {
+        Tell(&ISystemEvents::OnSystemBecomeActive, pSystem);
+    }
+}
+
+void CGisSystems::SetVisibility(CGisSystem& system, int visible) {
+    if (system.m_bVisible == visible) {
+        return;
+    }
+    {
+        const AcDbUndoGroup group(*m_pDatabase, system.m_strName);
+        system.m_bVisible = visible;
+        Store(system);
+        for (const CGisSystemLayer& layer : system.m_layers) {
+            SwitchLayer(*m_pDatabase, layer.GetLayerId(), !visible);
+        }
+    }
+    Tell(visible ? &ISystemEvents::OnSystemBecomeShown : &ISystemEvents::OnSystemBecomeHidden,
+         &system);
+}
+
+int CGisSystems::CreateMissingLayers() {
+    int made = 0;
+    for (const auto& system : m_systems) {
+        made += CreateMissingLayers(*system);
+    }
+    return made;
+}
+
+int CGisSystems::CreateMissingLayers(CGisSystem& system) {
+    int made = 0;
+    const AcDbUndoGroup group(*m_pDatabase, system.m_strName);
+    for (const LayerDesign* const pDesign :
+         LayerDesignsOf(system.m_enmTopologyType, system.m_nFunction)) {
+        const CGisSystemLayer* const pKnown = system.GetLayerByReference(pDesign->reference);
+        if (pKnown && !pKnown->GetLayerId().isNull()) {
+            continue;
+        }
+        ++made;
+        const CString name =
+            pKnown ? pKnown->GetLayerName()
+                   : FreeLayerName(*m_pDatabase, system.m_strName + L" " + pDesign->word);
+        SwitchLayer(*m_pDatabase, MakeLayer(*m_pDatabase, name, pDesign->colorIndex),
+                    !system.m_bVisible);
+        if (!pKnown) {
+            system.m_layers.emplace_back(*m_pDatabase, pDesign->reference, name);
+        }
+    }
+    if (made > 0) {
+        // As the drawing gives them back.
+        std::sort(system.m_layers.begin(), system.m_layers.end(),
+                  [](const CGisSystemLayer& left, const CGisSystemLayer& right) {
+                      return left.GetReference() < right.GetReference();
+                  });
+        Store(system);
+    }
+    return made;
+}
+
+int CGisSystems::UpgradeSystems() {
+    int upgraded = 0;
+    const AcDbUndoPause pause(*m_pDatabase);
+    for (const auto& system : m_systems) {
+        CString name = system->m_strName;
+        CString guid = system->m_strGuid;
+        if (name.IsEmpty()) {
+            name.Format(L"System %d", system->m_nId);
+        }
+        const CString plain = name;
+        for (int number = 2;; ++number) {
+            const CGisSystem* const pOther = GetSystemByName(name);
+            if (!pOther || pOther->m_nId >= system->m_nId) {
+                break;
+            }
+            name.Format(L"%s (%d)", plain, number);
+        }
+        if (guid.IsEmpty() || GetSystemByGuid(guid) != system.get()) {
+            guid = NewGuid();
+        }
+        if (name != system->m_strName || guid != system->m_strGuid) {
+            system->m_strName = name;
+            system->m_strGuid = guid;
+            Store(*system);
+            ++upgraded;
+        }
+    }
+    return upgraded;
+}
+
+void CGisSystems::objectModified(const AcDbDatabase*, const AcDbObject* pObject) {
+    CGisSystem* const pSystem = m_nOwnChanges == 0 ? GetSystemById(IdOf(*pObject)) : nullptr;
+    if (pSystem) {
+        const CString name = pSystem->m_strName;
+        const int visible = pSystem->m_bVisible;
+        Read(*pSystem);
+        TellDifferences(name, visible, *pSystem);
+    }
+}
+
+void CGisSystems::TellDifferences(const CString& nameBefore, int visibleBefore,
+                                  CGisSystem& system) {
+    if (visibleBefore != system.m_bVisible) {
+        Tell(system.m_bVisible ? &ISystemEvents::OnSystemBecomeShown
+                               : &ISystemEvents::OnSystemBecomeHidden,
+             &system);
+    }
+    if (nameBefore != system.m_strName) {
+        Tell(&ISystemEvents::OnSystemChanged, &system);
+    }
+}
+
+void CGisSystems::objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool bErased) {
+    const int id = m_nOwnChanges == 0 ? IdOf(*pObject) : 0;
+    CGisSystem* const pSystem = id ? GetSystemById(id) : nullptr;
+    if (pSystem && bErased) {
+        Drop(*pSystem);
+    } else if (id && !pSystem && !bErased) {
+        CGisSystem& system = Insert(id);
+        Read(system);
+        Tell(&ISystemEvents::OnNewSystemCreated, &system);
+    }
+}
+
+void CGisSystems::Drop(CGisSystem& system) {
+    Tell(&ISystemEvents::OnBeforeSystemDelete, &system);
+    if (m_pActive == &system) {
+        SetActive(nullptr);
+    }
+    ++m_nRosterStamp;
+    std::erase_if(m_systems, [&](const auto& entry) { return entry.get() == &system; });
+    Tell(&ISystemEvents::OnAfterSystemDelete);
+}
+
+void CGisSystems::databaseReplaced(const AcDbDatabase*) {
+    Load();
 }
 
 } // namespace Orvane::System

@@ -9,9 +9,17 @@
 namespace Orvane::System {
 
 /// Kept by CSystemManager beside the drawing; goes with the document.
-class GISCORE_API CGisSystems {
+///
+/// In the drawing a system is the dictionary "ORVZ_SYSTEM_<id>", with the records "GUID",
+/// "NAME", "TOPOLOGY", "FUNCTION", "VISIBLE", "SRS", and "LAYER.<reference>" with the name
+/// of each layer. The dictionary "ORVZ_SYSTEMS" has "LASTID", "ACTIVE" (an id) and
+/// "COUNTER.<id>.<name>". Systems follow the dictionaries: when undo takes one away or
+/// brings it back, so go the systems, and observers hear of it.
+class GISCORE_API CGisSystems final : private AcDbDatabaseReactor {
 public:
-    explicit CGisSystems(AcDbDatabase* pDatabase) : m_pDatabase(pDatabase) {}
+    /// Reads what the drawing has.
+    explicit CGisSystems(AcDbDatabase* pDatabase);
+    ~CGisSystems() override;
     CGisSystems(const CGisSystems&) = delete;
     CGisSystems& operator=(const CGisSystems&) = delete;
 
@@ -27,15 +35,56 @@ public:
 
     /// Null if no system is active.
     CGisSystem* GetActiveSystem() const { return m_pActive; }
+    /// Null once the drawing is gone.
     AcDbDatabase* GetDatabase() const { return m_pDatabase; }
+    /// Another number whenever systems have come or gone.
+    std::uint64_t GetRosterStamp() const { return m_nRosterStamp; }
+
+    /// Completes systems that an earlier version, or another program, left without a GUID or
+    /// a name, or with a name that an earlier system has. Outside of the undo history.
+    /// \return how many systems were completed
+    int UpgradeSystems();
+    /// Makes the layers that systems of their kind have and these do not.
+    /// \return how many layers were made
+    int CreateMissingLayers();
+    /// Writes the active system and the counters into the drawing, before a save.
+    void StoreState();
 
 private:
+    friend class CGisSystem;
     friend class CSystemManager;
+    class OwnChange;
+
+    void objectModified(const AcDbDatabase*, const AcDbObject* pObject) override;
+    void objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool bErased) override;
+    void databaseReplaced(const AcDbDatabase*) override;
+    void goodbye(const AcDbDatabase*) override { m_pDatabase = nullptr; }
+
+    /// Reads all systems anew, without a word to anybody.
+    void Load();
+    void Read(CGisSystem& system) const;
+    void ReadCounters(CGisSystem& system) const;
+    CGisSystem& Insert(int id);
+    /// Its id if an object of the drawing is the dictionary of a system, else 0.
+    int IdOf(const AcDbObject& object) const;
+    /// Tells the observers, and takes a system from the list.
+    void Drop(CGisSystem& system);
+    void TellDifferences(const CString& nameBefore, int visibleBefore, CGisSystem& system);
+
+    CGisSystem& Add(const CString& name, enmTopologyType type, int function);
+    void Remove(CGisSystem& system);
+    void SetActive(CGisSystem* pSystem);
+    void SetVisibility(CGisSystem& system, int visible);
+    void Rename(CGisSystem& system, const CString& name);
+    /// Writes what the drawing does not have yet of a system.
+    void Store(const CGisSystem& system);
+    int CreateMissingLayers(CGisSystem& system);
 
     AcDbDatabase* m_pDatabase;
     std::vector<std::unique_ptr<CGisSystem>> m_systems;
     CGisSystem* m_pActive = nullptr;
-    int m_nLastId = 0;
+    std::uint64_t m_nRosterStamp = 0;
+    int m_nOwnChanges = 0; ///< the dictionaries are changed from here
 };
 
 } // namespace Orvane::System

@@ -22,4 +22,8 @@ enum enmEntityType : int {
     EntityLongitudinalSection = 128,
 };
 
+/// Function of line systems that lead along roads and pipes: alignments, told apart from
+/// networks wherever layers and figures are concerned.
+inline constexpr int kFunctionAlignment = 10000;
+
 } // namespace Orvane

@@ -4,6 +4,7 @@
 namespace Orvane::System {
 
 class CGisSystem;
+class CGisSystems;
 
 /// Derived by who wants to hear; override what is of interest. Not owned. The meaning of
 /// the texts of the configuration events: tag of the repository, GUID of the definition.
@@ -32,6 +33,9 @@ public:
     /// Between the two events of a deletion: who keeps something of the system, such as
     /// its entities, drops it now.
     virtual void OnDropSystemContent(CGisSystem*) {}
+    /// A drawing is about to be saved: who keeps something of its systems apart from the
+    /// drawing gives it back now.
+    virtual void OnSaveSystemContent(CGisSystems*) {}
 
 protected:
     ~ISystemEvents() = default;

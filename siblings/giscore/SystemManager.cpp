@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/arx/ApDocManager.h"
+#include "platform/arx/EdEditor.h"
 #include "siblings/giscore/GisEvents.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/Topology.h"
@@ -52,11 +53,6 @@ bool IsKnownKind(enmTopologyType type, int function, CString* pReason) {
     return false;
 }
 
-template <class... Params, class... Args>
-void Tell(void (ISystemEvents::*event)(Params...), Args... args) {
-    CGisEvents::Instance()->Raise(event, args...);
-}
-
 } // namespace
 
 /// Drops what belongs to a document once it is gone. Only then: others may still ask
@@ -79,7 +75,26 @@ private:
     std::vector<AcDbDatabase*> m_dying;
 };
 
-CSystemManager::CSystemManager() : m_pDocumentReactor(std::make_unique<DocumentReactor>(*this)) {}
+/// Has everything that belongs to systems written into the drawing before it is saved.
+class CSystemManager::SaveReactor final : public AcEditorReactor {
+public:
+    explicit SaveReactor(CSystemManager& manager) : m_manager(manager) {
+        acedEditor()->addReactor(this);
+    }
+    void beginSave(AcDbDatabase* pDb, const wchar_t*) override {
+        if (CGisSystems* const pSystems = m_manager.GetSystems(pDb)) {
+            CGisEvents::Instance()->Raise(&ISystemEvents::OnSaveSystemContent, pSystems);
+            pSystems->StoreState();
+        }
+    }
+
+private:
+    CSystemManager& m_manager;
+};
+
+CSystemManager::CSystemManager()
+    : m_pDocumentReactor(std::make_unique<DocumentReactor>(*this)),
+      m_pSaveReactor(std::make_unique<SaveReactor>(*this)) {}
 
 CSystemManager::~CSystemManager() = default;
 
@@ -118,13 +133,7 @@ CGisSystem* CSystemManager::CreateSystem(const wchar_t* name, enmTopologyType ty
     }
     const bool hasFunctions =
         CModuleConfiguration::Instance()->GetTopology(type)->GetHasFunctions();
-    std::unique_ptr<CGisSystem> system(new CGisSystem(*pSystems, pSystems->m_nLastId + 1, trimmed,
-                                                      type, hasFunctions ? function : 0));
-    CGisSystem* const pSystem = system.get();
-    pSystems->m_systems.push_back(std::move(system));
-    ++pSystems->m_nLastId;
-    Tell(&ISystemEvents::OnNewSystemCreated, pSystem);
-    return pSystem;
+    return &pSystems->Add(trimmed, type, hasFunctions ? function : 0);
 }
 
 int CSystemManager::RenameSystem(CGisSystem* pSystem, const wchar_t* name, CString* pReason) {
@@ -133,10 +142,7 @@ int CSystemManager::RenameSystem(CGisSystem* pSystem, const wchar_t* name, CStri
     if (!pSystem || !IsNameFree(pSystem->m_owner, trimmed, pSystem, pReason)) {
         return 0;
     }
-    if (pSystem->m_strName != trimmed) {
-        pSystem->m_strName = trimmed;
-        Tell(&ISystemEvents::OnSystemChanged, pSystem);
-    }
+    pSystem->m_owner.Rename(*pSystem, trimmed);
     return 1;
 }
 
@@ -144,14 +150,7 @@ int CSystemManager::DeleteSystem(CGisSystem* pSystem) {
     if (!pSystem) {
         return 0;
     }
-    CGisSystems& systems = pSystem->m_owner;
-    Tell(&ISystemEvents::OnBeforeSystemDelete, pSystem);
-    if (systems.m_pActive == pSystem) {
-        SetActive(systems, nullptr);
-    }
-    Tell(&ISystemEvents::OnDropSystemContent, pSystem);
-    std::erase_if(systems.m_systems, [&](const auto& entry) { return entry.get() == pSystem; });
-    Tell(&ISystemEvents::OnAfterSystemDelete);
+    pSystem->m_owner.Remove(*pSystem);
     return 1;
 }
 
@@ -162,42 +161,26 @@ CGisSystem* CSystemManager::GetActiveSystem() {
 
 int CSystemManager::SetSystemActive(CGisSystem* pSystem) {
     CGisSystems* const pSystems = pSystem ? &pSystem->m_owner : GetSystems();
-    return pSystems ? SetActive(*pSystems, pSystem) : 0;
-}
-
-int CSystemManager::SetActive(CGisSystems& systems, CGisSystem* pSystem) {
-    CGisSystem* const pOld = systems.m_pActive;
-    if (pOld == pSystem) {
-        return 1;
+    if (!pSystems) {
+        return 0;
     }
-    systems.m_pActive = pSystem;
-    if (pOld) {
-        Tell(&ISystemEvents::OnSystemBecomeInactive, pOld);
-    }
-    // An observer may have activated yet another one, and told so.
-    if (systems.m_pActive == pSystem) {
-        Tell(&ISystemEvents::OnSystemBecomeActive, pSystem);
-    }
+    pSystems->SetActive(pSystem);
     return 1;
 }
 
 int CSystemManager::SetSystemVisible(CGisSystem* pSystem) {
-    return SetVisibility(pSystem, 1);
-}
-
-int CSystemManager::SetSystemInvisible(CGisSystem* pSystem) {
-    return SetVisibility(pSystem, 0);
-}
-
-int CSystemManager::SetVisibility(CGisSystem* pSystem, int visible) {
     if (!pSystem) {
         return 0;
     }
-    if (pSystem->m_bVisible != visible) {
-        pSystem->m_bVisible = visible;
-        Tell(visible ? &ISystemEvents::OnSystemBecomeShown : &ISystemEvents::OnSystemBecomeHidden,
-             pSystem);
+    pSystem->m_owner.SetVisibility(*pSystem, 1);
+    return 1;
+}
+
+int CSystemManager::SetSystemInvisible(CGisSystem* pSystem) {
+    if (!pSystem) {
+        return 0;
     }
+    pSystem->m_owner.SetVisibility(*pSystem, 0);
     return 1;
 }
 

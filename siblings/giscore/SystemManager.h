@@ -51,14 +51,14 @@ public:
 
 private:
     class DocumentReactor;
+    class SaveReactor;
 
     CSystemManager();
     ~CSystemManager();
-    int SetActive(CGisSystems& systems, CGisSystem* pSystem);
-    int SetVisibility(CGisSystem* pSystem, int visible);
 
     std::map<AcDbDatabase*, std::unique_ptr<CGisSystems>> m_drawings;
     std::unique_ptr<DocumentReactor> m_pDocumentReactor;
+    std::unique_ptr<SaveReactor> m_pSaveReactor;
 };
 
 } // namespace Orvane::System

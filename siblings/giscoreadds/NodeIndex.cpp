@@ -18,15 +18,23 @@ void CNodeIndex::Changed(int changed) {
     }
 }
 
+void CNodeIndex::BuildSTRTree(int rebuild) {
+    Changed(rebuild);
+    Index();
+}
+
 const CSpatialIndex& CNodeIndex::Index() {
     const Topology::CTopologyStorage& topology =
         *Topology::CTopologyMultiStorage::Instance()->GetTopology();
     if (!m_pIndex || m_nBuiltFor != topology.GetChangeStamp()) {
         std::vector<BoxEntry> boxes;
-        boxes.reserve(topology.GetNodeVector().size());
-        for (const Topology::CNode node : topology.GetNodeVector()) {
-            const Topology::Point at = node.GetPosition();
-            boxes.push_back({{at.x, at.y, at.x, at.y}, node.GetId()});
+        if (const AcDbDatabase* const pDatabase = topology.GetDatabase()) {
+            pDatabase->forEachEntity([&](const AcDbEntity& entity) {
+                if (entity.isA() == AcDbPoint::desc()) {
+                    const AcGePoint3d& at = static_cast<const AcDbPoint&>(entity).position();
+                    boxes.push_back({{at.x, at.y, at.x, at.y}, entity.objectId().number()});
+                }
+            });
         }
         m_pIndex = std::make_unique<CSpatialIndex>(boxes);
         m_nBuiltFor = topology.GetChangeStamp();
@@ -34,17 +42,23 @@ const CSpatialIndex& CNodeIndex::Index() {
     return *m_pIndex;
 }
 
-std::vector<Topology::EntityId> CNodeIndex::GetNodesInBox(const Box& box) {
-    std::vector<Topology::EntityId> nodes;
-    Index().Query(box, [&](std::uint32_t id) { nodes.push_back(id); });
+const AcDbPoint* CNodeIndex::GetNodeById(AcDbObjectId id) const {
+    const AcDbDatabase* const pDatabase = acdbHostApplicationServices()->workingDatabase();
+    const AcDbObject* const pObject = pDatabase ? pDatabase->peek(id) : nullptr;
+    const bool isPoint = pObject && !pObject->isErased() && pObject->isA() == AcDbPoint::desc();
+    return isPoint ? static_cast<const AcDbPoint*>(pObject) : nullptr;
+}
+
+std::vector<AcDbObjectId> CNodeIndex::GetNodesInBox(const Box& box) {
+    std::vector<AcDbObjectId> nodes;
+    Index().Query(box, [&](std::uint32_t id) { nodes.emplace_back(id); });
     std::sort(nodes.begin(), nodes.end());
     return nodes;
 }
 
-std::optional<Topology::EntityId> CNodeIndex::GetNearestNode(double x, double y,
-                                                             double maxDistance) {
+std::optional<AcDbObjectId> CNodeIndex::GetNearestNode(double x, double y, double maxDistance) {
     const auto hit = Index().Nearest(x, y, maxDistance);
-    return hit ? std::optional(hit->id) : std::nullopt;
+    return hit ? std::optional(AcDbObjectId(hit->id)) : std::nullopt;
 }
 
 } // namespace Orvane::Selection

@@ -12,7 +12,7 @@ namespace Orvane::Selection {
 namespace {
 
 using Topology::Point;
-using Ring = std::span<const Point>;
+using Rings = std::vector<AcDbMPolygon::Ring>;
 
 constexpr double kNothing = std::numeric_limits<double>::infinity();
 
@@ -20,15 +20,8 @@ const Topology::CTopologyStorage& Drawing() {
     return *Topology::CTopologyMultiStorage::Instance()->GetTopology();
 }
 
-Box BoxOf(Ring ring) {
-    Box box{kNothing, kNothing, -kNothing, -kNothing}; // the index leaves an empty one out
-    for (const Point& point : ring) {
-        box.minX = std::min(box.minX, point.x);
-        box.minY = std::min(box.minY, point.y);
-        box.maxX = std::max(box.maxX, point.x);
-        box.maxY = std::max(box.maxY, point.y);
-    }
-    return box;
+Box BoxOf(const AcGeExtents2d& extents) {
+    return {extents.minX, extents.minY, extents.maxX, extents.maxY};
 }
 
 double DistanceToEdge(double x, double y, const Point& a, const Point& b) {
@@ -40,16 +33,18 @@ double DistanceToEdge(double x, double y, const Point& a, const Point& b) {
     return std::hypot(x - (a.x + t * dx), y - (a.y + t * dy));
 }
 
-/// From a point to the area of a ring; 0 inside and on the border.
-double DistanceToArea(double x, double y, Ring ring) {
+/// From a point to the area between rings; 0 inside and on the border.
+double DistanceToArea(double x, double y, const Rings& rings) {
     double distance = kNothing;
     bool inside = false;
-    for (std::size_t i = 0; i < ring.size(); ++i) {
-        const Point& a = ring[i];
-        const Point& b = ring[(i + 1) % ring.size()];
-        distance = std::min(distance, DistanceToEdge(x, y, a, b));
-        if ((a.y > y) != (b.y > y) && x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) {
-            inside = !inside; // the edge is crossed by the ray to the right
+    for (const AcDbMPolygon::Ring& ring : rings) {
+        for (std::size_t i = 0; i < ring.points.size(); ++i) {
+            const Point& a = ring.points[i];
+            const Point& b = ring.points[(i + 1) % ring.points.size()];
+            distance = std::min(distance, DistanceToEdge(x, y, a, b));
+            if ((a.y > y) != (b.y > y) && x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) {
+                inside = !inside; // the edge is crossed by the ray to the right
+            }
         }
     }
     return inside ? 0 : distance;
@@ -68,6 +63,11 @@ void CPolygonIndex::Changed(int changed) {
     }
 }
 
+void CPolygonIndex::BuildSTRTree(int rebuild) {
+    Changed(rebuild);
+    Build();
+}
+
 void CPolygonIndex::Build() {
     const Topology::CTopologyStorage& topology = Drawing();
     if (m_pIndex && m_nBuiltFor == topology.GetChangeStamp()) {
@@ -76,9 +76,9 @@ void CPolygonIndex::Build() {
     m_entries.clear();
     std::vector<BoxEntry> boxes;
     for (const Topology::CPolygon polygon : topology.GetPolygonVector()) {
-        const Box box = BoxOf(polygon.GetRing());
-        m_entries.push_back({polygon.GetId(), polygon.GetSystemId(), box});
-        boxes.push_back({box, polygon.GetId()});
+        const Box box = BoxOf(polygon.GetExtents());
+        m_entries.push_back({polygon.GetObjectId(), polygon.GetSystemId(), box});
+        boxes.push_back({box, polygon.GetObjectId().number()}); // an empty one is left out
     }
     m_pIndex = std::make_unique<CSpatialIndex>(boxes);
     m_nBuiltFor = topology.GetChangeStamp();
@@ -89,34 +89,34 @@ const std::vector<PolygonIndexEntry>& CPolygonIndex::GetPolygonIndex() {
     return m_entries;
 }
 
-const PolygonIndexEntry* CPolygonIndex::GetIndexEntry(Topology::EntityId id) {
+const PolygonIndexEntry* CPolygonIndex::GetIndexEntry(AcDbObjectId id) {
     Build();
     // The entries come in the order of their ids.
-    const auto hit = std::lower_bound(m_entries.begin(), m_entries.end(), id,
-                                      [](const PolygonIndexEntry& entry,
-                                         Topology::EntityId wanted) { return entry.id < wanted; });
+    const auto hit = std::lower_bound(
+        m_entries.begin(), m_entries.end(), id,
+        [](const PolygonIndexEntry& entry, AcDbObjectId wanted) { return entry.id < wanted; });
     return hit != m_entries.end() && hit->id == id ? &*hit : nullptr;
 }
 
-std::vector<Topology::EntityId> CPolygonIndex::GetPolygonsInBox(const Box& box) {
+std::vector<AcDbObjectId> CPolygonIndex::GetPolygonsInBox(const Box& box) {
     Build();
-    std::vector<Topology::EntityId> polygons;
-    m_pIndex->Query(box, [&](std::uint32_t id) { polygons.push_back(id); });
+    std::vector<AcDbObjectId> polygons;
+    m_pIndex->Query(box, [&](std::uint32_t id) { polygons.emplace_back(id); });
     std::sort(polygons.begin(), polygons.end());
     return polygons;
 }
 
-std::vector<Topology::EntityId> CPolygonIndex::GetPolygonsAt(double x, double y) {
-    std::vector<Topology::EntityId> polygons = GetPolygonsInBox({x, y, x, y});
-    std::erase_if(polygons, [&](Topology::EntityId id) {
-        return DistanceToArea(x, y, Drawing().GetPolygonById(id).GetRing()) > 0;
+std::vector<AcDbObjectId> CPolygonIndex::GetPolygonsAt(double x, double y) {
+    std::vector<AcDbObjectId> polygons = GetPolygonsInBox({x, y, x, y});
+    std::erase_if(polygons, [&](AcDbObjectId id) {
+        return DistanceToArea(x, y, Drawing().GetPolygonById(id).GetRings()) > 0;
     });
     return polygons;
 }
 
-Topology::EntityId CPolygonIndex::GetNearestPolygon(double x, double y, double maxDistance) {
+AcDbObjectId CPolygonIndex::GetNearestPolygon(double x, double y, double maxDistance) {
     Build();
-    Topology::EntityId nearest = Topology::kNoEntity;
+    AcDbObjectId nearest;
     double best = maxDistance;
     // A box is never farther away than what it bounds, so the search may end at the first
     // box that is farther than the best polygon.
@@ -124,11 +124,11 @@ Topology::EntityId CPolygonIndex::GetNearestPolygon(double x, double y, double m
         const auto hits = m_pIndex->Nearest(x, y, maxDistance, count);
         std::size_t looked = 0;
         for (; looked < hits.size() && hits[looked].distance <= best; ++looked) {
-            const Ring ring = Drawing().GetPolygonById(hits[looked].id).GetRing();
-            const double distance = DistanceToArea(x, y, ring);
-            if (distance < best || (distance == best && nearest == Topology::kNoEntity)) {
+            const AcDbObjectId id(hits[looked].id);
+            const double distance = DistanceToArea(x, y, Drawing().GetPolygonById(id).GetRings());
+            if (distance < best || (distance == best && nearest.isNull())) {
                 best = distance;
-                nearest = hits[looked].id;
+                nearest = id;
             }
         }
         if (looked < hits.size() || hits.size() < count) {

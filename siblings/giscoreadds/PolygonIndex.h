@@ -4,14 +4,14 @@
 #include <memory>
 #include <vector>
 
+#include "platform/arx/DbObject.h"
 #include "siblings/giscoreadds/SpatialIndex.h"
-#include "siblings/networkcore/TopologyTypes.h"
 
 namespace Orvane::Selection {
 
 /// What the index keeps of a polygon.
 struct PolygonIndexEntry {
-    Topology::EntityId id = Topology::kNoEntity;
+    AcDbObjectId id;
     int systemId = 0;
     Box box;
 };
@@ -25,19 +25,22 @@ public:
 
     /// Non-zero: what was built is not to be relied on any more.
     void Changed(int changed);
+    /// Builds it now, so that the next question is not the one that waits. Non-zero: even if
+    /// what was built still holds.
+    void BuildSTRTree(int rebuild);
 
     /// All polygons, in the order of their ids.
     const std::vector<PolygonIndexEntry>& GetPolygonIndex();
     /// Null if there is no such polygon.
-    const PolygonIndexEntry* GetIndexEntry(Topology::EntityId id);
+    const PolygonIndexEntry* GetIndexEntry(AcDbObjectId id);
 
     /// Polygons whose box meets a box, borders included, in the order of their ids.
-    std::vector<Topology::EntityId> GetPolygonsInBox(const Box& box);
+    std::vector<AcDbObjectId> GetPolygonsInBox(const Box& box);
     /// Polygons that contain a point, borders included as far as numbers allow.
-    std::vector<Topology::EntityId> GetPolygonsAt(double x, double y);
+    std::vector<AcDbObjectId> GetPolygonsAt(double x, double y);
     /// The polygon whose outline or area is nearest to a point, at most `maxDistance` away;
-    /// kNoEntity if there is none.
-    Topology::EntityId GetNearestPolygon(double x, double y, double maxDistance);
+    /// a null id if there is none.
+    AcDbObjectId GetNearestPolygon(double x, double y, double maxDistance);
 
 private:
     CPolygonIndex() = default;

@@ -2,7 +2,7 @@
 
 namespace Orvane::Selection {
 
-bool CSelectionSet::Add(Topology::EntityId id, enmEntityType type) {
+bool CSelectionSet::Add(AcDbObjectId id, enmEntityType type) {
     if (!m_ids.insert(id).second) {
         return false;
     }
@@ -10,7 +10,7 @@ bool CSelectionSet::Add(Topology::EntityId id, enmEntityType type) {
     return true;
 }
 
-bool CSelectionSet::Remove(Topology::EntityId id) {
+bool CSelectionSet::Remove(AcDbObjectId id) {
     if (m_ids.erase(id) == 0) {
         return false;
     }
@@ -23,12 +23,12 @@ void CSelectionSet::Clear() {
     m_ids.clear();
 }
 
-bool CSelectionSet::Contains(Topology::EntityId id) const {
+bool CSelectionSet::Contains(AcDbObjectId id) const {
     return m_ids.contains(id);
 }
 
-std::vector<Topology::EntityId> CSelectionSet::OfType(enmEntityType type) const {
-    std::vector<Topology::EntityId> ids;
+std::vector<AcDbObjectId> CSelectionSet::OfType(enmEntityType type) const {
+    std::vector<AcDbObjectId> ids;
     for (const Entry& entry : m_entries) {
         if (entry.type == type) {
             ids.push_back(entry.id);

@@ -14,26 +14,26 @@ namespace Orvane::Selection {
 class GISCOREADDS_API CSelectionSet {
 public:
     /// False if it was in the set already.
-    bool Add(Topology::EntityId id, enmEntityType type);
-    bool Remove(Topology::EntityId id);
+    bool Add(AcDbObjectId id, enmEntityType type);
+    bool Remove(AcDbObjectId id);
     void Clear();
 
-    bool Contains(Topology::EntityId id) const;
+    bool Contains(AcDbObjectId id) const;
     bool IsEmpty() const { return m_entries.empty(); }
     int GetCount() const { return static_cast<int>(m_entries.size()); }
-    std::vector<Topology::EntityId> GetNodes() const { return OfType(EntityNode); }
-    std::vector<Topology::EntityId> GetSections() const { return OfType(EntitySection); }
-    std::vector<Topology::EntityId> GetPolygons() const { return OfType(EntityPolygon); }
+    std::vector<AcDbObjectId> GetNodes() const { return OfType(EntityNode); }
+    std::vector<AcDbObjectId> GetSections() const { return OfType(EntitySection); }
+    std::vector<AcDbObjectId> GetPolygons() const { return OfType(EntityPolygon); }
 
 private:
     struct Entry {
-        Topology::EntityId id;
+        AcDbObjectId id;
         enmEntityType type;
     };
-    std::vector<Topology::EntityId> OfType(enmEntityType type) const;
+    std::vector<AcDbObjectId> OfType(enmEntityType type) const;
 
     std::vector<Entry> m_entries;
-    std::unordered_set<Topology::EntityId> m_ids; ///< for finding them
+    std::unordered_set<AcDbObjectId> m_ids; ///< for finding them
 };
 
 } // namespace Orvane::Selection

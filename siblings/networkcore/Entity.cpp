@@ -1,27 +1,76 @@
 #include "siblings/networkcore/Entity.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
 #include "siblings/giscore/SystemManager.h"
-#include "siblings/networkcore/TopologyTables.h"
+#include "siblings/networkcore/EntityAttributes.h"
+#include "siblings/networkcore/Polygon.h"
+#include "siblings/networkcore/Section.h"
+#include "siblings/networkcore/TopologyStorage.h"
 
-// Accessors are asked a million times in a row: every operation is two look-ups by number.
+// Accessors are asked a million times in a row: every operation is one look-up by number and
+// a walk over a few attributes.
 
 namespace Orvane::Topology {
 
+namespace {
+
+const EntityAttributes& Names() {
+    return EntityAttributes::Get();
+}
+
+/// Calls visit(id) for each number of a text as "3 7".
+template <class Visit>
+void ForEachNumber(std::string_view text, Visit visit) {
+    int number = 0;
+    for (const char c : text) {
+        if (c >= '0' && c <= '9' && number < 100'000'000) {
+            number = number * 10 + (c - '0');
+        } else if (c == ' ' && number > 0) {
+            visit(std::exchange(number, 0));
+        }
+    }
+    if (number > 0) {
+        visit(number);
+    }
+}
+
+double SignedArea(std::span<const Point> ring) {
+    double twice = 0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        // Seen from the first point, so that far coordinates cost no digits.
+        const Point& a = ring[i];
+        const Point& b = ring[(i + 1) % ring.size()];
+        twice += (a.x - ring[0].x) * (b.y - ring[0].y) - (b.x - ring[0].x) * (a.y - ring[0].y);
+    }
+    return twice / 2;
+}
+
+} // namespace
+
+const AcDbEntity* CEntity::Find() const {
+    const AcDbDatabase* const pDatabase = m_pStorage ? m_pStorage->GetDatabase() : nullptr;
+    const AcDbObject* const pObject = pDatabase ? pDatabase->peek(m_id) : nullptr;
+    return pObject && !pObject->isErased() && pObject->isEntity()
+               ? static_cast<const AcDbEntity*>(pObject)
+               : nullptr;
+}
+
 CEntity::operator bool() const {
-    using Kind = CTopologyStorage::Tables::Kind;
-    return m_pStorage && m_pStorage->m_pTables->KindOf(m_id) != Kind::None;
+    const AcDbEntity* const pEntity = Find();
+    return pEntity && SystemIdOf(*pEntity) != 0;
 }
 
 enmEntityType CEntity::GetEntityType() const {
-    return m_pStorage->m_pTables->TableOf(m_id).type;
+    return EntityTypeOf(Get());
 }
 
 int CEntity::GetSystemId() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.TableOf(m_id).systems[tables.RowOf(m_id)];
+    return SystemIdOf(Get());
 }
 
 System::CGisSystem* CEntity::GetSystem() const {
@@ -35,8 +84,9 @@ CString CEntity::GetName() const {
 }
 
 std::string_view CEntity::GetNameUtf8() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.TableOf(m_id).NameOf(tables.RowOf(m_id));
+    const AcDbEntity& entity = Get();
+    return entity.isA() == AcDbText::desc() ? static_cast<const AcDbText&>(entity).textUtf8()
+                                            : entity.attribute(Names().name).asText();
 }
 
 CString CEntity::GetKind() const {
@@ -44,94 +94,108 @@ CString CEntity::GetKind() const {
 }
 
 std::string_view CEntity::GetKindUtf8() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.kindNames[tables.TableOf(m_id).kinds[tables.RowOf(m_id)]];
+    return Get().attribute(Names().kind).asText();
 }
 
 std::vector<AttributeData> CEntity::GetAttributes() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.attributes.Of(tables.TableOf(m_id).attributes[tables.RowOf(m_id)]);
+    const AcDbAttributes& all = Get().attributes();
+    std::vector<AttributeData> attributes;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const AcDbAttributes::Item item = all.at(i);
+        if (!Names().IsOwn(item.name)) {
+            attributes.push_back({AcDbNameOf(item.name), item.value});
+        }
+    }
+    return attributes;
 }
 
-std::optional<AttributeData> CEntity::GetAttribute(AttributeName name) const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.attributes.Find(tables.TableOf(m_id).attributes[tables.RowOf(m_id)], name);
+AcDbValue CEntity::GetAttribute(AcDbNameId name) const {
+    return Get().attribute(name);
 }
 
-std::optional<double> CEntity::GetNumber(AttributeName name) const {
-    const std::optional<AttributeData> attribute = GetAttribute(name);
-    return attribute ? attribute->number : std::nullopt;
+bool CNode::HasPlace() const {
+    const Point position = GetPosition();
+    return std::isfinite(position.x) && std::isfinite(position.y);
 }
 
-Point CNode::GetPosition() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.nodePositions[tables.RowOf(m_id)];
+bool CNode::IsMultiSystem() const {
+    return GetSystems().size() > 1;
 }
 
-EntityId CSection::GetStartNodeId() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.sectionEnds[tables.RowOf(m_id)][0];
+std::vector<int> CNode::GetSystems() const {
+    std::vector<int> systems{GetSystemId()};
+    ForEachNumber(Get().attribute(Names().systems).asText(), [&](int id) {
+        if (std::find(systems.begin(), systems.end(), id) == systems.end()) {
+            systems.push_back(id);
+        }
+    });
+    return systems;
 }
 
-EntityId CSection::GetEndNodeId() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.sectionEnds[tables.RowOf(m_id)][1];
+AcDbObjectId CSection::NodeAt(AcDbNameId end) const {
+    const auto number = Get().attribute(end).asInteger();
+    if (!number || *number <= 0 || *number > std::numeric_limits<std::uint32_t>::max()) {
+        return {};
+    }
+    const AcDbObjectId id(static_cast<std::uint32_t>(*number));
+    return m_pStorage->GetNodeById(id) ? id : AcDbObjectId();
 }
 
-CNode CSection::GetStartNode() const {
-    return {m_pStorage, GetStartNodeId()};
+AcDbObjectId CSection::GetStartNodeId() const {
+    return NodeAt(Names().startNode);
 }
 
-CNode CSection::GetEndNode() const {
-    return {m_pStorage, GetEndNodeId()};
+AcDbObjectId CSection::GetEndNodeId() const {
+    return NodeAt(Names().endNode);
 }
 
 std::string_view CSection::GetMissingStart() const {
-    const auto& missing = m_pStorage->m_pTables->missingEnds;
-    const auto hit = missing.find(m_id);
-    return hit == missing.end() ? std::string_view() : hit->second[0];
+    return GetStartNodeId().isNull() ? Get().attribute(Names().startName).asText() : "";
 }
 
 std::string_view CSection::GetMissingEnd() const {
-    const auto& missing = m_pStorage->m_pTables->missingEnds;
-    const auto hit = missing.find(m_id);
-    return hit == missing.end() ? std::string_view() : hit->second[1];
+    return GetEndNodeId().isNull() ? Get().attribute(Names().endName).asText() : "";
 }
 
 std::span<const Point> CSection::GetInnerVertices() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.PointsOf(tables.sectionVertices[tables.RowOf(m_id)]);
+    // The line of the drawing goes from node to node, as far as they have a place.
+    const std::span<const Point> all = Get<AcDbPolyline>().vertices();
+    const CNode start = GetStartNode();
+    const CNode end = GetEndNode();
+    const std::size_t first = start && start.HasPlace() ? 1 : 0;
+    const std::size_t last = end && end.HasPlace() ? 1 : 0;
+    return all.size() > first + last ? all.subspan(first, all.size() - first - last)
+                                     : std::span<const Point>();
 }
 
 double CSection::GetDrawnLength() const {
     double length = 0;
-    std::optional<Point> last;
+    std::optional<Point> from;
     const auto draw = [&](const Point& point) {
-        if (last) {
-            length += std::hypot(point.x - last->x, point.y - last->y);
+        if (from) {
+            length += std::hypot(point.x - from->x, point.y - from->y);
         }
-        last = point;
+        from = point;
     };
-    if (const CNode start = GetStartNode()) {
+    if (const CNode start = GetStartNode(); start && start.HasPlace()) {
         draw(start.GetPosition());
     }
     for (const Point& vertex : GetInnerVertices()) {
         draw(vertex);
     }
-    if (const CNode end = GetEndNode()) {
+    if (const CNode end = GetEndNode(); end && end.HasPlace()) {
         draw(end.GetPosition());
     }
     return length;
 }
 
-std::span<const Point> CPolygon::GetRing() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.PointsOf(tables.polygonRings[tables.RowOf(m_id)]);
-}
-
-Point CMapText::GetPosition() const {
-    const auto& tables = *m_pStorage->m_pTables;
-    return tables.textPositions[tables.RowOf(m_id)];
+double CPolygon::GetArea() const {
+    double area = 0;
+    for (const AcDbMPolygon::Ring& ring : GetRings()) {
+        const double size = std::abs(SignedArea(ring.points));
+        area += ring.isHole ? -size : size;
+    }
+    return area;
 }
 
 } // namespace Orvane::Topology

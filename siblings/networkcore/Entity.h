@@ -1,12 +1,15 @@
 // What all entities of a drawing have in common.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "platform/win/String.h"
 #include "siblings/giscore/GisTypes.h"
 #include "siblings/networkcore/Api.h"
 #include "siblings/networkcore/TopologyTypes.h"
+
+class AcDbDatabase;
 
 namespace Orvane::System {
 class CGisSystem;
@@ -16,18 +19,18 @@ namespace Orvane::Topology {
 
 class CTopologyStorage;
 
-/// Reads one entity where it is kept. A small value: it holds nothing of the entity and
-/// may be copied at will. It must not outlive the storage; once its entity was removed it
-/// is false, and nothing else may be asked of it. Views stay valid until the storage
-/// changes.
+/// Reads one entity of a system where it is: in the drawing. A small value: it holds nothing
+/// of the entity and may be copied at will. It must not outlive the storage; once its entity
+/// was erased it is false, and nothing else may be asked of it. Views stay valid until the
+/// entity changes.
 class NETWORKCORE_API CEntity {
 public:
     CEntity() = default;
-    CEntity(const CTopologyStorage* pStorage, EntityId id) : m_pStorage(pStorage), m_id(id) {}
+    CEntity(const CTopologyStorage* pStorage, AcDbObjectId id) : m_pStorage(pStorage), m_id(id) {}
 
-    /// False for an accessor of no entity.
+    /// False for an accessor of no entity, or of one that belongs to no system.
     explicit operator bool() const;
-    EntityId GetId() const { return m_id; }
+    AcDbObjectId GetObjectId() const { return m_id; }
     enmEntityType GetEntityType() const;
 
     int GetSystemId() const;
@@ -39,16 +42,27 @@ public:
     CString GetKind() const;
     std::string_view GetKindUtf8() const;
 
-    /// In the order in which they were set.
+    /// The upright box around it; empty if it has no place.
+    AcGeExtents2d GetExtents() const { return Get().extents(); }
+
+    /// In the order in which they were set, without those that make it an entity of a system.
     std::vector<AttributeData> GetAttributes() const;
-    /// One attribute by name; nothing if the entity has none of that name.
-    std::optional<AttributeData> GetAttribute(AttributeName name) const;
+    /// One attribute by name; null if the entity has none of that name.
+    AcDbValue GetAttribute(AcDbNameId name) const;
     /// Nothing if the attribute is a text, too.
-    std::optional<double> GetNumber(AttributeName name) const;
+    std::optional<double> GetNumber(AcDbNameId name) const { return GetAttribute(name).asReal(); }
 
 protected:
+    /// Null for no entity of the drawing.
+    const AcDbEntity* Find() const;
+    /// Of an accessor that is true.
+    template <class T = AcDbEntity>
+    const T& Get() const {
+        return static_cast<const T&>(*Find());
+    }
+
     const CTopologyStorage* m_pStorage = nullptr;
-    EntityId m_id = kNoEntity;
+    AcDbObjectId m_id;
 };
 
 } // namespace Orvane::Topology

@@ -10,14 +10,14 @@ namespace Orvane::Topology {
 
 class CTopologyStorage;
 
-/// Entities in the order of their creation, handed out as accessors by value. Valid until
-/// the storage changes.
+/// Entities in the order of their ids, which is that of their creation, handed out as
+/// accessors by value. Valid until entities come or go.
 template <class Accessor>
 class EntityRange {
 public:
     class Iterator {
     public:
-        Iterator(const CTopologyStorage* pStorage, const EntityId* pId)
+        Iterator(const CTopologyStorage* pStorage, const AcDbObjectId* pId)
             : m_pStorage(pStorage), m_pId(pId) {}
         Accessor operator*() const { return Accessor(m_pStorage, *m_pId); }
         Iterator& operator++() {
@@ -28,10 +28,10 @@ public:
 
     private:
         const CTopologyStorage* m_pStorage;
-        const EntityId* m_pId;
+        const AcDbObjectId* m_pId;
     };
 
-    EntityRange(const CTopologyStorage* pStorage, std::span<const EntityId> ids)
+    EntityRange(const CTopologyStorage* pStorage, std::span<const AcDbObjectId> ids)
         : m_pStorage(pStorage), m_ids(ids) {}
 
     Iterator begin() const { return {m_pStorage, m_ids.data()}; }
@@ -39,11 +39,11 @@ public:
     std::size_t size() const { return m_ids.size(); }
     bool empty() const { return m_ids.empty(); }
     Accessor operator[](std::size_t index) const { return Accessor(m_pStorage, m_ids[index]); }
-    std::span<const EntityId> Ids() const { return m_ids; }
+    std::span<const AcDbObjectId> Ids() const { return m_ids; }
 
 private:
     const CTopologyStorage* m_pStorage;
-    std::span<const EntityId> m_ids;
+    std::span<const AcDbObjectId> m_ids;
 };
 
 } // namespace Orvane::Topology

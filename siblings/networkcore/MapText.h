@@ -8,7 +8,7 @@ namespace Orvane::Topology {
 class NETWORKCORE_API CMapText : public CEntity {
 public:
     using CEntity::CEntity;
-    Point GetPosition() const;
+    Point GetPosition() const { return Get<AcDbText>().position(); }
 };
 
 } // namespace Orvane::Topology

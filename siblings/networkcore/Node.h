@@ -8,7 +8,16 @@ namespace Orvane::Topology {
 class NETWORKCORE_API CNode : public CEntity {
 public:
     using CEntity::CEntity;
-    Point GetPosition() const;
+    /// Not numbers if it has no place.
+    Point GetPosition() const { return Get<AcDbPoint>().position(); }
+    /// False for one whose position is not known.
+    bool HasPlace() const;
+
+    /// Whether it belongs to more systems than one, as the manhole of a sewer and a storm
+    /// water drain.
+    bool IsMultiSystem() const;
+    /// Ids of all its systems, the one of GetSystemId first.
+    std::vector<int> GetSystems() const;
 };
 
 } // namespace Orvane::Topology

@@ -8,8 +8,11 @@ namespace Orvane::Topology {
 class NETWORKCORE_API CPolygon : public CEntity {
 public:
     using CEntity::CEntity;
-    /// The outline; the first point is not repeated at the end.
-    std::span<const Point> GetRing() const;
+    /// Outlines and holes; the first point of a ring is not repeated at its end.
+    const std::vector<AcDbMPolygon::Ring>& GetRings() const { return Get<AcDbMPolygon>().rings(); }
+    /// In the plane, without the holes; rings that cross themselves count as their
+    /// directions say.
+    double GetArea() const;
 };
 
 } // namespace Orvane::Topology

@@ -9,11 +9,11 @@ class NETWORKCORE_API CSection : public CEntity {
 public:
     using CEntity::CEntity;
 
-    /// kNoEntity if there is no such node.
-    EntityId GetStartNodeId() const;
-    EntityId GetEndNodeId() const;
-    CNode GetStartNode() const;
-    CNode GetEndNode() const;
+    /// Null if there is no such node.
+    AcDbObjectId GetStartNodeId() const;
+    AcDbObjectId GetEndNodeId() const;
+    CNode GetStartNode() const { return {m_pStorage, GetStartNodeId()}; }
+    CNode GetEndNode() const { return {m_pStorage, GetEndNodeId()}; }
     /// What the section states for a node that does not exist; UTF-8, empty if it exists.
     std::string_view GetMissingStart() const;
     std::string_view GetMissingEnd() const;
@@ -22,6 +22,9 @@ public:
     std::span<const Point> GetInnerVertices() const;
     /// Length of the drawn line in the plane; a missing node is left out of it.
     double GetDrawnLength() const;
+
+private:
+    AcDbObjectId NodeAt(AcDbNameId end) const;
 };
 
 } // namespace Orvane::Topology

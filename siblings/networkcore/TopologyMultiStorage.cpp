@@ -4,8 +4,8 @@
 
 #include "platform/arx/ApDocManager.h"
 #include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/networkcore/TopologyStorage.h"
+#include "siblings/giscore/GisSystems.h"
+#include "siblings/networkcore/TopologyStatistics.h"
 
 namespace Orvane::Topology {
 
@@ -26,9 +26,16 @@ public:
         m_dying.clear();
     }
     void OnDropSystemContent(System::CGisSystem* pSystem) override {
-        const auto hit = m_owner.m_storages.find(pSystem->GetDatabase());
-        if (hit != m_owner.m_storages.end()) {
-            hit->second->RemoveSystemEntities(pSystem->GetSystemId());
+        // Even if nobody asked for the storages yet, the drawing may hold entities.
+        for (CTopologyStorage* const pStorage : {m_owner.GetTopology(pSystem->GetDatabase()),
+                                                 m_owner.GetAuxTopology(pSystem->GetDatabase())}) {
+            pStorage->RemoveSystemEntities(pSystem->GetSystemId());
+        }
+    }
+    void OnSaveSystemContent(System::CGisSystems* pSystems) override {
+        for (CTopologyStorage* const pStorage : {m_owner.GetTopology(pSystems->GetDatabase()),
+                                                 m_owner.GetAuxTopology(pSystems->GetDatabase())}) {
+            pStorage->SaveCountersToSystem(pSystems->GetActiveSystem());
         }
     }
 
@@ -37,7 +44,11 @@ private:
     std::vector<AcDbDatabase*> m_dying;
 };
 
-CTopologyMultiStorage::CTopologyMultiStorage() : m_pWatcher(std::make_unique<Watcher>(*this)) {}
+CTopologyMultiStorage::CTopologyMultiStorage()
+    : m_pWatcher(std::make_unique<Watcher>(*this)),
+      m_pStatistics(std::make_unique<TopologyStatistics>()) {
+    System::SetSystemStatistics(m_pStatistics.get());
+}
 
 CTopologyMultiStorage::~CTopologyMultiStorage() = default;
 
@@ -50,10 +61,22 @@ CTopologyStorage* CTopologyMultiStorage::GetTopology() {
     return GetTopology(acdbHostApplicationServices()->workingDatabase());
 }
 
+CTopologyStorage* CTopologyMultiStorage::GetAuxTopology() {
+    return GetAuxTopology(acdbHostApplicationServices()->workingDatabase());
+}
+
 CTopologyStorage* CTopologyMultiStorage::GetTopology(AcDbDatabase* pDatabase) {
-    auto& storage = m_storages[pDatabase];
+    return Get(pDatabase, CTopologyStorage::Role::Main);
+}
+
+CTopologyStorage* CTopologyMultiStorage::GetAuxTopology(AcDbDatabase* pDatabase) {
+    return Get(pDatabase, CTopologyStorage::Role::Auxiliary);
+}
+
+CTopologyStorage* CTopologyMultiStorage::Get(AcDbDatabase* pDatabase, CTopologyStorage::Role role) {
+    auto& storage = m_storages[pDatabase][static_cast<std::size_t>(role)];
     if (!storage) {
-        storage = std::make_unique<CTopologyStorage>(pDatabase);
+        storage = std::make_unique<CTopologyStorage>(pDatabase, role);
     }
     return storage.get();
 }

@@ -1,18 +1,17 @@
 // The entities of all open drawings.
 #pragma once
 
+#include <array>
 #include <map>
 #include <memory>
 
-#include "siblings/networkcore/Api.h"
-
-class AcDbDatabase;
+#include "siblings/networkcore/TopologyStorage.h"
 
 namespace Orvane::Topology {
 
-class CTopologyStorage;
+class TopologyStatistics;
 
-/// A storage for each drawing, made at its first use and dropped with the document. The
+/// Two storages for each drawing, made at its first use and dropped with the document. The
 /// entities of a system go when the system is deleted. Main thread only.
 class NETWORKCORE_API CTopologyMultiStorage {
 public:
@@ -22,8 +21,11 @@ public:
     /// The main storage of the current drawing. Never null: without a drawing it is an
     /// empty one, to which nothing can be added since there are no systems.
     CTopologyStorage* GetTopology();
+    /// The auxiliary storage of the current drawing: its assembly schemes. Never null.
+    CTopologyStorage* GetAuxTopology();
     /// The main storage of any open drawing.
     CTopologyStorage* GetTopology(AcDbDatabase* pDatabase);
+    CTopologyStorage* GetAuxTopology(AcDbDatabase* pDatabase);
 
 private:
     class Watcher;
@@ -31,8 +33,13 @@ private:
     CTopologyMultiStorage();
     ~CTopologyMultiStorage();
 
-    std::map<AcDbDatabase*, std::unique_ptr<CTopologyStorage>> m_storages;
+    /// Of one drawing, by the number of CTopologyStorage::Role.
+    using Storages = std::array<std::unique_ptr<CTopologyStorage>, 2>;
+    CTopologyStorage* Get(AcDbDatabase* pDatabase, CTopologyStorage::Role role);
+
+    std::map<AcDbDatabase*, Storages> m_storages;
     std::unique_ptr<Watcher> m_pWatcher;
+    std::unique_ptr<TopologyStatistics> m_pStatistics;
 };
 
 } // namespace Orvane::Topology

@@ -1,9 +1,13 @@
 #include "siblings/networkcore/TopologyStorage.h"
 
+#include <algorithm>
+
+#include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/SupportFile.h"
-#include "siblings/networkcore/TopologyTables.h"
+#include "siblings/giscore/SystemManager.h"
+#include "siblings/networkcore/EntityLists.h"
 
 namespace Orvane::Topology {
 
@@ -11,29 +15,66 @@ namespace {
 
 constexpr const wchar_t* kNameRulesFile = L"NameRules.ini";
 
-/// The accessor of an entity if it is of the kind that is asked for.
-template <class Accessor, class Tables>
-Accessor OfKind(const CTopologyStorage* pStorage, const Tables& tables, EntityId id,
-                typename Tables::Kind kind) {
-    return tables.KindOf(id) == kind ? Accessor(pStorage, id) : Accessor();
+const EntityAttributes& Names() {
+    return EntityAttributes::Get();
 }
 
 template <class Accessor>
-Accessor ByName(const CTopologyStorage* pStorage, EntityTable& table, int systemId,
+Accessor ByName(const CTopologyStorage* pStorage, EntityList& list, int systemId,
                 std::string_view name) {
-    const auto row = table.byName.Find(table, systemId, name);
-    return row ? Accessor(pStorage, table.ids[*row]) : Accessor();
+    const auto row = list.byName.Find(list, systemId, name);
+    return row ? Accessor(pStorage, list.ids[*row]) : Accessor();
+}
+
+AcDbNameId FreeName(std::string_view name) {
+    AcDbNameId id = AcDbIntern(name);
+    for (std::string other(name); Names().IsOwn(id); id = AcDbIntern(other)) {
+        other += '_';
+    }
+    return id;
+}
+
+void SetAttributes(AcDbEntity& entity, std::span<const AttributeData> attributes) {
+    for (const AttributeData& attribute : attributes) {
+        if (!attribute.name.empty()) {
+            entity.setAttribute(FreeName(attribute.name), attribute.value);
+        }
+    }
 }
 
 } // namespace
 
-CTopologyStorage::CTopologyStorage(AcDbDatabase* pDatabase)
-    : m_pDatabase(pDatabase), m_pTables(std::make_unique<Tables>()),
+/// Nothing moves, comes or goes while it lives, whatever the drawing tells.
+class CTopologyStorage::OwnChange {
+public:
+    explicit OwnChange(CTopologyStorage& storage) : m_storage(storage) {
+        ++m_storage.m_nOwnChanges;
+    }
+    ~OwnChange() { --m_storage.m_nOwnChanges; }
+    OwnChange(const OwnChange&) = delete;
+    OwnChange& operator=(const OwnChange&) = delete;
+
+private:
+    CTopologyStorage& m_storage;
+};
+
+CTopologyStorage::CTopologyStorage(AcDbDatabase* pDatabase, Role role)
+    : m_pDatabase(pDatabase), m_role(role), m_pLists(std::make_unique<Lists>()),
       m_pNaming(std::make_unique<Naming>()) {
+    for (const enmEntityType type : {EntityNode, EntitySection, EntityPolygon, EntityNone}) {
+        m_pLists->Of(type).pStorage = this;
+    }
+    if (m_pDatabase) {
+        m_pDatabase->addReactor(this);
+    }
     Changed();
 }
 
-CTopologyStorage::~CTopologyStorage() = default;
+CTopologyStorage::~CTopologyStorage() {
+    if (m_pDatabase) {
+        m_pDatabase->removeReactor(this);
+    }
+}
 
 void CTopologyStorage::Changed() {
     // One count for all storages: an index sees a change of drawing as well.
@@ -41,182 +82,397 @@ void CTopologyStorage::Changed() {
     m_nChangeStamp = ++s_nLast;
 }
 
-EntityId CTopologyStorage::AddNode(System::CGisSystem& system, const NodeData& data) {
-    if (system.GetDatabase() != m_pDatabase) {
-        return kNoEntity;
+// What belongs to the topology, and how the lists follow the drawing.
+
+void CTopologyStorage::FollowRoster(Lists& lists) const {
+    const System::CGisSystems* const pSystems =
+        m_pDatabase ? System::CSystemManager::Instance()->GetSystems(m_pDatabase) : nullptr;
+    const std::uint64_t stamp = pSystems ? pSystems->GetRosterStamp() : 0;
+    if (stamp == lists.rosterStamp) {
+        return;
     }
-    const EntityId id =
-        m_pTables->AddRow(Tables::Kind::Node, system.GetSystemId(),
-                          NameFor(system, EntityNode, data.name), data.kind, data.attributes);
-    m_pTables->nodePositions.push_back(data.position);
-    Changed();
-    return id;
+    lists.rosterStamp = stamp;
+    std::vector<Lists::System> roster;
+    for (const System::CGisSystem* const pSystem : pSystems->GetSystemList()) {
+        roster.push_back({pSystem->GetSystemId(), pSystem->GetTopologyType()});
+    }
+    // A system that was just made has no entities yet, one that is back after an undo may.
+    lists.isStale = true;
+    lists.roster = std::move(roster);
 }
 
-EntityId CTopologyStorage::AddSection(System::CGisSystem& system, const SectionData& data) {
-    if (system.GetDatabase() != m_pDatabase) {
-        return kNoEntity;
+bool CTopologyStorage::Takes(const AcDbEntity& entity) const {
+    const int systemId = SystemIdOf(entity);
+    if (systemId == 0 || entity.blockId() != m_pDatabase->modelSpace()) {
+        return false;
     }
-    Tables& tables = *m_pTables;
-    const Run vertices = tables.AddPoints(data.innerVertices);
-    std::array<EntityId, 2> ends{};
-    std::array<std::string, 2> missing;
-    for (const std::size_t i : {0, 1}) {
-        const SectionEnd& end = i == 0 ? data.start : data.end;
-        if (tables.KindOf(end.node) == Tables::Kind::Node) {
-            ends[i] = end.node;
-        } else {
-            missing[i] = end.missingName;
+    FollowRoster(*m_pLists);
+    const auto& roster = m_pLists->roster;
+    const auto hit = std::find_if(roster.begin(), roster.end(),
+                                  [systemId](const auto& system) { return system.id == systemId; });
+    if (hit == roster.end()) {
+        return false;
+    }
+    const bool isScheme = hit->type == TopologyScheme;
+    const bool isFree = hit->type == TopologyPolygon && EntityTypeOf(entity) == EntityNode;
+    return isScheme == (m_role == Role::Auxiliary) && !isFree;
+}
+
+const AcDbEntity* CTopologyStorage::Find(AcDbObjectId id, const AcRxClass* pClass) const {
+    const AcDbObject* const pObject = m_pDatabase ? m_pDatabase->peek(id) : nullptr;
+    if (!pObject || pObject->isErased() || pObject->isA() != pClass) {
+        return nullptr;
+    }
+    const auto* const pEntity = static_cast<const AcDbEntity*>(pObject);
+    return Takes(*pEntity) ? pEntity : nullptr;
+}
+
+CTopologyStorage::Lists& CTopologyStorage::Current() const {
+    Lists& lists = *m_pLists;
+    FollowRoster(lists);
+    if (lists.isStale && m_pDatabase) {
+        lists.isStale = false;
+        lists.Clear();
+        m_pDatabase->forEachEntity([&](const AcDbEntity& entity) {
+            if (Takes(entity)) {
+                lists.Of(EntityTypeOf(entity)).ids.push_back(entity.objectId());
+            }
+        });
+        // The drawing gives them by their place in it; brought back ones may stand apart.
+        for (const enmEntityType type : {EntityNode, EntitySection, EntityPolygon, EntityNone}) {
+            auto& ids = lists.Of(type).ids;
+            if (!std::is_sorted(ids.begin(), ids.end())) {
+                std::sort(ids.begin(), ids.end());
+            }
         }
     }
-    const EntityId id =
-        tables.AddRow(Tables::Kind::Section, system.GetSystemId(),
-                      NameFor(system, EntitySection, data.name), data.kind, data.attributes);
-    tables.sectionEnds.push_back(ends);
-    tables.sectionVertices.push_back(vertices);
-    if (!missing[0].empty() || !missing[1].empty()) {
-        tables.missingEnds.emplace(id, std::move(missing));
-    }
-    Changed();
-    return id;
+    return lists;
 }
 
-EntityId CTopologyStorage::AddPolygon(System::CGisSystem& system, const PolygonData& data) {
-    if (system.GetDatabase() != m_pDatabase) {
-        return kNoEntity;
+void CTopologyStorage::objectAppended(const AcDbDatabase*, const AcDbObject* pObject) {
+    if (!pObject->isEntity()) {
+        return;
     }
-    const Run ring = m_pTables->AddPoints(data.ring);
-    const EntityId id =
-        m_pTables->AddRow(Tables::Kind::Polygon, system.GetSystemId(),
-                          NameFor(system, EntityPolygon, data.name), data.kind, data.attributes);
-    m_pTables->polygonRings.push_back(ring);
     Changed();
-    return id;
+    const auto& entity = static_cast<const AcDbEntity&>(*pObject);
+    if (!m_pLists->isStale && Takes(entity) && !m_pLists->isStale) {
+        m_pLists->Of(EntityTypeOf(entity)).ids.push_back(entity.objectId());
+    }
 }
 
-EntityId CTopologyStorage::AddText(System::CGisSystem& system, const TextData& data) {
-    if (system.GetDatabase() != m_pDatabase) {
-        return kNoEntity;
+void CTopologyStorage::objectModified(const AcDbDatabase*, const AcDbObject* pObject) {
+    if (m_nOwnChanges > 0 || !pObject->isEntity()) {
+        return;
     }
-    const EntityId id =
-        m_pTables->AddRow(Tables::Kind::Text, system.GetSystemId(), data.text, {}, {});
-    m_pTables->textPositions.push_back(data.position);
     Changed();
-    return id;
+    if (m_pLists->isStale) {
+        return;
+    }
+    const auto& entity = static_cast<const AcDbEntity&>(*pObject);
+    EntityList& list = m_pLists->Of(EntityTypeOf(entity));
+    const bool isListed = list.Contains(entity.objectId());
+    const bool isTaken = Takes(entity);
+    m_pLists->isStale = m_pLists->isStale || isListed != isTaken;
+    if (isTaken) {
+        list.byName = {}; // its name, or its system, may be another one
+    }
 }
 
-void CTopologyStorage::Reserve(std::size_t nodes, std::size_t sections) {
-    Tables& tables = *m_pTables;
-    tables.places.reserve(tables.places.size() + nodes + sections);
-    tables.nodes.Reserve(nodes);
-    tables.nodePositions.reserve(tables.nodePositions.size() + nodes);
-    tables.sections.Reserve(sections);
-    tables.sectionEnds.reserve(tables.sectionEnds.size() + sections);
-    tables.sectionVertices.reserve(tables.sectionVertices.size() + sections);
+void CTopologyStorage::objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool) {
+    if (pObject->isEntity()) {
+        m_pLists->isStale = true;
+        Changed();
+    }
 }
+
+void CTopologyStorage::databaseReplaced(const AcDbDatabase*) {
+    m_pLists->isStale = true;
+    Changed();
+}
+
+void CTopologyStorage::goodbye(const AcDbDatabase*) {
+    m_pDatabase = nullptr;
+    m_pLists->Clear();
+    Changed();
+}
+
+// Adding.
+
+bool CTopologyStorage::IsOurs(const System::CGisSystem& system) const {
+    return m_pDatabase && system.GetDatabase() == m_pDatabase &&
+           (system.GetTopologyType() == TopologyScheme) == (m_role == Role::Auxiliary);
+}
+
+void CTopologyStorage::Begin(AcDbEntity& entity, System::CGisSystem& system, enmEntityType type,
+                             std::string_view name, std::string_view kind) {
+    entity.setLayer(system.GetLayerFor(type));
+    entity.setAttribute(Names().systemId, system.GetSystemId());
+    if (type != EntityNone) {
+        const std::string chosen = NameFor(system, type, name);
+        entity.setAttribute(Names().name, std::string_view(chosen));
+    }
+    if (!kind.empty()) {
+        entity.setAttribute(Names().kind, kind);
+    }
+}
+
+AcDbObjectId CTopologyStorage::AddNode(System::CGisSystem& system, const NodeData& data) {
+    if (!IsOurs(system)) {
+        return {};
+    }
+    auto point = std::make_unique<AcDbPoint>(data.position);
+    point->reserveAttributes(data.attributes.size() + 3);
+    Begin(*point, system, EntityNode, data.name, data.kind);
+    SetAttributes(*point, data.attributes);
+    return m_pDatabase->appendEntity(std::move(point));
+}
+
+AcDbObjectId CTopologyStorage::AddSection(System::CGisSystem& system, const SectionData& data) {
+    if (!IsOurs(system)) {
+        return {};
+    }
+    auto line = std::make_unique<AcDbPolyline>();
+    line->reserveAttributes(data.attributes.size() + 5);
+    Begin(*line, system, EntitySection, data.name, data.kind);
+    std::vector<Point> vertices;
+    vertices.reserve(data.innerVertices.size() + 2);
+    TakeEnd(data.start, system, true, *line, vertices);
+    vertices.insert(vertices.end(), data.innerVertices.begin(), data.innerVertices.end());
+    TakeEnd(data.end, system, false, *line, vertices);
+    line->setVertices(vertices);
+    SetAttributes(*line, data.attributes);
+    return m_pDatabase->appendEntity(std::move(line));
+}
+
+void CTopologyStorage::TakeEnd(const SectionEnd& end, const System::CGisSystem& system,
+                               bool isStart, AcDbPolyline& line, std::vector<Point>& vertices) {
+    const CNode node = GetNodeById(end.node);
+    if (!node) {
+        if (!end.missingName.empty()) {
+            line.setAttribute(isStart ? Names().startName : Names().endName, end.missingName);
+        }
+        return;
+    }
+    line.setAttribute(isStart ? Names().startNode : Names().endNode,
+                      std::int64_t{end.node.number()});
+    if (node.HasPlace()) {
+        vertices.push_back(node.GetPosition());
+    }
+    if (node.GetSystemId() != system.GetSystemId()) {
+        std::vector<int> systems = node.GetSystems();
+        systems.push_back(system.GetSystemId());
+        SetSystems(end.node, systems);
+    }
+}
+
+AcDbObjectId CTopologyStorage::AddPolygon(System::CGisSystem& system, const PolygonData& data) {
+    if (!IsOurs(system)) {
+        return {};
+    }
+    auto polygon = std::make_unique<AcDbMPolygon>(
+        std::vector<AcDbMPolygon::Ring>(data.rings.begin(), data.rings.end()));
+    polygon->reserveAttributes(data.attributes.size() + 3);
+    Begin(*polygon, system, EntityPolygon, data.name, data.kind);
+    SetAttributes(*polygon, data.attributes);
+    return m_pDatabase->appendEntity(std::move(polygon));
+}
+
+AcDbObjectId CTopologyStorage::AddText(System::CGisSystem& system, const TextData& data) {
+    if (!IsOurs(system)) {
+        return {};
+    }
+    auto text = std::make_unique<AcDbText>(data.position, data.text);
+    Begin(*text, system, EntityNone, {}, {});
+    return m_pDatabase->appendEntity(std::move(text));
+}
+
+template <class Change>
+int CTopologyStorage::ChangeEntity(AcDbObjectId id, Change change) {
+    AcDbEntity* pEntity = nullptr;
+    if (!m_pDatabase || !CEntity(this, id) ||
+        acdbOpenObject(pEntity, id, AcDb::kForWrite, false, m_pDatabase) != Acad::eOk) {
+        return 0;
+    }
+    const bool isDone = change(*pEntity);
+    pEntity->close();
+    return isDone;
+}
+
+// Removing.
 
 void CTopologyStorage::RemoveSystemEntities(int systemId) {
     if (m_pNaming->loadedSystem == systemId) {
         m_pNaming->loadedSystem = 0;
         m_pNaming->counters.clear();
     }
-    if (m_pTables->HasSystem(systemId)) {
-        m_pTables = m_pTables->Without(systemId);
-        Changed();
+    if (!m_pDatabase) {
+        return;
+    }
+    // Over the drawing, not the lists: points of polygons are in none of them.
+    std::vector<AcDbObjectId> erased;
+    std::vector<AcDbObjectId> handedOver;
+    m_pDatabase->forEachEntity([&](const AcDbEntity& entity) {
+        const bool isOwn = SystemIdOf(entity) == systemId;
+        const bool isShared =
+            EntityTypeOf(entity) == EntityNode && !entity.attribute(Names().systems).isNull();
+        if (isShared && CNode(this, entity.objectId()).IsMultiSystem()) {
+            handedOver.push_back(entity.objectId());
+        } else if (isOwn) {
+            erased.push_back(entity.objectId());
+        }
+    });
+    const AcDbUndoGroup group(*m_pDatabase, L"");
+    for (const AcDbObjectId id : handedOver) {
+        std::vector<int> systems = CNode(this, id).GetSystems();
+        if (std::erase(systems, systemId) > 0) {
+            SetSystems(id, systems);
+        }
+    }
+    for (const AcDbObjectId id : erased) {
+        ChangeEntity(id, [](AcDbEntity& entity) { return entity.erase() == Acad::eOk; });
     }
 }
 
-CNode CTopologyStorage::GetNodeById(EntityId id) const {
-    return OfKind<CNode>(this, *m_pTables, id, Tables::Kind::Node);
+// Looking up.
+
+CNode CTopologyStorage::GetNodeById(AcDbObjectId id) const {
+    return Find(id, AcDbPoint::desc()) ? CNode(this, id) : CNode();
 }
 
-CSection CTopologyStorage::GetSectionById(EntityId id) const {
-    return OfKind<CSection>(this, *m_pTables, id, Tables::Kind::Section);
+CSection CTopologyStorage::GetSectionById(AcDbObjectId id) const {
+    return Find(id, AcDbPolyline::desc()) ? CSection(this, id) : CSection();
 }
 
-CPolygon CTopologyStorage::GetPolygonById(EntityId id) const {
-    return OfKind<CPolygon>(this, *m_pTables, id, Tables::Kind::Polygon);
+CPolygon CTopologyStorage::GetPolygonById(AcDbObjectId id) const {
+    return Find(id, AcDbMPolygon::desc()) ? CPolygon(this, id) : CPolygon();
 }
 
-CMapText CTopologyStorage::GetTextById(EntityId id) const {
-    return OfKind<CMapText>(this, *m_pTables, id, Tables::Kind::Text);
+CMapText CTopologyStorage::GetTextById(AcDbObjectId id) const {
+    return Find(id, AcDbText::desc()) ? CMapText(this, id) : CMapText();
 }
 
 EntityRange<CNode> CTopologyStorage::GetNodeVector() const {
-    return {this, m_pTables->nodes.ids};
+    return {this, Current().nodes.ids};
 }
 
 EntityRange<CSection> CTopologyStorage::GetSectionVector() const {
-    return {this, m_pTables->sections.ids};
+    return {this, Current().sections.ids};
 }
 
 EntityRange<CPolygon> CTopologyStorage::GetPolygonVector() const {
-    return {this, m_pTables->polygons.ids};
+    return {this, Current().polygons.ids};
 }
 
 EntityRange<CMapText> CTopologyStorage::GetTextVector() const {
-    return {this, m_pTables->texts.ids};
+    return {this, Current().texts.ids};
 }
 
-std::vector<EntityId> CTopologyStorage::GetSystemNodes(int systemId) const {
-    return m_pTables->nodes.OfSystem(systemId);
+std::vector<AcDbObjectId> CTopologyStorage::GetSystemNodes(int systemId) const {
+    std::vector<AcDbObjectId> own;
+    for (const CNode node : GetNodeVector()) {
+        bool isOwn = node.GetSystemId() == systemId;
+        if (!isOwn && !node.GetAttribute(Names().systems).isNull()) {
+            const std::vector<int> systems = node.GetSystems();
+            isOwn = std::find(systems.begin(), systems.end(), systemId) != systems.end();
+        }
+        if (isOwn) {
+            own.push_back(node.GetObjectId());
+        }
+    }
+    return own;
 }
 
-std::vector<EntityId> CTopologyStorage::GetSystemSections(int systemId) const {
-    return m_pTables->sections.OfSystem(systemId);
+std::vector<AcDbObjectId> CTopologyStorage::GetSystemSections(int systemId) const {
+    return Current().sections.OfSystem(systemId);
 }
 
-std::vector<EntityId> CTopologyStorage::GetSystemPolygons(int systemId) const {
-    return m_pTables->polygons.OfSystem(systemId);
+std::vector<AcDbObjectId> CTopologyStorage::GetSystemPolygons(int systemId) const {
+    return Current().polygons.OfSystem(systemId);
 }
 
-std::vector<EntityId> CTopologyStorage::GetSystemTexts(int systemId) const {
-    return m_pTables->texts.OfSystem(systemId);
+std::vector<AcDbObjectId> CTopologyStorage::GetSystemTexts(int systemId) const {
+    return Current().texts.OfSystem(systemId);
 }
 
 CNode CTopologyStorage::FindNodeByName(int systemId, std::string_view name) const {
-    return ByName<CNode>(this, m_pTables->nodes, systemId, name);
+    return ByName<CNode>(this, Current().nodes, systemId, name);
 }
 
 CSection CTopologyStorage::FindSectionByName(int systemId, std::string_view name) const {
-    return ByName<CSection>(this, m_pTables->sections, systemId, name);
+    return ByName<CSection>(this, Current().sections, systemId, name);
 }
 
 CPolygon CTopologyStorage::FindPolygonByName(int systemId, std::string_view name) const {
-    return ByName<CPolygon>(this, m_pTables->polygons, systemId, name);
+    return ByName<CPolygon>(this, Current().polygons, systemId, name);
 }
 
-int CTopologyStorage::SetName(EntityId id, const wchar_t* name) {
-    if (!CEntity(this, id)) {
+// Changing.
+
+int CTopologyStorage::SetName(AcDbObjectId id, const wchar_t* name) {
+    const std::string utf8 = WideToUtf8(CString(name).View());
+    const OwnChange own(*this);
+    return ChangeEntity(id, [&](AcDbEntity& entity) {
+        if (entity.isA() == AcDbText::desc()) {
+            static_cast<AcDbText&>(entity).setText(utf8);
+            return true;
+        }
+        entity.setAttribute(Names().name, std::string_view(utf8));
+        EntityList& list = m_pLists->Of(EntityTypeOf(entity));
+        if (!m_pLists->isStale && list.Contains(id)) {
+            list.byName.Renamed(list, list.RowOf(id));
+        }
+        return true;
+    });
+}
+
+int CTopologyStorage::SetAttribute(AcDbObjectId id, const AttributeData& attribute) {
+    const AcDbNameId name = AcDbIntern(attribute.name);
+    if (attribute.name.empty() || Names().IsOwn(name)) {
         return 0;
     }
-    EntityTable& table = m_pTables->TableOf(m_pTables->KindOf(id));
-    const std::uint32_t row = m_pTables->RowOf(id);
-    table.names[row] = table.nameTexts.Add(WideToUtf8(CString(name).View()));
-    table.byName.Renamed(table, row);
-    return 1;
+    const OwnChange own(*this);
+    return ChangeEntity(id, [&](AcDbEntity& entity) {
+        entity.setAttribute(name, attribute.value);
+        return true;
+    });
 }
 
-int CTopologyStorage::SetAttribute(EntityId id, const AttributeData& attribute) {
-    if (!CEntity(this, id) || attribute.name.empty()) {
+int CTopologyStorage::RemoveAttribute(AcDbObjectId id, AcDbNameId name) {
+    if (Names().IsOwn(name)) {
         return 0;
     }
-    EntityTable& table = m_pTables->TableOf(m_pTables->KindOf(id));
-    m_pTables->attributes.Set(table.attributes[m_pTables->RowOf(id)], attribute);
-    return 1;
+    const OwnChange own(*this);
+    return ChangeEntity(id, [&](AcDbEntity& entity) { return entity.removeAttribute(name); });
 }
 
-int CTopologyStorage::RemoveAttribute(EntityId id, AttributeName name) {
-    if (!CEntity(this, id)) {
+int CTopologyStorage::SetSystems(AcDbObjectId node, std::span<const int> systems) {
+    const AcDbObject* const pObject = m_pDatabase ? m_pDatabase->peek(node) : nullptr;
+    if (systems.empty() || !pObject || pObject->isA() != AcDbPoint::desc()) {
         return 0;
     }
-    EntityTable& table = m_pTables->TableOf(m_pTables->KindOf(id));
-    return m_pTables->attributes.Remove(table.attributes[m_pTables->RowOf(id)], name);
+    std::string further;
+    for (std::size_t i = 1; i < systems.size(); ++i) {
+        further += (i > 1 ? " " : "") + std::to_string(systems[i]);
+    }
+    const System::CGisSystem* const pSystem =
+        System::CSystemManager::Instance()->GetSystems(m_pDatabase)->GetSystemById(systems[0]);
+    return ChangeEntity(node, [&](AcDbEntity& entity) {
+        if (SystemIdOf(entity) != systems[0]) {
+            entity.setAttribute(Names().systemId, systems[0]);
+            if (pSystem && !pSystem->GetLayerFor(EntityNode).isNull()) {
+                entity.setLayer(pSystem->GetLayerFor(EntityNode));
+            }
+        }
+        if (further.empty()) {
+            entity.removeAttribute(Names().systems);
+        } else {
+            entity.setAttribute(Names().systems, std::string_view(further));
+        }
+        return true;
+    });
 }
 
-AttributeName CTopologyStorage::FindAttributeName(std::string_view name) const {
-    return m_pTables->attributes.FindName(name);
-}
+// Naming.
 
 void CTopologyStorage::RefreshNameRules() {
     CModuleConfiguration* const pConfiguration = CModuleConfiguration::Instance();
@@ -256,13 +512,13 @@ std::string CTopologyStorage::NameFor(System::CGisSystem& system, enmEntityType 
     int& counter = m_pNaming->loadedSystem == systemId
                        ? m_pNaming->counters[CString(NameRules::WordOf(type))]
                        : system.Counter(NameRules::WordOf(type));
-    EntityTable& table = m_pTables->TableOf(type);
+    EntityList& list = Current().Of(type);
     std::string name;
     do {
         // From the start again where it would run over; a counter may come from anywhere.
         counter = counter < 0 || counter == std::numeric_limits<int>::max() ? 1 : counter + 1;
         name = pattern.Name(counter);
-    } while (table.byName.Find(table, systemId, name));
+    } while (list.byName.Find(list, systemId, name));
     return name;
 }
 

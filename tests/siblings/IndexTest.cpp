@@ -10,7 +10,6 @@
 
 using namespace Orvane;
 using namespace Orvane::Selection;
-using Topology::EntityId;
 using Topology::Point;
 
 namespace {
@@ -19,22 +18,23 @@ class IndexTest : public TestDrawing {
 protected:
     static CNodeIndex& Nodes() { return *CNodeIndex::Instance(); }
     static CPolygonIndex& Polygons() { return *CPolygonIndex::Instance(); }
-    EntityId Node(System::CGisSystem& system, double x, double y) {
+    AcDbObjectId Node(System::CGisSystem& system, double x, double y) {
         return Storage().AddNode(system, {{}, {x, y}});
     }
-    EntityId Polygon(System::CGisSystem& system, std::vector<Point> ring) {
-        return Storage().AddPolygon(system, {{}, ring});
+    AcDbObjectId Polygon(System::CGisSystem& system, std::vector<Point> ring) {
+        const AcDbMPolygon::Ring rings[] = {{std::move(ring)}};
+        return Storage().AddPolygon(system, {{}, rings});
     }
 };
 
-using Ids = std::vector<EntityId>;
+using Ids = std::vector<AcDbObjectId>;
 
 } // namespace
 
 TEST_F(IndexTest, NodesAreFoundInABoxAndItsBorder) {
     System::CGisSystem& system = MakeSystem(L"1");
-    const EntityId a = Node(system, 0, 0);
-    const EntityId b = Node(system, 1, 1);
+    const AcDbObjectId a = Node(system, 0, 0);
+    const AcDbObjectId b = Node(system, 1, 1);
     Node(system, 1.001, 0);
     EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a, b}));
     EXPECT_EQ(Nodes().GetNearestNode(0.9, 0.9, 10), b);
@@ -44,7 +44,7 @@ TEST_F(IndexTest, NodesAreFoundInABoxAndItsBorder) {
 TEST_F(IndexTest, ANewNodeIsSeenWithoutATelling) {
     System::CGisSystem& system = MakeSystem(L"1");
     EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
-    const EntityId a = Node(system, 0, 0);
+    const AcDbObjectId a = Node(system, 0, 0);
     EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
     Nodes().Changed(1);
     Nodes().Changed(0);
@@ -55,7 +55,7 @@ TEST_F(IndexTest, ANewNodeIsSeenWithoutATelling) {
 
 TEST_F(IndexTest, TheCurrentDrawingIsTheOneSearched) {
     System::CGisSystem& system = MakeSystem(L"1");
-    const EntityId a = Node(system, 0, 0);
+    const AcDbObjectId a = Node(system, 0, 0);
     EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
     AcApDocument* const pOther = acDocManagerPtr()->newDocument(L"b.dwg");
     EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
@@ -67,8 +67,8 @@ TEST_F(IndexTest, TheCurrentDrawingIsTheOneSearched) {
 TEST_F(IndexTest, PolygonsAreFoundByPoint) {
     System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
     // An L with its notch at the upper right, and a square in the notch.
-    const EntityId l = Polygon(parcels, {{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 4}, {0, 4}});
-    const EntityId square = Polygon(parcels, {{2, 2}, {4, 2}, {4, 4}, {2, 4}});
+    const AcDbObjectId l = Polygon(parcels, {{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 4}, {0, 4}});
+    const AcDbObjectId square = Polygon(parcels, {{2, 2}, {4, 2}, {4, 4}, {2, 4}});
     struct Case {
         const char* what;
         double x, y;
@@ -91,14 +91,14 @@ TEST_F(IndexTest, PolygonsAreFoundByPoint) {
     ASSERT_NE(pEntry, nullptr);
     EXPECT_EQ(pEntry->systemId, parcels.GetSystemId());
     EXPECT_EQ(pEntry->box.minX, 2);
-    EXPECT_EQ(Polygons().GetIndexEntry(square + 1), nullptr);
+    EXPECT_EQ(Polygons().GetIndexEntry(AcDbObjectId(square.number() + 1)), nullptr);
     EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
 }
 
 TEST_F(IndexTest, ADegeneratePolygonIsListedAndDoesNoHarm) {
     System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
-    const EntityId none = Polygon(parcels, {});
-    const EntityId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
+    const AcDbObjectId none = Polygon(parcels, {});
+    const AcDbObjectId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
     EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
     EXPECT_NE(Polygons().GetIndexEntry(none), nullptr);
     EXPECT_EQ(Polygons().GetPolygonsAt(1, 1), (Ids{dot}));
@@ -110,10 +110,10 @@ TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
     // Thin diagonal strips: their boxes say little about where they are.
     std::mt19937 random(3);
     std::uniform_real_distribution<double> place(0, 100);
-    std::vector<std::pair<Point, EntityId>> strips;
+    std::vector<std::pair<Point, AcDbObjectId>> strips;
     for (int i = 0; i < 300; ++i) {
         const Point at{place(random), place(random)};
-        const EntityId id =
+        const AcDbObjectId id =
             Polygon(parcels,
                     {at, {at.x + 40, at.y + 40}, {at.x + 40, at.y + 40.001}, {at.x, at.y + 0.001}});
         strips.emplace_back(at, id);
@@ -127,12 +127,12 @@ TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
         const double y = place(random);
         double best = 1e9;
         double found = 1e9;
-        const EntityId nearest = Polygons().GetNearestPolygon(x, y, 1000);
+        const AcDbObjectId nearest = Polygons().GetNearestPolygon(x, y, 1000);
         for (const auto& [strip, id] : strips) {
             best = std::min(best, distance(strip, x, y));
             found = id == nearest ? distance(strip, x, y) : found;
         }
         EXPECT_NEAR(found, best, 0.002);
     }
-    EXPECT_EQ(Polygons().GetNearestPolygon(-500, 0, 10), Topology::kNoEntity);
+    EXPECT_EQ(Polygons().GetNearestPolygon(-500, 0, 10), AcDbObjectId());
 }

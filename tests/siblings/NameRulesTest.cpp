@@ -22,7 +22,7 @@ protected:
             Storage().GetNodeById(Storage().AddNode(system, {name, {}})).GetNameUtf8());
     }
     std::string NewSection(System::CGisSystem& system) {
-        const EntityId id = Storage().AddSection(system, {{}, {}, {}});
+        const AcDbObjectId id = Storage().AddSection(system, {{}, {}, {}});
         return std::string(Storage().GetSectionById(id).GetNameUtf8());
     }
 };
@@ -45,7 +45,7 @@ TEST_F(NameRulesTest, WithoutAFileThereAreRulesToo) {
     System::CGisSystem& system = MakeSystem(L"1");
     EXPECT_EQ(NewNode(system), "N1");
     EXPECT_EQ(NewSection(system), "S1");
-    const EntityId id = Storage().AddPolygon(system, {{}, {}});
+    const AcDbObjectId id = Storage().AddPolygon(system, {{}, {}});
     EXPECT_EQ(Storage().GetPolygonById(id).GetName().Str(), L"A1");
 }
 

@@ -118,21 +118,25 @@ TEST(DataDefinitions, AreReadAgainWithTheirProblems) {
 
 TEST(SelectionSet, HoldsEachEntityOnceInTheOrderOfChoice) {
     Selection::CSelectionSet set;
-    EXPECT_TRUE(set.Add(5, EntityNode));
-    EXPECT_TRUE(set.Add(9, EntitySection));
-    EXPECT_TRUE(set.Add(2, EntityNode));
-    EXPECT_FALSE(set.Add(5, EntityNode));
-    EXPECT_EQ(set.GetNodes(), (std::vector<Topology::EntityId>{5, 2}));
-    EXPECT_EQ(set.GetSections(), (std::vector<Topology::EntityId>{9}));
-    EXPECT_TRUE(set.Remove(5));
-    EXPECT_FALSE(set.Remove(5));
-    EXPECT_FALSE(set.Contains(5));
-    EXPECT_TRUE(set.Add(5, EntityPolygon));
-    EXPECT_EQ(set.GetNodes(), (std::vector<Topology::EntityId>{2}));
-    EXPECT_EQ(set.GetPolygons(), (std::vector<Topology::EntityId>{5}));
+    using Ids = std::vector<AcDbObjectId>;
+    const AcDbObjectId two(2);
+    const AcDbObjectId five(5);
+    const AcDbObjectId nine(9);
+    EXPECT_TRUE(set.Add(five, EntityNode));
+    EXPECT_TRUE(set.Add(nine, EntitySection));
+    EXPECT_TRUE(set.Add(two, EntityNode));
+    EXPECT_FALSE(set.Add(five, EntityNode));
+    EXPECT_EQ(set.GetNodes(), (Ids{five, two}));
+    EXPECT_EQ(set.GetSections(), Ids{nine});
+    EXPECT_TRUE(set.Remove(five));
+    EXPECT_FALSE(set.Remove(five));
+    EXPECT_FALSE(set.Contains(five));
+    EXPECT_TRUE(set.Add(five, EntityPolygon));
+    EXPECT_EQ(set.GetNodes(), Ids{two});
+    EXPECT_EQ(set.GetPolygons(), Ids{five});
     set.Clear();
     EXPECT_TRUE(set.IsEmpty());
-    EXPECT_FALSE(set.Contains(2));
+    EXPECT_FALSE(set.Contains(two));
 }
 
 TEST(InfoTooltips, KeepTheirOrder) {

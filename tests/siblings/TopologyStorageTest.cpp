@@ -14,7 +14,8 @@ namespace {
 
 class TopologyStorageTest : public TestDrawing {
 protected:
-    EntityId Node(System::CGisSystem& system, std::string_view name, double x = 0, double y = 0) {
+    AcDbObjectId Node(System::CGisSystem& system, std::string_view name, double x = 0,
+                      double y = 0) {
         return Storage().AddNode(system, {name, {x, y}});
     }
     static std::string NameOf(const CEntity& entity) { return std::string(entity.GetNameUtf8()); }
@@ -24,11 +25,11 @@ protected:
 
 TEST_F(TopologyStorageTest, ASectionKeepsEverythingItWasMadeOf) {
     System::CGisSystem& system = MakeSystem(L"Water");
-    const EntityId a = Storage().AddNode(system, {"A", {0, 0, 12.5}, "Tank"});
-    const EntityId b = Node(system, "B", 3, 8);
+    const AcDbObjectId a = Storage().AddNode(system, {"A", {0, 0, 12.5}, "Tank"});
+    const AcDbObjectId b = Node(system, "B", 3, 8);
     const Point vertices[] = {{3, 0}, {3, 4}};
-    const AttributeData attributes[] = {{"diameter", "", 0.2}, {"note", "Größe", {}}};
-    const EntityId id =
+    const AttributeData attributes[] = {{"diameter", 0.2}, {"note", "Größe"}};
+    const AcDbObjectId id =
         Storage().AddSection(system, {"AB", {a}, {b}, vertices, "Pipe", attributes});
     const CSection section = Storage().GetSectionById(id);
     ASSERT_TRUE(section);
@@ -41,34 +42,33 @@ TEST_F(TopologyStorageTest, ASectionKeepsEverythingItWasMadeOf) {
     EXPECT_EQ(section.GetEndNodeId(), b);
     EXPECT_DOUBLE_EQ(section.GetDrawnLength(), 3 + 4 + 4);
     EXPECT_EQ(section.GetInnerVertices()[1].y, 4);
-    EXPECT_EQ(section.GetNumber(Storage().FindAttributeName("diameter")), 0.2);
-    EXPECT_EQ(section.GetNumber(Storage().FindAttributeName("note")), std::nullopt);
-    EXPECT_EQ(section.GetAttribute(Storage().FindAttributeName("note"))->text, "Größe");
-    EXPECT_EQ(Storage().FindAttributeName("Diameter"), AttributeName::Unknown);
-    EXPECT_FALSE(section.GetAttribute(AttributeName::Unknown));
+    EXPECT_EQ(section.GetNumber(AcDbIntern("diameter")), 0.2);
+    EXPECT_EQ(section.GetNumber(AcDbIntern("note")), std::nullopt);
+    EXPECT_EQ(section.GetAttribute(AcDbIntern("note")).asText(), "Größe");
+    EXPECT_TRUE(section.GetAttribute(AcDbIntern("Diameter")).isNull());
 }
 
 TEST_F(TopologyStorageTest, AnIdIsOfOneKindOnly) {
     System::CGisSystem& system = MakeSystem(L"Water");
-    const EntityId node = Node(system, "A");
-    const EntityId section = Storage().AddSection(system, {"S", {node}, {node}});
+    const AcDbObjectId node = Node(system, "A");
+    const AcDbObjectId section = Storage().AddSection(system, {"S", {node}, {node}});
     EXPECT_FALSE(Storage().GetSectionById(node));
     EXPECT_FALSE(Storage().GetNodeById(section));
     EXPECT_FALSE(Storage().GetPolygonById(node));
-    EXPECT_FALSE(Storage().GetNodeById(kNoEntity));
-    EXPECT_FALSE(Storage().GetNodeById(section + 1));
-    EXPECT_FALSE(Storage().GetNodeById(0xFFFFFFFF));
+    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId()));
+    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId(section.number() + 1)));
+    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId(0xFFFFFFFF)));
     EXPECT_FALSE(CNode());
 }
 
 TEST_F(TopologyStorageTest, AMissingNodeIsKnownByItsStatedName) {
     System::CGisSystem& system = MakeSystem(L"Water");
-    const EntityId node = Node(system, "A", 1, 1);
+    const AcDbObjectId node = Node(system, "A", 1, 1);
     const Point vertex[] = {{4, 5}};
-    const EntityId other = Storage().AddSection(system, {"T", {node, "not looked at"}, {node}});
+    const AcDbObjectId other = Storage().AddSection(system, {"T", {node, "not looked at"}, {node}});
     const CSection section =
         Storage().GetSectionById(Storage().AddSection(system, {"S", {node}, {other, "B"}, vertex}));
-    EXPECT_EQ(section.GetEndNodeId(), kNoEntity); // a section is no node
+    EXPECT_EQ(section.GetEndNodeId(), AcDbObjectId()); // a section is no node
     EXPECT_FALSE(section.GetEndNode());
     EXPECT_EQ(section.GetMissingStart(), "");
     EXPECT_EQ(section.GetMissingEnd(), "B");
@@ -78,37 +78,37 @@ TEST_F(TopologyStorageTest, AMissingNodeIsKnownByItsStatedName) {
 
 TEST_F(TopologyStorageTest, AttributesAreSetAddedAndRemoved) {
     System::CGisSystem& system = MakeSystem(L"Water");
-    const AttributeData twice[] = {{"a", "1", {}}, {"", "nameless", {}}, {"a", "", 2.0}};
-    const EntityId first = Storage().AddNode(system, {"A", {}, "", twice});
-    const EntityId second = Node(system, "B");
+    const AttributeData twice[] = {{"a", "1"}, {"", "nameless"}, {"a", 2.0}};
+    const AcDbObjectId first = Storage().AddNode(system, {"A", {}, "", twice});
+    const AcDbObjectId second = Node(system, "B");
     for (const char* name : {"x", "y", "z"}) {
         // In turns, so that the attributes of both have to move.
-        EXPECT_EQ(Storage().SetAttribute(first, {name, name, {}}), 1);
-        EXPECT_EQ(Storage().SetAttribute(second, {name, "", 1.0}), 1);
+        EXPECT_EQ(Storage().SetAttribute(first, {name, name}), 1);
+        EXPECT_EQ(Storage().SetAttribute(second, {name, 1.0}), 1);
     }
-    EXPECT_EQ(Storage().SetAttribute(first, {"y", "", 7.0}), 1);
-    EXPECT_EQ(Storage().RemoveAttribute(first, Storage().FindAttributeName("x")), 1);
-    EXPECT_EQ(Storage().RemoveAttribute(first, Storage().FindAttributeName("x")), 0);
+    EXPECT_EQ(Storage().SetAttribute(first, {"y", 7.0}), 1);
+    EXPECT_EQ(Storage().RemoveAttribute(first, AcDbIntern("x")), 1);
+    EXPECT_EQ(Storage().RemoveAttribute(first, AcDbIntern("x")), 0);
     std::string text;
     for (const AttributeData& attribute : Storage().GetNodeById(first).GetAttributes()) {
-        text += std::string(attribute.name) + '=' +
-                (attribute.number ? std::to_string(static_cast<int>(*attribute.number))
-                                  : std::string(attribute.text)) +
-                ' ';
+        text += std::string(attribute.name) + '=' + std::string(attribute.value.asText()) +
+                std::to_string(attribute.value.asInteger().value_or(0)) + ' ';
     }
-    EXPECT_EQ(text, "a=2 y=7 z=z ");
+    EXPECT_EQ(text, "a=2 y=7 z=z0 ");
     EXPECT_EQ(Storage().GetNodeById(second).GetAttributes().size(), 3U);
-    EXPECT_EQ(Storage().SetAttribute(second, {"", "", 1.0}), 0);
-    EXPECT_EQ(Storage().SetAttribute(99, {"a", "", 1.0}), 0);
-    EXPECT_EQ(Storage().RemoveAttribute(99, AttributeName::Unknown), 0);
+    EXPECT_EQ(Storage().SetAttribute(second, {"", 1.0}), 0);
+    EXPECT_EQ(Storage().SetAttribute(AcDbObjectId(99), {"a", 1.0}), 0);
+    EXPECT_EQ(Storage().RemoveAttribute(AcDbObjectId(99), AcDbIntern("a")), 0);
+    EXPECT_EQ(Storage().SetAttribute(second, {"SYSTEMID", 7}), 0);
+    EXPECT_EQ(Storage().RemoveAttribute(second, AcDbIntern("NAME")), 0);
 }
 
 TEST_F(TopologyStorageTest, EntitiesCanBeCopiedFromTheStorageItself) {
     System::CGisSystem& system = MakeSystem(L"Water");
-    const EntityId node = Node(system, "A");
+    const AcDbObjectId node = Node(system, "A");
     const Point vertices[] = {{1, 2}, {3, 4}, {5, 6}};
-    const AttributeData attributes[] = {{"note", "a text that is not short", {}}};
-    EntityId id =
+    const AttributeData attributes[] = {{"note", "a text that is not short"}};
+    AcDbObjectId id =
         Storage().AddSection(system, {"original", {node}, {node}, vertices, "Pipe", attributes});
     for (int i = 0; i < 200; ++i) { // long enough for every table to move
         const CSection from = Storage().GetSectionById(id);
@@ -123,26 +123,26 @@ TEST_F(TopologyStorageTest, EntitiesCanBeCopiedFromTheStorageItself) {
     const CSection last = Storage().GetSectionById(id);
     EXPECT_EQ(NameOf(last), "original");
     EXPECT_EQ(last.GetInnerVertices()[2].x, 5);
-    EXPECT_EQ(last.GetAttributes()[0].text, "a text that is not short");
+    EXPECT_EQ(last.GetAttributes()[0].value.asText(), "a text that is not short");
 }
 
 TEST_F(TopologyStorageTest, NamesAreFoundInTheirSystem) {
     System::CGisSystem& water = MakeSystem(L"Water");
     System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    const EntityId first = Node(water, "A");
-    const EntityId second = Node(water, "A");
-    const EntityId other = Node(sewer, "A");
+    const AcDbObjectId first = Node(water, "A");
+    const AcDbObjectId second = Node(water, "A");
+    const AcDbObjectId other = Node(sewer, "A");
     const int waterId = water.GetSystemId();
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetId(), first);
-    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "A").GetId(), other);
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetObjectId(), first);
+    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "A").GetObjectId(), other);
     EXPECT_FALSE(Storage().FindNodeByName(waterId, "a"));
     EXPECT_FALSE(Storage().FindNodeByName(99, "A"));
     EXPECT_FALSE(Storage().FindSectionByName(waterId, "A"));
 
     Storage().SetName(first, L"B");
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetId(), second);
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "B").GetId(), first);
-    EXPECT_EQ(Storage().SetName(0, L"x"), 0);
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetObjectId(), second);
+    EXPECT_EQ(Storage().FindNodeByName(waterId, "B").GetObjectId(), first);
+    EXPECT_EQ(Storage().SetName({}, L"x"), 0);
 }
 
 TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
@@ -151,7 +151,7 @@ TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
     std::mt19937 random(7);
     const auto anyName = [&] { return "n" + std::to_string(random() % 400); };
     std::vector<std::pair<int, std::string>> names; // by node in the order of creation
-    std::vector<EntityId> ids;
+    std::vector<AcDbObjectId> ids;
     for (int step = 0; step < 6000; ++step) {
         if (step % 3 == 0 || ids.empty()) {
             System::CGisSystem& system = random() % 2 ? water : sewer;
@@ -165,9 +165,10 @@ TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
             const auto wanted = std::pair(water.GetSystemId(), anyName());
             const auto hit = std::find(names.begin(), names.end(), wanted);
             const CNode found = Storage().FindNodeByName(wanted.first, wanted.second);
-            const EntityId expected =
-                hit == names.end() ? kNoEntity : ids[static_cast<std::size_t>(hit - names.begin())];
-            ASSERT_EQ(found.GetId(), expected) << step;
+            const AcDbObjectId expected = hit == names.end()
+                                              ? AcDbObjectId()
+                                              : ids[static_cast<std::size_t>(hit - names.begin())];
+            ASSERT_EQ(found.GetObjectId(), expected) << step;
         }
     }
 }
@@ -175,35 +176,37 @@ TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
 TEST_F(TopologyStorageTest, ASystemGoesAndTheOthersStay) {
     System::CGisSystem& water = MakeSystem(L"Water");
     System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    const AttributeData kept[] = {{"depth", "", 3.0}};
-    const EntityId w1 = Node(water, "W1");
-    const EntityId s1 = Storage().AddNode(sewer, {"S1", {7, 8}, "Manhole", kept});
+    const AttributeData kept[] = {{"depth", 3.0}};
+    const AcDbObjectId w0 = Node(water, "W0");
+    const AcDbObjectId w1 = Node(water, "W1");
+    const AcDbObjectId s1 = Storage().AddNode(sewer, {"S1", {7, 8}, "Manhole", kept});
     const Point vertices[] = {{1, 2}};
-    const EntityId ww = Storage().AddSection(water, {"WW", {w1}, {w1}, vertices});
-    const EntityId sw = Storage().AddSection(sewer, {"SW", {s1}, {w1}, vertices});
-    const Point ring[] = {{0, 0}, {1, 0}, {0, 1}};
-    const EntityId polygon = Storage().AddPolygon(sewer, {"P", ring});
-    const EntityId text = Storage().AddText(sewer, {"label", {5, 6}});
+    const AcDbObjectId ww = Storage().AddSection(water, {"WW", {w1}, {w1}, vertices});
+    const AcDbObjectId sw = Storage().AddSection(sewer, {"SW", {s1}, {w1}, vertices});
+    const AcDbMPolygon::Ring rings[] = {{{{0, 0}, {1, 0}, {0, 1}}}};
+    const AcDbObjectId polygon = Storage().AddPolygon(sewer, {"P", rings});
+    const AcDbObjectId text = Storage().AddText(sewer, {"label", {5, 6}});
     const std::uint64_t stamp = Storage().GetChangeStamp();
 
     Storage().RemoveSystemEntities(water.GetSystemId());
     EXPECT_NE(Storage().GetChangeStamp(), stamp);
-    EXPECT_FALSE(Storage().GetNodeById(w1));
+    EXPECT_FALSE(Storage().GetNodeById(w0));
     EXPECT_FALSE(Storage().GetSectionById(ww));
     const CNode node = Storage().GetNodeById(s1);
     EXPECT_EQ(NameOf(node), "S1");
     EXPECT_EQ(node.GetPosition().y, 8);
     EXPECT_EQ(node.GetKindUtf8(), "Manhole");
-    EXPECT_EQ(node.GetNumber(Storage().FindAttributeName("depth")), 3.0);
+    EXPECT_EQ(node.GetNumber(AcDbIntern("depth")), 3.0);
     const CSection section = Storage().GetSectionById(sw);
     EXPECT_EQ(section.GetStartNodeId(), s1);
-    EXPECT_EQ(section.GetEndNodeId(), kNoEntity);
-    EXPECT_EQ(section.GetMissingEnd(), "W1");
+    EXPECT_EQ(section.GetEndNodeId(), w1) << "the other system's section still ends there";
+    EXPECT_EQ(section.GetEndNode().GetSystem(), &sewer);
+    EXPECT_FALSE(section.GetEndNode().IsMultiSystem());
     EXPECT_EQ(section.GetInnerVertices()[0].y, 2);
-    EXPECT_EQ(Storage().GetPolygonById(polygon).GetRing()[1].x, 1);
+    EXPECT_EQ(Storage().GetPolygonById(polygon).GetRings()[0].points[1].x, 1);
     EXPECT_EQ(Storage().GetTextById(text).GetName().Str(), L"label");
     EXPECT_EQ(Storage().GetTextById(text).GetPosition().x, 5);
-    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "S1").GetId(), s1);
+    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "S1").GetObjectId(), s1);
     EXPECT_GT(Node(sewer, "new"), text); // ids are not used again
 
     const std::uint64_t after = Storage().GetChangeStamp();
@@ -214,16 +217,16 @@ TEST_F(TopologyStorageTest, ASystemGoesAndTheOthersStay) {
 TEST_F(TopologyStorageTest, WalksGoInTheOrderOfCreation) {
     System::CGisSystem& water = MakeSystem(L"Water");
     System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    const EntityId a = Node(water, "a");
-    const EntityId b = Node(sewer, "b");
-    const EntityId c = Node(water, "c");
+    const AcDbObjectId a = Node(water, "a");
+    const AcDbObjectId b = Node(sewer, "b");
+    const AcDbObjectId c = Node(water, "c");
     std::string names;
     for (const CNode node : Storage().GetNodeVector()) {
         names += node.GetNameUtf8();
     }
     EXPECT_EQ(names, "abc");
-    EXPECT_EQ(Storage().GetSystemNodes(water.GetSystemId()), (std::vector<EntityId>{a, c}));
-    EXPECT_EQ(Storage().GetSystemNodes(sewer.GetSystemId()), (std::vector<EntityId>{b}));
+    EXPECT_EQ(Storage().GetSystemNodes(water.GetSystemId()), (std::vector<AcDbObjectId>{a, c}));
+    EXPECT_EQ(Storage().GetSystemNodes(sewer.GetSystemId()), (std::vector<AcDbObjectId>{b}));
     EXPECT_TRUE(Storage().GetSectionVector().empty());
     EXPECT_TRUE(Storage().GetSystemTexts(water.GetSystemId()).empty());
 }
@@ -231,10 +234,10 @@ TEST_F(TopologyStorageTest, WalksGoInTheOrderOfCreation) {
 TEST_F(TopologyStorageTest, EntitiesOfAnotherDrawingsSystemAreRefused) {
     System::CGisSystem& system = MakeSystem(L"Water");
     CTopologyStorage other(nullptr);
-    EXPECT_EQ(other.AddNode(system, {"A", {}}), kNoEntity);
-    EXPECT_EQ(other.AddSection(system, {"A", {}, {}}), kNoEntity);
-    EXPECT_EQ(other.AddPolygon(system, {"A", {}}), kNoEntity);
-    EXPECT_EQ(other.AddText(system, {"A", {}}), kNoEntity);
+    EXPECT_EQ(other.AddNode(system, {"A", {}}), AcDbObjectId());
+    EXPECT_EQ(other.AddSection(system, {"A", {}, {}}), AcDbObjectId());
+    EXPECT_EQ(other.AddPolygon(system, {"A", {}}), AcDbObjectId());
+    EXPECT_EQ(other.AddText(system, {"A", {}}), AcDbObjectId());
     EXPECT_TRUE(other.GetNodeVector().empty());
 }
 

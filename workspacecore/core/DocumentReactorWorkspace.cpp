@@ -57,7 +57,7 @@ void CWsDocumentReactor::SetUp(AcApDocument* pDoc) {
     manager.GetRefreshAllPbl()->Notify(nullptr, nullptr);
     manager.CmdMgr()->SetAllowStopCommand(1);
     Data::CDataConfiguration::Instance()->RefreshTemporaryDataDefinitions();
-    // Systems that an earlier version wrote are upgraded here, once drawings keep systems.
+    System::CSystemManager::Instance()->GetSystems()->UpgradeSystems();
     manager.Raise_OnSystemBecomeActive(System::CSystemManager::Instance()->GetActiveSystem());
 }
 

@@ -1,0 +1,57 @@
+// Which entities of a drawing belong to a topology. Internal to this module.
+#pragma once
+
+#include <vector>
+
+#include "siblings/giscore/GisSystem.h"
+#include "siblings/networkcore/EntityAttributes.h"
+#include "siblings/networkcore/NameIndex.h"
+#include "siblings/networkcore/NameRules.h"
+#include "siblings/networkcore/TopologyStorage.h"
+
+namespace Orvane::Topology {
+
+/// Ids of the entities of one kind, ascending; what they are is asked of the drawing.
+struct EntityList final : INamedRows {
+    std::size_t RowCount() const override { return ids.size(); }
+    int SystemOf(std::uint32_t row) const override;
+    std::string_view NameOf(std::uint32_t row) const override;
+    bool Contains(AcDbObjectId id) const;
+    /// The row of an id that is in the list.
+    std::uint32_t RowOf(AcDbObjectId id) const;
+    std::vector<AcDbObjectId> OfSystem(int systemId) const;
+
+    const CTopologyStorage* pStorage = nullptr;
+    std::vector<AcDbObjectId> ids;
+    NameIndex byName;
+};
+
+/// What the storage knows without asking the drawing. Made anew when it cannot follow.
+struct CTopologyStorage::Lists {
+    EntityList& Of(enmEntityType type);
+    void Clear();
+
+    EntityList nodes;
+    EntityList sections;
+    EntityList polygons;
+    EntityList texts;
+    bool isStale = true;
+
+    /// The systems of the drawing, as of a state of their roster.
+    struct System {
+        int id;
+        enmTopologyType type;
+    };
+    std::vector<System> roster;
+    std::uint64_t rosterStamp = 0;
+};
+
+/// The name rules, and the counters in use.
+struct CTopologyStorage::Naming {
+    NameRules rules;
+    bool rulesAreRead = false;
+    int loadedSystem = 0; ///< whose counters are in use; 0: nobody's
+    System::CGisSystem::Counters counters;
+};
+
+} // namespace Orvane::Topology

@@ -1,0 +1,30 @@
+// The figures of systems, from the entities of their drawings. Internal to this module.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "siblings/giscore/SystemStatistics.h"
+
+namespace Orvane::Topology {
+
+class CTopologyStorage;
+
+/// Keeps the figures of the last system that was asked for, until its drawing changes.
+class TopologyStatistics final : public System::ISystemStatistics {
+public:
+    std::optional<double> GetStatistic(const System::CGisSystem& system,
+                                       System::enmStatistic statistic) override;
+
+private:
+    static constexpr std::size_t kCount = 16;
+    using Figures = std::array<std::optional<double>, kCount>;
+    static Figures ComputeNetwork(const CTopologyStorage& storage, int systemId);
+    static Figures ComputePolygons(const CTopologyStorage& storage, int systemId);
+
+    std::uint64_t m_nStamp = 0; ///< the storage's change stamp
+    int m_nSystemId = 0;
+    Figures m_figures;
+};
+
+} // namespace Orvane::Topology

@@ -1,7 +1,10 @@
 #include "host/HostCommands.h"
 
-#include "platform/arx/EdCommandStack.h"
-#include "platform/arx/EdPrompt.h"
+#include <algorithm>
+#include <iterator>
+
+#include "host/Dialog.h"
+#include "host/DrawingCommands.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxDynamicLinker.h"
 #include "platform/win/ErrorText.h"
@@ -13,50 +16,54 @@ namespace {
 constexpr const wchar_t* kGroup = L"TESSALY";
 bool s_bQuit = false;
 
-void Quit() {
-    if (acedAskToClose()) {
-        s_bQuit = true;
-    } else {
-        acutPrintf(L"The program stays open: a module does not want to end now.\n");
+bool Quit() {
+    if (!AskAboutUnsavedDrawings()) {
+        return Refuse(L"", L"The program stays open.");
     }
+    s_bQuit = acedAskToClose();
+    return s_bQuit || Refuse(L"", L"The program stays open: a module does not want to end now.");
 }
 
-void LoadApplication() {
-    CString file;
-    if (acedGetString(kGetStringAllowBlanks, L"Module file: ", file) != RTNORM) {
-        return;
+bool LoadApplication() {
+    const std::optional<CString> file = AskText(L"Module file: ");
+    if (!file) {
+        return Refuse(L"", L"Nothing was loaded.");
     }
-    if (acrxDynamicLinker()->loadModule(file.Trim())) {
-        acutPrintf(L"%s loaded.\n", file);
-    } else {
+    if (!acrxDynamicLinker()->loadModule(*file)) {
         acutPrintf(L"Not loaded: %s\n", LastErrorText());
+        return false;
     }
+    acutPrintf(L"%s loaded.\n", *file);
+    return true;
 }
 
-void Help();
+bool Help();
 
-struct HostCommand {
-    const wchar_t* name;
-    AcRxFunctionPtr function;
-    const wchar_t* description;
+constexpr HostCommand kProgramCommands[] = {
+    {L"HELP", RunHostCommand<Help>, L"lists the commands", 0},
+    {L"APPLOAD", RunHostCommand<LoadApplication>, L"loads a host module", 0},
+    {L"QUIT", RunHostCommand<Quit>, L"leaves the program", ACRX_CMD_NO_UNDO_GROUP},
 };
 
-constexpr HostCommand kHostCommands[] = {
-    {L"HELP", Help, L"lists the commands"},
-    {L"APPLOAD", LoadApplication, L"loads a host module"},
-    {L"QUIT", Quit, L"leaves the program"},
-};
+/// All of the host's own, in the order in which they are listed.
+template <class Use>
+void ForEachHostCommand(Use use) {
+    std::for_each(std::begin(kProgramCommands), std::end(kProgramCommands), use);
+    const auto drawingCommands = DrawingCommands();
+    std::for_each(drawingCommands.begin(), drawingCommands.end(), use);
+}
 
-const wchar_t* DescriptionOf(const AcEdCommand& command) {
-    for (const HostCommand& own : kHostCommands) {
+CString DescriptionOf(const AcEdCommand& command) {
+    CString description = command.group();
+    ForEachHostCommand([&](const HostCommand& own) {
         if (command.globalName() == own.name) {
-            return own.description;
+            description = own.description;
         }
-    }
-    return command.group();
+    });
+    return description;
 }
 
-void Help() {
+bool Help() {
     for (const auto& command : acedRegCmds()->commands()) {
         acutPrintf(L"%-20s %s\n", command->globalName(), DescriptionOf(*command));
     }
@@ -65,14 +72,16 @@ void Help() {
             acutPrintf(L"%-20s %s\n", name, description);
         }
     }
+    return true;
 }
 
 } // namespace
 
 void RegisterHostCommands() {
-    for (const HostCommand& command : kHostCommands) {
-        acedRegCmds()->addCommand(kGroup, command.name, command.name, 0, command.function);
-    }
+    ForEachHostCommand([](const HostCommand& command) {
+        acedRegCmds()->addCommand(kGroup, command.name, command.name, command.flags,
+                                  command.function);
+    });
 }
 
 bool HasQuit() {

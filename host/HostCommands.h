@@ -1,7 +1,24 @@
 // The commands of the host itself.
 #pragma once
 
+#include "platform/arx/EdCommandStack.h"
+
 namespace Tessaly {
+
+struct HostCommand {
+    const wchar_t* name;
+    AcRxFunctionPtr function;
+    const wchar_t* description;
+    int flags;
+};
+
+/// A command that answers whether it was carried out, as the command stack wants one.
+template <bool (*Command)()>
+void RunHostCommand() {
+    if (!Command()) {
+        acedSetCommandFailed();
+    }
+}
 
 /// Adds them to the command stack.
 void RegisterHostCommands();

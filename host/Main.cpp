@@ -33,10 +33,11 @@ bool SetUpFolders(const Tessaly::Options& options) {
 
 int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
     Tessaly::Session session(port);
-    session.Start();
+    const bool isOpen = session.Start(options.drawing);
     int status = Tessaly::kExitDone;
     if (options.script) {
-        status = session.RunScript(*options.script);
+        // A script that was written for the drawing would work on an empty one.
+        status = isOpen ? session.RunScript(*options.script) : Tessaly::kExitCommandFailed;
     } else {
         if (options.first) {
             session.RunScript(*options.first);

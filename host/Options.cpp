@@ -44,15 +44,20 @@ OptionsResult ReadOptions(const std::vector<std::string>& arguments) {
             result.options.console = true;
         } else if (argument == "--help" || argument == "-h") {
             result.options.help = true;
-        } else {
+        } else if (argument.empty() || argument.front() == '-') {
             result.error.Format(L"%s: no such option", argument);
+        } else if (!result.options.drawing.IsEmpty()) {
+            result.error.Format(L"%s: only one drawing can be named", argument);
+        } else {
+            result.options.drawing = Utf8ToWide(argument);
         }
     }
     return result;
 }
 
 const wchar_t* UsageText() {
-    return L"tessaly [--console] [options]\n"
+    return L"tessaly [--console] [options] [drawing]\n"
+           L"  drawing         a GeoPackage (.gpkg) to open at the start\n"
            L"  --console       the command line on standard input and output\n"
            L"  --script FILE   runs the commands of a file, one a line, and ends; the exit\n"
            L"                  status is that of the first command that fails\n"

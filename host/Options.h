@@ -14,6 +14,7 @@ struct Options {
     bool help = false;
     std::optional<CString> script; ///< run it and end with its status
     std::optional<CString> first;  ///< run it, then go on at the prompt
+    CString drawing;               ///< opened at the start; empty: a new one
     CString trace;
     CString support; ///< empty: the user's own folder
     CString install; ///< empty: where the program lies

@@ -2,7 +2,10 @@
 
 #include <exception>
 
+#include "host/DrawingCommands.h"
 #include "host/HostCommands.h"
+#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/Import.h"
 #include "platform/arx/Activity.h"
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
@@ -21,7 +24,6 @@ namespace {
 
 /// Loaded at the start, in this order: the application module makes the workspace begin.
 constexpr const wchar_t* kStartModules[] = {L"ORVZWorkspaceCore.arx", L"ORVZApplication.arx"};
-constexpr const wchar_t* kNewDrawing = L"Drawing1";
 constexpr const wchar_t* kPrompt = L"> ";
 
 /// Runs something of a module's. What it throws ends here: the reason goes to the user,
@@ -48,10 +50,27 @@ bool Guarded(const wchar_t* what, Call call) {
 
 } // namespace
 
-void Session::Start() {
+Session::Session(ConsolePort& port)
+    : m_port(port), m_pStorage(MakeGeoPackageStorage()), m_pImporter(MakeImporter()) {
+    acDocManagerPtr()->setStorage(m_pStorage.get());
+    acdbSetImporter(m_pImporter.get());
+}
+
+Session::~Session() {
+    acdbSetImporter(nullptr);
+    acDocManagerPtr()->setStorage(nullptr);
+}
+
+bool Session::Start(const CString& drawing) {
     RegisterHostCommands();
     acedEditor();
-    AcApDocument* const pDoc = acDocManagerPtr()->newDocument(kNewDrawing);
+    bool isOpen = drawing.IsEmpty();
+    if (!isOpen) {
+        Guarded(drawing, [&] { isOpen = OpenDrawing(drawing); });
+    }
+    if (!acDocManagerPtr()->curDocument()) {
+        acDocManagerPtr()->newDocument();
+    }
     for (const wchar_t* module : kStartModules) {
         const CString path = GetHostOption(kHostOptionInstall) + module;
         Guarded(module, [&] {
@@ -61,11 +80,14 @@ void Session::Start() {
         });
     }
     // Once more, for the reactors that the modules have brought.
-    Guarded(kNewDrawing, [&] { acDocManagerPtr()->setCurDocument(pDoc); });
+    AcApDocument* const pDoc = acDocManagerPtr()->curDocument();
+    Guarded(pDoc ? pDoc->fileName() : L"", [&] { acDocManagerPtr()->setCurDocument(pDoc); });
+    return isOpen;
 }
 
 void Session::End() {
     if (!HasQuit()) {
+        NameUnsavedDrawings();
         Guarded(L"QUIT", [] { acedAskToClose(); });
     }
 }

@@ -1,8 +1,12 @@
-// One run of the host: its modules, its drawing, and its command line.
+// One run of the host: its modules, its drawings, and its command line.
 #pragma once
+
+#include <memory>
 
 #include "host/Options.h"
 #include "host/console/ConsolePort.h"
+#include "platform/arx/DbImport.h"
+#include "platform/arx/DbStorage.h"
 
 namespace Tessaly {
 
@@ -13,18 +17,24 @@ inline constexpr int kExitBadUsage = 2;
 
 class Session {
 public:
-    explicit Session(ConsolePort& port) : m_port(port) {}
+    /// Gives the platform its storage of drawings and its importer.
+    explicit Session(ConsolePort& port);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
-    /// Registers the host's commands, opens a new drawing and loads the modules of the
-    /// family. A module that cannot be loaded is reported, and the host goes on.
-    void Start();
+    /// Registers the host's commands, opens a drawing and loads the modules of the family. A
+    /// module that cannot be loaded is reported, and the host goes on.
+    /// \param drawing empty for a new one, which is also there if this cannot be opened: false
+    bool Start(const CString& drawing);
 
     /// Obeys a file of commands up to its end or its first failure.
     int RunScript(const wchar_t* path);
     /// Obeys the user until they leave or the input ends.
     int RunPrompt(IInputLines& input);
-    /// Tells the modules that the host ends, unless the user's QUIT has done so. There is no
-    /// input left to ask for, so nobody can veto any more.
+    /// Names the drawings with unsaved changes and tells the modules that the host ends,
+    /// unless the user's QUIT has seen to both. There is no input left to ask for, so nobody
+    /// can veto any more.
     void End();
 
 private:
@@ -35,6 +45,8 @@ private:
     bool RunCommand(const CString& name);
 
     ConsolePort& m_port;
+    std::unique_ptr<IDbStorage> m_pStorage;
+    std::unique_ptr<IDbImporter> m_pImporter;
 };
 
 } // namespace Tessaly

@@ -1,5 +1,7 @@
 #include "host/console/ConsolePort.h"
 
+#include <unistd.h>
+
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -12,16 +14,29 @@ constexpr std::wstring_view kBlanks = L" \t";
 constexpr const wchar_t* kQuitAnswer = L"_quit";
 /// Prompts that are answered so before the command counts as one that will never end.
 constexpr int kMostPromptsBehindEnd = 1000;
+/// Terminal sequences: to the begin of the line, and away with what is behind the cursor.
+constexpr const wchar_t* kLineBegin = L"\r";
+constexpr const wchar_t* kClearRest = L"\x1B[K";
+/// Percents between two lines where each stays.
+constexpr int kPercentPerLine = 10;
 
 } // namespace
+
+ConsolePort::ConsolePort(std::FILE* output)
+    : m_output(output), m_bTerminal(isatty(fileno(output)) != 0) {}
+
+void ConsolePort::Write(std::wstring_view text) {
+    const std::string utf8 = WideToUtf8(text);
+    std::fwrite(utf8.data(), 1, utf8.size(), m_output);
+    std::fflush(m_output);
+}
 
 void ConsolePort::Print(std::wstring_view text) {
     if (text.empty()) {
         return;
     }
-    const std::string utf8 = WideToUtf8(text);
-    std::fwrite(utf8.data(), 1, utf8.size(), m_output);
-    std::fflush(m_output);
+    ClearProgress();
+    Write(text);
     m_atLineStart = text.back() == L'\n';
 }
 
@@ -30,6 +45,38 @@ void ConsolePort::Alert(std::wstring_view text, std::wstring_view title) {
         Print(L"\n");
     }
     Print(FormatText(L"%s: %s\n", title, text));
+}
+
+bool ConsolePort::ShowProgress(std::wstring_view what, int percent) {
+    if (!m_work) {
+        m_work.emplace(m_bTerminal ? 1 : kPercentPerLine);
+    }
+    const auto elapsed =
+        std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_work->begin);
+    if (const std::optional<CString> text = m_work->text.Next(what, percent, elapsed)) {
+        if (!m_atLineStart) {
+            Print(L"\n");
+        }
+        if (m_bTerminal) {
+            Write((kLineBegin + *text + kClearRest).View());
+            m_bProgressShown = true;
+        } else {
+            Print((*text + L"\n").View());
+        }
+    }
+    return !StopSignal::WasSent();
+}
+
+void ConsolePort::EndProgress() {
+    ClearProgress();
+    m_work.reset();
+}
+
+void ConsolePort::ClearProgress() {
+    if (m_bProgressShown) {
+        m_bProgressShown = false;
+        Write((CString(kLineBegin) + kClearRest).View());
+    }
 }
 
 std::optional<CString> ConsolePort::TakePosted() {

@@ -1,9 +1,12 @@
 // The host's prompts on standard output, answered from lines of input.
 #pragma once
 
+#include <chrono>
 #include <deque>
 
 #include "host/console/InputLines.h"
+#include "host/console/ProgressText.h"
+#include "host/console/StopSignal.h"
 #include "platform/arx/HostPort.h"
 
 namespace Tessaly {
@@ -12,7 +15,7 @@ namespace Tessaly {
 /// were posted come before any other input.
 class ConsolePort final : public IHostPort {
 public:
-    explicit ConsolePort(std::FILE* output) : m_output(output) {}
+    explicit ConsolePort(std::FILE* output);
 
     void SetInput(IInputLines* pInput) {
         m_pInput = pInput;
@@ -24,6 +27,10 @@ public:
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void PostCommand(std::wstring_view text) override { m_posted.emplace_back(text); }
+    /// On a terminal in one line, which goes with the work; otherwise in a few lines. Ctrl+C
+    /// asks to stop.
+    bool ShowProgress(std::wstring_view what, int percent) override;
+    void EndProgress() override;
 
     /// One line for the command prompt; nothing at the end of the input.
     std::optional<CString> NextLine(std::wstring_view prompt);
@@ -32,9 +39,22 @@ public:
     void DropEscapes();
 
 private:
+    using Clock = std::chrono::steady_clock;
+    struct Work {
+        explicit Work(int percentStep) : text(percentStep) {}
+        StopSignal stop;
+        Clock::time_point begin = Clock::now();
+        ProgressText text;
+    };
+
     std::optional<CString> TakePosted();
+    void Write(std::wstring_view text);
+    void ClearProgress();
 
     std::FILE* m_output;
+    bool m_bTerminal;
+    std::optional<Work> m_work;
+    bool m_bProgressShown = false; ///< the cursor is behind it
     IInputLines* m_pInput = nullptr;
     std::deque<CString> m_posted;
     bool m_atLineStart = true;

@@ -34,6 +34,7 @@ public:
                            const AcDbProgress& progress) override;
     AcDbStorageResult SaveAs(AcDbDatabase& database, const wchar_t* from, const wchar_t* path,
                              const AcDbProgress& progress) override;
+    void Close(const AcDbDatabase& database) override { m_files.erase(&database); }
 
 private:
     AcDbStorageResult ReadFile(AcDbDatabase& database, const std::string& path,

@@ -1,6 +1,93 @@
 #include "platform/arx/ApDocManager.h"
 
 #include <algorithm>
+#include <filesystem>
+
+#include "platform/arx/EdEditor.h"
+#include "platform/win/CodePage.h"
+#include "platform/win/File.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kExtension = ".gpkg";
+constexpr const wchar_t* kNewName = L"Drawing%d";
+
+bool IsSameFile(const CString& left, const CString& right) {
+    std::error_code ignored;
+    return left == right || fs::equivalent(NativePath(left), NativePath(right), ignored);
+}
+
+AcDbStorageResult Refusal(const wchar_t* file, const wchar_t* reason) {
+    AcDbStorageResult result;
+    result.reason.Format(L"%s: %s", file, reason);
+    return result;
+}
+
+} // namespace
+
+CString acdbDrawingPath(const wchar_t* path) {
+    if (!path || !*path) {
+        return {};
+    }
+    std::error_code error;
+    fs::path whole = fs::absolute(NativePath(path), error);
+    const fs::path name = whole.filename();
+    if (name.empty() || name == "." || name == "..") {
+        return Utf8ToWide(whole.string()); // a folder, which whoever opens it will say
+    }
+    const fs::path folder = fs::weakly_canonical(whole.parent_path(), error);
+    if (!error) {
+        whole = folder / name;
+    }
+    if (!name.has_extension()) {
+        whole += kExtension;
+    }
+    return Utf8ToWide(whole.string());
+}
+
+void AcApDocument::setPath(const CString& path) {
+    m_strPath = path;
+    m_strTitle = FileNameOf(path);
+}
+
+/// The time in which a drawing is saved: it stays open, and is the working database.
+class AcApDocManager::Saving {
+public:
+    Saving(const AcApDocManager& manager, AcApDocument& document)
+        : m_manager(manager), m_document(document) {
+        m_document.lock();
+        acdbHostApplicationServices()->setWorkingDatabase(m_document.database());
+    }
+    ~Saving() {
+        const AcApDocument* const pCurrent = m_manager.curDocument();
+        acdbHostApplicationServices()->setWorkingDatabase(pCurrent ? pCurrent->database()
+                                                                   : nullptr);
+        m_document.unlock();
+    }
+    Saving(const Saving&) = delete;
+    Saving& operator=(const Saving&) = delete;
+
+    /// What is put into the drawing now is not the user's doing, so it is not theirs to undo.
+    void TellBegin(const CString& path) {
+        struct Unrecorded {
+            explicit Unrecorded(AcDbDatabase& owner)
+                : database(owner), wasDisabled(owner.isUndoRecordingDisabled()) {
+                database.disableUndoRecording(true);
+            }
+            ~Unrecorded() { database.disableUndoRecording(wasDisabled); }
+            AcDbDatabase& database;
+            bool wasDisabled;
+        };
+        const Unrecorded unrecorded(*m_document.database());
+        acedEditor()->fireBeginSave(m_document.database(), path);
+    }
+
+private:
+    const AcApDocManager& m_manager;
+    AcApDocument& m_document;
+};
 
 template <class Call>
 void AcApDocManager::Tell(Call call) {
@@ -23,11 +110,96 @@ void AcApDocManager::removeReactor(AcApDocManagerReactor* pReactor) {
     std::erase(m_reactors, pReactor);
 }
 
-AcApDocument* AcApDocManager::newDocument(const wchar_t* fileName) {
-    m_documents.push_back(std::make_unique<AcApDocument>(fileName));
+bool AcApDocManager::IsOpen(const AcApDocument* pDoc) const {
+    return std::any_of(m_documents.begin(), m_documents.end(),
+                       [pDoc](const auto& entry) { return entry.get() == pDoc; });
+}
+
+AcApDocument* AcApDocManager::documentOf(const wchar_t* path) const {
+    const CString file = acdbDrawingPath(path);
+    const auto hit =
+        std::find_if(m_documents.begin(), m_documents.end(), [&file](const auto& entry) {
+            return entry->hasFile() && IsSameFile(entry->path(), file);
+        });
+    return hit == m_documents.end() ? nullptr : hit->get();
+}
+
+AcApDocument* AcApDocManager::newDocument(const wchar_t* name) {
+    m_documents.push_back(std::make_unique<AcApDocument>(name));
     AcApDocument* const pDoc = m_documents.back().get();
     setCurDocument(pDoc);
     return pDoc;
+}
+
+AcApDocument* AcApDocManager::newDocument() {
+    CString name;
+    const auto hasName = [&name](const auto& entry) { return entry->title() == name; };
+    do {
+        name.Format(kNewName, ++m_nLastNew);
+    } while (std::any_of(m_documents.begin(), m_documents.end(), hasName));
+    return newDocument(name);
+}
+
+AcDbStorageResult AcApDocManager::openDocument(const wchar_t* path, const AcDbProgress& progress,
+                                               AcApDocument*& pDoc) {
+    pDoc = documentOf(path);
+    if (pDoc) {
+        if (pDoc != m_pCurrent) {
+            setCurDocument(pDoc);
+        }
+        return {};
+    }
+    const CString file = acdbDrawingPath(path);
+    if (!m_pStorage || file.IsEmpty()) {
+        return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be opened");
+    }
+    auto pNew = std::make_unique<AcApDocument>(L"");
+    AcDbStorageResult result = m_pStorage->Read(*pNew->database(), file, progress);
+    if (!result.ok()) {
+        m_pStorage->Close(*pNew->database());
+        return result;
+    }
+    pNew->setPath(file);
+    pDoc = pNew.get();
+    m_documents.push_back(std::move(pNew));
+    setCurDocument(pDoc);
+    return result;
+}
+
+template <class Write>
+AcDbStorageResult AcApDocManager::Save(AcApDocument& document, const CString& path, Write write) {
+    Saving saving(*this, document);
+    saving.TellBegin(path);
+    AcDbStorageResult result = write();
+    if (result.ok()) {
+        document.setPath(path);
+        acedEditor()->fireSaveComplete(document.database(), path);
+    }
+    return result;
+}
+
+AcDbStorageResult AcApDocManager::saveDocument(AcApDocument* pDoc, const AcDbProgress& progress) {
+    if (!m_pStorage || !IsOpen(pDoc) || !pDoc->hasFile()) {
+        return Refusal(IsOpen(pDoc) ? pDoc->fileName() : L"",
+                       m_pStorage ? L"the drawing has no file yet" : L"no drawings can be saved");
+    }
+    const CString path = pDoc->path();
+    return Save(*pDoc, path, [&] { return m_pStorage->Save(*pDoc->database(), path, progress); });
+}
+
+AcDbStorageResult AcApDocManager::saveDocumentAs(AcApDocument* pDoc, const wchar_t* path,
+                                                 const AcDbProgress& progress) {
+    const CString file = acdbDrawingPath(path);
+    if (!m_pStorage || !IsOpen(pDoc) || file.IsEmpty()) {
+        return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be saved");
+    }
+    const AcApDocument* const pOwner = documentOf(file);
+    if (pOwner && pOwner != pDoc) {
+        return Refusal(file, L"another open drawing is kept in this file");
+    }
+    const CString from = pDoc->path();
+    return Save(*pDoc, file,
+                [&] { return m_pStorage->SaveAs(*pDoc->database(), from, file, progress); });
 }
 
 void AcApDocManager::setCurDocument(AcApDocument* pDoc) {
@@ -41,8 +213,7 @@ void AcApDocManager::setCurDocument(AcApDocument* pDoc) {
 }
 
 bool AcApDocManager::closeDocument(AcApDocument* pDoc) {
-    const auto own = [pDoc](const auto& entry) { return entry.get() == pDoc; };
-    if (std::none_of(m_documents.begin(), m_documents.end(), own) || pDoc->isLocked()) {
+    if (!IsOpen(pDoc) || pDoc->isLocked()) {
         return false;
     }
     const CString fileName = pDoc->fileName();
@@ -55,7 +226,10 @@ bool AcApDocManager::closeDocument(AcApDocument* pDoc) {
         m_pCurrent = nullptr;
         acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     }
-    std::erase_if(m_documents, own);
+    if (m_pStorage) {
+        m_pStorage->Close(*pDoc->database());
+    }
+    std::erase_if(m_documents, [pDoc](const auto& entry) { return entry.get() == pDoc; });
     Tell([&](AcApDocManagerReactor& reactor) { reactor.documentDestroyed(fileName); });
     if (wasCurrent) {
         setCurDocument(m_documents.empty() ? nullptr : m_documents.back().get());

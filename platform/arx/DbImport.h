@@ -39,3 +39,8 @@ public:
     /// percentage stays 0 where a format does not know how much it holds.
     virtual AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) = 0;
 };
+
+/// How modules read files of other programs; null while no host provides it.
+PLATFORM_API IDbImporter* acdbImporter();
+/// Called by the host, which goes on owning it. Null takes it away.
+PLATFORM_API void acdbSetImporter(IDbImporter* pImporter);

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "platform/win/String.h"
 
@@ -33,4 +34,6 @@ public:
     /// for a new drawing; what that holds beside the drawing is copied along.
     virtual AcDbStorageResult SaveAs(AcDbDatabase& database, const wchar_t* from,
                                      const wchar_t* path, const AcDbProgress& progress) = 0;
+    /// Forgets what it remembers of a database, which goes.
+    virtual void Close(const AcDbDatabase& database) = 0;
 };

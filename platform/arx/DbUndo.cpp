@@ -36,6 +36,10 @@ void AcDbUndo::endGroup() {
     }
 }
 
+int AcDbUndo::openGroups() const {
+    return m_pState->depth;
+}
+
 const CString* AcDbUndo::undoName() const {
     return m_pState->done > 0 ? m_pState->groups[m_pState->done - 1].pName : nullptr;
 }

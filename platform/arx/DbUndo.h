@@ -29,6 +29,8 @@ public:
     void beginGroup(const wchar_t* name);
     /// Throws std::logic_error if no group is open.
     void endGroup();
+    /// How many groups are open, one in the other.
+    int openGroups() const;
 
     /// Name of the group that the next undo (redo) takes, empty for a change outside of
     /// groups; null if there is none. Valid until the history changes.

@@ -10,6 +10,9 @@
 
 /// The command may run while another one waits at a prompt.
 inline constexpr int ACRX_CMD_TRANSPARENT = 1;
+/// The command is no step of the undo history: it works on whole drawings, or on the history
+/// itself.
+inline constexpr int ACRX_CMD_NO_UNDO_GROUP = 2;
 
 using AcRxFunctionPtr = void (*)();
 
@@ -42,6 +45,10 @@ enum class CommandOutcome {
     Failed, ///< it ran, and said that it was not carried out
 };
 
+/// Says that the running command was not carried out, for commands that are plain functions;
+/// why is for the command to print. A script stops at it.
+PLATFORM_API void acedSetCommandFailed();
+
 /// Answers for a whole set of commands that live elsewhere, such as the workspace's.
 class PLATFORM_API IEdCommandSource {
 public:
@@ -70,7 +77,9 @@ public:
     void removeSource(IEdCommandSource* pSource) { std::erase(m_sources, pSource); }
     const std::vector<IEdCommandSource*>& sources() const { return m_sources; }
 
-    /// Runs a command by name: a registered one, else the first source's that has it.
+    /// Runs a command by name: a registered one, else the first source's that has it. What it
+    /// changes in the drawing that is current now is one step of the undo history, under the
+    /// command's name; also if it throws.
     CommandOutcome run(const wchar_t* name) const;
 
 private:

@@ -24,6 +24,12 @@ public:
     virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
     /// Has the host take a text as if the user had typed it, once the running command ended.
     virtual void PostCommand(std::wstring_view text) = 0;
+
+    /// Shows how far long work is, in percent. False once the user wants it to stop. The
+    /// first call, with 0, comes as the work begins; texts may be printed in between.
+    virtual bool ShowProgress(std::wstring_view /*what*/, int /*percent*/) { return true; }
+    /// The work, and all that was begun during it, is over, done or not.
+    virtual void EndProgress() {}
 };
 
 /// Makes a port the one in force and returns the one before. Not owned; null brings back

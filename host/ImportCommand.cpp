@@ -1,0 +1,148 @@
+#include "host/ImportCommand.h"
+
+#include <algorithm>
+
+#include "host/CoordinateSystems.h"
+#include "host/Dialog.h"
+#include "platform/arx/EdProgress.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace {
+
+using Feature = AcDbImportFeature;
+
+std::unique_ptr<AcDbEntity> MakeEntity(Feature& feature) {
+    switch (feature.kind) {
+    case Feature::Kind::Point:
+        return std::make_unique<AcDbPoint>(feature.points.at(0));
+    case Feature::Kind::Line:
+        return std::make_unique<AcDbPolyline>(feature.points);
+    default:
+        return std::make_unique<AcDbMPolygon>(std::move(feature.rings));
+    }
+}
+
+void AddFeature(AcDbDatabase& database, AcDbObjectId layer, Feature& feature) {
+    std::unique_ptr<AcDbEntity> pEntity = MakeEntity(feature);
+    pEntity->setLayer(layer);
+    const std::size_t count = feature.attributes.size();
+    pEntity->reserveAttributes(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const AcDbAttributes::Item item = feature.attributes.at(i);
+        pEntity->setAttribute(item.name, item.value);
+    }
+    // Their memory goes as the entities' comes.
+    feature = {};
+    database.appendEntity(std::move(pEntity));
+}
+
+/// The last ones first: layers are empty before it is their turn.
+void EraseFrom(AcDbDatabase& database, std::uint32_t first) {
+    for (std::uint32_t number = database.nextId(); number-- > first;) {
+        AcDbObject* pObject = nullptr;
+        if (acdbOpenObject(pObject, AcDbObjectId(number), AcDb::kForWrite, false, &database) ==
+            Acad::eOk) {
+            pObject->erase();
+            pObject->close();
+        }
+    }
+}
+
+/// What an empty drawing without a coordinate system takes over.
+CString SystemToTake(const AcDbDatabase& database, const std::vector<AcDbImportLayer>& layers) {
+    if (!database.coordinateSystem().IsEmpty() || database.entityCount() > 0) {
+        return database.coordinateSystem();
+    }
+    const auto first = std::find_if(layers.begin(), layers.end(), [](const auto& layer) {
+        return !layer.coordinateSystem.IsEmpty();
+    });
+    return first == layers.end() ? CString() : first->coordinateSystem;
+}
+
+/// A line for each layer, in whose features' place only their numbers are needed later.
+std::vector<CString> CountLines(const std::vector<AcDbImportLayer>& layers) {
+    std::vector<CString> lines;
+    for (const AcDbImportLayer& layer : layers) {
+        int counts[3] = {};
+        for (const Feature& feature : layer.features) {
+            ++counts[static_cast<std::size_t>(feature.kind)];
+        }
+        CString line;
+        line.Format(L"  %s: %d points, %d lines, %d polygons\n", layer.name, counts[0], counts[1],
+                    counts[2]);
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+} // namespace
+
+std::vector<CString> CoordinateWarnings(const AcDbDatabase& database,
+                                        const std::vector<AcDbImportLayer>& layers) {
+    const CString own = SystemToTake(database, layers);
+    std::vector<CString> warnings;
+    for (const AcDbImportLayer& layer : layers) {
+        if (layer.coordinateSystem.IsEmpty() ||
+            IsSameCoordinateSystem(own, layer.coordinateSystem)) {
+            continue;
+        }
+        CString warning;
+        warning.Format(L"%s: its coordinate system is %s, that of the drawing is %s; positions "
+                       L"are taken as they are",
+                       layer.name, CoordinateSystemName(layer.coordinateSystem),
+                       CoordinateSystemName(own));
+        warnings.push_back(warning);
+    }
+    return warnings;
+}
+
+void AddToDrawing(AcDbDatabase& database, std::vector<AcDbImportLayer> layers) {
+    const std::uint32_t first = database.nextId();
+    const CString systemBefore = database.coordinateSystem();
+    try {
+        database.setCoordinateSystem(SystemToTake(database, layers));
+        for (AcDbImportLayer& layer : layers) {
+            const AcDbObjectId id = database.layer(layer.name);
+            for (Feature& feature : layer.features) {
+                AddFeature(database, id, feature);
+            }
+        }
+    } catch (...) {
+        EraseFrom(database, first);
+        database.setCoordinateSystem(systemBefore);
+        throw;
+    }
+}
+
+bool Import() {
+    constexpr const wchar_t* kNothing = L"Nothing was imported.";
+    AcApDocument* const pDoc = CurrentDrawing();
+    if (!pDoc) {
+        return false;
+    }
+    const std::optional<CString> file = AskText(L"File: ");
+    if (!file || !acdbImporter()) {
+        return Refuse(L"", kNothing);
+    }
+    AcDbImportResult result =
+        acdbImporter()->Import(*file, acedProgress(L"Reading " + FileNameOf(*file)));
+    PrintWarnings(result.warnings);
+    if (!result.ok()) {
+        return Refuse(result.reason, kNothing);
+    }
+    if (result.layers.empty()) {
+        return Refuse(*file + L": there is nothing in it that can be drawn", kNothing);
+    }
+    PrintWarnings(CoordinateWarnings(*pDoc->database(), result.layers));
+    const std::vector<CString> lines = CountLines(result.layers);
+    AddToDrawing(*pDoc->database(), std::move(result.layers));
+    acutPrintf(L"Imported from %s:\n", FileNameOf(*file));
+    for (const CString& line : lines) {
+        acutPrint(line.View());
+    }
+    return true;
+}
+
+} // namespace Tessaly

@@ -5,8 +5,6 @@
 
 #include "platform/win/CodePage.h"
 #include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {
@@ -15,15 +13,6 @@ namespace {
 
 using Topology::AttributeData;
 using Topology::CTopologyStorage;
-
-// Messages.
-constexpr int kPolygonsName = 900120;
-constexpr int kNameTaken = 900302;
-
-// Attributes under which the figures of a network are kept.
-constexpr std::string_view kElevation = "ELEVATION";
-constexpr std::string_view kDiameter = "DIAMETER";
-constexpr std::string_view kStatedLength = "LENGTH";
 
 void AddNumber(std::vector<AttributeData>& attributes, std::string_view name, double value) {
     if (value == value) {
@@ -104,51 +93,16 @@ void AddLabels(CTopologyStorage& storage, System::CGisSystem& system, const Labe
     }
 }
 
-/// Removes the systems again unless the import came to its end.
-class Undo {
-public:
-    explicit Undo(ImportedSystems& imported) : m_imported(imported) {}
-    ~Undo() {
-        if (!m_done) {
-            for (System::CGisSystem* pSystem : {m_imported.pPolygons, m_imported.pNetwork}) {
-                if (pSystem) {
-                    System::CSystemManager::Instance()->DeleteSystem(pSystem);
-                }
-            }
-            m_imported = {};
-        }
-    }
-    Undo(const Undo&) = delete;
-    Undo& operator=(const Undo&) = delete;
-    void Done() { m_done = true; }
-
-private:
-    ImportedSystems& m_imported;
-    bool m_done = false;
-};
-
 } // namespace
 
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
                      ImportedSystems& imported) {
-    System::CSystemManager& systems = *System::CSystemManager::Instance();
-    imported = {};
-    Undo undo(imported);
-    CString reason;
-    const CModuleConfiguration& messages = *CModuleConfiguration::Instance();
-    const CString polygonName = FormatText(messages.GetMsg(kPolygonsName).View(), name);
-    const bool hasPolygons = model.polygons.size() > 0;
-    // Before anything is made: nobody is to hear of systems that go again at once.
-    if (hasPolygons && systems.GetSystemByName(polygonName)) {
-        return FormatText(messages.GetMsg(kNameTaken).View(), polygonName);
-    }
-    imported.pNetwork = systems.CreateSystem(name, TopologyLine, systemFunction, &reason);
-    if (imported.pNetwork && hasPolygons) {
-        imported.pPolygons = systems.CreateSystem(polygonName, TopologyPolygon, 0, &reason);
-    }
-    if (!imported.pNetwork || (hasPolygons && !imported.pPolygons)) {
+    SystemsInMaking systems;
+    const CString reason = systems.Make(name, systemFunction, true, model.polygons.size() > 0);
+    if (!reason.IsEmpty()) {
         return reason;
     }
+    imported = systems.Systems();
     CTopologyStorage& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
     const std::vector<AcDbObjectId> nodeIds = AddNodes(storage, *imported.pNetwork, model.nodes);
     AddSections(storage, *imported.pNetwork, model.sections, nodeIds);
@@ -156,7 +110,7 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
     if (imported.pPolygons) {
         AddPolygons(storage, *imported.pPolygons, model.polygons);
     }
-    undo.Done();
+    systems.Keep();
     return {};
 }
 

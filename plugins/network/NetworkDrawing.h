@@ -3,25 +3,16 @@
 
 #include <vector>
 
+#include "plugins/network/ImportedSystems.h"
 #include "plugins/network/NetworkGeometry.h"
 #include "plugins/network/NetworkModel.h"
 #include "siblings/networkcore/TopologyStorage.h"
-
-namespace Orvane::System {
-class CGisSystem;
-}
 
 namespace Orvane::Network {
 
 /// Functions of line systems in the topology configuration.
 inline constexpr int kFunctionWater = 1;
 inline constexpr int kFunctionSewer = 2;
-
-/// What an import added. Null where there was nothing of the kind.
-struct ImportedSystems {
-    System::CGisSystem* pNetwork = nullptr;
-    System::CGisSystem* pPolygons = nullptr;
-};
 
 /// Makes a system of nodes and sections of the current drawing from a network, and one of
 /// polygons named "<name> polygons" if it has any.

@@ -1,13 +1,12 @@
 #include "plugins/network/NetworkExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "platform/win/CodePage.h"
-#include "platform/win/File.h"
-#include "plugins/network/InpReader.h"
+#include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkReport.h"
 #include "plugins/network/NetworkStatistics.h"
+#include "plugins/network/Prompts.h"
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/GisSystems.h"
 #include "siblings/giscore/ModuleConfiguration.h"
@@ -19,24 +18,6 @@
 namespace Orvane::Network {
 
 namespace {
-
-void PrintLine(const std::string& line) {
-    acutPrintf(L"%s\n", line);
-}
-
-/// The answer of a prompt without blanks around it; empty if it was cancelled.
-CString Ask(const wchar_t* prompt) {
-    CString answer;
-    if (acedGetString(kGetStringAllowBlanks, prompt, answer) != RTNORM) {
-        answer.Empty();
-    }
-    return answer.Trim();
-}
-
-bool Refuse(const CString& reason) {
-    acutPrintf(L"%s\n", reason);
-    return false;
-}
 
 /// Systems of the current drawing; empty without a drawing.
 std::vector<System::CGisSystem*> Systems() {
@@ -68,42 +49,6 @@ CString FunctionName(const System::CGisSystem& system) {
     const CTopologyFunction* const pFunction =
         pTopology->GetTopologyFunctionById(system.GetSystemFunction());
     return pFunction ? pFunction->GetName() : pTopology->GetNameUI();
-}
-
-bool Import() {
-    const CString file = Ask(L"Network file: ");
-    if (file.IsEmpty()) {
-        return Refuse(L"No file: nothing was imported.");
-    }
-    const CString name = Ask(L"Name of the system: ");
-    if (name.IsEmpty()) {
-        return Refuse(L"No name: nothing was imported.");
-    }
-    const InpResult read = ReadInpFile(file);
-    for (const std::string& warning : ProblemTexts(read, Severity::Warning)) {
-        PrintLine(warning);
-    }
-    if (!read.ok) {
-        for (const std::string& error : ProblemTexts(read, Severity::Error)) {
-            PrintLine(error);
-        }
-        return Refuse(L"Nothing was imported.");
-    }
-    ImportedSystems imported;
-    const CString reason =
-        AddToDrawing(read.model, read.format == InpFormat::Swmm ? kFunctionSewer : kFunctionWater,
-                     name, imported);
-    if (!reason.IsEmpty()) {
-        return Refuse(reason + L" Nothing was imported.");
-    }
-    acutPrintf(L"%s: %u nodes, %u sections", name, read.model.nodes.size(),
-               read.model.sections.size());
-    if (imported.pPolygons) {
-        acutPrintf(L"; %s: %u polygons", imported.pPolygons->GetSystemName(),
-                   read.model.polygons.size());
-    }
-    acutPrintf(L".\n");
-    return true;
 }
 
 /// Count and extents of a system of polygons.
@@ -175,7 +120,7 @@ bool ActivateSystem() {
 }
 
 constexpr NetworkCommand kCommands[] = {
-    {L"NETWORK_IMPORT", 900101, 900102, Import},
+    {L"NETWORK_IMPORT", 900101, 900102, ImportNetwork},
     {L"NETWORK_STATS", 900103, 900104, PrintStatistics},
     {L"NETWORK_CHECK", 900105, 900106, PrintFindings},
     {L"SYSTEM_LIST", 900107, 900108, ListSystems},

@@ -101,8 +101,8 @@ std::optional<double> TopologyStatistics::GetStatistic(const System::CGisSystem&
     }
     if (m_nStamp != storage.GetChangeStamp() || m_nSystemId != systemId) {
         const bool isPolygons = system.GetTopologyType() == TopologyPolygon;
-        m_figures = isPolygons ? ComputePolygons(storage, systemId)
-                               : ComputeNetwork(storage, systemId);
+        m_figures =
+            isPolygons ? ComputePolygons(storage, systemId) : ComputeNetwork(storage, systemId);
         // An alignment is told by figures of its own; those of profiles are not known here.
         if (system.GetTopologyType() == TopologyLine &&
             system.GetSystemFunction() == kFunctionAlignment) {

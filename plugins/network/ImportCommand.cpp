@@ -1,0 +1,152 @@
+#include "plugins/network/ImportCommand.h"
+
+#include "platform/arx/DbDatabase.h"
+#include "platform/arx/EdProgress.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/win/CodePage.h"
+#include "platform/win/File.h"
+#include "platform/win/Number.h"
+#include "plugins/network/InpReader.h"
+#include "plugins/network/NetworkDrawing.h"
+#include "plugins/network/NetworkLayers.h"
+#include "plugins/network/Prompts.h"
+#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/Topology.h"
+
+namespace Orvane::Network {
+
+namespace {
+
+void PrintImported(const CString& name, std::size_t nodes, std::size_t sections,
+                   const ImportedSystems& imported, std::size_t polygons) {
+    if (imported.pNetwork) {
+        acutPrintf(L"%s: %u nodes, %u sections", name, nodes, sections);
+    }
+    if (imported.pPolygons) {
+        acutPrintf(L"%s%s: %u polygons", imported.pNetwork ? L"; " : L"",
+                   imported.pPolygons->GetSystemName(), polygons);
+    }
+    acutPrintf(L".\n");
+}
+
+bool ImportNetworkFile(const CString& file, const CString& name) {
+    const InpResult read = ReadInpFile(file);
+    for (const std::string& warning : ProblemTexts(read, Severity::Warning)) {
+        PrintLine(warning);
+    }
+    if (!read.ok) {
+        for (const std::string& error : ProblemTexts(read, Severity::Error)) {
+            PrintLine(error);
+        }
+        return Refuse(L"Nothing was imported.");
+    }
+    ImportedSystems imported;
+    const CString reason =
+        AddToDrawing(read.model, read.format == InpFormat::Swmm ? kFunctionSewer : kFunctionWater,
+                     name, imported);
+    if (!reason.IsEmpty()) {
+        return Refuse(reason + L" Nothing was imported.");
+    }
+    PrintImported(name, read.model.nodes.size(), read.model.sections.size(), imported,
+                  read.model.polygons.size());
+    return true;
+}
+
+/// Asks what the network is for; nothing if the answer is no function of networks.
+std::optional<int> AskFunction() {
+    const CTopology* const pLines = CModuleConfiguration::Instance()->GetTopology(TopologyLine);
+    if (!pLines || !pLines->GetHasFunctions()) {
+        return 0;
+    }
+    const std::vector<CTopologyFunction>& functions = pLines->GetTopologyFunctionVector();
+    CString prompt = L"Kind of network [";
+    for (const CTopologyFunction& function : functions) {
+        prompt.AppendFormat(L"%s%d %s", &function == &functions.front() ? L"" : L"/",
+                            function.GetId(), function.GetName());
+    }
+    prompt.AppendFormat(L"] <%d>: ", functions.front().GetId());
+    const CString answer = Ask(prompt);
+    for (const CTopologyFunction& function : functions) {
+        CString number;
+        number.Format(L"%d", function.GetId());
+        if (answer == number || answer.CompareNoCase(function.GetName()) == 0) {
+            return function.GetId();
+        }
+    }
+    return answer.IsEmpty() ? std::optional(functions.front().GetId()) : std::nullopt;
+}
+
+/// Asks how near ends have to be to meet; nothing if the answer is no distance.
+std::optional<double> AskTolerance(double usual) {
+    CString prompt;
+    prompt.Format(L"Ends up to this distance apart meet in one node <%s>: ", RealToText(usual));
+    const CString answer = Ask(prompt);
+    const auto distance =
+        answer.IsEmpty() ? std::optional(usual) : TextToReal(WideToUtf8(answer.View()));
+    return distance && *distance >= 0 ? distance : std::nullopt;
+}
+
+/// Anything that the host can read: points and lines become a network, areas polygons.
+bool ImportLayers(const CString& file, const CString& name) {
+    const AcDbImportResult read =
+        acdbImporter()->Import(file, acedProgress(L"Reading " + FileNameOf(file)));
+    for (const CString& warning : read.warnings) {
+        acutPrintf(L"%s\n", warning);
+    }
+    if (!read.ok()) {
+        return Refuse(read.reason + L"\nNothing was imported.");
+    }
+    const LayerContents contents(read);
+    const bool hasNetwork = !contents.points.empty() || !contents.lines.empty();
+    if (!hasNetwork && contents.polygons.empty()) {
+        return Refuse(file + L": there are no points, lines or areas in it.");
+    }
+    const std::optional<int> function = hasNetwork ? AskFunction() : 0;
+    if (!function) {
+        return Refuse(L"There is no such kind of network. Nothing was imported.");
+    }
+    const std::optional<double> tolerance =
+        contents.lines.empty() ? 0.0 : AskTolerance(UsualTolerance(contents.places, contents.ends));
+    if (!tolerance) {
+        return Refuse(L"This is no distance. Nothing was imported.");
+    }
+    const bool isFirst = acdbHostApplicationServices()->workingDatabase()->entityCount() == 0;
+    ImportedSystems imported;
+    LayerCounts counts;
+    const CString reason = AddToDrawing(contents, *tolerance, *function, name, imported, counts);
+    if (!reason.IsEmpty()) {
+        return Refuse(reason + L" Nothing was imported.");
+    }
+    for (const CString& layer : TakeCoordinateSystem(read, isFirst)) {
+        acutPrintf(L"%s: its coordinate system is not the drawing's; positions are taken as they "
+                   L"are.\n",
+                   layer);
+    }
+    PrintImported(name, counts.nodes, counts.sections, imported, counts.polygons);
+    if (counts.foundNodes > 0) {
+        acutPrintf(L"%u of the nodes were made where lines end.\n", counts.foundNodes);
+    }
+    return true;
+}
+
+} // namespace
+
+bool ImportNetwork() {
+    if (!System::CSystemManager::Instance()->GetSystems()) {
+        return Refuse(L"No drawing is open.");
+    }
+    const CString file = Ask(L"Network file: ");
+    if (file.IsEmpty()) {
+        return Refuse(L"No file: nothing was imported.");
+    }
+    const CString name = Ask(L"Name of the system: ");
+    if (name.IsEmpty()) {
+        return Refuse(L"No name: nothing was imported.");
+    }
+    const bool isNetworkFile = file.Right(4).CompareNoCase(L".inp") == 0 || !acdbImporter();
+    return isNetworkFile ? ImportNetworkFile(file, name) : ImportLayers(file, name);
+}
+
+} // namespace Orvane::Network

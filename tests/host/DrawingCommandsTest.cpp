@@ -65,7 +65,7 @@ TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
         {"OPEN\n", "Nothing was opened."},
         {"SAVE\n", "The drawing was not saved."},
         {"SAVE\n@no-folder/plan\n", "its folder is not there"},
-        {"SAVEAS\n@plan\n", "plan.gpkg exists. Replace it? [Yes/No] <No>: "},
+        {"SAVEAS\n@plan\n", "plan.gpkg stays as it is."},
         {"OPEN\n@plan\nNEW\nSAVEAS\n@plan\n", "another open drawing is kept in this file"},
         {"IMPORT\n@none.geojson\n", "Nothing was imported."},
         {"IMPORT\n@text.gpkg\n", "Nothing was imported."},

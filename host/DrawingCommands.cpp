@@ -48,8 +48,11 @@ bool MayReplace(const CString& path) {
 bool SaveUnder(AcApDocument& document) {
     const std::optional<CString> answer = AskText(kAskFile);
     const CString path = answer ? acdbDrawingPath(*answer) : CString();
-    if (path.IsEmpty() || !MayReplace(path)) {
+    if (path.IsEmpty()) {
         return Refuse(L"", kNotSaved);
+    }
+    if (!MayReplace(path)) {
+        return Refuse(path + L" stays as it is.", kNotSaved);
     }
     return TellSaved(acDocManagerPtr()->saveDocumentAs(&document, path, WritingProgress(path)),
                      document);

@@ -1,34 +1,8 @@
-#include <cstdio>
-#include <gtest/gtest.h>
-
 #include "host/Options.h"
-#include "tests/support/TestHost.h"
+#include "tests/host/ProgramTest.h"
 
 namespace Tessaly {
 namespace {
-
-/// Runs the program itself, as a user does, and gives what it printed.
-class ProgramTest : public testing::Test {
-protected:
-    int Run(const std::string& arguments, const std::string& input = "") {
-        m_folder.Write("input", input);
-        const std::string command = std::string(TESSALY_STAGE_DIR "/tessaly --console --support ") +
-                                    m_folder.Native("support") + " " + arguments + " < " +
-                                    m_folder.Native("input") + " > " + m_folder.Native("output") +
-                                    " 2>&1";
-        const int status = std::system(command.c_str());
-        m_output = m_folder.Read("output");
-        return WEXITSTATUS(status);
-    }
-    int RunScript(const std::string& lines) {
-        m_folder.Write("script.scr", lines);
-        return Run("--script " + m_folder.Native("script.scr"));
-    }
-    bool Printed(const std::string& text) const { return m_output.find(text) != std::string::npos; }
-
-    TempFolder m_folder;
-    std::string m_output;
-};
 
 constexpr const char* kImportTown =
     "NETWORK_IMPORT\n" TESSALY_SOURCE_DIR "/share/sample/town-water.inp\nTown\n";
@@ -135,12 +109,15 @@ TEST(Options, AreReadOrRefused) {
         {{"--script"}, L"--script wants a value"},
         {{"--support", ""}, L"--support wants a value"},
         {{"--konsole"}, L"--konsole: no such option"},
-        {{"plan.gpkg"}, L"plan.gpkg: no such option"},
+        {{"--console", "plan.gpkg", "--trace", "t"}, L""},
+        {{"plan.gpkg", "b.gpkg"}, L"b.gpkg: only one drawing can be named"},
+        {{""}, L": no such option"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(ReadOptions(row.arguments).error, row.error);
     }
     EXPECT_EQ(*ReadOptions({"--script", "\xC3\xA8.scr"}).options.script, L"\u00E8.scr");
+    EXPECT_EQ(ReadOptions({"\xC3\xA8.gpkg"}).options.drawing, L"\u00E8.gpkg");
 }
 
 } // namespace

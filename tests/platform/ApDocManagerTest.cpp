@@ -105,6 +105,18 @@ TEST(Documents, AReactorThatGoesWhileOthersAreToldIsNotCalled) {
     EXPECT_EQ(log, (Log{L"1 current a"}));
 }
 
+TEST(Documents, NewDrawingsGetNamesThatNoneHas) {
+    AcApDocManager manager;
+    manager.newDocument(L"Drawing2");
+    EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing1");
+    AcApDocument* const pThird = manager.newDocument();
+    EXPECT_STREQ(pThird->fileName(), L"Drawing3");
+    EXPECT_FALSE(pThird->hasFile());
+    EXPECT_TRUE(pThird->path().IsEmpty());
+    manager.closeDocument(pThird);
+    EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing4") << "no name comes twice";
+}
+
 TEST(Documents, TheResourcesPushedLastAreCurrent) {
     AcApDocManager manager;
     int first = 0;

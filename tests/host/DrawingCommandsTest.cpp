@@ -1,0 +1,217 @@
+// Drawings at the command line, through the program itself.
+#include "tests/host/ProgramTest.h"
+
+namespace Tessaly {
+namespace {
+
+constexpr const char* kTown =
+    R"({"type":"FeatureCollection","features":[
+{"type":"Feature","properties":{"name":"a"},"geometry":{"type":"Point","coordinates":[8.5,47.3]}},
+{"type":"Feature","properties":{},"geometry":{"type":"LineString","coordinates":[[8,47],[9,48]]}},
+{"type":"Feature","properties":{},"geometry":{"type":"MultiPoint","coordinates":[[8,47],[9,48]]}},
+{"type":"Feature","properties":{},"geometry":{"type":"Polygon",
+"coordinates":[[[8,47],[9,47],[9,48],[8,47]]]}}]})";
+constexpr const char* kMetres =
+    R"({"type":"FeatureCollection","name":"metres",
+"crs":{"type":"name","properties":{"name":"urn:ogc:def:crs:EPSG::25832"}},"features":[
+{"type":"Feature","properties":{},"geometry":{"type":"Point","coordinates":[500000,5000000]}}]})";
+
+/// In lines of a script, "@" stands for the test's folder.
+class DrawingCommandsTest : public ProgramTest {
+protected:
+    DrawingCommandsTest() {
+        m_folder.Write("town.geojson", kTown);
+        m_folder.Write("metres.geojson", kMetres);
+    }
+    std::string InFolder(std::string text) const {
+        const std::string folder = m_folder.Native("");
+        for (std::size_t at = text.find('@'); at != std::string::npos;
+             at = text.find('@', at + folder.size())) {
+            text.replace(at, 1, folder);
+        }
+        return text;
+    }
+    int Script(const std::string& lines) { return RunScript(InFolder(lines)); }
+    /// A drawing with the five entities of the town.
+    void MakeTown(const std::string& name) {
+        ASSERT_EQ(Script("IMPORT\n@town.geojson\nSAVE\n@" + name + "\n"), 0) << m_output;
+    }
+};
+
+TEST_F(DrawingCommandsTest, ADrawingIsSavedAndOpenedAgain) {
+    EXPECT_EQ(
+        Script("IMPORT\n@town.geojson\nSAVE\n@plan\nDRAWINGS\nCLOSE\nDRAWINGS\n"
+               "OPEN\n@plan\nDRAWINGS\nIMPORT\n@town.geojson\nSAVE\nCLOSE\nOPEN\n@plan.gpkg\n"),
+        0)
+        << m_output;
+    EXPECT_TRUE(Printed("  town: 3 points, 1 lines, 1 polygons\n")) << m_output;
+    EXPECT_TRUE(Printed(InFolder("Saved: @plan.gpkg\n"))) << m_output;
+    EXPECT_TRUE(Printed(InFolder("*  1  @plan.gpkg\n"))) << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg is closed.\nNo drawing is open.\n")) << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg: 10 entities.\n")) << m_output;
+    EXPECT_FALSE(Printed("not saved")) << m_output;
+}
+
+TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
+    MakeTown("plan");
+    m_folder.Write("text.gpkg", "no drawing");
+    const struct {
+        const char* lines;
+        const char* text;
+    } cases[] = {
+        {"OPEN\n@none\n", "none.gpkg: "},
+        {"OPEN\n@text.gpkg\n", "Nothing was opened."},
+        {"OPEN\n", "Nothing was opened."},
+        {"SAVE\n", "The drawing was not saved."},
+        {"SAVE\n@no-folder/plan\n", "its folder is not there"},
+        {"SAVEAS\n@plan\n", "plan.gpkg stays as it is."},
+        {"OPEN\n@plan\nNEW\nSAVEAS\n@plan\n", "another open drawing is kept in this file"},
+        {"IMPORT\n@none.geojson\n", "Nothing was imported."},
+        {"IMPORT\n@text.gpkg\n", "Nothing was imported."},
+        {"UNDO\n", "There is nothing to undo."},
+        {"REDO\n", "There is nothing to redo."},
+        {"SWITCH\n7\n", "There is no drawing \"7\"."},
+        {"SWITCH\n", "The current drawing is Drawing1."},
+        {"APPLOAD\n@none.arx\n", "Not loaded: "},
+        {"IMPORT\n@town.geojson\nCLOSE\n", "The drawing stays open."},
+        {"IMPORT\n@town.geojson\nQUIT\n", "The program stays open."},
+        {"CLOSE\nSAVE\n", "No drawing is open."},
+        {"CLOSE\nSAVEAS\n", "No drawing is open."},
+        {"CLOSE\nCLOSE\n", "No drawing is open."},
+        {"CLOSE\nSWITCH\n", "No drawing is open."},
+        {"CLOSE\nUNDO\n", "No drawing is open."},
+        {"CLOSE\nIMPORT\n", "No drawing is open."},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(Script(row.lines), 1) << row.lines << m_output;
+        EXPECT_TRUE(Printed(row.text)) << row.text << " in " << m_output;
+        EXPECT_TRUE(Printed("stopped at")) << m_output;
+    }
+}
+
+TEST_F(DrawingCommandsTest, WithoutADrawingNoCommandCrashes) {
+    EXPECT_EQ(Run("", InFolder("CLOSE\nDRAWINGS\nNETWORK_STATS\nNETWORK_CHECK\nSYSTEM_LIST\n"
+                               "SYSTEM_ACTIVATE\nx\nNETWORK_IMPORT\n" TESSALY_SOURCE_DIR
+                               "/share/sample/town-water.inp\nTown\ntest\nlist\nexit\nNEW\n"
+                               "IMPORT\n@town.geojson\nDRAWINGS\n")),
+              0)
+        << m_output;
+    EXPECT_TRUE(Printed("*  1  Drawing2, modified\n")) << m_output;
+}
+
+TEST_F(DrawingCommandsTest, AnImportIsOneStepOfTheHistory) {
+    MakeTown("plan");
+    EXPECT_EQ(
+        Script("OPEN\n@plan\nIMPORT\n@metres.geojson\nUNDO\nREDO\nUNDO\nSAVEAS\n@undone\nREDO\n"
+               "SAVE\nUNDO\nDRAWINGS\nCLOSE\nn\nOPEN\n@undone\nCLOSE\nOPEN\n@plan\nUNDO\n"),
+        1)
+        << "nothing to undo in a drawing just opened";
+    EXPECT_EQ(Count("Undone: IMPORT\n"), 3) << m_output;
+    EXPECT_EQ(Count("Redone: IMPORT\n"), 2) << m_output;
+    EXPECT_TRUE(Printed("undone.gpkg, modified\n")) << "what was saved was undone: " << m_output;
+    EXPECT_TRUE(Printed("undone.gpkg: 6 entities.\n")) << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << m_output;
+}
+
+TEST_F(DrawingCommandsTest, AnEmptyDrawingTakesTheCoordinateSystemOfAnImport) {
+    constexpr const char* kWarning = "metres: its coordinate system is ETRS89 / UTM zone 32N, that "
+                                     "of the drawing is WGS 84; positions are taken as they are\n";
+    EXPECT_EQ(Script("IMPORT\n@town.geojson\nIMPORT\n@town.geojson\nSAVE\n@plan\n"), 0);
+    EXPECT_FALSE(Printed("coordinate system")) << m_output;
+    EXPECT_EQ(Script("OPEN\n@plan\nIMPORT\n@town.geojson\nIMPORT\n@metres.geojson\n"), 0);
+    EXPECT_EQ(Count("coordinate system"), 1) << "what comes from a file is the same: " << m_output;
+    EXPECT_TRUE(Printed(kWarning)) << m_output;
+    EXPECT_EQ(Script("IMPORT\n@town.geojson\nUNDO\nIMPORT\n@metres.geojson\n"), 0);
+    EXPECT_FALSE(Printed("coordinate system")) << "it is undone with the import: " << m_output;
+}
+
+TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
+    MakeTown("plan");
+    MakeTown("other");
+    EXPECT_EQ(Run("", InFolder("SAVE\n@plan\nno\nSAVE\n@plan\nperhaps\nOPEN\n@plan\nSAVEAS\n@plan\n"
+                               "NEW\nSAVE\n@other\ny\nDRAWINGS\n")),
+              0);
+    EXPECT_EQ(Count("exists. Replace it?"), 3) << "not for its own file: " << m_output;
+    EXPECT_TRUE(Printed("\"perhaps\" is none of the answers.\n")) << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << "as it was: " << m_output;
+    EXPECT_TRUE(Printed(InFolder("*  3  @other.gpkg\n"))) << m_output;
+}
+
+TEST_F(DrawingCommandsTest, ClosingAsksAboutChanges) {
+    const struct {
+        const char* answer;
+        bool isClosed;
+        bool isSaved;
+    } cases[] = {
+        {"Yes", true, true},      {"y", true, true},   {"no", true, false}, {"N", true, false},
+        {"CANCEL", false, false}, {"c", false, false}, {"", false, false},  {"nope", false, false},
+    };
+    for (const auto& row : cases) {
+        MakeTown("plan");
+        Run("", InFolder("OPEN\n@plan\nIMPORT\n@town.geojson\nCLOSE\n" + std::string(row.answer) +
+                         "\nDRAWINGS\n"));
+        EXPECT_EQ(Printed("plan.gpkg is closed."), row.isClosed) << row.answer << m_output;
+        EXPECT_EQ(Printed("plan.gpkg has changes that were not saved.\n"), !row.isClosed);
+        Script("OPEN\n@plan\n");
+        EXPECT_EQ(Printed("10 entities"), row.isSaved) << row.answer << m_output;
+        std::filesystem::remove(m_folder / "plan.gpkg");
+    }
+}
+
+TEST_F(DrawingCommandsTest, LeavingAsksAboutEachDrawing) {
+    const std::string twoChanged = "IMPORT\n@town.geojson\nNEW\nNEW\nIMPORT\n@town.geojson\n";
+    EXPECT_EQ(Script(twoChanged + "QUIT\ny\n@first\nn\nHELP\n"), 0) << m_output;
+    EXPECT_EQ(Count("Save the changes to "), 2) << m_output;
+    EXPECT_FALSE(Printed("APPLOAD")) << "it has ended: " << m_output;
+    EXPECT_FALSE(Printed("not saved")) << m_output;
+    EXPECT_TRUE(m_folder.Has("first.gpkg"));
+
+    EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\nn\nc\nHELP\n")), 0);
+    EXPECT_TRUE(Printed("APPLOAD")) << "it stays: " << m_output;
+    EXPECT_TRUE(Printed("Drawing1 has changes that were not saved.\n"
+                        "Drawing3 has changes that were not saved.\n"))
+        << m_output;
+    EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\ny\n@no-folder/x\nHELP\n")), 0);
+    EXPECT_TRUE(Printed("APPLOAD")) << "what cannot be saved is not thrown away: " << m_output;
+}
+
+TEST_F(DrawingCommandsTest, DrawingsAreFoundByNumberNameAndFile) {
+    MakeTown("plan");
+    std::filesystem::create_directory(m_folder / "sub");
+    MakeTown("sub/plan");
+    const std::string open = "OPEN\n@plan\nOPEN\n@sub/plan\nNEW\n"; // Drawing1 is the first
+    const struct {
+        const char* answer;
+        const char* current; ///< empty if there is no such drawing
+    } cases[] = {{"1", "*  1  Drawing1"},
+                 {"drawing1", "*  1  Drawing1"},
+                 {"2", "*  2  @plan.gpkg"},
+                 {"@sub/plan", "*  3  @sub/plan.gpkg"},
+                 {"plan.gpkg", ""},
+                 {"0", ""},
+                 {"5", ""},
+                 {"1x", ""},
+                 {"Drawing2", "*  4  Drawing2"}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(Script(open + "SWITCH\n" + row.answer + "\nDRAWINGS\n"), *row.current ? 0 : 1)
+            << row.answer << m_output;
+        EXPECT_TRUE(Printed(InFolder(row.current))) << row.answer << m_output;
+    }
+}
+
+TEST_F(DrawingCommandsTest, ADrawingCanBeNamedAtTheStart) {
+    MakeTown("plan");
+    EXPECT_EQ(Run(m_folder.Native("plan.gpkg"), "DRAWINGS\n"), 0);
+    EXPECT_TRUE(Printed(InFolder("*  1  @plan.gpkg\n"))) << m_output;
+    EXPECT_EQ(Run(m_folder.Native("none.gpkg"), "DRAWINGS\n"), 0);
+    EXPECT_TRUE(Printed("none.gpkg: ")) << m_output;
+    EXPECT_TRUE(Printed("*  1  Drawing1\n")) << m_output;
+    m_folder.Write("list.scr", "DRAWINGS\n");
+    const std::string script = " --script " + m_folder.Native("list.scr");
+    EXPECT_EQ(Run(m_folder.Native("none.gpkg") + script), 1);
+    EXPECT_FALSE(Printed("Drawing1")) << "a script for another drawing is not run: " << m_output;
+}
+
+} // namespace
+} // namespace Tessaly

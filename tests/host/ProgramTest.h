@@ -1,0 +1,43 @@
+// The program as a user runs it, for tests of its commands.
+#pragma once
+
+#include <cstdio>
+#include <gtest/gtest.h>
+
+#include "tests/support/TestHost.h"
+
+namespace Tessaly {
+
+/// Runs the program itself, as a user does, and gives what it printed.
+class ProgramTest : public testing::Test {
+protected:
+    int Run(const std::string& arguments, const std::string& input = "") {
+        m_folder.Write("input", input);
+        const std::string command = std::string(TESSALY_STAGE_DIR "/tessaly --console --support ") +
+                                    m_folder.Native("support") + " " + arguments + " < " +
+                                    m_folder.Native("input") + " > " + m_folder.Native("output") +
+                                    " 2>&1";
+        const int status = std::system(command.c_str());
+        m_output = m_folder.Read("output");
+        return WEXITSTATUS(status);
+    }
+    int RunScript(const std::string& lines) {
+        m_folder.Write("script.scr", lines);
+        return Run("--script " + m_folder.Native("script.scr"));
+    }
+    bool Printed(const std::string& text) const { return m_output.find(text) != std::string::npos; }
+
+    int Count(const std::string& text) const {
+        int count = 0;
+        for (std::size_t at = m_output.find(text); at != std::string::npos;
+             at = m_output.find(text, at + text.size())) {
+            ++count;
+        }
+        return count;
+    }
+
+    TempFolder m_folder;
+    std::string m_output;
+};
+
+} // namespace Tessaly

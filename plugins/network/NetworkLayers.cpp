@@ -68,8 +68,8 @@ public:
 class RowNames {
 public:
     std::string Next(const AcDbImportFeature& feature, const std::string& name) {
-        const bool isSameRow = m_pLast && feature.row == m_pLast->row &&
-                               &feature == m_pLast + 1 && !name.empty();
+        const bool isSameRow =
+            m_pLast && feature.row == m_pLast->row && &feature == m_pLast + 1 && !name.empty();
         m_nPart = isSameRow ? m_nPart + 1 : 1;
         m_pLast = &feature;
         return m_nPart > 1 ? name + " (" + std::to_string(m_nPart) + ")" : name;
@@ -92,8 +92,8 @@ std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem
             prepared.attributes.push_back({kElevation, place.z});
         }
         const std::string name = names.Next(*pPoint, prepared.description.name);
-        ids.push_back(storage.AddNode(
-            system, {name, place, prepared.description.kind, prepared.attributes}));
+        ids.push_back(
+            storage.AddNode(system, {name, place, prepared.description.kind, prepared.attributes}));
     }
     for (const AcGePoint3d& place : snapped.newNodes) {
         std::vector<Topology::AttributeData> attributes;
@@ -118,8 +118,8 @@ void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
                 ? std::span<const AcGePoint3d>(line.points).subspan(1, line.points.size() - 2)
                 : std::span<const AcGePoint3d>();
         storage.AddSection(system, {name,
-                                    {nodes[snapped.ends[i][0]]},
-                                    {nodes[snapped.ends[i][1]]},
+                                    {nodes[snapped.ends[i][0]], {}, line.points.front().z},
+                                    {nodes[snapped.ends[i][1]], {}, line.points.back().z},
                                     inner,
                                     prepared.description.kind,
                                     prepared.attributes});
@@ -132,8 +132,8 @@ void AddPolygons(CTopologyStorage& storage, System::CGisSystem& system,
     for (const AcDbImportFeature* const pPolygon : contents.polygons) {
         const Prepared prepared(*pPolygon);
         const std::string name = names.Next(*pPolygon, prepared.description.name);
-        storage.AddPolygon(
-            system, {name, pPolygon->rings, prepared.description.kind, prepared.attributes});
+        storage.AddPolygon(system,
+                           {name, pPolygon->rings, prepared.description.kind, prepared.attributes});
     }
 }
 

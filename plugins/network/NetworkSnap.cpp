@@ -32,8 +32,8 @@ public:
         const int reach = m_tolerance > 0 ? 1 : 0;
         for (int dx = -reach; dx <= reach; ++dx) {
             for (int dy = -reach; dy <= reach; ++dy) {
-                const auto cell = m_firsts.find(
-                    CellOf(place.x + dx * m_tolerance, place.y + dy * m_tolerance));
+                const auto cell =
+                    m_firsts.find(CellOf(place.x + dx * m_tolerance, place.y + dy * m_tolerance));
                 for (std::uint32_t at = cell == m_firsts.end() ? kNone : cell->second; at != kNone;
                      at = m_next[at]) {
                     const double distance =
@@ -112,8 +112,7 @@ double UsualTolerance(std::span<const AcGePoint3d> nodes, std::span<const LineEn
         box.add(line[0]);
         box.add(line[1]);
     }
-    const double side =
-        box.isEmpty() ? 0 : std::max(box.maxX - box.minX, box.maxY - box.minY);
+    const double side = box.isEmpty() ? 0 : std::max(box.maxX - box.minX, box.maxY - box.minY);
     return side > 0 && std::isfinite(side) ? std::pow(10, std::floor(std::log10(side)) - 6) : 0;
 }
 

@@ -1,6 +1,7 @@
 #include "siblings/networkcore/TopologyStorage.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
@@ -38,6 +39,21 @@ void SetAttributes(AcDbEntity& entity, std::span<const AttributeData> attributes
     for (const AttributeData& attribute : attributes) {
         if (!attribute.name.empty()) {
             entity.setAttribute(FreeName(attribute.name), attribute.value);
+        }
+    }
+}
+
+/// Heights that only come from the nodes are left out of a line whose vertices have none:
+/// other programs want all heights of a line or no height.
+void DropPartialHeights(std::vector<Point>& vertices, const SectionData& data) {
+    const bool isFlat = std::any_of(vertices.begin(), vertices.end(),
+                                    [](const Point& point) { return std::isnan(point.z); });
+    const bool statesHeights = !std::isnan(data.start.height) || !std::isnan(data.end.height) ||
+                               std::any_of(data.innerVertices.begin(), data.innerVertices.end(),
+                                           [](const Point& point) { return !std::isnan(point.z); });
+    if (isFlat && !statesHeights) {
+        for (Point& vertex : vertices) {
+            vertex.z = kNoHeight;
         }
     }
 }
@@ -239,6 +255,7 @@ AcDbObjectId CTopologyStorage::AddSection(System::CGisSystem& system, const Sect
     TakeEnd(data.start, system, true, *line, vertices);
     vertices.insert(vertices.end(), data.innerVertices.begin(), data.innerVertices.end());
     TakeEnd(data.end, system, false, *line, vertices);
+    DropPartialHeights(vertices, data);
     line->setVertices(vertices);
     SetAttributes(*line, data.attributes);
     return m_pDatabase->appendEntity(std::move(line));
@@ -256,7 +273,9 @@ void CTopologyStorage::TakeEnd(const SectionEnd& end, const System::CGisSystem& 
     line.setAttribute(isStart ? Names().startNode : Names().endNode,
                       std::int64_t{end.node.number()});
     if (node.HasPlace()) {
-        vertices.push_back(node.GetPosition());
+        Point place = node.GetPosition();
+        place.z = std::isnan(end.height) ? place.z : end.height;
+        vertices.push_back(place);
     }
     if (node.GetSystemId() != system.GetSystemId()) {
         std::vector<int> systems = node.GetSystems();

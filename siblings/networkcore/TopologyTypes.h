@@ -33,6 +33,7 @@ struct NodeData {
 struct SectionEnd {
     AcDbObjectId node = {};
     std::string_view missingName = {}; ///< looked at only without a node
+    double height = kNoHeight;         ///< of the line, where it is not that of the node
 };
 
 struct SectionData {

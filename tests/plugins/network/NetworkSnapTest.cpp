@@ -25,11 +25,15 @@ TEST(NetworkSnap, EndsMeetWithinTheTolerance) {
         {"just farther", {{{{0.5000001, 0}, {100, 0}}}}, 0.5, {{2, 1}}},
         {"across the border of a cell", {{{{-0.01, -0.01}, {99.99, 0.01}}}}, 0.5, {{0, 1}}},
         {"with each other", {{{{5, 5}, {6, 6}}}, {{{6.1, 6}, {5, 5.1}}}}, 0.2, {{2, 3}, {3, 2}}},
-        {"the nearest, not the first", {{{{5, 5}, {5.3, 5}}}, {{{5.2, 5}, {0, 0}}}}, 0.2,
+        {"the nearest, not the first",
+         {{{{5, 5}, {5.3, 5}}}, {{{5.2, 5}, {0, 0}}}},
+         0.2,
          {{2, 3}, {3, 0}}},
         {"a short line falls together", {{{{5, 5}, {5.1, 5}}}}, 0.2, {{2, 2}}},
-        {"far from the origin", {{{{4e6, 5e6}, {4e6 + 1, 5e6}}}, {{{4e6 + 1, 5e6 + 1e-4}, {0, 0}}}},
-         1e-3, {{2, 3}, {3, 0}}},
+        {"far from the origin",
+         {{{{4e6, 5e6}, {4e6 + 1, 5e6}}}, {{{4e6 + 1, 5e6 + 1e-4}, {0, 0}}}},
+         1e-3,
+         {{2, 3}, {3, 0}}},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(SnapEnds(given, c.lines, c.tolerance).ends, c.expected) << c.what;

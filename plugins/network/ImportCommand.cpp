@@ -12,7 +12,6 @@
 #include "plugins/network/Prompts.h"
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
 #include "siblings/giscore/Topology.h"
 
 namespace Orvane::Network {
@@ -134,9 +133,6 @@ bool ImportLayers(const CString& file, const CString& name) {
 } // namespace
 
 bool ImportNetwork() {
-    if (!System::CSystemManager::Instance()->GetSystems()) {
-        return Refuse(L"No drawing is open.");
-    }
     const CString file = Ask(L"Network file: ");
     if (file.IsEmpty()) {
         return Refuse(L"No file: nothing was imported.");

@@ -2,6 +2,7 @@
 
 #include "host/Folders.h"
 #include "host/Session.h"
+#include "host/console/ConsolePort.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
 #include "platform/win/ErrorText.h"

@@ -145,7 +145,8 @@ AcDbImportResult Importer::Import(const wchar_t* path, const AcDbProgress& progr
 AcDbImportResult Importer::ImportFile(const std::string& native, const AcDbProgress& progress) {
     GdalErrors errors;
     AcDbImportResult result;
-    result.reason = WhyNotImportable(native, Drivers());
+    const char* const* drivers = Drivers();
+    result.reason = WhyNotImportable(native);
     if (!result.reason.IsEmpty()) {
         result.reason = FileReason(native, result.reason);
         return result;
@@ -153,7 +154,7 @@ AcDbImportResult Importer::ImportFile(const std::string& native, const AcDbProgr
     errors.Clear();
     const GDALDatasetUniquePtr dataset{
         GDALDataset::Open(native.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                          Drivers(), nullptr)};
+                          drivers, nullptr)};
     if (!dataset || errors.HasFailed()) {
         result.reason = errors.Reason(native);
         return result;

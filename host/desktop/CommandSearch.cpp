@@ -80,8 +80,8 @@ int CommandSearch::ScoreWord(const Text& text, const std::wstring& word) {
     }
     int score = ScorePlaces(text.name, word, kWordOfName, kInsideName);
     if (score < kWordOfDescription) {
-        score = std::max(score, ScorePlaces(text.description, word, kWordOfDescription,
-                                            kInsideDescription));
+        score = std::max(
+            score, ScorePlaces(text.description, word, kWordOfDescription, kInsideDescription));
     }
     return score > 0 || !HasLettersInOrder(text.name, word) ? score : kLettersOfName;
 }

@@ -4,15 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/win/String.h"
+#include "host/HostCommands.h"
 
 namespace Tessaly {
 
-struct CommandEntry {
-    CString name;        ///< what is typed at the command line
-    CString description; ///< what it does, for the user
-    CString whyNot;      ///< why it cannot run now; empty if it can
-};
+using CommandEntry = ListedCommand;
 
 /// Answers each keystroke among ten thousand commands within a frame: what has to be prepared
 /// is prepared once.

@@ -126,10 +126,10 @@ std::optional<Layout> Parse(std::string_view text, const wchar_t*& reason) {
 
 std::string Format(const Layout& layout) {
     std::string text = std::string(kVersion) + "\n";
-    text += Line("window", std::to_string(layout.window.left) + " " +
-                               std::to_string(layout.window.top) + " " +
-                               std::to_string(layout.window.width) + " " +
-                               std::to_string(layout.window.height));
+    text +=
+        Line("window",
+             std::to_string(layout.window.left) + " " + std::to_string(layout.window.top) + " " +
+                 std::to_string(layout.window.width) + " " + std::to_string(layout.window.height));
     text += Line("maximized", layout.isMaximized ? "1" : "0");
     text += Line("panes", ToHex(layout.panes));
     text += TextLine("theme", layout.theme);
@@ -148,8 +148,8 @@ int Overlap(int from, int length, int otherFrom, int otherLength) {
 
 /// How far a place is outside of a range.
 long long Outside(int at, int from, int length) {
-    return std::max({0LL, static_cast<long long>(from) - at,
-                     at - (static_cast<long long>(from) + length)});
+    return std::max(
+        {0LL, static_cast<long long>(from) - at, at - (static_cast<long long>(from) + length)});
 }
 
 } // namespace
@@ -193,18 +193,18 @@ ScreenRect OnScreen(const ScreenRect& window, const std::vector<ScreenRect>& wor
         return Outside(window.left + window.width / 2, area.left, area.width) +
                Outside(window.top + window.height / 2, area.top, area.height);
     };
-    const auto nearest =
-        std::min_element(workAreas.begin(), workAreas.end(),
-                         [&](const ScreenRect& left, const ScreenRect& right) {
-                             return distance(left) < distance(right);
-                         });
+    const auto nearest = std::min_element(workAreas.begin(), workAreas.end(),
+                                          [&](const ScreenRect& left, const ScreenRect& right) {
+                                              return distance(left) < distance(right);
+                                          });
     if (nearest == workAreas.end()) {
         return window;
     }
     ScreenRect moved = window;
     moved.width = std::min(moved.width, nearest->width);
     moved.height = std::min(moved.height, nearest->height);
-    moved.left = std::clamp(moved.left, nearest->left, nearest->left + nearest->width - moved.width);
+    moved.left =
+        std::clamp(moved.left, nearest->left, nearest->left + nearest->width - moved.width);
     moved.top = std::clamp(moved.top, nearest->top, nearest->top + nearest->height - moved.height);
     return moved;
 }

@@ -157,7 +157,8 @@ CString WhyNoDatabase(const std::string& path) {
     }
     const Header header(path);
     if (!header.IsDatabase()) {
-        return info.st_size == 0 ? L"it is empty" : L"it is no GeoPackage";
+        return info.st_size == 0 ? L"it is empty"
+                                 : L"it is no GeoPackage (IMPORT reads other files)";
     }
     // What another write has in its journal makes the size of the file itself meaningless.
     const bool isSettled = !IsNotEmpty(BehindLinks(path) + "-wal") && !HasHotJournal(path);

@@ -28,6 +28,7 @@ AcDbStorageResult Refusal(const std::string& path, const CString& reason) {
 
 class GeoPackageStorage final : public IDbStorage {
 public:
+    CString WhyNotWritable(const wchar_t* path) override;
     AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
                            const AcDbProgress& progress) override;
     AcDbStorageResult Save(AcDbDatabase& database, const wchar_t* path,
@@ -133,6 +134,12 @@ AcDbStorageResult Guarded(const std::string& path, Work work) {
     }
 }
 
+CString GeoPackageStorage::WhyNotWritable(const wchar_t* path) {
+    const std::string native = AbsolutePath(path);
+    const CString reason = WhyNotTarget(native);
+    return reason.IsEmpty() ? CString() : FileReason(native, reason);
+}
+
 AcDbStorageResult GeoPackageStorage::Read(AcDbDatabase& database, const wchar_t* path,
                                           const AcDbProgress& progress) {
     const std::string native = AbsolutePath(path);
@@ -194,7 +201,7 @@ AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const s
     DrawingFile* pFile = FileOf(database, native);
     CString reason = pFile ? WhyNoDatabase(native) : CString(L"the drawing is not from this file");
     if (reason.IsEmpty()) {
-        reason = WhyNotWritable(native);
+        reason = Tessaly::WhyNotWritable(native);
     }
     if (reason.IsEmpty()) {
         reason = SettleJournal(native);

@@ -76,6 +76,12 @@ struct Source {
 class Importer final : public IDbImporter {
 public:
     AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) override;
+    bool IsSameCoordinateSystem(const CString& left, const CString& right) override {
+        return Tessaly::IsSameCoordinateSystem(left, right);
+    }
+    CString CoordinateSystemName(const CString& wkt) override {
+        return Tessaly::CoordinateSystemName(wkt);
+    }
 
 private:
     static AcDbImportResult ImportFile(const std::string& native, const AcDbProgress& progress);
@@ -198,6 +204,12 @@ void Reading::ReadInTurn() {
     for (int i = 0; i < count; ++i) {
         OGRLayer* pLayer = m_dataset.GetLayer(i);
         if (!pLayer || pLayer->GetGeomType() == wkbNone) {
+            continue;
+        }
+        if (pLayer->GetLayerDefn()->GetFieldIndex(kTextColumn) >= 0) {
+            // A drawing of ours: its texts are no points.
+            m_result.warnings.push_back(FileReason(m_path, CString(Utf8ToWide(pLayer->GetName())) +
+                                                               L": texts are not imported"));
             continue;
         }
         pLayer->ResetReading();

@@ -99,7 +99,7 @@ void AddLabels(CTopologyStorage& storage, System::CGisSystem& system, const Labe
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
                      ImportedSystems& imported, ImportProgress& progress) {
     SystemsInMaking systems;
-    const CString reason = systems.Make(name, systemFunction, true, model.polygons.size() > 0);
+    CString reason = systems.Make(name, systemFunction, true, model.polygons.size() > 0);
     if (!reason.IsEmpty()) {
         return reason;
     }

@@ -189,7 +189,7 @@ CString AddToDrawing(const LayerContents& contents, double tolerance, int system
                      ImportProgress& progress) {
     imported = {};
     SystemsInMaking systems;
-    const CString reason =
+    CString reason =
         systems.Make(name, systemFunction, !contents.points.empty() || !contents.lines.empty(),
                      !contents.polygons.empty());
     if (!reason.IsEmpty()) {

@@ -57,6 +57,9 @@ public:
     /// Shows at once what has changed in the drawing.
     void UpdateDisplay();
 
+    /// The last frame showed everything; more are on their way otherwise.
+    bool IsPictureWhole() const { return m_picture.IsWhole(); }
+
     /// The next click asks for an entity instead of selecting it; PickEnded tells of it.
     void StartPick();
     void CancelPick();

@@ -24,6 +24,7 @@ public:
     bool Update(const DrawingScene& scene, const ViewTransform& transform,
                 const RenderSettings& settings, std::span<const Emphasis> emphasis,
                 Clock::time_point deadline);
+    bool IsWhole() const { return m_isValid && m_isWhole; }
     /// In pixels of the device.
     void Paint(QPainter& painter) const;
     const RenderDetail& Detail() const { return m_detail; }

@@ -5,6 +5,7 @@
 
 #include "host/Dialog.h"
 #include "host/DrawingCommands.h"
+#include "host/ViewCommands.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxDynamicLinker.h"
 #include "platform/win/ErrorText.h"
@@ -49,8 +50,9 @@ constexpr HostCommand kProgramCommands[] = {
 template <class Use>
 void ForEachHostCommand(Use use) {
     std::for_each(std::begin(kProgramCommands), std::end(kProgramCommands), use);
-    const auto drawingCommands = DrawingCommands();
-    std::for_each(drawingCommands.begin(), drawingCommands.end(), use);
+    for (const std::span<const HostCommand> commands : {DrawingCommands(), ViewCommands()}) {
+        std::for_each(commands.begin(), commands.end(), use);
+    }
 }
 
 CString DescriptionOf(const AcEdCommand& command) {

@@ -58,7 +58,8 @@ public:
         return parent.isValid() ? 0 : static_cast<int>(m_found.size());
     }
     QVariant data(const QModelIndex& index, int role) const override {
-        const CommandEntry& entry = m_search.Entries()[m_found[static_cast<std::size_t>(index.row())]];
+        const CommandEntry& entry =
+            m_search.Entries()[m_found[static_cast<std::size_t>(index.row())]];
         switch (role) {
         case Qt::DisplayRole:
         case kName:
@@ -89,8 +90,7 @@ private:
 };
 
 CommandPalette::CommandPalette(QWidget* pParent)
-    : QFrame(pParent), m_pInput(new QLineEdit), m_pList(new QListView),
-      m_pModel(new Model(this)) {
+    : QFrame(pParent), m_pInput(new QLineEdit), m_pList(new QListView), m_pModel(new Model(this)) {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setAccessibleName(tr("Command palette"));

@@ -1,5 +1,6 @@
 #include "host/desktop/CommandPane.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
 #include <QFontDatabase>
@@ -82,6 +83,7 @@ void CommandPane::SetCompletions(const QStringList& words) {
     delete m_pCompleter;
     m_pCompleter = pCompleter;
     m_pInput->setCompleter(m_pCompleter);
+    m_pCompleter->popup()->installEventFilter(this);
 }
 
 void CommandPane::SetCompleting(bool isOn) {
@@ -140,9 +142,30 @@ bool CommandPane::OnInputKey(const QKeyEvent& event) {
     }
 }
 
+bool CommandPane::OnListKey(const QKeyEvent& event) {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!isEnter && event.key() != Qt::Key_Tab) {
+        return false;
+    }
+    // The list would only complete the word; whoever presses Enter wants the command, too.
+    QAbstractItemView& list = *m_pCompleter->popup();
+    QModelIndex choice = list.currentIndex();
+    if (!choice.isValid() && !isEnter) {
+        choice = list.model()->index(0, 0);
+    }
+    if (choice.isValid()) {
+        m_pInput->setText(choice.data().toString());
+    }
+    list.hide();
+    return isEnter ? OnInputKey(event) : true;
+}
+
 bool CommandPane::eventFilter(QObject* pWatched, QEvent* pEvent) {
     if (pEvent->type() == QEvent::KeyPress) {
         auto& key = static_cast<QKeyEvent&>(*pEvent);
+        if (m_pCompleter && pWatched == m_pCompleter->popup() && OnListKey(key)) {
+            return true;
+        }
         if (pWatched == m_pInput && OnInputKey(key)) {
             return true;
         }

@@ -43,6 +43,8 @@ protected:
 
 private:
     bool OnInputKey(const QKeyEvent& event);
+    /// A key over the list of completions.
+    bool OnListKey(const QKeyEvent& event);
     void GoThroughHistory(int step);
 
     QPlainTextEdit* m_pText;

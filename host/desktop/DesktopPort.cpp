@@ -41,6 +41,10 @@ void DesktopPort::Print(std::wstring_view text) {
     }
 }
 
+void DesktopPort::PrintLine(const CString& text) {
+    Print(FormatText(L"%s%s\n", CString(m_bAtLineStart ? L"" : L"\n"), text));
+}
+
 std::optional<CString> DesktopPort::TakeLine() {
     if (!m_answers.empty()) {
         CString answer = m_answers.front();
@@ -53,7 +57,7 @@ std::optional<CString> DesktopPort::TakeLine() {
 std::optional<CString> DesktopPort::NextLine(std::wstring_view prompt) {
     std::optional<CString> line = TakeLine();
     if (line) {
-        Print(FormatText(L"%s%s\n", CString(prompt), *line));
+        PrintLine(CString(prompt) + *line);
     }
     return line;
 }
@@ -78,12 +82,9 @@ PromptEnd DesktopPort::AskInBox(const CString& prompt, CString& answer) {
         buttons |= QMessageBox::Cancel;
     }
     const CString question = prompt.Left(prompt.Find(L'[')).Trim();
-    const auto pressed =
-        QMessageBox::question(&m_frame, QStringLiteral("Tessaly"), ToQt(question.View()), buttons,
-                              DefaultOf(prompt));
-    answer = pressed == QMessageBox::Yes  ? L"Yes"
-             : pressed == QMessageBox::No ? L"No"
-                                          : L"";
+    const auto pressed = QMessageBox::question(&m_frame, QStringLiteral("Tessaly"),
+                                               ToQt(question.View()), buttons, DefaultOf(prompt));
+    answer = pressed == QMessageBox::Yes ? L"Yes" : pressed == QMessageBox::No ? L"No" : L"";
     return answer.IsEmpty() ? PromptEnd::Cancelled : PromptEnd::Answered;
 }
 
@@ -105,10 +106,7 @@ PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
         m_frame.EndPrompt();
         line = open.answer;
     }
-    if (!m_bAtLineStart && !prompt.empty() && prompt.front() != L'\n') {
-        Print(L"\n");
-    }
-    Print(FormatText(L"%s%s\n", CString(prompt), line ? *line : CString(L"*Cancel*")));
+    PrintLine(CString(prompt) + (line ? *line : CString(L"*Cancel*")));
     if (!line || *line == kEscape) {
         return PromptEnd::Cancelled;
     }

@@ -49,8 +49,8 @@ std::vector<ScreenRect> WorkAreas() {
 }
 
 ScreenRect RectOf(const QWidget& window) {
-    const QRect rect = window.normalGeometry().isValid() ? window.normalGeometry()
-                                                         : window.geometry();
+    const QRect rect =
+        window.normalGeometry().isValid() ? window.normalGeometry() : window.geometry();
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
@@ -123,9 +123,9 @@ void Frame::MakeStatusBar() {
     m_pProgress->setRange(0, 100);
     m_pProgress->setMaximumWidth(240);
     m_pStop = new QPushButton(tr("Stop"));
-    for (QWidget* const pWidget : {static_cast<QWidget*>(m_pWork),
-                                   static_cast<QWidget*>(m_pProgress),
-                                   static_cast<QWidget*>(m_pStop)}) {
+    for (QWidget* const pWidget :
+         {static_cast<QWidget*>(m_pWork), static_cast<QWidget*>(m_pProgress),
+          static_cast<QWidget*>(m_pStop)}) {
         statusBar()->addPermanentWidget(pWidget);
         pWidget->hide();
     }
@@ -200,6 +200,18 @@ void Frame::changeEvent(QEvent* pEvent) {
         }
     }
     QMainWindow::changeEvent(pEvent);
+}
+
+void Frame::keyPressEvent(QKeyEvent* pEvent) {
+    // Whoever types over the drawing means the command line.
+    const bool isText = !pEvent->text().isEmpty() && pEvent->text()[0].isPrint() &&
+                        !(pEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
+    if ((isText || isEnter) && m_pPane->isEnabled()) {
+        m_pPane->TypeKey(*pEvent);
+    } else {
+        QMainWindow::keyPressEvent(pEvent);
+    }
 }
 
 // Where it was.
@@ -297,7 +309,7 @@ void Frame::Run(const CString& name) {
     }
     m_recent.insert(m_recent.begin(), CString(name).MakeUpper());
     m_recent.resize(std::min(m_recent.size(), kMostRecent));
-    ShowText(QStringLiteral("> ") + ToQt(name.View()) + QStringLiteral("\n"));
+    m_pPort->PrintLine(L"> " + name);
     ++m_nDepth;
     m_pSession->RunCommand(name);
     --m_nDepth;
@@ -351,16 +363,16 @@ void Frame::UpdateCompletions() {
 }
 
 void Frame::OpenWithDialog() {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Open a drawing"), {},
-                                                      kDrawingFilter);
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open a drawing"), {}, kDrawingFilter);
     if (!file.isEmpty()) {
         RunAnswered(L"OPEN", {FromQt(file)});
     }
 }
 
 void Frame::SaveAsWithDialog() {
-    const QString file = QFileDialog::getSaveFileName(this, tr("Save the drawing as"), {},
-                                                      kDrawingFilter);
+    const QString file =
+        QFileDialog::getSaveFileName(this, tr("Save the drawing as"), {}, kDrawingFilter);
     if (!file.isEmpty()) {
         // The dialog has asked already whether a file may be replaced.
         RunAnswered(L"SAVEAS", {FromQt(file), L"Yes"});
@@ -413,9 +425,9 @@ bool Frame::ShowProgress(const QString& what, int percent) {
 }
 
 void Frame::EndProgress() {
-    for (QWidget* const pWidget : {static_cast<QWidget*>(m_pWork),
-                                   static_cast<QWidget*>(m_pProgress),
-                                   static_cast<QWidget*>(m_pStop)}) {
+    for (QWidget* const pWidget :
+         {static_cast<QWidget*>(m_pWork), static_cast<QWidget*>(m_pProgress),
+          static_cast<QWidget*>(m_pStop)}) {
         pWidget->hide();
     }
     centralWidget()->setEnabled(true);
@@ -448,8 +460,7 @@ void Frame::documentBecameCurrent(AcApDocument* pDoc) {
         auto* const pView = new DrawingView;
         pView->SetDatabase(pDoc->database());
         connect(pView, &DrawingView::PositionMoved, this, [this](double x, double y) {
-            m_pPosition->setText(
-                QStringLiteral("%1, %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
+            m_pPosition->setText(QStringLiteral("%1, %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
         });
         m_views[pDoc] = pView;
         m_pTabs->addTab(pView, ToQt(pDoc->title().View()));
@@ -488,8 +499,8 @@ void Frame::OnTabChanged(int index) {
 
 void Frame::UpdateTitles() {
     for (const auto& [pDoc, pView] : m_views) {
-        const QString title = ToQt(pDoc->title().View()) +
-                              (pDoc->isModified() ? QStringLiteral(" *") : QString());
+        const QString title =
+            ToQt(pDoc->title().View()) + (pDoc->isModified() ? QStringLiteral(" *") : QString());
         const int index = m_pTabs->indexOf(pView);
         if (m_pTabs->tabText(index) != title) {
             m_pTabs->setTabText(index, title);

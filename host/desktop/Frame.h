@@ -63,6 +63,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
 
 private:
     void documentBecameCurrent(AcApDocument* pDoc) override;

@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QPointer>
 
+#include "host/desktop/CommandPane.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/view/DrawingView.h"
@@ -16,8 +17,7 @@ FrameDisplay::~FrameDisplay() {
     SetDrawingDisplay(m_pBefore);
 }
 
-PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id,
-                                     AcGePoint3d& place) {
+PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) {
     DrawingView* const pView = m_frame.CurrentView();
     if (!pView || m_frame.IsScripted()) {
         // A script points by number.
@@ -47,6 +47,7 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id,
     loop.exec();
     QObject::disconnect(picks);
     m_frame.EndPrompt();
+    m_frame.Pane().FocusInput();
     return outcome;
 }
 

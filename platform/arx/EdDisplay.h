@@ -19,8 +19,7 @@ public:
     virtual ~IDrawingDisplay() = default;
     /// Waits until the user has pointed, while the host's own events go on.
     /// \param place where they pointed, in drawing units
-    virtual PickOutcome PickEntity(const wchar_t* prompt, AcDbObjectId& id,
-                                   AcGePoint3d& place) = 0;
+    virtual PickOutcome PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) = 0;
     /// Shows entities whole, in the middle; a factor of 1.05 leaves five per cent of margin.
     /// False, and the view stays, if none of them has a place.
     virtual bool ZoomTo(std::span<const AcDbObjectId> ids, double factor) = 0;

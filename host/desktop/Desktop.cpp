@@ -16,6 +16,7 @@
 #include "host/desktop/view/DrawingView.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/win/File.h"
 
 namespace Tessaly {
 
@@ -123,6 +124,9 @@ int RunDesktop(const Options& options, int argc, char** argv) {
     Frame frame;
     IHostPort* const pBefore = SetHostPort(&frame.Port());
     const FrameDisplay display(frame);
+    if (options.transcript) {
+        frame.Port().SetTranscript(OpenFile(*options.transcript, "wb"));
+    }
     RestoreLayout(frame, options);
     int status = kExitDone;
     {

@@ -7,6 +7,7 @@
 
 #include "host/desktop/Frame.h"
 #include "host/desktop/QtTexts.h"
+#include "platform/win/CodePage.h"
 
 namespace Tessaly {
 
@@ -38,6 +39,11 @@ void DesktopPort::Print(std::wstring_view text) {
     if (!text.empty()) {
         m_bAtLineStart = text.back() == L'\n';
         m_frame.ShowText(ToQt(text));
+        if (m_transcript) {
+            const std::string utf8 = WideToUtf8(text);
+            std::fwrite(utf8.data(), 1, utf8.size(), m_transcript.get());
+            std::fflush(m_transcript.get());
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include <deque>
 
 #include "host/LinePort.h"
+#include "platform/win/File.h"
 
 class QEventLoop;
 
@@ -35,6 +36,8 @@ public:
     void EndProgress() override;
 
     /// Answers that the next prompts take, in their order.
+    /// Everything printed goes to the file, too; null ends that.
+    void SetTranscript(FileHandle file) { m_transcript = std::move(file); }
     void QueueAnswer(const CString& answer) { m_answers.push_back(answer); }
     void DropAnswers() { m_answers.clear(); }
     /// A command that was posted, to be run now; nothing if none waits.
@@ -58,6 +61,7 @@ private:
     std::deque<CString> m_answers;
     std::deque<CString> m_posted;
     std::vector<Prompt*> m_prompts; ///< the innermost last
+    FileHandle m_transcript;
     bool m_bEnding = false;
     bool m_bAtLineStart = true;
 };

@@ -179,8 +179,19 @@ CString WriteLayout(const CString& path, const Layout& layout) {
 ScreenRect OnScreen(const ScreenRect& window, const std::vector<ScreenRect>& workAreas) {
     constexpr int kCatchWidth = 80;
     constexpr int kCatchHeight = 24;
+    ScreenRect all = workAreas.empty() ? window : workAreas.front();
+    for (const ScreenRect& area : workAreas) {
+        const int right = std::max(all.left + all.width, area.left + area.width);
+        const int bottom = std::max(all.top + all.height, area.top + area.height);
+        all.left = std::min(all.left, area.left);
+        all.top = std::min(all.top, area.top);
+        all.width = right - all.left;
+        all.height = bottom - all.top;
+    }
+    const bool fits = window.width <= all.width && window.height <= all.height;
     for (const ScreenRect& area : workAreas) {
         const bool isCaught =
+            fits &&
             Overlap(window.left, window.width, area.left, area.width) >=
                 std::min(kCatchWidth, window.width) &&
             window.top >= area.top &&

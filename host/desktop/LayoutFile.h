@@ -39,8 +39,8 @@ std::optional<Layout> ReadLayout(const CString& path, CString& problem);
 CString WriteLayout(const CString& path, const Layout& layout);
 
 /// Where a window goes on the screens that there are now: at its place if enough of its upper
-/// edge can be seen to be caught, otherwise moved, and if need be shrunk, into the nearest
-/// work area. The rectangle itself if there is no screen.
+/// edge can be seen to be caught and the screens together have room for it, otherwise moved, and if
+/// need be shrunk, into the nearest work area. The rectangle itself if there is no screen.
 ScreenRect OnScreen(const ScreenRect& window, const std::vector<ScreenRect>& workAreas);
 
 } // namespace Tessaly

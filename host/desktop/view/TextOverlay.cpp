@@ -127,8 +127,11 @@ void TextOverlay::PaintLabels(const Frame& frame, ShapeKind kind, const QFontMet
     ForItemsIn(frame.scene, kind, view, [&](std::uint32_t item) {
         const AcDbObjectId id(frame.scene.Items(kind).Id(item));
         const AcDbEntity* const pEntity = frame.scene.Entity(id);
-        const QString name = pEntity ? NameOf(*pEntity) : QString();
-        if (name.isEmpty() || !ReadShape(*pEntity, m_shape)) {
+        if (!pEntity || !ReadShape(*pEntity, m_shape)) {
+            return true;
+        }
+        const QString name = NameOf(*pEntity);
+        if (name.isEmpty()) {
             return true;
         }
         const double length = metrics.horizontalAdvance(name);

@@ -223,10 +223,12 @@ TEST(DrawingScene, TakesAnotherDrawingAndNoneAtAll) {
 TEST(DrawingScene, PassesOverWhatHasNoPlace) {
     AcDbDatabase database;
     const double inf = std::numeric_limits<double>::infinity();
-    const AcDbObjectId nowhere[] = {
-        AddSpot(database, kNan, 1), AddSpot(database, 1, inf), AddSpot(database, 1e300, 1),
-        AddLine(database, {}), AddLine(database, {{kNan, 1}, {1, -inf}}),
-        AddSquare(database, kNan, 0, 10)};
+    const AcDbObjectId nowhere[] = {AddSpot(database, kNan, 1),
+                                    AddSpot(database, 1, inf),
+                                    AddSpot(database, 1e300, 1),
+                                    AddLine(database, {}),
+                                    AddLine(database, {{kNan, 1}, {1, -inf}}),
+                                    AddSquare(database, kNan, 0, 10)};
     const AcDbObjectId broken = AddLine(database, {{1, 1}, {kNan, 2}, {3, 3}, {4, 4}});
     DrawingScene scene;
     scene.SetDatabase(&database);
@@ -246,16 +248,15 @@ TEST(DrawingScene, MeasuresWhatIsShown) {
         double place;
         double size;
     };
-    for (const Case& test : {Case{"near", 0, 100}, Case{"far", 2.6e6, 10},
-                             Case{"very far and small", 1e12, 1}}) {
+    for (const Case& test :
+         {Case{"near", 0, 100}, Case{"far", 2.6e6, 10}, Case{"very far and small", 1e12, 1}}) {
         AcDbDatabase database;
         const AcDbObjectId hidden = AddLayer(database, L"hidden", 1);
         for (int i = 0; i < 20; ++i) {
             AddSpot(database, i, i, hidden); // puts the origin elsewhere
         }
         const double end = test.place + test.size;
-        const AcDbObjectId line =
-            AddLine(database, {{test.place, test.place}, {end, test.place}});
+        const AcDbObjectId line = AddLine(database, {{test.place, test.place}, {end, test.place}});
         AddLine(database, {{test.place, test.place}, {test.place, end}});
         SwitchOff(database, hidden);
         DrawingScene scene;

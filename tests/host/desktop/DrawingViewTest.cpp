@@ -37,8 +37,9 @@ protected:
                              answer = {how, id, x, y};
                          });
         QObject::connect(&view, &DrawingView::SelectionChanged, [this] { ++selectionChanges; });
-        QObject::connect(&view, &DrawingView::PositionMoved,
-                         [this](double x, double y) { position = {x, y}; });
+        QObject::connect(&view, &DrawingView::PositionMoved, [this](double x, double y) {
+            position = {x, y};
+        });
         view.show();
         QApplication::processEvents(); // not painted before the screen has it
     }
@@ -172,10 +173,9 @@ TEST_F(DrawingViewTest, ObeysKeys) {
         double y;
         double scale;
     };
-    for (const Case& test :
-         {Case{Qt::Key_Left, -50, 0, 1}, Case{Qt::Key_Right, 50, 0, 1}, Case{Qt::Key_Up, 0, 38, 1},
-          Case{Qt::Key_Down, 0, -38, 1}, Case{Qt::Key_Plus, 0, 0, 1.25},
-          Case{Qt::Key_Minus, 0, 0, 0.8}}) {
+    for (const Case& test : {Case{Qt::Key_Left, -50, 0, 1}, Case{Qt::Key_Right, 50, 0, 1},
+                             Case{Qt::Key_Up, 0, 38, 1}, Case{Qt::Key_Down, 0, -38, 1},
+                             Case{Qt::Key_Plus, 0, 0, 1.25}, Case{Qt::Key_Minus, 0, 0, 0.8}}) {
         const PlanePoint before = view.Transform().Center();
         const double scale = view.Transform().UnitsPerPixel();
         Key(test.key);

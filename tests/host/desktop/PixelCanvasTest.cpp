@@ -57,8 +57,8 @@ TEST(PixelCanvas, DrawsLinesWhereTheyAreAndOnlyInTheClip) {
 }
 
 TEST(PixelCanvas, SurvivesPlacesFromAnywhere) {
-    const double odd[] = {0, 20, -1e9, 1e27, -1e27, kNan, std::numeric_limits<double>::infinity(),
-                          15.5, 39.999999};
+    const double odd[] = {
+        0, 20, -1e9, 1e27, -1e27, kNan, std::numeric_limits<double>::infinity(), 15.5, 39.999999};
     std::mt19937 random(4);
     const auto any = [&] { return odd[random() % std::size(odd)]; };
     Pixels pixels(kSide, kSide);

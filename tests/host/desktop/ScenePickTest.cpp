@@ -81,8 +81,8 @@ TEST(PathMeasure, MeasuresDistances) {
         PlanePoint place;
         double distance;
     };
-    for (const Case& test : {Case{{5, 3}, 3}, Case{{-3, 4}, 5}, Case{{13, -4}, 5},
-                             Case{{10, 9}, 1}, Case{{10, 6}, 4}, Case{{10, 0}, 0}}) {
+    for (const Case& test : {Case{{5, 3}, 3}, Case{{-3, 4}, 5}, Case{{13, -4}, 5}, Case{{10, 9}, 1},
+                             Case{{10, 6}, 4}, Case{{10, 0}, 0}}) {
         EXPECT_DOUBLE_EQ(DistanceToPath(line, test.place), test.distance)
             << test.place.x << ' ' << test.place.y;
     }

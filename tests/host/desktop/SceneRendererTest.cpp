@@ -225,8 +225,7 @@ TEST(ViewPicture, IsTheSameMovedAsDrawnAnew) {
             int different = 0;
             for (int y = 0; y < kHeight; ++y) {
                 for (int x = 0; x < kWidth; ++x) {
-                    different +=
-                        Pixels::AreDifferent(picture.Image().pixel(x, y), pixels.At(x, y));
+                    different += Pixels::AreDifferent(picture.Image().pixel(x, y), pixels.At(x, y));
                 }
             }
             EXPECT_LT(different, 10) << move.x << ' ' << move.y << (isMass ? " mass" : "");

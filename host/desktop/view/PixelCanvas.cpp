@@ -119,21 +119,22 @@ void PixelCanvas::InsideLine(float x1, float y1, float x2, float y2, Rgb color) 
     }
     const int first = static_cast<int>(x1);
     const int last = static_cast<int>(x2);
+    const std::ptrdiff_t along = isSteep ? m_stride : 1;
+    const std::ptrdiff_t aside = isSteep ? 1 : m_stride;
+    const auto pixel = [&](int i, std::int64_t j) -> std::uint32_t& {
+        return m_pPixels[i * along + j * aside];
+    };
     const float slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
     const float low = std::min(y1, y2);
     const float high = std::max(y1, y2);
-    // In the middle of the first and the last pixel, and never outside of the line's own box.
-    const auto across = [&](int place) {
-        const float y = y1 + (static_cast<float>(place) + 0.5F - x1) * slope;
-        return static_cast<std::int64_t>(std::clamp(y, low, high) * (1 << kFixedBits));
-    };
-    std::int64_t place = across(first);
-    const std::int64_t step = last > first ? (across(last) - place) / (last - first) : 0;
-    const std::ptrdiff_t along = isSteep ? m_stride : 1;
-    const std::ptrdiff_t aside = isSteep ? 1 : m_stride;
-    for (std::uint32_t* pPixel = m_pPixels + first * along; pPixel <= m_pPixels + last * along;
-         pPixel += along, place += step) {
-        pPixel[(place >> kFixedBits) * aside] = color;
+    const auto across = [&](int i) { return y1 + (static_cast<float>(i) + 0.5F - x1) * slope; };
+    // The middle of a pixel at an end may lie beyond the line, and in no pixel at all.
+    pixel(first, static_cast<int>(std::clamp(across(first), low, high))) = color;
+    pixel(last, static_cast<int>(std::clamp(across(last), low, high))) = color;
+    auto place = static_cast<std::int64_t>(across(first + 1) * (1 << kFixedBits));
+    const auto step = static_cast<std::int64_t>(slope * (1 << kFixedBits));
+    for (int i = first + 1; i < last; ++i, place += step) {
+        pixel(i, place >> kFixedBits) = color;
     }
 }
 
@@ -158,21 +159,35 @@ bool PixelCanvas::ClipLine(PixelPoint& from, PixelPoint& to, double border) cons
 }
 
 void PixelCanvas::ClippedLine(double x1, double y1, double x2, double y2, Rgb color) {
-    PixelPoint from{x1, y1};
-    PixelPoint to{x2, y2};
-    if (m_clip.IsEmpty() || !ClipLine(from, to, 0)) {
+    const bool isSeen = std::max(x1, x2) >= m_clip.left && std::min(x1, x2) < m_clip.right &&
+                        std::max(y1, y2) >= m_clip.top && std::min(y1, y2) < m_clip.bottom;
+    if (!isSeen || std::isnan(x1 + y1 + x2 + y2)) {
         return;
     }
-    // Onto pixels that are there; the right and lower border is none of them.
-    const auto keep = [this](PixelPoint& point) {
-        constexpr double kLeast = 0.01;
-        point.x = Within(point.x, m_clip.left, m_clip.right - kLeast);
-        point.y = Within(point.y, m_clip.top, m_clip.bottom - kLeast);
-    };
-    keep(from);
-    keep(to);
-    InsideLine(static_cast<float>(from.x), static_cast<float>(from.y), static_cast<float>(to.x),
-               static_cast<float>(to.y), color);
+    const bool isSteep = std::abs(y2 - y1) > std::abs(x2 - x1);
+    if (isSteep) {
+        std::swap(x1, y1);
+        std::swap(x2, y2);
+    }
+    if (x1 > x2) {
+        std::swap(x1, x2);
+        std::swap(y1, y2);
+    }
+    const int firstAlong = isSteep ? m_clip.top : m_clip.left;
+    const int endAlong = isSteep ? m_clip.bottom : m_clip.right;
+    const int firstAside = isSteep ? m_clip.left : m_clip.top;
+    const int endAside = isSteep ? m_clip.right : m_clip.bottom;
+    const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
+    // Each pixel as if nothing were cut off, so that pieces of a picture fit together.
+    const int end = static_cast<int>(Within(std::floor(x2) + 1, firstAlong, endAlong));
+    for (int i = static_cast<int>(Within(std::floor(x1), firstAlong, endAlong)); i < end; ++i) {
+        const double middle =
+            Within(y1 + (i + 0.5 - x1) * slope, std::min(y1, y2), std::max(y1, y2));
+        if (middle >= firstAside && middle < endAside) {
+            const int j = static_cast<int>(middle);
+            (isSteep ? At(j, i) : At(i, j)) = color;
+        }
+    }
 }
 
 void PixelCanvas::SmoothLine(const PixelPoint& start, const PixelPoint& end, double width,

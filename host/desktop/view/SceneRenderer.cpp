@@ -26,34 +26,48 @@ AcGeExtents2d SeenThrough(const ViewTransform& transform, const PixelRect& clip,
                            {clip.right + border, clip.bottom + border});
 }
 
-/// Places of a kind in view; counts no farther than the limit.
-std::uint32_t CountPlaces(const DrawingScene& scene, ShapeKind kind, const FloatBox& view,
-                          std::uint32_t limit) {
+struct Count {
+    std::uint32_t items = 0;
     std::uint32_t places = 0;
+};
+
+/// What is in view of a kind; counts little farther than one of the limits.
+Count CountOf(const DrawingScene& scene, ShapeKind kind, const FloatBox& view, const Count& limit) {
+    Count count;
     ForItemsIn(scene, kind, view, [&](std::uint32_t item) {
-        places += static_cast<std::uint32_t>(scene.Items(kind).Places(item).size());
-        return places <= limit;
+        ++count.items;
+        count.places += static_cast<std::uint32_t>(scene.Items(kind).Places(item).size());
+        return count.items <= limit.items && count.places <= limit.places;
     });
-    return places;
+    return count;
 }
 
+struct SizeStep {
+    std::uint32_t most; ///< points
+    double pixels;
+};
+constexpr SizeStep kPointSizes[] = {{300, 7}, {3000, 5}, {30000, 3}};
+
 double SizeOfPoints(std::uint32_t points) {
-    constexpr std::uint32_t kFew = 3000;
-    constexpr std::uint32_t kMany = 30000;
-    return points <= kFew ? 7 : points <= kMany ? 3 : 1;
+    for (const SizeStep& step : kPointSizes) {
+        if (points <= step.most) {
+            return step.pixels;
+        }
+    }
+    return 1;
 }
 
 } // namespace
 
 RenderDetail DetailOf(const DrawingScene& scene, const ViewTransform& transform) {
     const FloatBox view = scene.Relative(transform.Visible());
-    constexpr std::uint32_t kEnough = 30001;
-    const std::uint32_t points = CountPlaces(scene, ShapeKind::Point, view, kEnough);
-    const std::uint32_t lines = CountPlaces(scene, ShapeKind::Line, view, kFinePlaces);
-    const std::uint32_t areas = CountPlaces(scene, ShapeKind::Area, view, kFinePlaces);
-    const std::uint32_t texts = CountPlaces(scene, ShapeKind::Text, view, kMostTexts);
-    return {points + lines + areas <= kFinePlaces, SizeOfPoints(points), texts <= kMostTexts,
-            points + lines / 2 + areas / 4 <= kMostLabels};
+    const Count limit{kFinePlaces, kFinePlaces};
+    const Count points = CountOf(scene, ShapeKind::Point, view, {30000, 30000});
+    const Count lines = CountOf(scene, ShapeKind::Line, view, limit);
+    const Count areas = CountOf(scene, ShapeKind::Area, view, limit);
+    const Count texts = CountOf(scene, ShapeKind::Text, view, {kMostTexts, kMostTexts});
+    return {points.places + lines.places + areas.places <= kFinePlaces, SizeOfPoints(points.items),
+            texts.items <= kMostTexts, points.items + lines.items + areas.items <= kMostLabels};
 }
 
 void SceneRenderer::Start(const DrawingScene& scene, const ViewTransform& transform,

@@ -38,9 +38,10 @@ struct LabelSpot {
     double room = 0; ///< longest name that it takes, in pixels
 };
 
-/// The middle of the longest straight part in sight.
+/// The middle of the longest straight part in sight, with room as long as all such parts.
 LabelSpot SpotOnLine(const std::vector<PlanePoint>& places, const ViewTransform& transform) {
-    LabelSpot best;
+    LabelSpot spot;
+    double longest = 0;
     for (std::size_t i = 1; i < places.size(); ++i) {
         const PixelPoint from = transform.ToPixel(places[i - 1].x, places[i - 1].y);
         const PixelPoint to = transform.ToPixel(places[i].x, places[i].y);
@@ -48,11 +49,13 @@ LabelSpot SpotOnLine(const std::vector<PlanePoint>& places, const ViewTransform&
         const double length = std::hypot(to.x - from.x, to.y - from.y);
         const bool isSeen = middle.x > 0 && middle.x < transform.Width() && middle.y > 0 &&
                             middle.y < transform.Height();
-        if (isSeen && length > best.room) {
-            best = {middle, length};
+        spot.room += isSeen ? length : 0;
+        if (isSeen && length > longest) {
+            longest = length;
+            spot.middle = middle;
         }
     }
-    return best;
+    return spot;
 }
 
 LabelSpot SpotInArea(const EntityShape& shape, const ViewTransform& transform) {
@@ -67,12 +70,14 @@ void TextOverlay::Paint(QPainter& painter, const QFont& font, const DrawingScene
                         const ViewTransform& transform, const RenderSettings& settings,
                         const RenderDetail& detail) {
     m_painted.clear();
+    m_symbols.clear();
     const Frame frame{painter, scene, transform, settings,
                       WithPixels(font, kLabelPixels * settings.pixelRatio)};
     if (detail.hasTexts) {
         PaintTexts(frame);
     }
     if (detail.hasLabels) {
+        NoteSymbols(frame, detail.pointSize * settings.pixelRatio);
         painter.setFont(frame.font);
         const QFontMetricsF metrics(frame.font);
         for (const ShapeKind kind : {ShapeKind::Point, ShapeKind::Line, ShapeKind::Area}) {
@@ -121,14 +126,30 @@ void TextOverlay::PaintText(const Frame& frame, const AcDbText& text, Rgb color)
     m_painted.push_back({QRectF(place.x, place.y - height, length, height), text.objectId()});
 }
 
+void TextOverlay::NoteSymbols(const Frame& frame, double size) {
+    const ItemStore& points = frame.scene.Items(ShapeKind::Point);
+    const FloatBox view = frame.scene.Relative(frame.transform.Visible());
+    ForItemsIn(frame.scene, ShapeKind::Point, view, [&](std::uint32_t item) {
+        if (frame.scene.Shape(AcDbObjectId(points.Id(item)), m_shape)) {
+            const PlanePoint& place = m_shape.places.front();
+            const PixelPoint spot = frame.transform.ToPixel(place.x, place.y);
+            m_symbols.emplace_back(spot.x - size / 2, spot.y - size / 2, size, size);
+        }
+        return true;
+    });
+}
+
 void TextOverlay::PaintLabels(const Frame& frame, ShapeKind kind, const QFontMetricsF& metrics) {
     const double gap = kGap * frame.settings.pixelRatio;
     const FloatBox view = frame.scene.Relative(frame.transform.Visible());
     ForItemsIn(frame.scene, kind, view, [&](std::uint32_t item) {
         const AcDbObjectId id(frame.scene.Items(kind).Id(item));
         const AcDbEntity* const pEntity = frame.scene.Entity(id);
-        const QString name = pEntity ? NameOf(*pEntity) : QString();
-        if (name.isEmpty() || !ReadShape(*pEntity, m_shape)) {
+        if (!pEntity || !ReadShape(*pEntity, m_shape)) {
+            return true;
+        }
+        const QString name = NameOf(*pEntity);
+        if (name.isEmpty()) {
             return true;
         }
         const double length = metrics.horizontalAdvance(name);
@@ -157,7 +178,7 @@ void TextOverlay::PaintLabel(const Frame& frame, AcDbObjectId id, const QString&
                              const QRectF& box) {
     const Rgb ink = AciColor(7, frame.settings.background);
     QColor paper = QColor::fromRgb(frame.settings.paper);
-    paper.setAlpha(190);
+    paper.setAlpha(150);
     frame.painter.fillRect(box.adjusted(-1, 0, 1, 0), paper);
     frame.painter.setPen(QColor::fromRgb(MixColors(frame.settings.paper, ink, 200)));
     frame.painter.drawText(QPointF(box.left(), box.bottom() - box.height() / 5), name);
@@ -166,7 +187,9 @@ void TextOverlay::PaintLabel(const Frame& frame, AcDbObjectId id, const QString&
 
 bool TextOverlay::IsFree(const QRectF& box) const {
     return std::none_of(m_painted.begin(), m_painted.end(),
-                        [&](const Painted& painted) { return painted.box.intersects(box); });
+                        [&](const Painted& painted) { return painted.box.intersects(box); }) &&
+           std::none_of(m_symbols.begin(), m_symbols.end(),
+                        [&](const QRectF& symbol) { return symbol.intersects(box); });
 }
 
 AcDbObjectId TextOverlay::EntityAt(const PixelPoint& place) const {

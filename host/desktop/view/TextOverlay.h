@@ -39,11 +39,14 @@ private:
 
     void PaintTexts(const Frame& frame);
     void PaintText(const Frame& frame, const AcDbText& text, Rgb color);
+    /// Names do not cover symbols.
+    void NoteSymbols(const Frame& frame, double size);
     void PaintLabels(const Frame& frame, ShapeKind kind, const QFontMetricsF& metrics);
     void PaintLabel(const Frame& frame, AcDbObjectId id, const QString& name, const QRectF& box);
     bool IsFree(const QRectF& box) const;
 
     std::vector<Painted> m_painted;
+    std::vector<QRectF> m_symbols;
     EntityShape m_shape;
 };
 

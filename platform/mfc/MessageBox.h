@@ -1,0 +1,26 @@
+// Messages and questions to the user.
+#pragma once
+
+#include "platform/Api.h"
+#include "platform/win/Types.h"
+
+class CWnd;
+
+inline constexpr UINT MB_OK = 0x00;
+inline constexpr UINT MB_OKCANCEL = 0x01;
+inline constexpr UINT MB_YESNOCANCEL = 0x03;
+inline constexpr UINT MB_YESNO = 0x04;
+inline constexpr UINT MB_TYPEMASK = 0x0F;
+inline constexpr UINT MB_ICONSTOP = 0x10;
+inline constexpr UINT MB_ICONQUESTION = 0x20;
+inline constexpr UINT MB_ICONEXCLAMATION = 0x30;
+inline constexpr UINT MB_ICONINFORMATION = 0x40;
+inline constexpr UINT MB_ICONMASK = 0xF0;
+
+/// Shows a text with buttons and waits. Without a desktop it asks at the host's prompt.
+/// \return the id of the button; with no answer the one that changes least: IDCANCEL, or
+/// IDNO where there is no cancel button
+PLATFORM_API int ShowMessageBox(CWnd* pParent, const wchar_t* text, const wchar_t* caption,
+                                UINT type);
+/// The same over the active window, under the product's name.
+PLATFORM_API int AfxMessageBox(const wchar_t* text, UINT type);

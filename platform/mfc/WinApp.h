@@ -1,0 +1,23 @@
+// The toolkit behind the windows: when it comes to life, and whether there is a desktop.
+#pragma once
+
+#include "platform/Api.h"
+
+/// With a desktop, windows and message boxes wait for the user. Without one (the state at
+/// first), a modal dialog prints its texts and answers IDOK, and a message box asks at the
+/// host's prompt: nothing waits for somebody who cannot see it. Set it before the first
+/// window: without a desktop the windows are made in memory only.
+PLATFORM_API void AfxSetDesktopMode(bool desktop);
+PLATFORM_API bool AfxIsDesktopMode();
+
+/// Brings the toolkit to life. The first window does it by itself. The display is that of
+/// QT_QPA_PLATFORM, an X server that answers, or Wayland, or else memory. Numbers keep their
+/// point in every language.
+PLATFORM_API void AfxStartToolkit();
+/// Destroys all windows that are left, and the toolkit with them; at the end of the process.
+PLATFORM_API void AfxStopToolkit();
+
+/// Runs what waits: posted messages, timers that are due, painting. Does not wait itself.
+PLATFORM_API void AfxPumpMessages();
+/// Opens an address ("https:", "file:") in the program that the desktop has for it.
+PLATFORM_API bool AfxOpenAddress(const wchar_t* address);

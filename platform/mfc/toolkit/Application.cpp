@@ -1,0 +1,282 @@
+#include "platform/mfc/toolkit/Application.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cstdlib>
+#include <iterator>
+
+#include <QCursor>
+#include <QDesktopServices>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QUrl>
+#include <xcb/xcb.h>
+
+#include "platform/mfc/WaitCursor.h"
+#include "platform/mfc/WinApp.h"
+#include "platform/mfc/toolkit/Convert.h"
+#include "platform/mfc/toolkit/WindowCore.h"
+
+namespace {
+
+bool g_desktop = false;
+/// Left alone at the end of the process, where the order of destruction is nobody's.
+Application* g_pApplication = nullptr;
+
+bool XServerAnswers() {
+    if (!std::getenv("DISPLAY")) {
+        return false;
+    }
+    xcb_connection_t* const pConnection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(pConnection) == 0;
+    xcb_disconnect(pConnection);
+    return answers;
+}
+
+/// The toolkit ends the process if it cannot open a display, so it is asked for one only
+/// where there is one. A Wayland client can neither read nor set its place, so X11 comes
+/// first there, too.
+const char* ChosenDisplay() {
+    if (!g_desktop) {
+        return "offscreen";
+    }
+    if (XServerAnswers()) {
+        return "xcb;offscreen";
+    }
+    return std::getenv("WAYLAND_DISPLAY") ? "wayland;offscreen" : "offscreen";
+}
+
+bool IsTranslated(QEvent::Type type) {
+    switch (type) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        return true;
+    default:
+        return false;
+    }
+}
+
+CPoint PointOf(const QEvent* pEvent) {
+    const auto* const pMouse = dynamic_cast<const QMouseEvent*>(pEvent);
+    return ToCPoint(pMouse ? pMouse->globalPosition().toPoint() : QCursor::pos());
+}
+
+MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEvent) {
+    MSG msg;
+    msg.hwnd = core.Handle();
+    msg.pt = PointOf(pEvent);
+    if (const auto* pKey = dynamic_cast<const QKeyEvent*>(pEvent)) {
+        msg.message = WM_KEYDOWN;
+        msg.wParam = static_cast<WPARAM>(VirtualKeyOf(pKey->key()));
+        return msg;
+    }
+    const auto* const pMouse = static_cast<const QMouseEvent*>(pEvent);
+    if (pEvent->type() == QEvent::MouseMove) {
+        msg.message = WM_MOUSEMOVE;
+    } else if (pMouse->button() == Qt::LeftButton) {
+        msg.message = WM_LBUTTONUP;
+    } else if (pMouse->button() == Qt::RightButton) {
+        msg.message = WM_RBUTTONUP;
+    }
+    const QPoint point = pWidget->mapTo(core.Client(), pMouse->position().toPoint());
+    msg.lParam = PackInts(point.x(), point.y());
+    return msg;
+}
+
+} // namespace
+
+int VirtualKeyOf(int key) {
+    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9)) {
+        return key;
+    }
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
+        return VK_F1 + (key - Qt::Key_F1);
+    }
+    static constexpr struct {
+        Qt::Key key;
+        int code;
+    } kKeys[] = {
+        {Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},   {Qt::Key_Escape, VK_ESCAPE},
+        {Qt::Key_Tab, VK_TAB},       {Qt::Key_Backspace, VK_BACK}, {Qt::Key_Shift, VK_SHIFT},
+        {Qt::Key_Space, VK_SPACE},   {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Insert, VK_INSERT},
+        {Qt::Key_Left, VK_LEFT},     {Qt::Key_Delete, VK_DELETE},  {Qt::Key_Right, VK_RIGHT},
+        {Qt::Key_Up, VK_UP},         {Qt::Key_Down, VK_DOWN},
+    };
+    const auto* const pFound = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                            [key](const auto& entry) { return entry.key == key; });
+    return pFound == std::end(kKeys) ? VK_OTHER : pFound->code;
+}
+
+bool Application::notify(QObject* pReceiver, QEvent* pEvent) {
+    // A popup (an open list, a menu) has the keyboard and the mouse to itself.
+    if (IsTranslated(pEvent->type()) && pReceiver->isWidgetType() && !activePopupWidget() &&
+        (m_inputs.empty() || m_inputs.back()->pEvent != pEvent)) {
+        auto* const pWidget = static_cast<QWidget*>(pReceiver);
+        if (WindowCore* const pCore = WindowCore::Around(pWidget)) {
+            return NotifyInput(pWidget, *pCore, pEvent);
+        }
+    }
+    return QApplication::notify(pReceiver, pEvent);
+}
+
+bool Application::NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent) {
+    const auto* const pInputEvent = static_cast<QInputEvent*>(pEvent);
+    Input input{pWidget, pEvent, pInputEvent->modifiers(), PointOf(pEvent)};
+    m_inputs.push_back(&input);
+    struct Scope {
+        std::vector<Input*>& inputs;
+        ~Scope() { inputs.pop_back(); }
+    } scope{m_inputs};
+
+    const QPointer<QWidget> receiver = pWidget;
+    enmOutcome outcome = enmOutcome::GoesOn;
+    const bool ownRelease = pEvent->type() == QEvent::MouseButtonRelease && core.Role() &&
+                            core.Role()->OwnsRelease();
+    if (!ownRelease && !TakeTranslated(pEvent, outcome)) {
+        MSG msg = MessageOf(core, pWidget, pEvent);
+        if (msg.message != 0 && core.PreTranslate(msg)) {
+            outcome = input.dispatched ? enmOutcome::DispatchedSoon : enmOutcome::Eaten;
+        }
+        if (pEvent->type() == QEvent::ShortcutOverride && outcome != enmOutcome::GoesOn) {
+            // Accepted, it is no shortcut and comes again as a key press.
+            const auto* const pKey = static_cast<QKeyEvent*>(pEvent);
+            m_keys.push_back({pKey->timestamp(), pKey->key(), pKey->modifiers(), outcome});
+            pEvent->accept();
+            return true;
+        }
+        if (pEvent->type() == QEvent::ShortcutOverride) {
+            const auto* const pKey = static_cast<QKeyEvent*>(pEvent);
+            m_keys.push_back({pKey->timestamp(), pKey->key(), pKey->modifiers(), outcome});
+        }
+        if (outcome == enmOutcome::DispatchedSoon) {
+            return input.result;
+        }
+    }
+    if (outcome == enmOutcome::Eaten || !receiver) {
+        pEvent->accept();
+        return true;
+    }
+    return QApplication::notify(pWidget, pEvent);
+}
+
+bool Application::TakeTranslated(const QEvent* pEvent, enmOutcome& outcome) {
+    if (pEvent->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto* const pKey = static_cast<const QKeyEvent*>(pEvent);
+    const auto found = std::find_if(m_keys.begin(), m_keys.end(), [pKey](const TranslatedKey& key) {
+        return key.time == pKey->timestamp() && key.key == pKey->key() &&
+               key.modifiers == pKey->modifiers();
+    });
+    if (found == m_keys.end()) {
+        return false;
+    }
+    outcome = found->outcome;
+    // What stands before it was a shortcut, whose press never came. What stands behind it
+    // belongs to keys typed in a nested loop, all of which are done.
+    m_keys.erase(m_keys.begin(), std::next(found));
+    return true;
+}
+
+void Application::DispatchInHand() {
+    if (m_inputs.empty() || m_inputs.back()->dispatched) {
+        return;
+    }
+    Input& input = *m_inputs.back();
+    input.dispatched = true;
+    if (input.pEvent->type() != QEvent::ShortcutOverride) {
+        input.result = QApplication::notify(input.pReceiver, input.pEvent);
+    }
+}
+
+Qt::KeyboardModifiers Application::ModifiersInHand() const {
+    return m_inputs.empty() ? keyboardModifiers() : m_inputs.back()->modifiers;
+}
+
+CPoint Application::PointInHand() const {
+    return m_inputs.empty() ? ToCPoint(QCursor::pos()) : m_inputs.back()->point;
+}
+
+void AfxSetDesktopMode(bool desktop) {
+    g_desktop = desktop;
+}
+
+bool AfxIsDesktopMode() {
+    return g_desktop;
+}
+
+void AfxStartToolkit() {
+    if (QCoreApplication::instance()) {
+        return;
+    }
+    if (!std::getenv("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", ChosenDisplay());
+    }
+    static int argc = 1;
+    static char name[] = "tessaly";
+    static char* argv[] = {name, nullptr};
+    g_pApplication = new Application(argc, argv);
+    // It takes the user's language for everything, and "3,14" is no number in our files.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+void AfxStopToolkit() {
+    for (WindowCore* const pCore : WindowCore::All()) {
+        if (!pCore->Parent() && WindowCore::Find(pCore->Handle())) {
+            pCore->Destroy();
+        }
+    }
+    delete g_pApplication;
+    g_pApplication = nullptr;
+}
+
+void AfxPumpMessages() {
+    if (!QCoreApplication::instance()) {
+        return;
+    }
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool AfxOpenAddress(const wchar_t* address) {
+    AfxStartToolkit();
+    return QDesktopServices::openUrl(QUrl(ToQString(address)));
+}
+
+void DispatchMessage(const MSG*) {
+    if (g_pApplication) {
+        g_pApplication->DispatchInHand();
+    }
+}
+
+CPoint GetMessagePos() {
+    return g_pApplication ? g_pApplication->PointInHand() : CPoint();
+}
+
+short GetKeyState(int virtualKey) {
+    if (!g_pApplication) {
+        return 0;
+    }
+    const Qt::KeyboardModifiers held = g_pApplication->ModifiersInHand();
+    const Qt::KeyboardModifier asked =
+        virtualKey == VK_CONTROL ? Qt::ControlModifier
+                                 : (virtualKey == VK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier);
+    return held.testFlag(asked) && asked != Qt::NoModifier ? static_cast<short>(-32768) : short{0};
+}
+
+CWaitCursor::CWaitCursor() : m_shown(QCoreApplication::instance() != nullptr) {
+    if (m_shown) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+}
+
+CWaitCursor::~CWaitCursor() {
+    if (m_shown && QCoreApplication::instance()) {
+        QApplication::restoreOverrideCursor();
+    }
+}

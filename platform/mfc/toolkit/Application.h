@@ -1,0 +1,48 @@
+// The toolkit's application object. For sources only.
+#pragma once
+
+#include <vector>
+
+#include <QApplication>
+
+#include "platform/mfc/Messages.h"
+
+class WindowCore;
+
+/// Shows keys and mouse buttons to PreTranslateMessage before the toolkit delivers them.
+class Application final : public QApplication {
+public:
+    Application(int& argc, char** argv) : QApplication(argc, argv) {}
+    bool notify(QObject* pReceiver, QEvent* pEvent) override;
+    void DispatchInHand();
+    /// Modifiers and place of the event in hand.
+    Qt::KeyboardModifiers ModifiersInHand() const;
+    CPoint PointInHand() const;
+
+private:
+    enum class enmOutcome { GoesOn, Eaten, DispatchedSoon };
+    struct Input {
+        QObject* pReceiver;
+        QEvent* pEvent;
+        Qt::KeyboardModifiers modifiers;
+        CPoint point;
+        bool dispatched = false;
+        bool result = false;
+    };
+    /// A key whose shortcut phase was translated already; its press follows.
+    struct TranslatedKey {
+        quint64 time;
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        enmOutcome outcome;
+    };
+
+    bool NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent);
+    bool TakeTranslated(const QEvent* pEvent, enmOutcome& outcome);
+
+    std::vector<Input*> m_inputs;
+    std::vector<TranslatedKey> m_keys;
+};
+
+/// The code of a toolkit key.
+int VirtualKeyOf(int key);

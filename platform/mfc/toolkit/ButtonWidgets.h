@@ -1,0 +1,55 @@
+// The widgets of buttons. For sources only.
+#pragma once
+
+#include <QCheckBox>
+#include <QPushButton>
+
+#include "platform/mfc/toolkit/WindowCore.h"
+
+/// What both kinds have in common.
+template <class Base>
+class ButtonBase : public Hooked<Base> {
+public:
+    ButtonBase(QWidget* pParent, UINT style)
+        : Hooked<Base>(pParent), m_automatic((style & BS_TYPEMASK) == BS_AUTOCHECKBOX) {
+        const bool checks = m_automatic || (style & BS_TYPEMASK) == BS_CHECKBOX;
+        this->setCheckable(checks);
+        QObject::connect(this, &QAbstractButton::clicked, this, [this] {
+            if (WindowCore* const pCore = this->Core()) {
+                pCore->Command(BN_CLICKED);
+            }
+        });
+    }
+    QString Caption() const override { return this->text(); }
+    void SetCaption(const QString& text) override { this->setText(text); }
+    bool Press() override {
+        if (this->isCheckable()) {
+            return false;
+        }
+        this->click();
+        return true;
+    }
+
+protected:
+    void nextCheckState() override {
+        if (m_automatic) {
+            Base::nextCheckState();
+        }
+    }
+
+private:
+    bool m_automatic;
+};
+
+class PushButtonWidget final : public ButtonBase<QPushButton> {
+public:
+    PushButtonWidget(QWidget* pParent, UINT style);
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+
+private:
+    bool m_ownerDrawn;
+};
+
+using CheckBoxWidget = ButtonBase<QCheckBox>;

@@ -1,0 +1,35 @@
+// What the desktop looks like: monitors, cursor, work area, stacking of windows.
+#pragma once
+
+#include <vector>
+
+#include "platform/Api.h"
+#include "platform/win/Rect.h"
+
+struct Monitor {
+    CRect full;
+    CRect work; ///< what panels of the desktop (a task bar) leave free
+};
+
+/// The desktop as it is now; every call asks anew. Main thread.
+class PLATFORM_API IScreens {
+public:
+    virtual ~IScreens() = default;
+    /// The primary one first; never empty.
+    virtual std::vector<Monitor> Monitors() const = 0;
+    virtual CPoint Cursor() const = 0;
+    /// The visible top-level windows of this process, from the front to the back.
+    virtual std::vector<HWND> Stacking() const = 0;
+};
+
+/// The desktop in force: that of the toolkit unless another was set.
+PLATFORM_API IScreens& Screens();
+/// Sets another desktop and returns the one set before. Not owned; null brings back the
+/// toolkit's.
+PLATFORM_API IScreens* SetScreens(IScreens* pScreens);
+
+/// The monitor that holds the point, or the nearest one. The list must not be empty.
+PLATFORM_API Monitor NearestMonitor(const std::vector<Monitor>& monitors, CPoint point);
+/// The strip along one edge that the work area leaves out, the thickest one if there are
+/// several; empty without one.
+PLATFORM_API CRect TaskBarOf(const Monitor& monitor);

@@ -1,0 +1,346 @@
+// Messages on their way to handlers and back to the toolkit.
+#include "tests/mfc/WindowTest.h"
+
+#include <functional>
+#include <memory>
+
+#include "platform/mfc/AdUiBaseDialog.h"
+#include "platform/mfc/Button.h"
+#include "platform/mfc/DC.h"
+
+namespace {
+
+using Log = std::vector<std::string>;
+
+/// Tells what it got, when its own handler runs and when it is done.
+class LoggingWnd : public CWnd {
+public:
+    LoggingWnd(std::string name, Log& log) : m_name(std::move(name)), m_log(log) {}
+
+    std::function<void()> duringSize;
+    std::function<void(UINT)> onCommand;
+    std::function<void(DWORD_PTR)> onTimer;
+    bool sizeBaseFirst = false;
+    bool deleteSelf = false;
+
+protected:
+    const MessageMap* GetMessageMap() const override {
+        static constexpr MessageEntry kEntries[] = {
+            MapMessage<&LoggingWnd::OnSize>(WM_SIZE),
+            MapMessage<&LoggingWnd::OnTimer>(WM_TIMER),
+            MapMessage<&LoggingWnd::OnDestroy>(WM_DESTROY),
+            MapMessage<&LoggingWnd::OnPrivate>(WM_USER + 2),
+            MapMessage<&LoggingWnd::OnRButtonUp>(WM_RBUTTONUP),
+            MapCommandRange<&LoggingWnd::OnAnyCommand>(100, 102),
+        };
+        static const MessageMap kMap{CWnd::GetMessageMap(), kEntries};
+        return &kMap;
+    }
+    void PostNcDestroy() override {
+        m_log.push_back(m_name + " gone");
+        if (deleteSelf) {
+            delete this;
+        }
+    }
+
+    void OnSize(UINT type, int cx, int cy) {
+        if (sizeBaseFirst) {
+            CWnd::OnSize(type, cx, cy);
+        }
+        m_log.push_back(m_name + " size " + std::to_string(cx) + "x" + std::to_string(cy));
+        if (duringSize) {
+            duringSize();
+        }
+    }
+    void OnTimer(DWORD_PTR id) {
+        m_log.push_back(m_name + " timer " + std::to_string(id));
+        if (onTimer) {
+            onTimer(id);
+        }
+    }
+    void OnDestroy() {
+        CWnd::OnDestroy();
+        m_log.push_back(m_name + " destroy " + std::to_string(GetWindowRect().Width()));
+    }
+    LRESULT OnPrivate(WPARAM wParam, LPARAM lParam) {
+        m_log.push_back(m_name + " private");
+        return static_cast<LRESULT>(wParam) - lParam;
+    }
+    void OnRButtonUp(UINT, CPoint point) {
+        m_log.push_back(m_name + " right " + std::to_string(point.x));
+    }
+    void OnAnyCommand() { m_log.push_back(m_name + " command"); }
+
+private:
+    std::string m_name;
+    Log& m_log;
+};
+
+class MessagesTest : public WindowTest {
+protected:
+    Log m_log;
+};
+
+TEST_F(MessagesTest, SentMessagesAnswerAndPostedOnesWait) {
+    LoggingWnd wnd("w", m_log);
+    EXPECT_EQ(wnd.SendMessage(WM_USER + 2, 9, 4), 0) << "without a window";
+    EXPECT_FALSE(wnd.PostMessage(WM_USER + 2));
+    ASSERT_TRUE(wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr));
+    m_log.clear();
+    EXPECT_EQ(wnd.SendMessage(WM_USER + 2, 9, -4), 13);
+    EXPECT_EQ(wnd.SendMessage(WM_USER + 3, 9, 4), 0) << "nobody handles it";
+    EXPECT_TRUE(wnd.PostMessage(WM_USER + 2));
+    EXPECT_EQ(m_log, Log{"w private"});
+    AfxPumpMessages();
+    EXPECT_EQ(m_log, (Log{"w private", "w private"}));
+
+    const HWND handle = wnd.GetSafeHwnd();
+    EXPECT_EQ(CWnd::FromHandle(handle), &wnd);
+    wnd.PostMessage(WM_USER + 2);
+    wnd.DestroyWindow();
+    m_log.clear();
+    AfxPumpMessages();
+    EXPECT_EQ(m_log, Log()) << "a posted message outlived its window";
+    EXPECT_FALSE(IsWindow(handle));
+    EXPECT_EQ(CWnd::FromHandle(handle), nullptr);
+}
+
+TEST_F(MessagesTest, CommandsGoByCodeAndRange) {
+    LoggingWnd wnd("w", m_log);
+    wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
+    m_log.clear();
+    const struct {
+        UINT id;
+        UINT code;
+        bool handled;
+    } cases[] = {{99, 0, false}, {100, 0, true}, {102, 0, true}, {103, 0, false}, {101, 1, false}};
+    for (const auto& c : cases) {
+        m_log.clear();
+        EXPECT_EQ(wnd.SendMessage(WM_COMMAND, PackCommand(c.id, c.code)), c.handled ? 1 : 0);
+        EXPECT_EQ(m_log.size(), c.handled ? 1U : 0U) << c.id << " " << c.code;
+    }
+}
+
+TEST_F(MessagesTest, WindowsGoOuterFirstAndAreGoneInnerFirst) {
+    LoggingWnd outer("outer", m_log);
+    LoggingWnd inner("inner", m_log);
+    LoggingWnd innermost("innermost", m_log);
+    outer.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
+    inner.Create(WS_CHILD, {0, 0, 20, 20}, &outer, 5);
+    innermost.Create(WS_CHILD, {0, 0, 10, 10}, &inner, 6);
+    EXPECT_EQ(outer.GetDlgItem(5), &inner);
+    EXPECT_EQ(outer.GetDlgItem(6), nullptr);
+    EXPECT_EQ(innermost.GetParent(), &inner);
+    m_log.clear();
+    outer.DestroyWindow();
+    EXPECT_EQ(m_log, (Log{"outer destroy 50", "inner destroy 20", "innermost destroy 10",
+                          "innermost gone", "inner gone", "outer gone"}));
+    EXPECT_EQ(inner.GetSafeHwnd(), nullptr);
+    EXPECT_FALSE(outer.DestroyWindow());
+    EXPECT_TRUE(outer.Create(WS_POPUP, {0, 0, 30, 30}, nullptr)) << "the object can go on";
+}
+
+TEST_F(MessagesTest, SizeComesAtOnceAlsoToHiddenWindows) {
+    LoggingWnd wnd("w", m_log);
+    wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
+    EXPECT_EQ(m_log, Log{"w size 50x40"});
+    wnd.SetWindowPos(nullptr, 7, 9, 60, 30, SWP_NOZORDER);
+    EXPECT_EQ(m_log.back(), "w size 60x30");
+    EXPECT_EQ(wnd.GetWindowRect(), CRect(7, 9, 67, 39));
+    const std::size_t before = m_log.size();
+    wnd.ShowWindow(SW_SHOW);
+    AfxPumpMessages();
+    EXPECT_EQ(m_log.size(), before) << "told twice";
+}
+
+TEST_F(MessagesTest, TimersComeUntilTheyAreKilled) {
+    LoggingWnd wnd("w", m_log);
+    wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
+    m_log.clear();
+    int calls = 0;
+    wnd.onTimer = [&](DWORD_PTR id) {
+        if (++calls == 3) {
+            EXPECT_TRUE(wnd.KillTimer(id));
+        }
+    };
+    EXPECT_EQ(wnd.SetTimer(4096, 100000), 4096U);
+    wnd.SetTimer(4096, 1); // anew
+    QTest::qWait(50);
+    EXPECT_EQ(m_log, (Log{"w timer 4096", "w timer 4096", "w timer 4096"}));
+    EXPECT_FALSE(wnd.KillTimer(4096));
+}
+
+TEST_F(MessagesTest, AWindowMayGoInItsOwnHandlers) {
+    const auto make = [this] {
+        auto* const pWnd = new LoggingWnd("w", m_log);
+        pWnd->deleteSelf = true;
+        pWnd->Create(WS_POPUP | WS_VISIBLE, {0, 0, 50, 40}, nullptr);
+        m_log.clear();
+        return pWnd;
+    };
+    LoggingWnd* pWnd = make();
+    pWnd->duringSize = [pWnd] { pWnd->DestroyWindow(); };
+    pWnd->MoveWindow({0, 0, 60, 40});
+    EXPECT_EQ(m_log, (Log{"w size 60x40", "w destroy 60", "w gone"})) << "while it was moved";
+
+    pWnd = make();
+    pWnd->onTimer = [pWnd](DWORD_PTR) { pWnd->DestroyWindow(); };
+    pWnd->SetTimer(1, 1);
+    QTest::qWait(20);
+    EXPECT_EQ(m_log, (Log{"w timer 1", "w destroy 50", "w gone"})) << "in its timer";
+
+    pWnd = make();
+    FrameOf(*pWnd)->close();
+    EXPECT_EQ(m_log, (Log{"w destroy 50", "w gone"})) << "by its close box";
+}
+
+/// Pushes a button that takes the whole window away.
+TEST_F(MessagesTest, AButtonMayDestroyItsParent) {
+    class Parent : public LoggingWnd {
+    public:
+        using LoggingWnd::LoggingWnd;
+        bool OnCommand(WPARAM, LPARAM) override {
+            DestroyWindow();
+            return true;
+        }
+    };
+    Parent parent("w", m_log);
+    CButton button;
+    parent.Create(WS_POPUP | WS_VISIBLE, {0, 0, 80, 40}, nullptr);
+    button.Create(L"Close", WS_VISIBLE, {0, 0, 60, 20}, &parent, 100);
+    QTest::mouseClick(WidgetOf(button), Qt::LeftButton);
+    EXPECT_EQ(button.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(parent.GetSafeHwnd(), nullptr);
+}
+
+/// The base handler does what the toolkit does by itself, when it is called and once.
+TEST_F(MessagesTest, BaseHandlersRunWhereTheyAreCalled) {
+    enum class Call { Never, First, Last, Twice };
+    class Check : public CButton {
+    public:
+        explicit Check(Call call) : m_call(call) {}
+        int before = -1;
+        int after = -1;
+
+    protected:
+        const MessageMap* GetMessageMap() const override {
+            static constexpr MessageEntry kEntries[] = {
+                MapMessage<&Check::OnLButtonUp>(WM_LBUTTONUP)};
+            static const MessageMap kMap{CButton::GetMessageMap(), kEntries};
+            return &kMap;
+        }
+        void OnLButtonUp(UINT flags, CPoint point) {
+            if (m_call == Call::First || m_call == Call::Twice) {
+                CButton::OnLButtonUp(flags, point);
+            }
+            before = GetCheck();
+            if (m_call == Call::Last || m_call == Call::Twice) {
+                CButton::OnLButtonUp(flags, point);
+            }
+            after = GetCheck();
+        }
+
+    private:
+        Call m_call;
+    };
+    const struct {
+        Call call;
+        int before;
+        int after;
+    } cases[] = {{Call::Never, 0, 0}, {Call::First, 1, 1}, {Call::Last, 0, 1}, {Call::Twice, 1, 1}};
+    for (const auto& c : cases) {
+        CWnd parent;
+        parent.Create(WS_POPUP | WS_VISIBLE, {0, 0, 100, 50}, nullptr);
+        Check box(c.call);
+        box.Create(L"", WS_VISIBLE | BS_AUTOCHECKBOX | BS_PUSHLIKE, {0, 0, 60, 20}, &parent, 1);
+        QTest::mouseClick(WidgetOf(box), Qt::LeftButton);
+        EXPECT_EQ(box.before, c.before) << static_cast<int>(c.call);
+        EXPECT_EQ(box.after, c.after) << static_cast<int>(c.call);
+    }
+}
+
+TEST_F(MessagesTest, HandlersOfAnyBaseAreFound) {
+    struct ListenerBase {
+        virtual ~ListenerBase() = default;
+        int member = 7;
+    };
+    // The window is not the first base, so its address is another one than the object's.
+    class Dlg : public ListenerBase, public LoggingWnd {
+    public:
+        explicit Dlg(Log& log) : LoggingWnd("dlg", log) {}
+
+    protected:
+        const MessageMap* GetMessageMap() const override {
+            static constexpr MessageEntry kEntries[] = {MapCommand<&Dlg::OnFive>(5)};
+            static const MessageMap kMap{LoggingWnd::GetMessageMap(), kEntries};
+            return &kMap;
+        }
+        void OnFive() { member = 5; }
+    };
+    Dlg dlg(m_log);
+    dlg.Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
+    dlg.SendMessage(WM_COMMAND, PackCommand(5, 0));
+    EXPECT_EQ(dlg.member, 5);
+    dlg.SendMessage(WM_COMMAND, PackCommand(100, 0));
+    EXPECT_EQ(m_log.back(), "dlg command") << "the base's table";
+    CWnd* const pWnd = &dlg;
+    EXPECT_EQ(dynamic_cast<ListenerBase*>(pWnd), &dlg);
+}
+
+TEST_F(MessagesTest, TheMouseStopsAtTheWindowItIsAimedAt) {
+    LoggingWnd outer("outer", m_log);
+    LoggingWnd inner("inner", m_log);
+    outer.Create(WS_POPUP | WS_VISIBLE, {0, 0, 100, 50}, nullptr);
+    inner.Create(WS_CHILD | WS_VISIBLE, {10, 10, 60, 40}, &outer, 5);
+    m_log.clear();
+    QTest::mouseClick(WidgetOf(inner), Qt::RightButton, {}, {3, 4});
+    EXPECT_EQ(m_log, Log{"inner right 3"});
+}
+
+TEST_F(MessagesTest, PaintingDrawsThroughItsDeviceContext) {
+    class Target : public CWnd {
+    protected:
+        const MessageMap* GetMessageMap() const override {
+            static constexpr MessageEntry kEntries[] = {MapMessage<&Target::OnPaint>(WM_PAINT)};
+            static const MessageMap kMap{CWnd::GetMessageMap(), kEntries};
+            return &kMap;
+        }
+        void OnPaint() {
+            CPaintDC dc(this);
+            const CBrush ground(RGB(0xD7, 0xF1, 0xFF));
+            const CPen red(5, RGB(255, 0, 0));
+            dc.FillSolidRect(GetClientRect(), ground.Color());
+            CRect inside = GetClientRect();
+            inside.DeflateRect(1, 1);
+            dc.SelectObject(&red);
+            dc.SelectObject(&ground);
+            dc.Rectangle(inside);
+        }
+    };
+    Target target;
+    target.Create(WS_POPUP | WS_VISIBLE, {0, 0, 60, 40}, nullptr);
+    const QImage picture = FrameOf(target)->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(30, 20), QColor(0xD7, 0xF1, 0xFF));
+    EXPECT_EQ(picture.pixelColor(1, 20), QColor(255, 0, 0));
+}
+
+TEST_F(MessagesTest, OnlyAHandlerKeepsTheFocusOverTheDrawing) {
+    class Keeping : public CAdUiBaseDialog {
+    protected:
+        const MessageMap* GetMessageMap() const override {
+            static constexpr MessageEntry kEntries[] = {
+                MapMessage<&Keeping::OnKeepFocus>(WM_ACAD_KEEPFOCUS)};
+            static const MessageMap kMap{CAdUiBaseDialog::GetMessageMap(), kEntries};
+            return &kMap;
+        }
+        LRESULT OnKeepFocus(WPARAM, LPARAM) { return 1; }
+    };
+    Keeping keeping;
+    CAdUiBaseDialog plain;
+    keeping.CWnd::Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
+    plain.CWnd::Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
+    EXPECT_EQ(keeping.SendMessage(WM_ACAD_KEEPFOCUS), 1);
+    EXPECT_EQ(plain.SendMessage(WM_ACAD_KEEPFOCUS), 0);
+}
+
+} // namespace

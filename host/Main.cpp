@@ -6,6 +6,7 @@
 #include "host/desktop/Desktop.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/mfc/WinApp.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 
@@ -72,12 +73,13 @@ int main(int argc, char** argv) {
     int status = Tessaly::kExitBadUsage;
     if (SetUpFolders(options)) {
         const bool isConsole =
-            options.console || options.script || (!options.snapshot && !Tessaly::HasDisplay());
+            options.console || options.script || (!options.snapshot && !AfxHasDisplay());
         if (isConsole && !options.console && !options.script) {
             acutPrintf(L"There is no display: the console is started instead.\n");
         }
-        status = isConsole ? Run(options, port) : Tessaly::RunDesktop(options, argc, argv);
+        status = isConsole ? Run(options, port) : Tessaly::RunDesktop(options);
     }
+    AfxStopToolkit();
     SetHostPort(nullptr);
     return status;
 }

@@ -4,8 +4,7 @@
 #include <QElapsedTimer>
 #include <QPixmap>
 #include <QTimer>
-#include <clocale>
-#include <cstdlib>
+#include <cstdio>
 
 #include "host/Session.h"
 #include "host/desktop/DesktopPort.h"
@@ -16,6 +15,7 @@
 #include "host/desktop/view/DrawingView.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/mfc/WinApp.h"
 #include "platform/win/File.h"
 
 namespace Tessaly {
@@ -102,25 +102,10 @@ int Run(const Options& options, Frame& frame, Session& session) {
 
 } // namespace
 
-bool HasDisplay() {
-    const auto isSet = [](const char* name) {
-        const char* const value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
-        return value && *value;
-    };
-    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
-}
-
-int RunDesktop(const Options& options, int argc, char** argv) {
-    if (!HasDisplay()) {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1); // NOLINT(concurrency-mt-unsafe)
-    } else if (!std::getenv("QT_QPA_PLATFORM")) {  // NOLINT(concurrency-mt-unsafe)
-        // A client of Wayland can neither read nor set its place on the screens.
-        setenv("QT_QPA_PLATFORM", "xcb;wayland", 1); // NOLINT(concurrency-mt-unsafe)
-    }
-    QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C");
+int RunDesktop(const Options& options) {
+    AfxSetDesktopMode(true);
+    AfxStartToolkit();
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
-    QApplication::setQuitOnLastWindowClosed(false);
     Frame frame;
     IHostPort* const pBefore = SetHostPort(&frame.Port());
     const FrameDisplay display(frame);

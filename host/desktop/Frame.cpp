@@ -22,7 +22,8 @@
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/Theme.h"
 #include "host/desktop/view/DrawingView.h"
-#include "platform/arx/HostReactor.h"
+#include "platform/mfc/NativeWidget.h"
+#include "platform/xtp/XTPDockingPaneManager.h"
 
 namespace Tessaly {
 
@@ -90,12 +91,16 @@ Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
     connect(pTimer, &QTimer::timeout, this, &Frame::UpdateTitles);
     pTimer->start(kTitleInterval);
     acDocManagerPtr()->addReactor(this);
+    AttachNativeWidget(m_window, this);
+    acedSetAcadFrame(&m_window);
     resize(1280, 860);
     UpdateTitles();
     ShowText(ToQt(kFirstWords));
 }
 
 Frame::~Frame() {
+    acedSetAcadDwgView(nullptr);
+    acedSetAcadFrame(nullptr);
     acDocManagerPtr()->removeReactor(this);
 }
 
@@ -195,8 +200,8 @@ void Frame::SetTheme(const CString& theme) {
 
 void Frame::changeEvent(QEvent* pEvent) {
     if (pEvent->type() == QEvent::PaletteChange) {
-        for (const auto& [pDoc, pView] : m_views) {
-            pView->update();
+        for (const auto& [pDoc, view] : m_views) {
+            view.pView->update();
         }
     }
     QMainWindow::changeEvent(pEvent);
@@ -451,7 +456,7 @@ void Frame::closeEvent(QCloseEvent* pEvent) {
 
 DrawingView* Frame::CurrentView() const {
     const auto hit = m_views.find(acDocManagerPtr()->curDocument());
-    return hit == m_views.end() ? nullptr : hit->second;
+    return hit == m_views.end() ? nullptr : hit->second.pView;
 }
 
 void Frame::documentBecameCurrent(AcApDocument* pDoc) {
@@ -462,12 +467,15 @@ void Frame::documentBecameCurrent(AcApDocument* pDoc) {
         connect(pView, &DrawingView::PositionMoved, this, [this](double x, double y) {
             m_pPosition->setText(QStringLiteral("%1, %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
         });
-        m_views[pDoc] = pView;
+        auto pWindow = std::make_unique<CWnd>();
+        AttachNativeWidget(*pWindow, pView);
+        m_views[pDoc] = {pView, std::move(pWindow)};
         m_pTabs->addTab(pView, ToQt(pDoc->title().View()));
     }
     if (pDoc) {
-        m_pTabs->setCurrentWidget(m_views[pDoc]);
+        m_pTabs->setCurrentWidget(m_views[pDoc].pView);
     }
+    acedSetAcadDwgView(pDoc ? m_views[pDoc].pWindow.get() : nullptr);
     m_bFollowing = false;
     UpdateTitles();
 }
@@ -476,16 +484,20 @@ void Frame::documentToBeDestroyed(AcApDocument* pDoc) {
     const auto hit = m_views.find(pDoc);
     if (hit != m_views.end()) {
         m_bFollowing = true;
-        m_pTabs->removeTab(m_pTabs->indexOf(hit->second));
-        delete hit->second;
+        if (acedGetAcadDwgView() == hit->second.pWindow.get()) {
+            acedSetAcadDwgView(nullptr);
+        }
+        DrawingView* const pView = hit->second.pView;
         m_views.erase(hit);
+        m_pTabs->removeTab(m_pTabs->indexOf(pView));
+        delete pView;
         m_bFollowing = false;
     }
 }
 
 void Frame::OnTabChanged(int index) {
-    for (const auto& [pDoc, pView] : m_views) {
-        if (!m_bFollowing && m_pTabs->widget(index) == pView) {
+    for (const auto& [pDoc, view] : m_views) {
+        if (!m_bFollowing && m_pTabs->widget(index) == view.pView) {
             if (IsRunning()) {
                 // A command works on the drawing that it began with.
                 documentBecameCurrent(acDocManagerPtr()->curDocument());
@@ -498,10 +510,10 @@ void Frame::OnTabChanged(int index) {
 }
 
 void Frame::UpdateTitles() {
-    for (const auto& [pDoc, pView] : m_views) {
+    for (const auto& [pDoc, view] : m_views) {
         const QString title =
             ToQt(pDoc->title().View()) + (pDoc->isModified() ? QStringLiteral(" *") : QString());
-        const int index = m_pTabs->indexOf(pView);
+        const int index = m_pTabs->indexOf(view.pView);
         if (m_pTabs->tabText(index) != title) {
             m_pTabs->setTabText(index, title);
             m_pTabs->setTabToolTip(index, ToQt(pDoc->fileName()));

@@ -8,6 +8,7 @@
 #include "host/Session.h"
 #include "host/desktop/LayoutFile.h"
 #include "platform/arx/ApDocManager.h"
+#include "platform/mfc/Wnd.h"
 
 class QDockWidget;
 class QLabel;
@@ -95,7 +96,12 @@ private:
     QProgressBar* m_pProgress = nullptr;
     QPushButton* m_pStop = nullptr;
     CommandPalette* m_pPalette = nullptr;
-    std::map<AcApDocument*, DrawingView*> m_views;
+    CWnd m_window; ///< stands for this, for modules
+    struct View {
+        DrawingView* pView;
+        std::unique_ptr<CWnd> pWindow; ///< stands for it
+    };
+    std::map<AcApDocument*, View> m_views;
     std::vector<CString> m_recent; ///< the command used last first
     CString m_strTheme;
     int m_nDepth = 0; ///< commands that run, one inside of the other

@@ -151,8 +151,7 @@ bool CDialog::CreateFrom(const DialogTemplate& dialog, CWnd* pParent, bool show)
 
 void CDialog::CreateItem(const DialogItem& item) {
     std::unique_ptr<CWnd> pControl = MakeControl(item.kind);
-    const CRect place =
-        MapDialogRect({item.x, item.y, item.x + item.cx, item.y + item.cy});
+    const CRect place = MapDialogRect({item.x, item.y, item.x + item.cx, item.y + item.cy});
     const UINT style = item.style | WS_CHILD | (item.invisible ? 0 : WS_VISIBLE);
     CWnd& control = *pControl;
     if (control.CreateControl(item.kind, style, place, this, item.id)) {

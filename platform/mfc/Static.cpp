@@ -77,8 +77,8 @@ void StaticWidget::paintEvent(QPaintEvent*) {
 
 void StaticWidget::PaintText(QPainter& painter) {
     CDC dc(DrawWith(painter));
-    const QColor usual = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
-                                         QPalette::WindowText);
+    const QColor usual =
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
     dc.SetTextColor(ToColorRef(m_textColor.value_or(usual)));
     dc.SetBkMode(TRANSPARENT);
     const HBRUSH brush = AskControlColors(Core(), dc, CTLCOLOR_STATIC);

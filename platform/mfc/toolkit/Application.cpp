@@ -99,10 +99,10 @@ int VirtualKeyOf(int key) {
         Qt::Key key;
         int code;
     } kKeys[] = {
-        {Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},   {Qt::Key_Escape, VK_ESCAPE},
-        {Qt::Key_Tab, VK_TAB},       {Qt::Key_Backspace, VK_BACK}, {Qt::Key_Shift, VK_SHIFT},
+        {Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},    {Qt::Key_Escape, VK_ESCAPE},
+        {Qt::Key_Tab, VK_TAB},       {Qt::Key_Backspace, VK_BACK},  {Qt::Key_Shift, VK_SHIFT},
         {Qt::Key_Space, VK_SPACE},   {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Insert, VK_INSERT},
-        {Qt::Key_Left, VK_LEFT},     {Qt::Key_Delete, VK_DELETE},  {Qt::Key_Right, VK_RIGHT},
+        {Qt::Key_Left, VK_LEFT},     {Qt::Key_Delete, VK_DELETE},   {Qt::Key_Right, VK_RIGHT},
         {Qt::Key_Up, VK_UP},         {Qt::Key_Down, VK_DOWN},
     };
     const auto* const pFound = std::find_if(std::begin(kKeys), std::end(kKeys),
@@ -133,8 +133,8 @@ bool Application::NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent
 
     const QPointer<QWidget> receiver = pWidget;
     enmOutcome outcome = enmOutcome::GoesOn;
-    const bool ownRelease = pEvent->type() == QEvent::MouseButtonRelease && core.Role() &&
-                            core.Role()->OwnsRelease();
+    const bool ownRelease =
+        pEvent->type() == QEvent::MouseButtonRelease && core.Role() && core.Role()->OwnsRelease();
     if (!ownRelease && !TakeTranslated(pEvent, outcome)) {
         MSG msg = MessageOf(core, pWidget, pEvent);
         if (msg.message != 0 && core.PreTranslate(msg)) {
@@ -206,6 +206,10 @@ void AfxSetDesktopMode(bool desktop) {
 
 bool AfxIsDesktopMode() {
     return g_desktop;
+}
+
+bool AfxHasDisplay() {
+    return std::getenv("QT_QPA_PLATFORM") || XServerAnswers() || std::getenv("WAYLAND_DISPLAY");
 }
 
 void AfxStartToolkit() {

@@ -33,10 +33,9 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     }
     if (role == Qt::TextAlignmentRole) {
         const int format = Column(section).format;
-        return static_cast<int>(Qt::AlignVCenter |
-                                (format == LVCFMT_RIGHT    ? Qt::AlignRight
-                                 : format == LVCFMT_CENTER ? Qt::AlignHCenter
-                                                           : Qt::AlignLeft));
+        return static_cast<int>(Qt::AlignVCenter | (format == LVCFMT_RIGHT    ? Qt::AlignRight
+                                                    : format == LVCFMT_CENTER ? Qt::AlignHCenter
+                                                                              : Qt::AlignLeft));
     }
     return {};
 }

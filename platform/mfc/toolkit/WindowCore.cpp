@@ -267,7 +267,7 @@ bool WindowCore::Translate(enmWidgetPart part, QEvent* pEvent, MSG& msg) const {
         const QPoint point = pMouse->position().toPoint();
         msg.lParam = PackInts(point.x(), point.y());
         msg.pt = ToCPoint(pMouse->globalPosition().toPoint());
-        msg.message = pEvent->type() == QEvent::MouseMove ? WM_MOUSEMOVE
+        msg.message = pEvent->type() == QEvent::MouseMove  ? WM_MOUSEMOVE
                       : pMouse->button() == Qt::LeftButton ? WM_LBUTTONUP
                                                            : WM_RBUTTONUP;
         return pEvent->type() == QEvent::MouseMove || pMouse->button() == Qt::LeftButton ||

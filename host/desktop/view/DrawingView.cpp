@@ -35,12 +35,20 @@ DrawingView::DrawingView(QWidget* pParent) : QWidget(pParent) {
     ShowCursor();
     m_more.setSingleShot(true);
     connect(&m_more, &QTimer::timeout, this, [this] { update(); });
-    m_scene.SetOnStale([this] { update(); });
+    m_scene.SetOnStale([this] { ExpectChange(); });
 }
 
 DrawingView::~DrawingView() {
     // The scene lets go of its database, and must not ask for a frame of what is left of this.
     m_scene.SetOnStale({});
+}
+
+void DrawingView::ExpectChange() {
+    update();
+    if (m_isPicking && !m_scene.Database()) {
+        // Not from within the end of a drawing: whoever waits for the answer goes on with it.
+        QMetaObject::invokeMethod(this, &DrawingView::CancelPick, Qt::QueuedConnection);
+    }
 }
 
 void DrawingView::SetDatabase(AcDbDatabase* pDatabase) {
@@ -109,7 +117,8 @@ void DrawingView::DropLost() {
     const bool isLess = std::erase_if(m_selection, isLost) > 0;
     EmphasisChanged();
     if (isLess) {
-        emit SelectionChanged();
+        // This may be in the middle of painting.
+        QMetaObject::invokeMethod(this, &DrawingView::SelectionChanged, Qt::QueuedConnection);
     }
 }
 
@@ -269,9 +278,17 @@ void DrawingView::UpdateDisplay() {
     repaint();
 }
 
+void DrawingView::CompletePicture() {
+    BringUpToDate();
+    m_picture.Update(m_scene, m_transform, Settings(), m_emphasis,
+                     ViewPicture::Clock::time_point::max());
+    update();
+}
+
 void DrawingView::StartPick() {
     m_isPicking = true;
     m_drag = Drag::None;
+    setFocus(Qt::OtherFocusReason); // for Escape
     ShowCursor();
 }
 

@@ -59,8 +59,12 @@ public:
 
     /// The last frame showed everything; more are on their way otherwise.
     bool IsPictureWhole() const { return m_picture.IsWhole(); }
+    /// Has the next frame show everything, however long that takes: for a picture of the
+    /// window.
+    void CompletePicture();
 
-    /// The next click asks for an entity instead of selecting it; PickEnded tells of it.
+    /// Takes the focus. The next click asks for an entity instead of selecting it; PickEnded
+    /// tells of it.
     void StartPick();
     void CancelPick();
     bool IsPicking() const { return m_isPicking; }
@@ -102,6 +106,7 @@ private:
         double width;
     };
 
+    void ExpectChange();
     /// Takes over what has changed: size, drawing, places asked for.
     void BringUpToDate();
     void FollowSize();

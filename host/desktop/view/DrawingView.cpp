@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace Tessaly {
 
@@ -35,6 +36,8 @@ DrawingView::DrawingView(QWidget* pParent) : QWidget(pParent) {
     ShowCursor();
     m_more.setSingleShot(true);
     connect(&m_more, &QTimer::timeout, this, [this] { update(); });
+    m_tell.setSingleShot(true);
+    connect(&m_tell, &QTimer::timeout, this, &DrawingView::Tell);
     m_scene.SetOnStale([this] { ExpectChange(); });
 }
 
@@ -46,8 +49,16 @@ DrawingView::~DrawingView() {
 void DrawingView::ExpectChange() {
     update();
     if (m_isPicking && !m_scene.Database()) {
-        // Not from within the end of a drawing: whoever waits for the answer goes on with it.
-        QMetaObject::invokeMethod(this, &DrawingView::CancelPick, Qt::QueuedConnection);
+        m_tell.start(0);
+    }
+}
+
+void DrawingView::Tell() {
+    if (m_isPicking && !m_scene.Database()) {
+        CancelPick();
+    }
+    if (std::exchange(m_isSelectionLess, false)) {
+        emit SelectionChanged();
     }
 }
 
@@ -114,12 +125,11 @@ void DrawingView::BringUpToDate() {
 void DrawingView::DropLost() {
     const auto isLost = [this](AcDbObjectId id) { return !m_scene.IsLive(id); };
     std::erase_if(m_marks, [&](const Marked& marked) { return isLost(marked.id); });
-    const bool isLess = std::erase_if(m_selection, isLost) > 0;
-    EmphasisChanged();
-    if (isLess) {
-        // This may be in the middle of painting.
-        QMetaObject::invokeMethod(this, &DrawingView::SelectionChanged, Qt::QueuedConnection);
+    if (std::erase_if(m_selection, isLost) > 0) {
+        m_isSelectionLess = true;
+        m_tell.start(0);
     }
+    m_isEmphasisStale = true;
 }
 
 void DrawingView::EmphasisChanged() {

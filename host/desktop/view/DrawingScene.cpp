@@ -89,6 +89,7 @@ void DrawingScene::goodbye(const AcDbDatabase*) {
     m_pDatabase = nullptr;
     Drop();
     m_isReplaced = true;
+    m_isStale = false; // whoever shows it has to hear of this in any case
     BecomeStale();
 }
 

@@ -44,7 +44,8 @@ public:
     /// Null for none. Not owned; a database that goes takes itself off.
     void SetDatabase(AcDbDatabase* pDatabase);
     AcDbDatabase* Database() const { return m_pDatabase; }
-    /// Called at the first change after an Update, in the middle of whatever makes it.
+    /// Called at the first change after an Update, and when the database goes, in the middle
+    /// of whatever makes it.
     void SetOnStale(std::function<void()> onStale) { m_onStale = std::move(onStale); }
     bool IsStale() const { return m_isStale; }
     /// Takes the changes over.

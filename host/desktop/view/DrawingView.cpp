@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace Tessaly {
 
@@ -35,12 +36,30 @@ DrawingView::DrawingView(QWidget* pParent) : QWidget(pParent) {
     ShowCursor();
     m_more.setSingleShot(true);
     connect(&m_more, &QTimer::timeout, this, [this] { update(); });
-    m_scene.SetOnStale([this] { update(); });
+    m_tell.setSingleShot(true);
+    connect(&m_tell, &QTimer::timeout, this, &DrawingView::Tell);
+    m_scene.SetOnStale([this] { ExpectChange(); });
 }
 
 DrawingView::~DrawingView() {
     // The scene lets go of its database, and must not ask for a frame of what is left of this.
     m_scene.SetOnStale({});
+}
+
+void DrawingView::ExpectChange() {
+    update();
+    if (m_isPicking && !m_scene.Database()) {
+        m_tell.start(0);
+    }
+}
+
+void DrawingView::Tell() {
+    if (m_isPicking && !m_scene.Database()) {
+        CancelPick();
+    }
+    if (std::exchange(m_isSelectionLess, false)) {
+        emit SelectionChanged();
+    }
 }
 
 void DrawingView::SetDatabase(AcDbDatabase* pDatabase) {
@@ -106,11 +125,11 @@ void DrawingView::BringUpToDate() {
 void DrawingView::DropLost() {
     const auto isLost = [this](AcDbObjectId id) { return !m_scene.IsLive(id); };
     std::erase_if(m_marks, [&](const Marked& marked) { return isLost(marked.id); });
-    const bool isLess = std::erase_if(m_selection, isLost) > 0;
-    EmphasisChanged();
-    if (isLess) {
-        emit SelectionChanged();
+    if (std::erase_if(m_selection, isLost) > 0) {
+        m_isSelectionLess = true;
+        m_tell.start(0);
     }
+    m_isEmphasisStale = true;
 }
 
 void DrawingView::EmphasisChanged() {
@@ -269,9 +288,17 @@ void DrawingView::UpdateDisplay() {
     repaint();
 }
 
+void DrawingView::CompletePicture() {
+    BringUpToDate();
+    m_picture.Update(m_scene, m_transform, Settings(), m_emphasis,
+                     ViewPicture::Clock::time_point::max());
+    update();
+}
+
 void DrawingView::StartPick() {
     m_isPicking = true;
     m_drag = Drag::None;
+    setFocus(Qt::OtherFocusReason); // for Escape
     ShowCursor();
 }
 

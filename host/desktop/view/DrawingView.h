@@ -59,8 +59,12 @@ public:
 
     /// The last frame showed everything; more are on their way otherwise.
     bool IsPictureWhole() const { return m_picture.IsWhole(); }
+    /// Has the next frame show everything, however long that takes: for a picture of the
+    /// window.
+    void CompletePicture();
 
-    /// The next click asks for an entity instead of selecting it; PickEnded tells of it.
+    /// Takes the focus. The next click asks for an entity instead of selecting it; PickEnded
+    /// tells of it.
     void StartPick();
     void CancelPick();
     bool IsPicking() const { return m_isPicking; }
@@ -102,6 +106,9 @@ private:
         double width;
     };
 
+    void ExpectChange();
+    /// What others could not be told in the middle of a frame, or of the end of a drawing.
+    void Tell();
     /// Takes over what has changed: size, drawing, places asked for.
     void BringUpToDate();
     void FollowSize();
@@ -130,6 +137,7 @@ private:
     ViewPicture m_picture;
     TextOverlay m_texts;
     QTimer m_more; ///< the picture is not whole yet
+    QTimer m_tell;
     double m_pixelRatio = 0;
     bool m_areExtentsWanted = true;
     bool m_hasMoved = false; ///< the user, or a command, chose the place
@@ -138,6 +146,7 @@ private:
     std::vector<Marked> m_marks;
     std::vector<Emphasis> m_emphasis; ///< of both, in the order of drawing
     bool m_isEmphasisStale = false;
+    bool m_isSelectionLess = false; ///< and nobody was told yet
 
     Drag m_drag = Drag::None;
     bool m_isPicking = false;

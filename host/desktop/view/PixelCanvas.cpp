@@ -232,7 +232,15 @@ void PixelCanvas::SmoothLine(const PixelPoint& start, const PixelPoint& end, dou
 
 void PixelCanvas::HairPath(PixelPath path, Rgb color) {
     EachSegment(path, [&](const PixelPoint& from, const PixelPoint& to) {
-        ClippedLine(from.x, from.y, to.x, to.y, color);
+        const auto x1 = static_cast<float>(from.x);
+        const auto y1 = static_cast<float>(from.y);
+        const auto x2 = static_cast<float>(to.x);
+        const auto y2 = static_cast<float>(to.y);
+        if (IsInside(x1, y1) && IsInside(x2, y2)) {
+            HairLine(x1, y1, x2, y2, color);
+        } else {
+            ClippedLine(from.x, from.y, to.x, to.y, color); // floats may be too short
+        }
     });
 }
 

@@ -22,6 +22,11 @@ public:
 
     void Look(ShapeKind kind) {
         const ItemStore& items = m_scene.Items(kind);
+        // With something near found at once, even a whole drawing within the tolerance is
+        // mostly passed over.
+        if (const std::uint32_t nearest = NearestBlock(items); nearest < items.BlockCount()) {
+            LookAt(items, nearest);
+        }
         for (std::uint32_t block = 0; block < items.BlockCount(); ++block) {
             if (items.Block(block).Meets(m_box)) {
                 LookAt(items, block);
@@ -31,6 +36,24 @@ public:
     AcDbObjectId Found() const { return m_found; }
 
 private:
+    /// Of the blocks within the tolerance, the one whose farthest corner is nearest: its items
+    /// are near, too, which those of a large block around the place need not be.
+    std::uint32_t NearestBlock(const ItemStore& items) const {
+        const FloatPoint place = m_scene.Relative(m_place);
+        std::uint32_t nearest = items.BlockCount();
+        float least = INFINITY;
+        for (std::uint32_t block = 0; block < items.BlockCount(); ++block) {
+            const FloatBox& box = items.Block(block);
+            const float reach = std::max(place.x - box.minX, box.maxX - place.x) +
+                                std::max(place.y - box.minY, box.maxY - place.y);
+            if (reach < least && box.Meets(m_box)) {
+                least = reach;
+                nearest = block;
+            }
+        }
+        return nearest;
+    }
+
     void Narrow() { m_box = m_scene.Relative(BoxAround(m_place, m_distance)); }
 
     void LookAt(const ItemStore& items, std::uint32_t block) {

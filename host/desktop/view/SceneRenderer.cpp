@@ -65,9 +65,10 @@ RenderDetail DetailOf(const DrawingScene& scene, const ViewTransform& transform)
     const Count points = CountOf(scene, ShapeKind::Point, view, {30000, 30000});
     const Count lines = CountOf(scene, ShapeKind::Line, view, limit);
     const Count areas = CountOf(scene, ShapeKind::Area, view, limit);
-    const Count texts = CountOf(scene, ShapeKind::Text, view, {kMostTexts, kMostTexts});
-    return {points.places + lines.places + areas.places <= kFinePlaces, SizeOfPoints(points.items),
-            texts.items <= kMostTexts, points.items + lines.items + areas.items <= kMostLabels};
+    const Count texts = CountOf(scene, ShapeKind::Text, view, limit);
+    return {points.places + lines.places + areas.places + texts.places <= kFinePlaces,
+            SizeOfPoints(points.items), texts.items <= kMostTexts,
+            points.items + lines.items + areas.items <= kMostLabels};
 }
 
 void SceneRenderer::Start(const DrawingScene& scene, const ViewTransform& transform,
@@ -321,15 +322,25 @@ void SceneRenderer::DrawEmphasized(const Emphasis& emphasis) {
         return;
     }
     m_kind = place->kind;
+    // A mass of them is told by its colour alone.
+    const bool isPlain = !m_detail.isFine && m_emphasis.size() > kFinePlaces;
     if (m_colors[Items().Style(place->item)] == 0 ||
-        !BoxOf(Items().Places(place->item)).Meets(m_view) || !MakePath(place->item, true)) {
+        !BoxOf(Items().Places(place->item)).Meets(m_view) ||
+        !MakePath(place->item, !isPlain || m_isExact)) {
         return;
     }
     const double width = emphasis.width * m_settings.pixelRatio;
-    const bool isOneSpot = m_kind == ShapeKind::Point || m_kind == ShapeKind::Text;
-    if (isOneSpot || m_path.size() == 1) {
-        const double radius = m_detail.pointSize / 2 * m_settings.pixelRatio + width / 2;
-        m_canvas.Disc(m_path[0].x, m_path[0].y, radius, emphasis.color);
+    if (m_path.size() == 1) {
+        const double size = m_detail.pointSize * m_settings.pixelRatio;
+        if (isPlain) {
+            m_canvas.Square(m_path[0].x, m_path[0].y, size, emphasis.color);
+        } else {
+            m_canvas.Disc(m_path[0].x, m_path[0].y, (size + width) / 2, emphasis.color);
+        }
+        return;
+    }
+    if (isPlain) {
+        m_canvas.HairPath(m_path, emphasis.color);
         return;
     }
     if (m_kind == ShapeKind::Area) {

@@ -35,7 +35,8 @@ QFont WithPixels(QFont font, double pixels) {
 
 struct LabelSpot {
     PixelPoint middle;
-    double room = 0; ///< longest name that it takes, in pixels
+    double room = 0;  ///< longest name that it takes, in pixels
+    PixelPoint aside; ///< of length 1, to where the line is not; none for an area
 };
 
 /// The middle of the longest straight part in sight, with room as long as all such parts.
@@ -53,6 +54,8 @@ LabelSpot SpotOnLine(const std::vector<PlanePoint>& places, const ViewTransform&
         if (isSeen && length > longest) {
             longest = length;
             spot.middle = middle;
+            const double up = to.x < from.x ? -length : length;
+            spot.aside = {(to.y - from.y) / up, (from.x - to.x) / up};
         }
     }
     return spot;
@@ -61,7 +64,8 @@ LabelSpot SpotOnLine(const std::vector<PlanePoint>& places, const ViewTransform&
 LabelSpot SpotInArea(const EntityShape& shape, const ViewTransform& transform) {
     const AcGeExtents2d box = ExtentsOf(shape);
     return {transform.ToPixel((box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2),
-            (box.maxX - box.minX) / transform.UnitsPerPixel()};
+            (box.maxX - box.minX) / transform.UnitsPerPixel(),
+            {}};
 }
 
 } // namespace
@@ -165,7 +169,10 @@ void TextOverlay::PaintLabels(const Frame& frame, ShapeKind kind, const QFontMet
             if (spot.room < length) {
                 return true;
             }
-            box.moveCenter(QPointF(spot.middle.x, spot.middle.y));
+            const double reach =
+                (std::abs(spot.aside.x) * box.width() + std::abs(spot.aside.y) * box.height()) / 2;
+            box.moveCenter(QPointF(spot.middle.x + spot.aside.x * reach,
+                                   spot.middle.y + spot.aside.y * reach));
         }
         if (IsFree(box)) {
             PaintLabel(frame, id, name, box);

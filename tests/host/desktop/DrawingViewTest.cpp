@@ -236,6 +236,19 @@ TEST_F(DrawingViewTest, AsksForOneEntity) {
     EXPECT_FALSE(answer) << "nobody asks";
 }
 
+TEST_F(DrawingViewTest, StopsAskingWhenTheDrawingGoes) {
+    {
+        AcDbDatabase other;
+        view.SetDatabase(&other);
+        AddSpot(other, 1, 2); // the view has something to take over already
+        view.StartPick();
+    }
+    EXPECT_FALSE(answer) << "not in the middle of it";
+    QApplication::processEvents();
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->how, PickEnd::Cancelled);
+}
+
 TEST_F(DrawingViewTest, PicksByTheNameBesideAnEntity) {
     const AcDbObjectId spot = AddSpot(database, 200, 150);
     AcDbEntity* pEntity = nullptr;

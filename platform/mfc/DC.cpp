@@ -14,8 +14,8 @@
 namespace {
 
 int AlignmentOf(UINT flags) {
-    int alignment = flags & DT_CENTER ? Qt::AlignHCenter
-                                      : (flags & DT_RIGHT ? Qt::AlignRight : Qt::AlignLeft);
+    int alignment =
+        flags & DT_CENTER ? Qt::AlignHCenter : (flags & DT_RIGHT ? Qt::AlignRight : Qt::AlignLeft);
     alignment |= flags & DT_VCENTER ? Qt::AlignVCenter : Qt::AlignTop;
     alignment |= flags & DT_WORDBREAK ? Qt::TextWordWrap : Qt::TextSingleLine;
     return flags & DT_NOPREFIX ? alignment : alignment | Qt::TextShowMnemonic;

@@ -151,8 +151,7 @@ bool CDialog::CreateFrom(const DialogTemplate& dialog, CWnd* pParent, bool show)
 
 void CDialog::CreateItem(const DialogItem& item) {
     std::unique_ptr<CWnd> pControl = MakeControl(item.kind);
-    const CRect place =
-        MapDialogRect({item.x, item.y, item.x + item.cx, item.y + item.cy});
+    const CRect place = MapDialogRect({item.x, item.y, item.x + item.cx, item.y + item.cy});
     const UINT style = item.style | WS_CHILD | (item.invisible ? 0 : WS_VISIBLE);
     CWnd& control = *pControl;
     if (control.CreateControl(item.kind, style, place, this, item.id)) {
@@ -284,15 +283,15 @@ bool CDialog::PreTranslateMessage(MSG* pMsg) {
     }
     // An editor of a label is no window of ours; both keys end it.
     const QWidget* const pFocus = QApplication::focusWidget();
-    const WindowCore* const pFocused = WindowCore::OfWidget(pFocus);
-    if (pFocus && !pFocused) {
+    if (pFocus && !WindowCore::OfWidget(pFocus)) {
         return false;
     }
     if (!isReturn) {
         SendMessage(WM_COMMAND, PackCommand(IDCANCEL, BN_CLICKED));
         return true;
     }
-    WidgetRole* const pRole = pFocused ? pFocused->Role() : nullptr;
+    const WindowCore* const pAimedAt = WindowCore::Find(pMsg->hwnd);
+    WidgetRole* const pRole = pAimedAt ? pAimedAt->Role() : nullptr;
     if (pRole && pRole->WantsReturn()) {
         return false;
     }

@@ -42,13 +42,13 @@ CImage CImage::FromFile(const CString& path, CSize size) {
         const QSize wanted(size.cx, size.cy);
         reader.setScaledSize(own.isValid() ? own.scaled(wanted, Qt::KeepAspectRatio) : wanted);
     }
-    const QImage image =
-        reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return {};
     }
     // Lines of 32-bit pixels have no gaps.
-    return {image.width(), image.height(),
+    return {image.width(),
+            image.height(),
             {reinterpret_cast<const std::uint32_t*>(image.constBits()),
              static_cast<std::size_t>(image.sizeInBytes()) / sizeof(std::uint32_t)}};
 }

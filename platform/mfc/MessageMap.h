@@ -157,8 +157,7 @@ struct Thunk<Handler> {
     static constexpr enmArguments kArguments = enmArguments::Colors;
     static LRESULT Call(CCmdTarget* pTarget, WPARAM, LPARAM lParam) {
         auto& query = *reinterpret_cast<ControlColorQuery*>(lParam);
-        query.result =
-            (static_cast<C*>(pTarget)->*Handler)(query.pDC, query.pControl, query.type);
+        query.result = (static_cast<C*>(pTarget)->*Handler)(query.pDC, query.pControl, query.type);
         return 0;
     }
 };

@@ -37,8 +37,8 @@ void CTreeCtrl::SetImageList(const CImageList& images) {
     }
 }
 
-HTREEITEM CTreeCtrl::InsertItem(const wchar_t* text, int image, int selectedImage,
-                                HTREEITEM parent, HTREEITEM after) {
+HTREEITEM CTreeCtrl::InsertItem(const wchar_t* text, int image, int selectedImage, HTREEITEM parent,
+                                HTREEITEM after) {
     TreeWidget* const pTree = TreeOf(*this);
     if (!pTree) {
         return nullptr;
@@ -200,8 +200,8 @@ HTREEITEM CTreeCtrl::HitTest(CPoint point, UINT* pFlags) const {
         const QModelIndex index = pTree->indexAt(ToQPoint(point));
         if (index.isValid()) {
             item = pTree->Nodes().ItemOf(index);
-            flags = pTree->LabelRect(index).contains(ToQPoint(point)) ? TVHT_ONITEM
-                                                                      : TVHT_ONITEMINDENT;
+            flags =
+                pTree->LabelRect(index).contains(ToQPoint(point)) ? TVHT_ONITEM : TVHT_ONITEMINDENT;
         }
     }
     if (pFlags) {

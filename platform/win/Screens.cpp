@@ -15,11 +15,10 @@ std::int64_t SquaredDistance(const CRect& rect, CPoint point) {
 } // namespace
 
 Monitor NearestMonitor(const std::vector<Monitor>& monitors, CPoint point) {
-    return *std::min_element(monitors.begin(), monitors.end(),
-                             [point](const Monitor& a, const Monitor& b) {
-                                 return SquaredDistance(a.full, point) <
-                                        SquaredDistance(b.full, point);
-                             });
+    return *std::min_element(
+        monitors.begin(), monitors.end(), [point](const Monitor& a, const Monitor& b) {
+            return SquaredDistance(a.full, point) < SquaredDistance(b.full, point);
+        });
 }
 
 CRect TaskBarOf(const Monitor& monitor) {

@@ -73,6 +73,10 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
         msg.wParam = static_cast<WPARAM>(VirtualKeyOf(pKey->key()));
         return msg;
     }
+    const QWidget* const pClient = core.Client();
+    if (pWidget != pClient && !pClient->isAncestorOf(pWidget)) {
+        return msg; // on the caption or an edge, which are not the dialog's to look at
+    }
     const auto* const pMouse = static_cast<const QMouseEvent*>(pEvent);
     if (pEvent->type() == QEvent::MouseMove) {
         msg.message = WM_MOUSEMOVE;
@@ -81,7 +85,7 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
     } else if (pMouse->button() == Qt::RightButton) {
         msg.message = WM_RBUTTONUP;
     }
-    const QPoint point = pWidget->mapTo(core.Client(), pMouse->position().toPoint());
+    const QPoint point = pWidget->mapTo(pClient, pMouse->position().toPoint());
     msg.lParam = PackInts(point.x(), point.y());
     return msg;
 }
@@ -99,10 +103,10 @@ int VirtualKeyOf(int key) {
         Qt::Key key;
         int code;
     } kKeys[] = {
-        {Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},   {Qt::Key_Escape, VK_ESCAPE},
-        {Qt::Key_Tab, VK_TAB},       {Qt::Key_Backspace, VK_BACK}, {Qt::Key_Shift, VK_SHIFT},
+        {Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},    {Qt::Key_Escape, VK_ESCAPE},
+        {Qt::Key_Tab, VK_TAB},       {Qt::Key_Backspace, VK_BACK},  {Qt::Key_Shift, VK_SHIFT},
         {Qt::Key_Space, VK_SPACE},   {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Insert, VK_INSERT},
-        {Qt::Key_Left, VK_LEFT},     {Qt::Key_Delete, VK_DELETE},  {Qt::Key_Right, VK_RIGHT},
+        {Qt::Key_Left, VK_LEFT},     {Qt::Key_Delete, VK_DELETE},   {Qt::Key_Right, VK_RIGHT},
         {Qt::Key_Up, VK_UP},         {Qt::Key_Down, VK_DOWN},
     };
     const auto* const pFound = std::find_if(std::begin(kKeys), std::end(kKeys),
@@ -133,8 +137,8 @@ bool Application::NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent
 
     const QPointer<QWidget> receiver = pWidget;
     enmOutcome outcome = enmOutcome::GoesOn;
-    const bool ownRelease = pEvent->type() == QEvent::MouseButtonRelease && core.Role() &&
-                            core.Role()->OwnsRelease();
+    const bool ownRelease =
+        pEvent->type() == QEvent::MouseButtonRelease && core.Role() && core.Role()->OwnsRelease();
     if (!ownRelease && !TakeTranslated(pEvent, outcome)) {
         MSG msg = MessageOf(core, pWidget, pEvent);
         if (msg.message != 0 && core.PreTranslate(msg)) {

@@ -31,7 +31,8 @@ bool PlainWidget::event(QEvent* pEvent) {
 }
 
 FrameWidget::FrameWidget(QWidget* pParent, UINT style)
-    : Hooked(pParent, enmWidgetPart::Frame), m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
+    : Hooked(pParent, enmWidgetPart::Frame),
+      m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
       m_hasCaption((style & WS_CAPTION) == WS_CAPTION), m_sizable((style & WS_THICKFRAME) != 0) {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setMouseTracking(m_sizable);
@@ -130,8 +131,8 @@ void FrameWidget::ShowEdgeCursor(const QPoint& point) {
     const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
     const bool along = edges & (Qt::TopEdge | Qt::BottomEdge);
     if (across && along) {
-        const bool falling = edges == (Qt::LeftEdge | Qt::TopEdge) ||
-                             edges == (Qt::RightEdge | Qt::BottomEdge);
+        const bool falling =
+            edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
         setCursor(falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor);
     } else if (across || along) {
         setCursor(across ? Qt::SizeHorCursor : Qt::SizeVerCursor);

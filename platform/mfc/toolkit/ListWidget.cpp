@@ -183,12 +183,12 @@ void ListWidget::SetState(int row, UINT state, UINT mask) {
         } else if (row < 0) {
             clearSelection();
         } else {
-            selectionModel()->select(
-                m_model.index(row, 0),
-                QItemSelectionModel::Rows |
-                    (!on                           ? QItemSelectionModel::Deselect
-                     : (m_style & LVS_SINGLESEL) ? QItemSelectionModel::ClearAndSelect
-                                                 : QItemSelectionModel::Select));
+            selectionModel()->select(m_model.index(row, 0),
+                                     QItemSelectionModel::Rows |
+                                         (!on ? QItemSelectionModel::Deselect
+                                          : (m_style & LVS_SINGLESEL)
+                                              ? QItemSelectionModel::ClearAndSelect
+                                              : QItemSelectionModel::Select));
         }
     }
     if ((mask & state & LVIS_FOCUSED) && row >= 0) {

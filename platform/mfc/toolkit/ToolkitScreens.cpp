@@ -72,10 +72,9 @@ void RefineByServer(std::vector<const QWidget*>& windows) {
         const auto found = places.find(top);
         placeOf[pWindow] = found == places.end() ? -1 : found->second;
     }
-    std::stable_sort(windows.begin(), windows.end(),
-                     [&placeOf](const QWidget* pA, const QWidget* pB) {
-                         return placeOf[pA] > placeOf[pB];
-                     });
+    std::stable_sort(
+        windows.begin(), windows.end(),
+        [&placeOf](const QWidget* pA, const QWidget* pB) { return placeOf[pA] > placeOf[pB]; });
 }
 
 Monitor MonitorOf(const QScreen& screen) {

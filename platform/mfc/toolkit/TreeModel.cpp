@@ -59,8 +59,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return ToQString(item->text.View());
     case Qt::DecorationRole: {
-        const int image = item == selected && item->selectedImage >= 0 ? item->selectedImage
-                                                                       : item->image;
+        const int image =
+            item == selected && item->selectedImage >= 0 ? item->selectedImage : item->image;
         return image >= 0 && image < static_cast<int>(images.size())
                    ? QVariant(images[static_cast<std::size_t>(image)])
                    : QVariant();
@@ -90,13 +90,11 @@ bool TreeModel::setData(const QModelIndex& index, const QVariant& value, int rol
 }
 
 Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags usual =
-        QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled;
+    const Qt::ItemFlags usual = QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled;
     return editable ? usual | Qt::ItemIsEditable : usual;
 }
 
-HTREEITEM TreeModel::Insert(HTREEITEM parent, std::size_t place,
-                            std::unique_ptr<_TREEITEM> item) {
+HTREEITEM TreeModel::Insert(HTREEITEM parent, std::size_t place, std::unique_ptr<_TREEITEM> item) {
     const HTREEITEM added = item.get();
     added->pParent = parent;
     added->place = place;

@@ -42,7 +42,8 @@ public:
     void Remove(HTREEITEM item);
     void Clear();
     void Changed(HTREEITEM item);
-    void Sort(HTREEITEM parent, const std::function<bool(const _TREEITEM&, const _TREEITEM&)>& less);
+    void Sort(HTREEITEM parent,
+              const std::function<bool(const _TREEITEM&, const _TREEITEM&)>& less);
     std::size_t Count() const { return m_count; }
 
     bool editable = false;

@@ -48,8 +48,7 @@ std::string Describe(const CTopologyStorage& storage) {
         AppendCommon(text += "section ", section);
         text += " " + std::to_string(section.GetStartNodeId().number()) + "-" +
                 std::to_string(section.GetEndNodeId().number()) + " " +
-                std::string(section.GetMissingStart()) + "-" +
-                std::string(section.GetMissingEnd());
+                std::string(section.GetMissingStart()) + "-" + std::string(section.GetMissingEnd());
         for (const auto& vertex : section.GetInnerVertices()) {
             Append(text, vertex);
         }
@@ -146,9 +145,9 @@ TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
     CloseAndOpen("plan.gpkg");
     EXPECT_TRUE(Describe(Current()) == before);
     CString text;
-    EXPECT_EQ(CORVCDictionaryPtr(AcDb::kForRead)
-                  .dctReadBigString(L"ORVZ_UISTATE", L"UIRECORD", text),
-              Acad::eOk);
+    EXPECT_EQ(
+        CORVCDictionaryPtr(AcDb::kForRead).dctReadBigString(L"ORVZ_UISTATE", L"UIRECORD", text),
+        Acad::eOk);
     EXPECT_EQ(text.GetLength(), 100000);
     EXPECT_FALSE(acDocManagerPtr()->curDocument()->isModified());
 
@@ -168,21 +167,18 @@ TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
               Ask("plan.gpkg", ("SELECT " + std::to_string(west) + " + 0.0").c_str()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ReferenceNetworkOnDisk,
-                         testing::Values("share/sample/town-water.inp",
-                                         "share/sample/town-sewer.inp",
-                                         "../shared/data/Net3.inp", "../shared/data/Net6.inp",
-                                         "../shared/data/ky10.inp",
-                                         "../shared/data/model_state_plane.inp",
-                                         "../shared/data/test_inlet_drains.inp"),
-                         [](const auto& test) {
-                             std::string name = std::filesystem::path(test.param).stem().string();
-                             std::replace_if(
-                                 name.begin(), name.end(),
-                                 [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); },
-                                 '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    All, ReferenceNetworkOnDisk,
+    testing::Values("share/sample/town-water.inp", "share/sample/town-sewer.inp",
+                    "../shared/data/Net3.inp", "../shared/data/Net6.inp", "../shared/data/ky10.inp",
+                    "../shared/data/model_state_plane.inp", "../shared/data/test_inlet_drains.inp"),
+    [](const auto& test) {
+        std::string name = std::filesystem::path(test.param).stem().string();
+        std::replace_if(
+            name.begin(), name.end(),
+            [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+        return name;
+    });
 
 TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
     m_folder.Write("pipes.geojson", R"({"type": "FeatureCollection", "features": [
@@ -226,8 +222,8 @@ TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
     EXPECT_EQ(first.GetNumber(AcDbIntern("DIAMETER")), 150);
     EXPECT_EQ(first.GetNumber(AcDbIntern("SYSTEMID_")), 5);
     EXPECT_EQ(first.GetInnerVertices()[0].z, 2);
-    const auto* const pLine = static_cast<const AcDbPolyline*>(
-        Document()->database()->peek(first.GetObjectId()));
+    const auto* const pLine =
+        static_cast<const AcDbPolyline*>(Document()->database()->peek(first.GetObjectId()));
     EXPECT_EQ(pLine->vertices()[0].z, 1) << "the line's own height, not that of its node";
     EXPECT_EQ(pLine->vertices()[0].x, 0);
     const auto second = storage.FindSectionByName(id, "P (2)");

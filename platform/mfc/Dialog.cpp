@@ -283,15 +283,15 @@ bool CDialog::PreTranslateMessage(MSG* pMsg) {
     }
     // An editor of a label is no window of ours; both keys end it.
     const QWidget* const pFocus = QApplication::focusWidget();
-    const WindowCore* const pFocused = WindowCore::OfWidget(pFocus);
-    if (pFocus && !pFocused) {
+    if (pFocus && !WindowCore::OfWidget(pFocus)) {
         return false;
     }
     if (!isReturn) {
         SendMessage(WM_COMMAND, PackCommand(IDCANCEL, BN_CLICKED));
         return true;
     }
-    WidgetRole* const pRole = pFocused ? pFocused->Role() : nullptr;
+    const WindowCore* const pAimedAt = WindowCore::Find(pMsg->hwnd);
+    WidgetRole* const pRole = pAimedAt ? pAimedAt->Role() : nullptr;
     if (pRole && pRole->WantsReturn()) {
         return false;
     }

@@ -11,6 +11,21 @@
 #include "platform/mfc/toolkit/DcImpl.h"
 #include "platform/mfc/toolkit/StaticWidget.h"
 
+namespace {
+
+/// "&" underlines what follows; two of them stand for the letter.
+std::wstring WithoutMnemonics(const QString& text) {
+    std::wstring result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != QLatin1Char('&') || (++i < text.size())) {
+            result += static_cast<wchar_t>(text[i].unicode());
+        }
+    }
+    return result;
+}
+
+} // namespace
+
 StaticWidget::StaticWidget(QWidget* pParent, UINT style) : Hooked(pParent), m_style(style) {
     setAttribute(Qt::WA_TransparentForMouseEvents, !(style & SS_NOTIFY));
 }
@@ -22,7 +37,7 @@ void StaticWidget::SetCaption(const QString& text) {
 
 void StaticWidget::AppendLines(std::vector<std::wstring>& lines) const {
     if (!m_text.isEmpty() && m_picture.isNull()) {
-        lines.push_back(m_text.toStdWString());
+        lines.push_back(WithoutMnemonics(m_text));
     }
 }
 

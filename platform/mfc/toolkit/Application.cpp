@@ -73,6 +73,10 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
         msg.wParam = static_cast<WPARAM>(VirtualKeyOf(pKey->key()));
         return msg;
     }
+    const QWidget* const pClient = core.Client();
+    if (pWidget != pClient && !pClient->isAncestorOf(pWidget)) {
+        return msg; // on the caption or an edge, which are not the dialog's to look at
+    }
     const auto* const pMouse = static_cast<const QMouseEvent*>(pEvent);
     if (pEvent->type() == QEvent::MouseMove) {
         msg.message = WM_MOUSEMOVE;
@@ -81,7 +85,7 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
     } else if (pMouse->button() == Qt::RightButton) {
         msg.message = WM_RBUTTONUP;
     }
-    const QPoint point = pWidget->mapTo(core.Client(), pMouse->position().toPoint());
+    const QPoint point = pWidget->mapTo(pClient, pMouse->position().toPoint());
     msg.lParam = PackInts(point.x(), point.y());
     return msg;
 }

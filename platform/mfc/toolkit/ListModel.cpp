@@ -63,9 +63,10 @@ void ListModel::Changed(int row) {
 
 void ListModel::InsertColumn(int place, ListColumn column) {
     beginInsertColumns({}, place, place);
+    const bool pushes = HasColumn(place); // rows may have texts before there are columns
     m_columns.insert(m_columns.begin() + place, std::move(column));
     for (const std::unique_ptr<ListRow>& row : m_rows) {
-        if (static_cast<std::size_t>(place) < row->cells.size()) {
+        if (pushes && static_cast<std::size_t>(place) < row->cells.size()) {
             row->cells.insert(row->cells.begin() + place, CString());
         }
     }

@@ -62,6 +62,9 @@ void TreeWidget::SetImages(const CImageList& images) {
 
 void TreeWidget::Select(HTREEITEM item) {
     if (item) {
+        for (HTREEITEM above = item->pParent; above->pParent; above = above->pParent) {
+            expand(m_model.IndexOf(above));
+        }
         setCurrentIndex(m_model.IndexOf(item));
     } else {
         selectionModel()->clear();

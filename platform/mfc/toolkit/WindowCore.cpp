@@ -113,7 +113,8 @@ WindowCore* WindowCore::OfWidget(const QWidget* pWidget) {
 }
 
 WindowCore* WindowCore::Around(const QWidget* pWidget) {
-    for (; pWidget; pWidget = pWidget->parentWidget()) {
+    // What stands on a window of ours without being one (a message box) is not part of it.
+    for (; pWidget; pWidget = pWidget->isWindow() ? nullptr : pWidget->parentWidget()) {
         if (WindowCore* const pCore = OfWidget(pWidget)) {
             return pCore;
         }
@@ -259,8 +260,7 @@ bool WindowCore::Translate(enmWidgetPart part, QEvent* pEvent, MSG& msg) const {
         // What a control left comes by its parents, too; it was not typed into them.
         msg.message = WM_KEYDOWN;
         msg.wParam = static_cast<WPARAM>(VirtualKeyOf(static_cast<QKeyEvent*>(pEvent)->key()));
-        return QApplication::focusWidget() &&
-               Around(QApplication::focusWidget()) == static_cast<const WindowCore*>(this);
+        return !QApplication::focusWidget() || Around(QApplication::focusWidget()) == this;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease: {
         const auto* const pMouse = static_cast<QMouseEvent*>(pEvent);

@@ -1,0 +1,200 @@
+// Where windows go: proposed places, captions, placement, screens, stacking.
+#include "tests/mfc/WindowTest.h"
+
+#include <QToolButton>
+
+#include "tests/mfc/TestDialog.h"
+#include "tests/support/ScriptedScreens.h"
+
+namespace {
+
+/// Keeps to a grid of ten pixels.
+class GridDialog : public TestDialog {
+public:
+    int asked = 0;
+    bool refuse = false;
+
+protected:
+    const MessageMap* GetMessageMap() const override {
+        static constexpr MessageEntry kEntries[] = {
+            MapMessage<&GridDialog::OnWindowPosChanging>(WM_WINDOWPOSCHANGING)};
+        static const MessageMap kMap{TestDialog::GetMessageMap(), kEntries};
+        return &kMap;
+    }
+    void OnWindowPosChanging(WINDOWPOS* pPlace) {
+        ++asked;
+        EXPECT_EQ(pPlace->hwnd, GetSafeHwnd());
+        pPlace->x = (pPlace->x + 5) / 10 * 10;
+        pPlace->y = (pPlace->y + 5) / 10 * 10;
+        if (refuse) {
+            pPlace->flags |= SWP_NOMOVE | SWP_NOSIZE;
+        }
+        TestDialog::OnWindowPosChanging(pPlace);
+    }
+};
+
+class MovingTest : public WindowTest {};
+
+TEST_F(MovingTest, AHandlerChangesEachProposedPlace) {
+    GridDialog dialog;
+    dialog.Create();
+    const CSize size = dialog.GetWindowRect().Size();
+    dialog.SetWindowPos(nullptr, 103, 207, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(dialog.GetWindowRect(), CRect(CPoint(100, 210), size));
+    dialog.MoveWindow({1, 2, 301, 202});
+    EXPECT_EQ(dialog.GetWindowRect(), CRect(0, 0, 300, 200));
+    dialog.refuse = true;
+    dialog.MoveWindow({50, 50, 80, 80});
+    EXPECT_EQ(dialog.GetWindowRect(), CRect(0, 0, 300, 200));
+    EXPECT_EQ(dialog.asked, 3);
+}
+
+TEST_F(MovingTest, EveryStepOfADragIsProposed) {
+    GridDialog dialog;
+    dialog.Create();
+    dialog.MoveWindow({100, 100, 400, 300});
+    dialog.ShowWindow(SW_SHOW);
+    dialog.asked = 0;
+    QWidget* const pFrame = FrameOf(dialog);
+    const CRect before = dialog.GetWindowRect();
+    const auto send = [pFrame](QEvent::Type type, QPoint onScreen) {
+        const bool pressed = type != QEvent::MouseButtonRelease;
+        QMouseEvent event(type, pFrame->mapFromGlobal(onScreen), onScreen, Qt::LeftButton,
+                          pressed ? Qt::LeftButton : Qt::NoButton, {});
+        QApplication::sendEvent(pFrame, &event);
+    };
+    const QPoint grip(before.left + 60, before.top + 10); // on the caption
+    send(QEvent::MouseButtonPress, grip);
+    for (int step = 1; step <= 22; ++step) {
+        send(QEvent::MouseMove, grip + QPoint(step, 2 * step));
+        const CPoint wanted((before.left + step + 5) / 10 * 10,
+                            (before.top + 2 * step + 5) / 10 * 10);
+        EXPECT_EQ(dialog.GetWindowRect().TopLeft(), wanted) << step;
+    }
+    send(QEvent::MouseButtonRelease, grip);
+    EXPECT_EQ(dialog.asked, 22);
+    EXPECT_EQ(dialog.GetWindowRect().Size(), before.Size());
+    send(QEvent::MouseMove, grip + QPoint(50, 50));
+    EXPECT_EQ(dialog.asked, 22) << "the button is up";
+}
+
+TEST_F(MovingTest, EdgesSizeOnlyWhatCanBeSized) {
+    for (const bool sizable : {false, true}) {
+        CWnd wnd;
+        wnd.Create(WS_POPUP | WS_CAPTION | WS_VISIBLE | (sizable ? WS_THICKFRAME : 0),
+                   {100, 100, 300, 250}, nullptr);
+        QWidget* const pFrame = FrameOf(wnd);
+        const auto send = [pFrame](QEvent::Type type, QPoint onScreen) {
+            QMouseEvent event(type, pFrame->mapFromGlobal(onScreen), onScreen, Qt::LeftButton,
+                              Qt::LeftButton, {});
+            QApplication::sendEvent(pFrame, &event);
+        };
+        send(QEvent::MouseButtonPress, {299, 249});
+        send(QEvent::MouseMove, {319, 279});
+        EXPECT_EQ(wnd.GetWindowRect(),
+                  sizable ? CRect(100, 100, 320, 280) : CRect(120, 130, 320, 280));
+        send(QEvent::MouseMove, {-500, -500});
+        EXPECT_GT(wnd.GetWindowRect().Width(), 30);
+    }
+}
+
+TEST_F(MovingTest, PlacementCoversAnotherWindowExactly) {
+    TestDialog owner;
+    owner.Create();
+    owner.MoveWindow({40, 50, 340, 250});
+    owner.ShowWindow(SW_SHOW);
+    CWnd target;
+    target.Create(WS_POPUP, {0, 0, 10, 10}, &owner);
+    WINDOWPLACEMENT place;
+    EXPECT_FALSE(CWnd().GetWindowPlacement(&place));
+    ASSERT_TRUE(owner.GetWindowPlacement(&place));
+    place.showCmd = SW_SHOWNORMAL;
+    target.SetWindowPlacement(&place);
+    EXPECT_EQ(target.GetWindowRect(), owner.GetWindowRect());
+    EXPECT_TRUE(target.IsWindowVisible());
+    owner.CloseWindow();
+    owner.GetWindowPlacement(&place);
+    EXPECT_EQ(place.showCmd, SW_SHOWMINIMIZED);
+    owner.DestroyWindow();
+    EXPECT_FALSE(target.GetSafeHwnd()) << "a window goes with its owner";
+}
+
+TEST_F(MovingTest, WindowsAreCountedFromTheFront) {
+    CWnd a;
+    CWnd b;
+    CWnd hidden;
+    for (CWnd* const pWnd : {&a, &b, &hidden}) {
+        pWnd->Create(WS_POPUP, {0, 0, 50, 50}, nullptr);
+    }
+    a.ShowWindow(SW_SHOW);
+    b.ShowWindow(SW_SHOWNOACTIVATE);
+    AfxPumpMessages();
+    using Order = std::vector<HWND>;
+    b.BringWindowToTop();
+    EXPECT_EQ(Screens().Stacking(), (Order{b.GetSafeHwnd(), a.GetSafeHwnd()}));
+    a.BringWindowToTop();
+    EXPECT_EQ(Screens().Stacking(), (Order{a.GetSafeHwnd(), b.GetSafeHwnd()}));
+    a.ShowWindow(SW_HIDE);
+    EXPECT_EQ(Screens().Stacking(), Order{b.GetSafeHwnd()});
+}
+
+TEST_F(MovingTest, ChildrenStandBehindTheirNeighbour) {
+    CWnd parent;
+    CWnd bar;
+    CWnd marker;
+    parent.Create(WS_POPUP, {0, 0, 50, 50}, nullptr);
+    marker.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 1);
+    bar.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 2);
+    const auto isAbove = [&](const CWnd& one, const CWnd& other) {
+        const QObjectList& order = FrameOf(parent)->children();
+        return order.indexOf(FrameOf(one)) > order.indexOf(FrameOf(other));
+    };
+    marker.SetWindowPos(nullptr, 0, 3, 20, 3, SWP_NOACTIVATE);
+    EXPECT_TRUE(isAbove(marker, bar));
+    marker.SetWindowPos(&bar, 0, 3, 20, 3, SWP_NOACTIVATE);
+    EXPECT_TRUE(isAbove(bar, marker));
+    EXPECT_EQ(parent.ScreenToClient(marker.GetWindowRect()), CRect(0, 3, 20, 6));
+}
+
+TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
+    const CRect full(0, 0, 1920, 1080);
+    const struct {
+        CRect work;
+        CRect bar;
+    } cases[] = {
+        {full, {}},
+        {{0, 0, 1920, 1040}, {0, 1040, 1920, 1080}},
+        {{0, 40, 1920, 1080}, {0, 0, 1920, 40}},
+        {{60, 0, 1920, 1080}, {0, 0, 60, 1080}},
+        {{0, 0, 1860, 1080}, {1860, 0, 1920, 1080}},
+        {{0, 24, 1920, 1020}, {0, 1020, 1920, 1080}}, // two of them: the thicker
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(TaskBarOf({full, c.work}), c.bar) << c.work.top << " " << c.work.bottom;
+    }
+    const Monitor left{{-1280, 0, 0, 1024}, {-1280, 0, 0, 1024}};
+    EXPECT_TRUE(TaskBarOf(left).IsRectEmpty());
+}
+
+TEST_F(MovingTest, TheNearestMonitorHoldsThePointOrLiesClosest) {
+    const ScriptedScreens desktop(
+        {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 100, 3200, 900}, {}}});
+    const struct {
+        CPoint point;
+        int left;
+    } cases[] = {{{0, 0}, 0},     {{-1, 500}, -1280},  {{1919, 1079}, 0},   {{1920, 100}, 1920},
+                 {{1920, 50}, 0}, {{-9000, 0}, -1280}, {{5000, 500}, 1920}, {{-10, 1050}, 0}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(NearestMonitor(Screens().Monitors(), c.point).full.left, c.left)
+            << c.point.x << "," << c.point.y;
+    }
+}
+
+TEST_F(MovingTest, TheDesktopInMemoryHasAScreen) {
+    const std::vector<Monitor> monitors = Screens().Monitors();
+    ASSERT_FALSE(monitors.empty());
+    EXPECT_FALSE(monitors.front().full.IsRectEmpty());
+    EXPECT_TRUE(monitors.front().full.PtInRect(monitors.front().work.TopLeft()));
+}
+
+} // namespace

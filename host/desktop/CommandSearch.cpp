@@ -1,6 +1,8 @@
 #include "host/desktop/CommandSearch.h"
 
 #include <algorithm>
+#include <numeric>
+#include <unordered_map>
 #include <utility>
 
 namespace Tessaly {
@@ -69,6 +71,15 @@ CommandSearch::CommandSearch(std::vector<CommandEntry> entries) : m_entries(std:
         std::replace(text.name.begin(), text.name.end(), L'_', L' ');
         m_texts.push_back(std::move(text));
     }
+    // Sorted once here, so that nothing is compared letter by letter at a keystroke.
+    std::vector<std::size_t> order(m_texts.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(), [this](std::size_t left, std::size_t right) {
+        return m_texts[left].name < m_texts[right].name;
+    });
+    for (std::size_t place = 0; place < order.size(); ++place) {
+        m_texts[order[place]].place = place;
+    }
 }
 
 int CommandSearch::ScoreWord(const Text& text, const std::wstring& word) {
@@ -94,7 +105,12 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
         std::size_t age; ///< place among the recent ones
     };
     const std::vector<std::wstring> words = Words(query);
+    std::unordered_map<std::wstring_view, std::size_t> ages;
+    for (std::size_t age = 0; age < recent.size(); ++age) {
+        ages.emplace(recent[age].View(), age);
+    }
     std::vector<Hit> hits;
+    hits.reserve(m_texts.size());
     for (std::size_t i = 0; i < m_texts.size(); ++i) {
         int score = 0;
         const bool fits = std::all_of(words.begin(), words.end(), [&](const std::wstring& word) {
@@ -103,8 +119,8 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
             return wordScore > 0;
         });
         if (fits) {
-            const auto used = std::find(recent.begin(), recent.end(), m_entries[i].name);
-            hits.push_back({i, score, static_cast<std::size_t>(used - recent.begin())});
+            const auto used = ages.find(m_entries[i].name.View());
+            hits.push_back({i, score, used == ages.end() ? recent.size() : used->second});
         }
     }
     std::sort(hits.begin(), hits.end(), [this](const Hit& left, const Hit& right) {
@@ -112,7 +128,7 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
             return left.score > right.score;
         }
         return left.age != right.age ? left.age < right.age
-                                     : m_texts[left.entry].name < m_texts[right.entry].name;
+                                     : m_texts[left.entry].place < m_texts[right.entry].place;
     });
     std::vector<std::size_t> found(hits.size());
     std::transform(hits.begin(), hits.end(), found.begin(),

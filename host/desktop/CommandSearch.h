@@ -30,6 +30,7 @@ private:
     struct Text {
         std::wstring name;        ///< in lower case, "_" as a blank
         std::wstring description; ///< in lower case
+        std::size_t place = 0;    ///< in the alphabet
     };
     static int ScoreWord(const Text& text, const std::wstring& word);
 

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "host/HostCommands.h"
 #include "host/Session.h"
 #include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
@@ -26,7 +27,6 @@ constexpr const wchar_t* kLayoutFile = L"layout.txt";
 constexpr QSize kPictureSize(1600, 1000);
 // Of a picture: how long is waited for what is drawn in steps. Milliseconds.
 constexpr int kPictureStep = 20;
-constexpr int kLeastWait = 300;
 constexpr int kLongestWait = 30'000;
 
 /// Standard output says nothing in a desktop, but who starts it without a display, or with
@@ -74,7 +74,10 @@ int TakePicture(Frame& frame, const CString& path) {
     };
     do {
         QApplication::processEvents(QEventLoop::AllEvents, kPictureStep);
-    } while (waited.elapsed() < kLeastWait || (!isWhole() && waited.elapsed() < kLongestWait));
+    } while (!isWhole() && waited.elapsed() < kLongestWait);
+    if (DrawingView* const pView = frame.CurrentView()) {
+        pView->CompletePicture();
+    }
     if (!frame.grab().save(ToQt(path.View()))) {
         Complain("the picture cannot be written");
         return kExitBadUsage;

@@ -46,7 +46,7 @@ struct SizeStep {
     std::uint32_t most; ///< points
     double pixels;
 };
-constexpr SizeStep kPointSizes[] = {{300, 7}, {3000, 5}, {30000, 3}};
+constexpr SizeStep kPointSizes[] = {{120, 7}, {600, 5}, {4000, 3}};
 
 double SizeOfPoints(std::uint32_t points) {
     for (const SizeStep& step : kPointSizes) {

@@ -24,8 +24,14 @@ bool g_desktop = false;
 /// Left alone at the end of the process, where the order of destruction is nobody's.
 Application* g_pApplication = nullptr;
 
+/// An empty variable says nothing.
+bool IsSet(const char* variable) {
+    const char* const value = std::getenv(variable);
+    return value && *value;
+}
+
 bool XServerAnswers() {
-    if (!std::getenv("DISPLAY")) {
+    if (!IsSet("DISPLAY")) {
         return false;
     }
     xcb_connection_t* const pConnection = xcb_connect(nullptr, nullptr);
@@ -44,7 +50,7 @@ const char* ChosenDisplay() {
     if (XServerAnswers()) {
         return "xcb;offscreen";
     }
-    return std::getenv("WAYLAND_DISPLAY") ? "wayland;offscreen" : "offscreen";
+    return IsSet("WAYLAND_DISPLAY") ? "wayland;offscreen" : "offscreen";
 }
 
 bool IsTranslated(QEvent::Type type) {
@@ -213,14 +219,14 @@ bool AfxIsDesktopMode() {
 }
 
 bool AfxHasDisplay() {
-    return std::getenv("QT_QPA_PLATFORM") || XServerAnswers() || std::getenv("WAYLAND_DISPLAY");
+    return IsSet("QT_QPA_PLATFORM") || XServerAnswers() || IsSet("WAYLAND_DISPLAY");
 }
 
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
     }
-    if (!std::getenv("QT_QPA_PLATFORM")) {
+    if (!IsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", ChosenDisplay());
     }
     static int argc = 1;

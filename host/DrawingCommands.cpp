@@ -220,18 +220,20 @@ bool Redo() {
 }
 
 constexpr int kNoGroup = ACRX_CMD_NO_UNDO_GROUP;
+constexpr int kOnDrawing = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_NEEDS_DRAWING;
 
 constexpr HostCommand kDrawingCommands[] = {
     {L"OPEN", RunHostCommand<Open>, L"opens a drawing", kNoGroup},
     {L"NEW", RunHostCommand<New>, L"begins a new drawing", kNoGroup},
-    {L"SAVE", RunHostCommand<Save>, L"writes the drawing into its file", kNoGroup},
-    {L"SAVEAS", RunHostCommand<SaveAs>, L"writes the drawing into another file", kNoGroup},
-    {L"CLOSE", RunHostCommand<Close>, L"closes the drawing", kNoGroup},
+    {L"SAVE", RunHostCommand<Save>, L"writes the drawing into its file", kOnDrawing},
+    {L"SAVEAS", RunHostCommand<SaveAs>, L"writes the drawing into another file", kOnDrawing},
+    {L"CLOSE", RunHostCommand<Close>, L"closes the drawing", kOnDrawing},
     {L"DRAWINGS", RunHostCommand<Drawings>, L"lists the open drawings", kNoGroup},
-    {L"SWITCH", RunHostCommand<Switch>, L"makes another drawing the current one", kNoGroup},
-    {L"UNDO", RunHostCommand<Undo>, L"takes back what the last command changed", kNoGroup},
-    {L"REDO", RunHostCommand<Redo>, L"brings back what UNDO took", kNoGroup},
-    {L"IMPORT", RunHostCommand<Import>, L"brings a file of another program into the drawing", 0},
+    {L"SWITCH", RunHostCommand<Switch>, L"makes another drawing the current one", kOnDrawing},
+    {L"UNDO", RunHostCommand<Undo>, L"takes back what the last command changed", kOnDrawing},
+    {L"REDO", RunHostCommand<Redo>, L"brings back what UNDO took", kOnDrawing},
+    {L"IMPORT", RunHostCommand<Import>, L"brings a file of another program into the drawing",
+     ACRX_CMD_NEEDS_DRAWING},
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "host/Dialog.h"
 #include "host/DrawingCommands.h"
+#include "host/ViewCommands.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxDynamicLinker.h"
 #include "platform/win/ErrorText.h"
@@ -49,8 +50,9 @@ constexpr HostCommand kProgramCommands[] = {
 template <class Use>
 void ForEachHostCommand(Use use) {
     std::for_each(std::begin(kProgramCommands), std::end(kProgramCommands), use);
-    const auto drawingCommands = DrawingCommands();
-    std::for_each(drawingCommands.begin(), drawingCommands.end(), use);
+    for (const std::span<const HostCommand> commands : {DrawingCommands(), ViewCommands()}) {
+        std::for_each(commands.begin(), commands.end(), use);
+    }
 }
 
 CString DescriptionOf(const AcEdCommand& command) {
@@ -64,13 +66,8 @@ CString DescriptionOf(const AcEdCommand& command) {
 }
 
 bool Help() {
-    for (const auto& command : acedRegCmds()->commands()) {
-        acutPrintf(L"%-20s %s\n", command->globalName(), DescriptionOf(*command));
-    }
-    for (const IEdCommandSource* pSource : acedRegCmds()->sources()) {
-        for (const auto& [name, description] : pSource->List()) {
-            acutPrintf(L"%-20s %s\n", name, description);
-        }
+    for (const ListedCommand& command : ListCommands()) {
+        acutPrintf(L"%-20s %s\n", command.name, command.description);
     }
     return true;
 }
@@ -82,6 +79,22 @@ void RegisterHostCommands() {
         acedRegCmds()->addCommand(kGroup, command.name, command.name, command.flags,
                                   command.function);
     });
+}
+
+std::vector<ListedCommand> ListCommands() {
+    const bool hasDrawing = acDocManagerPtr()->curDocument() != nullptr;
+    std::vector<ListedCommand> list;
+    for (const auto& command : acedRegCmds()->commands()) {
+        const bool isAble = hasDrawing || !(command->commandFlags() & ACRX_CMD_NEEDS_DRAWING);
+        list.push_back({command->globalName(), DescriptionOf(*command),
+                        isAble ? CString() : CString(L"No drawing is open")});
+    }
+    for (const IEdCommandSource* pSource : acedRegCmds()->sources()) {
+        for (auto& [name, description] : pSource->List()) {
+            list.push_back({name, description, {}});
+        }
+    }
+    return list;
 }
 
 bool HasQuit() {

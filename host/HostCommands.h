@@ -1,6 +1,8 @@
 // The commands of the host itself.
 #pragma once
 
+#include <vector>
+
 #include "platform/arx/EdCommandStack.h"
 
 namespace Tessaly {
@@ -22,6 +24,14 @@ void RunHostCommand() {
 
 /// Adds them to the command stack.
 void RegisterHostCommands();
+
+/// A command that can be typed: the host's own, those of modules, and those of the workspace.
+struct ListedCommand {
+    CString name;
+    CString description;
+    CString whyNot; ///< why it cannot run now; empty if it can
+};
+std::vector<ListedCommand> ListCommands();
 
 /// The user has asked to leave, and nobody vetoed.
 bool HasQuit();

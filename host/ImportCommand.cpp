@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/CoordinateSystems.h"
 #include "host/Dialog.h"
+#include "host/storage/CoordinateSystem.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/win/File.h"
 

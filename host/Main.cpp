@@ -2,8 +2,11 @@
 
 #include "host/Folders.h"
 #include "host/Session.h"
+#include "host/console/ConsolePort.h"
+#include "host/desktop/Desktop.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/mfc/WinApp.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 
@@ -67,7 +70,16 @@ int main(int argc, char** argv) {
         acutPrintf(L"%s", Tessaly::UsageText());
         return Tessaly::kExitDone;
     }
-    const int status = SetUpFolders(options) ? Run(options, port) : Tessaly::kExitBadUsage;
+    int status = Tessaly::kExitBadUsage;
+    if (SetUpFolders(options)) {
+        const bool isConsole =
+            options.console || options.script || (!options.snapshot && !AfxHasDisplay());
+        if (isConsole && !options.console && !options.script) {
+            acutPrintf(L"There is no display: the console is started instead.\n");
+        }
+        status = isConsole ? Run(options, port) : Tessaly::RunDesktop(options);
+    }
+    AfxStopToolkit();
     SetHostPort(nullptr);
     return status;
 }

@@ -14,6 +14,9 @@ struct ValueOption {
 constexpr ValueOption kValueOptions[] = {
     {"--script", [](Options& options, CString value) { options.script = value; }},
     {"--first", [](Options& options, CString value) { options.first = value; }},
+    {"--snapshot", [](Options& options, CString value) { options.snapshot = value; }},
+    {"--transcript", [](Options& options, CString value) { options.transcript = value; }},
+    {"--theme", [](Options& options, CString value) { options.theme = value; }},
     {"--trace", [](Options& options, CString value) { options.trace = value; }},
     {"--support", [](Options& options, CString value) { options.support = value; }},
     {"--install", [](Options& options, CString value) { options.install = value; }},
@@ -62,6 +65,9 @@ const wchar_t* UsageText() {
            L"  --script FILE   runs the commands of a file, one a line, and ends; the exit\n"
            L"                  status is that of the first command that fails\n"
            L"  --first FILE    runs the commands of a file, then goes on at the prompt\n"
+           L"  --snapshot FILE draws the desktop into a picture, without a display, and ends\n"
+           L"  --transcript FILE  writes what the desktop's command line shows to a file\n"
+           L"  --theme NAME    light or dark, whatever the system's is\n"
            L"  --trace FILE    writes the developer's trace to a file\n"
            L"  --support DIR   the folder of the user's settings\n"
            L"  --install DIR   the folder of the modules\n";

@@ -12,9 +12,12 @@ namespace Tessaly {
 struct Options {
     bool console = false;
     bool help = false;
-    std::optional<CString> script; ///< run it and end with its status
-    std::optional<CString> first;  ///< run it, then go on at the prompt
-    CString drawing;               ///< opened at the start; empty: a new one
+    std::optional<CString> script;     ///< run it and end with its status
+    std::optional<CString> first;      ///< run it, then go on at the prompt
+    std::optional<CString> snapshot;   ///< draw the desktop into this file, and end
+    std::optional<CString> transcript; ///< what the desktop's command line shows goes here, too
+    std::optional<CString> theme;      ///< "light" or "dark" for this run
+    CString drawing;                   ///< opened at the start; empty: a new one
     CString trace;
     CString support; ///< empty: the user's own folder
     CString install; ///< empty: where the program lies

@@ -50,7 +50,7 @@ bool Guarded(const wchar_t* what, Call call) {
 
 } // namespace
 
-Session::Session(ConsolePort& port)
+Session::Session(ILinePort& port)
     : m_port(port), m_pStorage(MakeGeoPackageStorage()), m_pImporter(MakeImporter()) {
     acDocManagerPtr()->setStorage(m_pStorage.get());
     acdbSetImporter(m_pImporter.get());

@@ -3,8 +3,8 @@
 
 #include <memory>
 
+#include "host/LinePort.h"
 #include "host/Options.h"
-#include "host/console/ConsolePort.h"
 #include "platform/arx/DbImport.h"
 #include "platform/arx/DbStorage.h"
 
@@ -18,7 +18,7 @@ inline constexpr int kExitBadUsage = 2;
 class Session {
 public:
     /// Gives the platform its storage of drawings and its importer.
-    explicit Session(ConsolePort& port);
+    explicit Session(ILinePort& port);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -32,6 +32,9 @@ public:
     int RunScript(const wchar_t* path);
     /// Obeys the user until they leave or the input ends.
     int RunPrompt(IInputLines& input);
+    /// Runs one command by name. False, with the reason printed, if it was not carried out;
+    /// what a module throws ends here.
+    bool RunCommand(const CString& name);
     /// Names the drawings with unsaved changes and tells the modules that the host ends,
     /// unless the user's QUIT has seen to both. There is no input left to ask for, so nobody
     /// can veto any more.
@@ -42,9 +45,8 @@ private:
     enum class Mode { StopAtFailure, GoOn };
 
     int RunLines(IInputLines& input, Mode mode);
-    bool RunCommand(const CString& name);
 
-    ConsolePort& m_port;
+    ILinePort& m_port;
     std::unique_ptr<IDbStorage> m_pStorage;
     std::unique_ptr<IDbImporter> m_pImporter;
 };

@@ -4,20 +4,20 @@
 #include <chrono>
 #include <deque>
 
+#include "host/LinePort.h"
 #include "host/console/InputLines.h"
 #include "host/console/ProgressText.h"
 #include "host/console/StopSignal.h"
-#include "platform/arx/HostPort.h"
 
 namespace Tessaly {
 
 /// Input may change while the program runs: from a script to the user, say. Texts that
 /// were posted come before any other input.
-class ConsolePort final : public IHostPort {
+class ConsolePort final : public ILinePort {
 public:
     explicit ConsolePort(std::FILE* output);
 
-    void SetInput(IInputLines* pInput) {
+    void SetInput(IInputLines* pInput) override {
         m_pInput = pInput;
         m_nPromptsBehindEnd = 0;
     }
@@ -32,11 +32,8 @@ public:
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 
-    /// One line for the command prompt; nothing at the end of the input.
-    std::optional<CString> NextLine(std::wstring_view prompt);
-    /// Forgets the posted texts that only cancel what is open; at the command prompt
-    /// nothing is.
-    void DropEscapes();
+    std::optional<CString> NextLine(std::wstring_view prompt) override;
+    void DropEscapes() override;
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -60,8 +57,5 @@ private:
     bool m_atLineStart = true;
     int m_nPromptsBehindEnd = 0;
 };
-
-/// Thrown when a command goes on prompting although the input has long ended.
-struct InputEnded {};
 
 } // namespace Tessaly

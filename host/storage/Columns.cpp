@@ -193,7 +193,7 @@ std::vector<AttributeColumn> AttributeColumns(const OGRFeatureDefn& definition,
         if (field.GetType() == OFTBinary) {
             passedOver.emplace_back(field.GetNameRef());
         } else {
-            columns.push_back({i, AcDbIntern(field.GetNameRef()), TypeOf(field.GetType())});
+            columns.push_back({i, AcDbInternForeign(field.GetNameRef()), TypeOf(field.GetType())});
         }
     }
     return columns;
@@ -260,6 +260,7 @@ EntityTable::EntityTable(OGRLayer& layer, EntityKind kind, const Schema& schema)
         if (FindFixed(name.c_str())) {
             continue;
         }
+        column.name = AcDbIntern(name); // our own names are ours here
         for (const ColumnName& noted : schema.columns) {
             if (noted.column == name && noted.table == layer.GetName()) {
                 column.name = AcDbIntern(noted.attribute);

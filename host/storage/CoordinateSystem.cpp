@@ -2,6 +2,8 @@
 
 #include <ogr_spatialref.h>
 
+#include "platform/win/CodePage.h"
+
 namespace Tessaly {
 
 namespace {
@@ -24,6 +26,28 @@ std::string WktOf(const OGRSpatialReference* pReference) {
     std::string wkt = isDone && pText ? pText : "";
     CPLFree(pText);
     return wkt;
+}
+
+namespace {
+
+bool Read(const CString& wkt, OGRSpatialReference& reference) {
+    return reference.importFromWkt(WideToUtf8(wkt.View()).c_str()) == OGRERR_NONE;
+}
+
+} // namespace
+
+bool IsSameCoordinateSystem(const CString& left, const CString& right) {
+    OGRSpatialReference first;
+    OGRSpatialReference second;
+    static const char* const kOptions[] = {"IGNORE_DATA_AXIS_TO_SRS_AXIS_MAPPING=YES", nullptr};
+    return left == right ||
+           (Read(left, first) && Read(right, second) && first.IsSame(&second, kOptions));
+}
+
+CString CoordinateSystemName(const CString& wkt) {
+    OGRSpatialReference reference;
+    const char* const name = Read(wkt, reference) ? reference.GetName() : nullptr;
+    return name ? CString(Utf8ToWide(name)) : CString(L"unknown");
 }
 
 } // namespace Tessaly

@@ -174,6 +174,12 @@ void DrawingReader::ReadForeignTables() {
         if (isOurs || layer.GetGeomType() == wkbNone) {
             continue;
         }
+        if (m_schema.exists && ShowsAnyOf(m_file, layer.GetName(), m_schema.tables)) {
+            m_warnings.push_back(
+                Utf8ToWide(std::string(layer.GetName()) +
+                           ": it is passed over, since it shows objects of the drawing once more"));
+            continue;
+        }
         const auto table = static_cast<std::uint32_t>(m_remembered.foreignTables.size());
         m_remembered.foreignTables.emplace_back(layer.GetName());
         ReadForeignTable(layer, table);

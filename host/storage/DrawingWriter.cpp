@@ -7,6 +7,7 @@
 
 #include "host/storage/EntityRows.h"
 #include "host/storage/GeoPackageFile.h"
+#include "host/storage/StoredExtent.h"
 #include "host/storage/SymbolRows.h"
 #include "platform/win/CodePage.h"
 
@@ -14,10 +15,12 @@ namespace Tessaly {
 
 /// A feature table with the one row object that all its rows are written from.
 struct DrawingWriter::Table {
-    Table(OGRLayer& layer, EntityKind kind, const Schema& schema, bool isNewTable)
-        : columns(layer, kind, schema), isNew(isNewTable) {}
+    Table(GeoPackageFile& file, OGRLayer& layer, EntityKind kind, const Schema& schema,
+          bool isNewTable)
+        : columns(layer, kind, schema), extent(file, layer), isNew(isNewTable) {}
 
     EntityTable columns;
+    StoredExtent extent;
     bool isNew;
     OGRFeatureUniquePtr row; ///< made once all columns are there
     /// Names that stand in rows, by the ids of layers and blocks.
@@ -66,13 +69,16 @@ DrawingWriter::~DrawingWriter() = default;
 
 CString DrawingWriter::Write(Scope scope) {
     m_scope = scope;
+    if (!m_file.BeginWriting()) {
+        return m_errors.Reason();
+    }
     CString reason = LoadSchema(m_file, m_schema);
     if (!reason.IsEmpty()) {
         return reason;
     }
     m_nNotedColumns = m_schema.columns.size();
     m_errors.Clear();
-    if (m_file.Begin() && WriteAll() && m_file.Commit()) {
+    if (WriteAll() && m_file.Commit()) {
         return {};
     }
     // Said before the transaction is taken back, which may have its own complaints.
@@ -89,6 +95,12 @@ CString DrawingWriter::FailureReason() {
 }
 
 bool DrawingWriter::WriteAll() {
+    // Another drawing may have been saved to the same file since, with more objects.
+    m_nNextId = std::max(m_database.nextId(), m_schema.nextId);
+    if (std::int64_t{m_nNextId} > kHighestId) {
+        m_strRefusal = L"it has more objects than a file can hold";
+        return false;
+    }
     if (!CreateSchema(m_file) || !MoveRenumbered()) {
         return false;
     }
@@ -131,7 +143,7 @@ bool DrawingWriter::MoveRow(const std::string& table, std::int64_t from, const s
 bool DrawingWriter::MoveAside(const std::string& table, std::int64_t fid) {
     return MoveRow(table, fid,
                    "1 + max((SELECT max(fid) FROM " + QuoteName(table) + "), " +
-                       std::to_string(m_database.nextId()) + ")");
+                       std::to_string(m_nNextId) + ")");
 }
 
 bool DrawingWriter::MoveRenumbered() {
@@ -203,7 +215,7 @@ bool DrawingWriter::PrepareTable(std::size_t kind, const std::vector<Counts>& co
         return false;
     }
     m_tables[kind] =
-        std::make_unique<Table>(*pLayer, static_cast<EntityKind>(kind), m_schema, isNew);
+        std::make_unique<Table>(m_file, *pLayer, static_cast<EntityKind>(kind), m_schema, isNew);
     Table& table = *m_tables[kind];
     for (const AcDbNameId attribute : names) {
         const AcDbValue::Kind valueKind = counts[static_cast<std::size_t>(attribute)].Kind();
@@ -222,6 +234,10 @@ bool DrawingWriter::WriteObjects() {
             continue;
         }
         const AcDbEntity* pEntity = AsEntity(*pObject);
+        if (!pEntity && dynamic_cast<const AcDbEntity*>(pObject)) {
+            m_nUnknown += pObject->isErased() ? 0 : 1;
+            continue;
+        }
         const bool isDone = pEntity ? WriteEntity(*pEntity)
                                     : WriteSymbol(m_file, *pObject, m_scope == Scope::Everything);
         if (!isDone || !m_progress.Step()) {
@@ -247,7 +263,11 @@ bool DrawingWriter::WriteEntity(const AcDbEntity& entity) {
     if (isNewRow) {
         return true;
     }
-    const OGRErr deleted = table.columns.Layer().DeleteFeature(entity.objectId().number());
+    const std::int64_t fid = entity.objectId().number();
+    if (!table.extent.Leave(fid, nullptr)) {
+        return false;
+    }
+    const OGRErr deleted = table.columns.Layer().DeleteFeature(fid);
     return deleted == OGRERR_NONE || deleted == OGRERR_NON_EXISTING_FEATURE;
 }
 
@@ -279,6 +299,9 @@ bool DrawingWriter::PutRow(Table& table, const AcDbEntity& entity, bool isNewRow
     std::int64_t& last = m_schema.lastFids[static_cast<std::size_t>(table.columns.Kind())];
     last = std::max<std::int64_t>(last, entity.objectId().number());
     if (!isNewRow) {
+        if (!table.extent.Leave(row.GetFID(), row.GetGeometryRef())) {
+            return false;
+        }
         const OGRErr updated = layer.SetFeature(&row);
         if (updated != OGRERR_NON_EXISTING_FEATURE) {
             return updated == OGRERR_NONE;
@@ -311,6 +334,9 @@ bool DrawingWriter::TakeOver(AcDbObjectId id) {
 bool DrawingWriter::FinishTables() {
     for (const std::unique_ptr<Table>& table : m_tables) {
         if (!table || !table->isNew) {
+            if (table && !table->extent.Finish()) {
+                return false;
+            }
             continue;
         }
         // Heights are welcome and not required, which GDAL has no word for.
@@ -352,7 +378,7 @@ bool DrawingWriter::WriteNotes() {
         }
     }
     return WriteMeta(m_file, "version", std::to_string(kSchemaVersion)) &&
-           WriteMeta(m_file, "next_id", std::to_string(m_database.nextId())) &&
+           WriteMeta(m_file, "next_id", std::to_string(m_nNextId)) &&
            WriteMeta(m_file, "srs", WideToUtf8(m_database.coordinateSystem().View()));
 }
 

@@ -35,6 +35,8 @@ public:
     CString Write(Scope scope);
     /// After success: what is to be remembered of the file now.
     void Update(DrawingFile& remembered) const;
+    /// Objects that are not in the file, since it has no table for their class.
+    std::size_t UnknownCount() const { return m_nUnknown; }
 
 private:
     struct Table;
@@ -65,6 +67,8 @@ private:
     Scope m_scope = Scope::Changes;
     Schema m_schema;
     std::size_t m_nNotedColumns = 0;
+    std::size_t m_nUnknown = 0;
+    std::uint32_t m_nNextId = 0; ///< to be noted in the file
     std::vector<AcDbObjectId> m_objects;
     std::array<std::unique_ptr<Table>, kEntityKinds> m_tables;
     std::vector<AcDbObjectId> m_takenOver;

@@ -82,10 +82,11 @@ struct Header {
     }
 };
 
-std::string TargetBehindLinks(const std::string& target) {
+/// The file itself: that is what is replaced, and what journals lie beside.
+std::string BehindLinks(const std::string& path) {
     std::error_code error;
-    const fs::path real = fs::canonical(target, error);
-    return error ? target : real.string();
+    const fs::path real = fs::canonical(path, error);
+    return error ? path : real.string();
 }
 
 std::string PartPrefix(const fs::path& target) {
@@ -156,10 +157,11 @@ CString WhyNoDatabase(const std::string& path) {
     }
     const Header header(path);
     if (!header.IsDatabase()) {
-        return info.st_size == 0 ? L"it is empty" : L"it is no GeoPackage";
+        return info.st_size == 0 ? L"it is empty"
+                                 : L"it is no GeoPackage (IMPORT reads other files)";
     }
     // What another write has in its journal makes the size of the file itself meaningless.
-    const bool isSettled = !IsNotEmpty(path + "-wal") && !HasHotJournal(path);
+    const bool isSettled = !IsNotEmpty(BehindLinks(path) + "-wal") && !HasHotJournal(path);
     if (isSettled && header.StatedSize() > info.st_size) {
         CString reason;
         reason.Format(L"it is cut short: %d of %d bytes are there",
@@ -177,27 +179,37 @@ CString WhyNotWritable(const std::string& path) {
         return L"it is write-protected";
     }
     // Every write keeps a journal beside the file.
-    return isProtected(fs::path(path).parent_path().string())
+    return isProtected(fs::path(BehindLinks(path)).parent_path().string())
                ? CString(L"its folder is write-protected")
                : CString();
 }
 
 bool HasHotJournal(const std::string& path) {
     // The first bytes come last, when all that is to be taken back is safe in it.
-    const Descriptor journal(path + "-journal", O_RDONLY);
+    const Descriptor journal(BehindLinks(path) + "-journal", O_RDONLY);
     char first = 0;
     return journal && read(journal.Number(), &first, 1) == 1 && first != 0;
 }
 
 bool HasJournal(const std::string& path) {
     std::error_code ignored;
-    return fs::exists(path + "-journal", ignored) || fs::exists(path + "-wal", ignored);
+    const std::string real = BehindLinks(path);
+    return fs::exists(real + "-journal", ignored) || fs::exists(real + "-wal", ignored);
 }
 
 void RemoveColdJournal(const std::string& path) {
     if (!HasHotJournal(path)) {
-        unlink((path + "-journal").c_str());
+        unlink((BehindLinks(path) + "-journal").c_str());
     }
+}
+
+bool RemoveOrphans(const std::string& path) {
+    std::error_code ignored;
+    const bool isOrphaned = !fs::exists(path, ignored);
+    if (isOrphaned) {
+        RemoveWithCompanions(path);
+    }
+    return isOrphaned;
 }
 
 std::uint32_t ChangeCounter(const std::string& path) {
@@ -205,7 +217,7 @@ std::uint32_t ChangeCounter(const std::string& path) {
     return header.IsDatabase() ? header.Big32(24) : 0;
 }
 
-UnfinishedFile::UnfinishedFile(const std::string& target) : m_target(TargetBehindLinks(target)) {
+UnfinishedFile::UnfinishedFile(const std::string& target) : m_target(BehindLinks(target)) {
     const fs::path targetPath(m_target);
     ClearLeftovers(targetPath);
     m_path = (targetPath.parent_path() /

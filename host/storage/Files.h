@@ -25,6 +25,8 @@ bool HasJournal(const std::string& path);
 /// Removes what a process left that died before it changed the file. Only for who has locked
 /// the file against writers.
 void RemoveColdJournal(const std::string& path);
+/// Removes journals whose file is gone; false if it is there.
+bool RemoveOrphans(const std::string& path);
 /// Number that the file's content carries and every write changes; 0 if there is none.
 std::uint32_t ChangeCounter(const std::string& path);
 

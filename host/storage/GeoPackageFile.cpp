@@ -109,6 +109,11 @@ bool GeoPackageFile::Begin() {
     return m_bInTransaction;
 }
 
+bool GeoPackageFile::BeginWriting() {
+    // GDAL has no transaction that begins with the lock, but any write takes it.
+    return Begin() && Execute("DELETE FROM gpkg_contents WHERE 0");
+}
+
 bool GeoPackageFile::Commit() {
     CPLErrorReset();
     m_pDataset->FlushCache(false);
@@ -148,7 +153,7 @@ CString SettleJournal(const std::string& path) {
 }
 
 CString ClearJournals(const std::string& path) {
-    if (!HasJournal(path)) {
+    if (!HasJournal(path) || RemoveOrphans(path)) {
         return {};
     }
     GdalErrors errors;

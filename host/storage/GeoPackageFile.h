@@ -37,6 +37,9 @@ public:
     bool Query(const std::string& sql, const std::function<void(const OGRFeature&)>& row);
 
     bool Begin();
+    /// The same for a write: another program's is waited for now, which is not possible once
+    /// something was read.
+    bool BeginWriting();
     /// Everything to the disk, or nothing of it.
     bool Commit();
     void Rollback();

@@ -28,6 +28,7 @@ AcDbStorageResult Refusal(const std::string& path, const CString& reason) {
 
 class GeoPackageStorage final : public IDbStorage {
 public:
+    CString WhyNotWritable(const wchar_t* path) override;
     AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
                            const AcDbProgress& progress) override;
     AcDbStorageResult Save(AcDbDatabase& database, const wchar_t* path,
@@ -52,9 +53,10 @@ private:
     std::map<const AcDbDatabase*, DrawingFile> m_files;
 };
 
-/// One transaction into a file. Empty on success; `file` is brought up to date then.
+/// One transaction into a file. Empty on success; `remembered` is brought up to date then.
 CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabase& database,
-              DrawingFile& remembered, const AcDbProgress& progress) {
+              DrawingFile& remembered, const AcDbProgress& progress,
+              std::vector<CString>& warnings) {
     GdalErrors errors;
     GeoPackageFile file(path, mode);
     if (!file.IsOpen()) {
@@ -65,7 +67,36 @@ CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabas
     if (reason.IsEmpty()) {
         writer.Update(remembered);
     }
+    if (writer.UnknownCount() > 0) {
+        CString text;
+        text.Format(L"%d objects are not saved, since no file can hold their class",
+                    writer.UnknownCount());
+        warnings.push_back(text);
+    }
     return reason;
+}
+
+/// Why the changes of a drawing make no sense in a file; empty if they do. A backup that was
+/// put in the place of the file lacks what the drawing takes for saved.
+CString WhyNotTheSame(const std::string& path, const DrawingFile& remembered) {
+    if (remembered.changeCounter == ChangeCounter(path)) {
+        return {};
+    }
+    GdalErrors errors;
+    GeoPackageFile file(path, Mode::Read);
+    Schema schema;
+    const bool isOlder = file.IsOpen() && LoadSchema(file, schema).IsEmpty() &&
+                         schema.nextId < remembered.firstUnwritten;
+    return isOlder ? L"another or an older file has taken its place" : CString();
+}
+
+void WarnOfOthers(const std::string& path, const DrawingFile& remembered,
+                  std::vector<CString>& warnings) {
+    if (remembered.changeCounter != ChangeCounter(path)) {
+        warnings.push_back(
+            FileReason(path, L"another program has changed it since it was opened; what that "
+                             L"did to other objects is kept, and seen when it is opened again"));
+    }
 }
 
 /// Whether what is in the file has other coordinates than the drawing has now.
@@ -103,6 +134,12 @@ AcDbStorageResult Guarded(const std::string& path, Work work) {
     }
 }
 
+CString GeoPackageStorage::WhyNotWritable(const wchar_t* path) {
+    const std::string native = AbsolutePath(path);
+    const CString reason = WhyNotTarget(native);
+    return reason.IsEmpty() ? CString() : FileReason(native, reason);
+}
+
 AcDbStorageResult GeoPackageStorage::Read(AcDbDatabase& database, const wchar_t* path,
                                           const AcDbProgress& progress) {
     const std::string native = AbsolutePath(path);
@@ -133,7 +170,8 @@ AcDbStorageResult GeoPackageStorage::ReadFile(AcDbDatabase& database, const std:
     GdalErrors errors;
     const std::uint32_t counter = ChangeCounter(native);
     GeoPackageFile file(native, Mode::Read);
-    if (!file.IsOpen()) {
+    // In one transaction: all tables are as they were at the same moment.
+    if (!file.IsOpen() || !file.Begin()) {
         return Refusal(native, errors.Reason());
     }
     DrawingReader reader(file, errors, progress);
@@ -163,10 +201,13 @@ AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const s
     DrawingFile* pFile = FileOf(database, native);
     CString reason = pFile ? WhyNoDatabase(native) : CString(L"the drawing is not from this file");
     if (reason.IsEmpty()) {
-        reason = WhyNotWritable(native);
+        reason = Tessaly::WhyNotWritable(native);
     }
     if (reason.IsEmpty()) {
         reason = SettleJournal(native);
+    }
+    if (reason.IsEmpty()) {
+        reason = WhyNotTheSame(native, *pFile);
     }
     if (!reason.IsEmpty()) {
         return Refusal(native, reason);
@@ -174,15 +215,14 @@ AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const s
     // Each geometry says in which system it is: all are written anew, and beside the file,
     // where a stop in the middle leaves the old ones.
     if (database.isHeaderUnsaved() && HasOtherCoordinates(native, database)) {
-        return SaveCopy(database, native, native, progress);
+        reason = ClearJournals(native);
+        return reason.IsEmpty() ? SaveCopy(database, native, native, progress)
+                                : Refusal(native, reason);
     }
     AcDbStorageResult result;
-    if (pFile->changeCounter != ChangeCounter(native)) {
-        result.warnings.push_back(
-            FileReason(native, L"another program has changed it since it was opened; what that "
-                               L"did to other objects is kept, and seen when it is opened again"));
-    }
-    reason = Write(native, Mode::Write, Scope::Changes, database, *pFile, progress);
+    WarnOfOthers(native, *pFile, result.warnings);
+    reason =
+        Write(native, Mode::Write, Scope::Changes, database, *pFile, progress, result.warnings);
     if (!reason.IsEmpty()) {
         return Refusal(native, reason);
     }
@@ -202,7 +242,11 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
         return SaveWhole(database, target, progress);
     }
     const std::string source = AbsolutePath(from);
-    const CString sourceReason = WhyNoDatabase(source);
+    const DrawingFile* pFile = FileOf(database, source);
+    CString sourceReason = WhyNoDatabase(source);
+    if (sourceReason.IsEmpty() && pFile) {
+        sourceReason = WhyNotTheSame(source, *pFile);
+    }
     if (!sourceReason.IsEmpty()) {
         // The drawing is in memory as a whole: it must not be lost with its file.
         AcDbStorageResult result = SaveWhole(database, target, progress);
@@ -210,7 +254,7 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
             FileReason(source, sourceReason + L"; what it held beside the drawing is not copied"));
         return result;
     }
-    if (!FileOf(database, source)) {
+    if (!pFile) {
         return Refusal(source, L"the drawing is not from this file");
     }
     return SaveCopy(database, source, target, progress);
@@ -225,6 +269,8 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
         return Refusal(path, reason);
     }
     DrawingFile remembered = *FileOf(database, from);
+    AcDbStorageResult result;
+    WarnOfOthers(from, remembered, result.warnings);
     Scope scope = Scope::Changes;
     if (HasOtherCoordinates(unfinished.Path(), database)) {
         scope = Scope::Rewrite;
@@ -232,7 +278,8 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
             SetCoordinateSystem(unfinished.Path(), WideToUtf8(database.coordinateSystem().View()));
     }
     if (reason.IsEmpty()) {
-        reason = Write(unfinished.Path(), Mode::Draft, scope, database, remembered, progress);
+        reason = Write(unfinished.Path(), Mode::Draft, scope, database, remembered, progress,
+                       result.warnings);
     }
     if (reason.IsEmpty()) {
         reason = unfinished.PutInPlace();
@@ -244,15 +291,16 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
     remembered.changeCounter = ChangeCounter(path);
     m_files[&database] = std::move(remembered);
     database.markSaved();
-    return {};
+    return result;
 }
 
 AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std::string& path,
                                                const AcDbProgress& progress) {
     UnfinishedFile unfinished(path);
     DrawingFile remembered;
-    CString reason =
-        Write(unfinished.Path(), Mode::Create, Scope::Everything, database, remembered, progress);
+    AcDbStorageResult result;
+    CString reason = Write(unfinished.Path(), Mode::Create, Scope::Everything, database, remembered,
+                           progress, result.warnings);
     if (reason.IsEmpty()) {
         reason = unfinished.PutInPlace();
     }
@@ -263,7 +311,7 @@ AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std
     remembered.changeCounter = ChangeCounter(path);
     m_files[&database] = std::move(remembered);
     database.markSaved();
-    return {};
+    return result;
 }
 
 } // namespace

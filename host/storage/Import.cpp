@@ -76,6 +76,12 @@ struct Source {
 class Importer final : public IDbImporter {
 public:
     AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) override;
+    bool IsSameCoordinateSystem(const CString& left, const CString& right) override {
+        return Tessaly::IsSameCoordinateSystem(left, right);
+    }
+    CString CoordinateSystemName(const CString& wkt) override {
+        return Tessaly::CoordinateSystemName(wkt);
+    }
 
 private:
     static AcDbImportResult ImportFile(const std::string& native, const AcDbProgress& progress);
@@ -145,7 +151,8 @@ AcDbImportResult Importer::Import(const wchar_t* path, const AcDbProgress& progr
 AcDbImportResult Importer::ImportFile(const std::string& native, const AcDbProgress& progress) {
     GdalErrors errors;
     AcDbImportResult result;
-    result.reason = WhyNotImportable(native, Drivers());
+    const char* const* drivers = Drivers();
+    result.reason = WhyNotImportable(native);
     if (!result.reason.IsEmpty()) {
         result.reason = FileReason(native, result.reason);
         return result;
@@ -153,7 +160,7 @@ AcDbImportResult Importer::ImportFile(const std::string& native, const AcDbProgr
     errors.Clear();
     const GDALDatasetUniquePtr dataset{
         GDALDataset::Open(native.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                          Drivers(), nullptr)};
+                          drivers, nullptr)};
     if (!dataset || errors.HasFailed()) {
         result.reason = errors.Reason(native);
         return result;
@@ -197,6 +204,12 @@ void Reading::ReadInTurn() {
     for (int i = 0; i < count; ++i) {
         OGRLayer* pLayer = m_dataset.GetLayer(i);
         if (!pLayer || pLayer->GetGeomType() == wkbNone) {
+            continue;
+        }
+        if (pLayer->GetLayerDefn()->GetFieldIndex(kTextColumn) >= 0) {
+            // A drawing of ours: its texts are no points.
+            m_result.warnings.push_back(FileReason(m_path, CString(Utf8ToWide(pLayer->GetName())) +
+                                                               L": texts are not imported"));
             continue;
         }
         pLayer->ResetReading();

@@ -30,7 +30,7 @@ CString WhyNoDxf(std::ifstream& file) {
     return isWhole ? CString() : CString(L"it is cut short: its last line is not EOF");
 }
 
-CString WhyNoFile(const std::string& path, const char* const* drivers) {
+CString WhyNoFile(const std::string& path) {
     constexpr std::string_view kDatabase = "SQLite";
     std::ifstream file(path, std::ios::binary);
     if (!file) {
@@ -44,9 +44,10 @@ CString WhyNoFile(const std::string& path, const char* const* drivers) {
     if (std::string_view(start.data(), start.size()) == kDatabase) {
         return WhyNoDatabase(path);
     }
-    const GDALDriverH hDriver =
-        GDALIdentifyDriverEx(path.c_str(), GDAL_OF_VECTOR, drivers, nullptr);
-    if (hDriver && EQUAL(GDALGetDescription(hDriver), "DXF")) {
+    // Asked alone: where another driver takes the file for its own and then cannot open it,
+    // GDAL goes on to this one.
+    static const char* const kDxf[] = {"DXF", nullptr};
+    if (GDALIdentifyDriverEx(path.c_str(), GDAL_OF_VECTOR, kDxf, nullptr)) {
         file.clear();
         file.seekg(0);
         return WhyNoDxf(file);
@@ -56,7 +57,7 @@ CString WhyNoFile(const std::string& path, const char* const* drivers) {
 
 } // namespace
 
-CString WhyNotImportable(const std::string& path, const char* const* drivers) {
+CString WhyNotImportable(const std::string& path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (!std::filesystem::exists(status)) {
@@ -66,7 +67,7 @@ CString WhyNotImportable(const std::string& path, const char* const* drivers) {
         return {};
     }
     // A pipe would be waited for.
-    return std::filesystem::is_regular_file(status) ? WhyNoFile(path, drivers)
+    return std::filesystem::is_regular_file(status) ? WhyNoFile(path)
                                                     : CString(L"it is no ordinary file");
 }
 

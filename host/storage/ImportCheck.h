@@ -7,8 +7,8 @@
 
 namespace Tessaly {
 
-/// Why a file, or folder, is not to be opened with any of the drivers of these names (ends
-/// with null); empty if it may be. Finds what GDAL's readers would not survive, or not tell.
-CString WhyNotImportable(const std::string& path, const char* const* drivers);
+/// Why a file, or folder, is not to be opened; empty if it may be. Finds what GDAL's readers
+/// would not survive, or not tell. Drivers have to be registered.
+CString WhyNotImportable(const std::string& path);
 
 } // namespace Tessaly

@@ -12,6 +12,27 @@ namespace {
 /// Columns in front of the fields: number and geometry.
 constexpr int kFirstField = 2;
 
+sqlite3* DatabaseOf(GeoPackageFile& file) {
+    return static_cast<sqlite3*>(file.Dataset().GetInternalHandle("SQLITE_HANDLE"));
+}
+
+struct Search {
+    std::span<const std::string> tables;
+    bool isFound = false;
+};
+
+/// Called by SQLite for each column that a statement is going to read.
+int NoteReading(void* pSearch, int action, const char* table, const char*, const char*,
+                const char*) {
+    auto& search = *static_cast<Search*>(pSearch);
+    for (const std::string& own : search.tables) {
+        if (action == SQLITE_READ && table && !own.empty() && EQUAL(own.c_str(), table)) {
+            search.isFound = true;
+        }
+    }
+    return SQLITE_OK;
+}
+
 void Report(sqlite3* pDatabase) {
     CPLError(CE_Failure, CPLE_AppDefined, "%s", sqlite3_errmsg(pDatabase));
 }
@@ -28,7 +49,7 @@ StoredRows::StoredRows(GeoPackageFile& file, OGRLayer& layer)
         sql += ", " + QuoteName(definition.GetFieldDefn(i)->GetNameRef());
     }
     sql += " FROM " + QuoteName(layer.GetName());
-    auto* pDatabase = static_cast<sqlite3*>(file.Dataset().GetInternalHandle("SQLITE_HANDLE"));
+    sqlite3* pDatabase = DatabaseOf(file);
     if (sqlite3_prepare_v2(pDatabase, sql.c_str(), -1, &m_pStatement, nullptr) != SQLITE_OK) {
         Report(pDatabase);
     }
@@ -85,6 +106,20 @@ const char* StoredRows::Text(int field) const {
     return field >= 0 && sqlite3_column_type(m_pStatement, column) == SQLITE_TEXT
                ? reinterpret_cast<const char*>(sqlite3_column_text(m_pStatement, column))
                : nullptr;
+}
+
+bool ShowsAnyOf(GeoPackageFile& file, const std::string& view,
+                std::span<const std::string> tables) {
+    Search search{tables};
+    sqlite3* pDatabase = DatabaseOf(file);
+    sqlite3_stmt* pStatement = nullptr;
+    sqlite3_set_authorizer(pDatabase, NoteReading, &search);
+    // A view that cannot be read says so when it is.
+    sqlite3_prepare_v2(pDatabase, ("SELECT * FROM " + QuoteName(view)).c_str(), -1, &pStatement,
+                       nullptr);
+    sqlite3_finalize(pStatement);
+    sqlite3_set_authorizer(pDatabase, nullptr, nullptr);
+    return search.isFound;
 }
 
 } // namespace Tessaly

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "platform/arx/DbAttributes.h"
 
@@ -40,5 +41,8 @@ private:
     bool m_bNumbered;
     std::int64_t m_nRow = 0;
 };
+
+/// A view whose rows come from one of the tables, if only in part.
+bool ShowsAnyOf(GeoPackageFile& file, const std::string& view, std::span<const std::string> tables);
 
 } // namespace Tessaly

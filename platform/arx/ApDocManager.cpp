@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "platform/arx/DbUndoScopes.h"
 #include "platform/arx/EdEditor.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
@@ -41,7 +42,10 @@ CString acdbDrawingPath(const wchar_t* path) {
     if (!error) {
         whole = folder / name;
     }
-    if (!name.has_extension()) {
+    // A file that is there is meant by its name; to a new one belongs the extension.
+    const bool hasExtension = CString(Utf8ToWide(name.extension().string()))
+                                  .CompareNoCase(CString(Utf8ToWide(kExtension))) == 0;
+    if (!hasExtension && !fs::exists(whole, error)) {
         whole += kExtension;
     }
     return Utf8ToWide(whole.string());
@@ -71,16 +75,7 @@ public:
 
     /// What is put into the drawing now is not the user's doing, so it is not theirs to undo.
     void TellBegin(const CString& path) {
-        struct Unrecorded {
-            explicit Unrecorded(AcDbDatabase& owner)
-                : database(owner), wasDisabled(owner.isUndoRecordingDisabled()) {
-                database.disableUndoRecording(true);
-            }
-            ~Unrecorded() { database.disableUndoRecording(wasDisabled); }
-            AcDbDatabase& database;
-            bool wasDisabled;
-        };
-        const Unrecorded unrecorded(*m_document.database());
+        const AcDbUndoPause pause(*m_document.database());
         acedEditor()->fireBeginSave(m_document.database(), path);
     }
 
@@ -168,9 +163,14 @@ AcDbStorageResult AcApDocManager::openDocument(const wchar_t* path, const AcDbPr
 
 template <class Write>
 AcDbStorageResult AcApDocManager::Save(AcApDocument& document, const CString& path, Write write) {
+    AcDbStorageResult result;
+    result.reason = m_pStorage->WhyNotWritable(path);
+    if (!result.ok()) {
+        return result;
+    }
     Saving saving(*this, document);
     saving.TellBegin(path);
-    AcDbStorageResult result = write();
+    result = write();
     if (result.ok()) {
         document.setPath(path);
         acedEditor()->fireSaveComplete(document.database(), path);

@@ -14,6 +14,10 @@ enum class AcDbNameId : std::uint32_t {};
 /// The number of a name, given at its first use. Names are UTF-8 and told apart by case.
 /// From any thread. Throws std::length_error once there are 2^24 names.
 PLATFORM_API AcDbNameId AcDbIntern(std::string_view name);
+/// The number for a name in what another program has written. The names by which entities
+/// belong to systems of the drawing ("SYSTEMID" and others) are kept for the drawing's own
+/// entities: theirs get a "_" behind them.
+PLATFORM_API AcDbNameId AcDbInternForeign(std::string_view name);
 /// Valid to the end of the process; empty for a number that was never given.
 PLATFORM_API std::string_view AcDbNameOf(AcDbNameId id);
 

@@ -38,6 +38,12 @@ public:
     /// Reads a file, or a folder where a format is one. Positions are as in the file. The
     /// percentage stays 0 where a format does not know how much it holds.
     virtual AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) = 0;
+
+    /// Whether positions in the one coordinate system are positions in the other. Texts (WKT)
+    /// that cannot be read are the same only letter by letter.
+    virtual bool IsSameCoordinateSystem(const CString& left, const CString& right) = 0;
+    /// Such as "ETRS89 / UTM zone 32N"; "unknown" for an empty text.
+    virtual CString CoordinateSystemName(const CString& wkt) = 0;
 };
 
 /// How modules read files of other programs; null while no host provides it.

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <deque>
 #include <mutex>
 #include <shared_mutex>
@@ -44,6 +45,14 @@ AcDbNameId AcDbIntern(std::string_view name) {
     const AcDbNameId id{static_cast<std::uint32_t>(table.names.size())};
     table.numbers.emplace(table.names.emplace_back(name), id);
     return id;
+}
+
+AcDbNameId AcDbInternForeign(std::string_view name) {
+    static constexpr std::string_view kOwnNames[] = {"SYSTEMID", "SYSTEMS",   "STARTNODE",
+                                                     "ENDNODE",  "STARTNAME", "ENDNAME"};
+    const bool isOwn =
+        std::find(std::begin(kOwnNames), std::end(kOwnNames), name) != std::end(kOwnNames);
+    return AcDbIntern(isOwn ? std::string(name) + "_" : std::string(name));
 }
 
 std::string_view AcDbNameOf(AcDbNameId id) {

@@ -23,6 +23,9 @@ struct AcDbStorageResult {
 class PLATFORM_API IDbStorage {
 public:
     virtual ~IDbStorage() = default;
+    /// Why a file cannot be written, as far as that can be told without trying; names the file.
+    /// Asked before modules hear of a save, which may put something into the drawing.
+    virtual CString WhyNotWritable(const wchar_t* /*path*/) { return {}; }
     /// Reads a file into an empty database.
     virtual AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
                                    const AcDbProgress& progress) = 0;

@@ -16,6 +16,14 @@ bool AcDbDatabase::isUndoRecordingDisabled() const {
     return !m_pUndo->m_pState->recording;
 }
 
+void AcDbUndo::pause() {
+    ++m_pState->pauses;
+}
+
+void AcDbUndo::resume() {
+    --m_pState->pauses;
+}
+
 void AcDbUndo::beginGroup(const wchar_t* name) {
     if (m_pState->depth++ > 0) {
         return;
@@ -83,7 +91,7 @@ void AcDbUndo::noteBody(AcDbObject& object) {
     if (m_pState->isPassive()) {
         return;
     }
-    if (!m_pState->recording) {
+    if (!m_pState->isRecording()) {
         if (object.m_bBodyInHistory) {
             m_pState->bars.raise(object.m_id, UndoPart::Body, m_pState->entries.size());
         }
@@ -97,7 +105,7 @@ void AcDbUndo::noteBody(AcDbObject& object) {
 
 void AcDbUndo::noteLayer(AcDbEntity& entity, AcDbObjectId layer) {
     m_pState->noteProperties(entity, UndoPart::Layer);
-    if (!m_pState->recording) {
+    if (!m_pState->isRecording()) {
         m_pState->pin(layer);
     }
 }
@@ -115,7 +123,7 @@ void AcDbUndo::noteRecord(AcDbDictionary& dictionary, const CString& record) {
     if (state.isPassive()) {
         return;
     }
-    if (!state.recording) {
+    if (!state.isRecording()) {
         state.bars.raise(dictionary.m_id, record, state.entries.size());
         state.pin(dictionary.m_id);
         return;
@@ -135,7 +143,7 @@ void AcDbUndo::noteCoordinateSystem() {
     if (state.isPassive()) {
         return;
     }
-    if (!state.recording) {
+    if (!state.isRecording()) {
         state.bars.raise({}, UndoPart::CoordinateSystem, state.entries.size());
         return;
     }
@@ -147,7 +155,7 @@ void AcDbUndo::noteCreated(const AcDbObject& object) {
     if (m_pState->isPassive()) {
         return;
     }
-    if (m_pState->recording) {
+    if (m_pState->isRecording()) {
         m_pState->noteExistence(object.m_id, State::kAppeared);
     } else if (object.m_bEntity) {
         m_pState->pinPlace(static_cast<const AcDbEntity&>(object));
@@ -158,7 +166,7 @@ void AcDbUndo::noteErased(const AcDbObject& object, bool bErased) {
     if (m_pState->isPassive()) {
         return;
     }
-    if (m_pState->recording) {
+    if (m_pState->isRecording()) {
         m_pState->noteExistence(object.m_id, bErased ? State::kVanished : State::kAppeared);
         return;
     }

@@ -40,6 +40,10 @@ public:
     /// writing. Reactors are told when all is done.
     bool undo();
     bool redo();
+    /// Nothing is recorded from one to the other. Pauses nest, and hold even if the
+    /// database's recording is switched on meanwhile. See AcDbUndoPause.
+    void pause();
+    void resume();
     /// Forgets all. An open group stays open.
     void clear();
 

@@ -31,15 +31,15 @@ bool AcDbUndo::State::PropertiesChange::exchange(State& state, AcDbObject* pObje
     return exchangeAttributes(state.bars, entity, entry) || layerFree || colorFree;
 }
 
-bool AcDbUndo::State::PropertiesChange::exchangeAttributes(const UndoBars& bars, AcDbEntity& entity,
+bool AcDbUndo::State::PropertiesChange::exchangeAttributes(const UndoBars& held, AcDbEntity& entity,
                                                            std::size_t entry) {
     AcDbAttributes present = std::exchange(entity.m_attributes, {});
-    if (bars.isEmpty()) {
+    if (held.isEmpty()) {
         entity.m_attributes = std::exchange(attributes, std::move(present));
         return true;
     }
     const auto barred = [&](AcDbNameId name) {
-        return bars.holds(entity.objectId(), UndoPart::Attribute, entry, name);
+        return held.holds(entity.objectId(), UndoPart::Attribute, entry, name);
     };
     AcDbAttributes& result = entity.m_attributes;
     bool changed = false;

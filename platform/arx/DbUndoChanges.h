@@ -18,7 +18,7 @@ struct AcDbUndo::State::PropertiesChange final : Change {
     std::int16_t color;
 
 private:
-    bool exchangeAttributes(const UndoBars& bars, AcDbEntity& entity, std::size_t entry);
+    bool exchangeAttributes(const UndoBars& held, AcDbEntity& entity, std::size_t entry);
 };
 
 struct AcDbUndo::State::RecordChange final : Change {

@@ -22,15 +22,13 @@ private:
 /// Changes leave no trace in the history.
 class AcDbUndoPause {
 public:
-    explicit AcDbUndoPause(AcDbDatabase& database)
-        : m_database(database), m_bBefore(database.isUndoRecordingDisabled()) {
-        m_database.disableUndoRecording(true);
+    explicit AcDbUndoPause(AcDbDatabase& database) : m_database(database) {
+        m_database.undo().pause();
     }
-    ~AcDbUndoPause() { m_database.disableUndoRecording(m_bBefore); }
+    ~AcDbUndoPause() { m_database.undo().resume(); }
     AcDbUndoPause(const AcDbUndoPause&) = delete;
     AcDbUndoPause& operator=(const AcDbUndoPause&) = delete;
 
 private:
     AcDbDatabase& m_database;
-    bool m_bBefore;
 };

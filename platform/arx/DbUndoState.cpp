@@ -25,7 +25,7 @@ void AcDbUndo::State::noteProperties(AcDbEntity& entity, UndoPart part, AcDbName
     if (isPassive()) {
         return;
     }
-    if (!recording) {
+    if (!isRecording()) {
         if (entity.m_bPropertiesInHistory) {
             bars.raise(entity.m_id, part, entries.size(), name);
         }

@@ -99,6 +99,8 @@ struct AcDbUndo::State {
     std::vector<AcDbObjectId> touched;
 
     bool recording = true;
+    int pauses = 0; ///< each in force until it ends, whatever is switched meanwhile
+    bool isRecording() const { return recording && pauses == 0; }
     int depth = 0;
     bool groupHasEntries = false;
     CString groupName;

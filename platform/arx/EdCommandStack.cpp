@@ -104,7 +104,8 @@ CommandOutcome AcEdCommandStack::run(const wchar_t* name) const {
     const OutcomeScope scope;
     if (const auto command = lookupCmd(name)) {
         std::optional<UndoStep> step;
-        if ((command->commandFlags() & ACRX_CMD_NO_UNDO_GROUP) == 0) {
+        constexpr int kNoStep = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_TRANSPARENT;
+        if ((command->commandFlags() & kNoStep) == 0) {
             step.emplace(command->globalName());
         }
         command->run();

@@ -8,11 +8,15 @@
 
 #include "platform/arx/RxObject.h"
 
-/// The command may run while another one waits at a prompt.
+/// The command may run while another one waits at a prompt. It is no step of the undo history
+/// either: what it does belongs to the other one, or to the commands that it runs.
 inline constexpr int ACRX_CMD_TRANSPARENT = 1;
 /// The command is no step of the undo history: it works on whole drawings, or on the history
 /// itself.
 inline constexpr int ACRX_CMD_NO_UNDO_GROUP = 2;
+/// The command works on the current drawing, so that lists of commands can tell why it cannot
+/// run now. It is not kept from running: the command itself says so, too.
+inline constexpr int ACRX_CMD_NEEDS_DRAWING = 4;
 
 using AcRxFunctionPtr = void (*)();
 

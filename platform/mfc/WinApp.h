@@ -10,6 +10,9 @@
 PLATFORM_API void AfxSetDesktopMode(bool desktop);
 PLATFORM_API bool AfxIsDesktopMode();
 
+/// Whether there is a display on which a desktop could be seen: one that QT_QPA_PLATFORM
+/// names, an X server that answers, or Wayland.
+PLATFORM_API bool AfxHasDisplay();
 /// Brings the toolkit to life. The first window does it by itself. The display is that of
 /// QT_QPA_PLATFORM, an X server that answers, or Wayland, or else memory. Numbers keep their
 /// point in every language.

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
@@ -39,6 +40,23 @@ std::optional<std::string> ReadFileBytes(const wchar_t* path) {
         return std::nullopt;
     }
     return bytes;
+}
+
+bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes) {
+    const std::string target = NativePath(path);
+    const std::string draft = target + ".new-" + std::to_string(getpid());
+    FileHandle file(std::fopen(draft.c_str(), "wb"));
+    bool isWritten = file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    // Without this the name could reach the disk before the content does.
+    isWritten = isWritten && std::fflush(file.get()) == 0 && fsync(fileno(file.get())) == 0;
+    isWritten = isWritten && std::fclose(file.release()) == 0;
+    isWritten = isWritten && std::rename(draft.c_str(), target.c_str()) == 0;
+    if (!isWritten) {
+        SetLastErrorNumber(errno);
+        file.reset();
+        unlink(draft.c_str());
+    }
+    return isWritten;
 }
 
 bool FileExists(const wchar_t* path) {

@@ -23,6 +23,11 @@ PLATFORM_API FileHandle OpenFile(const wchar_t* path, const char* mode);
 /// The whole content of a regular file; nothing on failure, with LastErrorText set.
 PLATFORM_API std::optional<std::string> ReadFileBytes(const wchar_t* path);
 
+/// Writes a file whole or not at all: under another name beside it, to the disk, and then into
+/// its place, so that at any moment there is the old one or the new one. False on failure,
+/// with LastErrorText set and the old one as it was.
+PLATFORM_API bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes);
+
 PLATFORM_API bool FileExists(const wchar_t* path);
 /// The part behind the last separator.
 PLATFORM_API CString FileNameOf(const wchar_t* path);

@@ -1,5 +1,7 @@
 #include "plugins/network/ImportCommand.h"
 
+#include <memory>
+
 #include "platform/arx/DbDatabase.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/arx/EdPrompt.h"
@@ -32,7 +34,8 @@ void PrintImported(const CString& name, std::size_t nodes, std::size_t sections,
 }
 
 bool ImportNetworkFile(const CString& file, const CString& name) {
-    const InpResult read = ReadInpFile(file);
+    ImportProgress progress(acedProgress(L"Importing " + FileNameOf(file)));
+    const InpResult read = ReadInpFile(file, progress.Reading());
     for (const std::string& warning : ProblemTexts(read, Severity::Warning)) {
         PrintLine(warning);
     }
@@ -45,7 +48,7 @@ bool ImportNetworkFile(const CString& file, const CString& name) {
     ImportedSystems imported;
     const CString reason =
         AddToDrawing(read.model, read.format == InpFormat::Swmm ? kFunctionSewer : kFunctionWater,
-                     name, imported);
+                     name, imported, progress);
     if (!reason.IsEmpty()) {
         return Refuse(reason + L" Nothing was imported.");
     }
@@ -90,18 +93,19 @@ std::optional<double> AskTolerance(double usual) {
 
 /// Anything that the host can read: points and lines become a network, areas polygons.
 bool ImportLayers(const CString& file, const CString& name) {
-    const AcDbImportResult read =
-        acdbImporter()->Import(file, acedProgress(L"Reading " + FileNameOf(file)));
+    auto progress = std::make_unique<ImportProgress>(acedProgress(L"Reading " + FileNameOf(file)));
+    const AcDbImportResult read = acdbImporter()->Import(file, progress->Reading());
     for (const CString& warning : read.warnings) {
         acutPrintf(L"%s\n", warning);
     }
+    progress.reset(); // the user is asked now
     if (!read.ok()) {
         return Refuse(read.reason + L"\nNothing was imported.");
     }
     const LayerContents contents(read);
     const bool hasNetwork = !contents.points.empty() || !contents.lines.empty();
     if (!hasNetwork && contents.polygons.empty()) {
-        return Refuse(file + L": there are no points, lines or areas in it.");
+        return Refuse(file + L": there are no points, lines or areas in it. Nothing was imported.");
     }
     const std::optional<int> function = hasNetwork ? AskFunction() : 0;
     if (!function) {
@@ -113,16 +117,17 @@ bool ImportLayers(const CString& file, const CString& name) {
         return Refuse(L"This is no distance. Nothing was imported.");
     }
     const bool isFirst = acdbHostApplicationServices()->workingDatabase()->entityCount() == 0;
+    progress = std::make_unique<ImportProgress>(acedProgress(L"Adding " + name));
     ImportedSystems imported;
     LayerCounts counts;
-    const CString reason = AddToDrawing(contents, *tolerance, *function, name, imported, counts);
+    const CString reason =
+        AddToDrawing(contents, *tolerance, *function, name, imported, counts, *progress);
+    progress.reset();
     if (!reason.IsEmpty()) {
         return Refuse(reason + L" Nothing was imported.");
     }
-    for (const CString& layer : TakeCoordinateSystem(read, isFirst)) {
-        acutPrintf(L"%s: its coordinate system is not the drawing's; positions are taken as they "
-                   L"are.\n",
-                   layer);
+    for (const CString& warning : TakeCoordinateSystem(read, isFirst)) {
+        acutPrintf(L"%s\n", warning);
     }
     PrintImported(name, counts.nodes, counts.sections, imported, counts.polygons);
     if (counts.foundNodes > 0) {
@@ -134,16 +139,20 @@ bool ImportLayers(const CString& file, const CString& name) {
 } // namespace
 
 bool ImportNetwork() {
-    if (!System::CSystemManager::Instance()->GetSystems()) {
-        return Refuse(L"No drawing is open.");
-    }
     const CString file = Ask(L"Network file: ");
     if (file.IsEmpty()) {
         return Refuse(L"No file: nothing was imported.");
     }
+    if (!FileExists(file)) {
+        return Refuse(file + L": there is no such file. Nothing was imported.");
+    }
     const CString name = Ask(L"Name of the system: ");
     if (name.IsEmpty()) {
         return Refuse(L"No name: nothing was imported.");
+    }
+    if (const auto* const pOther = System::CSystemManager::Instance()->GetSystemByName(name)) {
+        return Refuse(FormatText(L"The drawing has a system \"%s\" already. Nothing was imported.",
+                                 pOther->GetSystemName()));
     }
     const bool isNetworkFile = file.Right(4).CompareNoCase(L".inp") == 0 || !acdbImporter();
     return isNetworkFile ? ImportNetworkFile(file, name) : ImportLayers(file, name);

@@ -16,7 +16,11 @@ constexpr int kNameTaken = 900302;
 SystemsInMaking::~SystemsInMaking() {
     for (System::CGisSystem* pSystem : {m_systems.pPolygons, m_systems.pNetwork}) {
         if (pSystem && !m_bKept) {
-            System::CSystemManager::Instance()->DeleteSystem(pSystem);
+            try {
+                System::CSystemManager::Instance()->DeleteSystem(pSystem);
+            } catch (...) {
+                // Something has gone wrong already, and that is what the user will read.
+            }
         }
     }
 }

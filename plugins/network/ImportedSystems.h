@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/win/String.h"
+#include "plugins/network/ImportProgress.h"
 
 namespace Orvane::System {
 class CGisSystem;
@@ -15,6 +16,9 @@ namespace Orvane::Network {
 inline constexpr std::string_view kElevation = "ELEVATION";
 inline constexpr std::string_view kDiameter = "DIAMETER";
 inline constexpr std::string_view kStatedLength = "LENGTH";
+
+/// The reason of an import that the user ended.
+inline constexpr const wchar_t* kStopped = L"The import was stopped.";
 
 /// What an import added. Null where there was nothing of the kind.
 struct ImportedSystems {

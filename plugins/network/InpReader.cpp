@@ -79,13 +79,25 @@ public:
           m_sections(context, model.sections, m_nodes),
           m_polygons(context, model.polygons, m_nodes) {}
 
-    void Run() {
+    /// False if it was stopped in between.
+    bool Run(const std::function<bool(int)>& progress) {
+        const auto goesOn = [&](int percent) { return !progress || progress(percent); };
+        if (!goesOn(10)) {
+            return false;
+        }
         ReadNodes();
+        if (!goesOn(50)) {
+            return false;
+        }
         ReadLines();
+        if (!goesOn(90)) {
+            return false;
+        }
         ReadAreas();
         ForEach(InpRole::Labels, [this](const InpFileSection& section) {
             ReadInpLabels(m_context, section, m_model.labels);
         });
+        return true;
     }
 
 private:
@@ -146,7 +158,8 @@ bool HasNetwork(const FileSections& sections) {
     });
 }
 
-void ReadUtf8(std::string_view text, InpContext& context, InpResult& result) {
+void ReadUtf8(std::string_view text, InpContext& context, InpResult& result,
+              const std::function<bool(int)>& progress) {
     const FileSections sections = SplitInp(text, context.problems);
     if (context.problems.HasErrors()) {
         return; // the columns of such a file mean nothing
@@ -159,7 +172,9 @@ void ReadUtf8(std::string_view text, InpContext& context, InpResult& result) {
     context.format = FormatOf(sections);
     result.format = context.format;
     result.title = TitleOf(sections);
-    ModelReader(sections, context, result.model).Run();
+    if (!ModelReader(sections, context, result.model).Run(progress)) {
+        context.problems.Fail(0, "reading was stopped");
+    }
 }
 
 void Finish(InpContext& context, InpResult& result) {
@@ -172,25 +187,26 @@ void Finish(InpContext& context, InpResult& result) {
 
 } // namespace
 
-InpResult ReadInp(std::string_view bytes, std::string_view fileName) {
+InpResult ReadInp(std::string_view bytes, std::string_view fileName,
+                  const std::function<bool(int percent)>& progress) {
     InpResult result;
     result.file = fileName;
     InpContext context;
     if (const std::string_view fault = FaultOfWhole(bytes); !fault.empty()) {
         context.problems.Fail(1, std::string(fault));
     } else if (IsUtf8(bytes)) {
-        ReadUtf8(bytes, context, result);
+        ReadUtf8(bytes, context, result, progress);
     } else {
-        ReadUtf8(AnsiToUtf8(bytes), context, result);
+        ReadUtf8(AnsiToUtf8(bytes), context, result, progress);
     }
     Finish(context, result);
     return result;
 }
 
-InpResult ReadInpFile(const wchar_t* path) {
+InpResult ReadInpFile(const wchar_t* path, const std::function<bool(int percent)>& progress) {
     const std::string name = WideToUtf8(path ? path : L"");
     if (const auto bytes = ReadFileBytes(path)) {
-        return ReadInp(*bytes, name);
+        return ReadInp(*bytes, name, progress);
     }
     InpResult result;
     result.file = name;

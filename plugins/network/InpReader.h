@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,8 +45,10 @@ inline constexpr std::size_t kLongestLine = 65536;
 inline constexpr double kLargestNumber = 1e15;
 
 /// Bytes that are no UTF-8 are taken as text of the ANSI code page.
-InpResult ReadInp(std::string_view bytes, std::string_view fileName);
-InpResult ReadInpFile(const wchar_t* path);
+/// \param progress told from 0 to 100; once it answers false, reading ends with an error
+InpResult ReadInp(std::string_view bytes, std::string_view fileName,
+                  const std::function<bool(int percent)>& progress = {});
+InpResult ReadInpFile(const wchar_t* path, const std::function<bool(int percent)>& progress = {});
 
 /// "file:line: reason", or "file: reason" where there is no line.
 std::string ProblemText(const InpResult& result, const InpProblem& problem);

@@ -40,11 +40,11 @@ std::vector<Topology::Point> Flat(std::span<const Point> points) {
 }
 
 std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem& system,
-                                   const NodeTable& nodes) {
+                                   const NodeTable& nodes, ImportProgress& progress) {
     std::vector<AcDbObjectId> ids;
     ids.reserve(nodes.size());
     std::vector<AttributeData> attributes;
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
+    for (std::size_t i = 0; i < nodes.size() && progress.Added(); ++i) {
         attributes.clear();
         AddNumber(attributes, kElevation, nodes.elevations[i]);
         AddOthers(attributes, nodes.attributes, i);
@@ -57,13 +57,14 @@ std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem
 }
 
 void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
-                 const SectionTable& sections, const std::vector<AcDbObjectId>& nodeIds) {
+                 const SectionTable& sections, const std::vector<AcDbObjectId>& nodeIds,
+                 ImportProgress& progress) {
     const auto end = [&](std::int32_t node, std::string_view missingName) {
         return Topology::SectionEnd{node == kMissingNode ? AcDbObjectId() : nodeIds[node],
                                     missingName};
     };
     std::vector<AttributeData> attributes;
-    for (std::size_t i = 0; i < sections.size(); ++i) {
+    for (std::size_t i = 0; i < sections.size() && progress.Added(); ++i) {
         attributes.clear();
         AddNumber(attributes, kDiameter, sections.diameters[i]);
         AddNumber(attributes, kStatedLength, sections.statedLengths[i]);
@@ -96,19 +97,27 @@ void AddLabels(CTopologyStorage& storage, System::CGisSystem& system, const Labe
 } // namespace
 
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
-                     ImportedSystems& imported) {
+                     ImportedSystems& imported, ImportProgress& progress) {
     SystemsInMaking systems;
-    const CString reason = systems.Make(name, systemFunction, true, model.polygons.size() > 0);
+    CString reason = systems.Make(name, systemFunction, true, model.polygons.size() > 0);
     if (!reason.IsEmpty()) {
         return reason;
     }
     imported = systems.Systems();
+    progress.ExpectAdding(model.nodes.size() + model.sections.size());
     CTopologyStorage& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
-    const std::vector<AcDbObjectId> nodeIds = AddNodes(storage, *imported.pNetwork, model.nodes);
-    AddSections(storage, *imported.pNetwork, model.sections, nodeIds);
+    const std::vector<AcDbObjectId> nodeIds =
+        AddNodes(storage, *imported.pNetwork, model.nodes, progress);
+    if (!progress.IsStopped()) {
+        AddSections(storage, *imported.pNetwork, model.sections, nodeIds, progress);
+    }
     AddLabels(storage, *imported.pNetwork, model.labels);
     if (imported.pPolygons) {
         AddPolygons(storage, *imported.pPolygons, model.polygons);
+    }
+    if (progress.IsStopped()) {
+        imported = {};
+        return kStopped;
     }
     systems.Keep();
     return {};

@@ -18,7 +18,7 @@ inline constexpr int kFunctionSewer = 2;
 /// polygons named "<name> polygons" if it has any.
 /// \return an empty text, or the reason why nothing was added
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
-                     ImportedSystems& imported);
+                     ImportedSystems& imported, ImportProgress& progress);
 
 /// One line system of the drawing as arrays, for statistics and checks. A snapshot: it does
 /// not follow later changes of the drawing. The names are read from the drawing, so it has

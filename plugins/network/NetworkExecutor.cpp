@@ -19,10 +19,9 @@ namespace Orvane::Network {
 
 namespace {
 
-/// Systems of the current drawing; empty without a drawing.
+/// Systems of the current drawing, which there is.
 std::vector<System::CGisSystem*> Systems() {
-    const System::CGisSystems* const pSystems = System::CSystemManager::Instance()->GetSystems();
-    return pSystems ? pSystems->GetSystemList() : std::vector<System::CGisSystem*>();
+    return System::CSystemManager::Instance()->GetSystems()->GetSystemList();
 }
 
 /// Calls for each system that is a network of nodes and sections.
@@ -167,7 +166,9 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
     auto result = Workspace::NeutralReturnValue();
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
         const CommandEvents events(pCommand->id);
-        result->m_nStatus = pCommand->run() ? 1 : 0;
+        const bool hasDrawing = System::CSystemManager::Instance()->GetSystems() != nullptr;
+        const bool isDone = hasDrawing ? pCommand->run() : Refuse(L"No drawing is open.");
+        result->m_nStatus = isDone ? 1 : 0;
     }
     return result;
 }

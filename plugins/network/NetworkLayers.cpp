@@ -81,11 +81,15 @@ private:
 };
 
 std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem& system,
-                                   const LayerContents& contents, const SnapResult& snapped) {
+                                   const LayerContents& contents, const SnapResult& snapped,
+                                   ImportProgress& progress) {
     std::vector<AcDbObjectId> ids;
     ids.reserve(contents.points.size() + snapped.newNodes.size());
     RowNames names;
     for (const AcDbImportFeature* const pPoint : contents.points) {
+        if (!progress.Added()) {
+            return ids;
+        }
         Prepared prepared(*pPoint);
         const AcGePoint3d& place = pPoint->points.front();
         if (std::isfinite(place.z) && !prepared.Has(kElevation)) {
@@ -96,6 +100,9 @@ std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem
             storage.AddNode(system, {name, place, prepared.description.kind, prepared.attributes}));
     }
     for (const AcGePoint3d& place : snapped.newNodes) {
+        if (!progress.Added()) {
+            return ids;
+        }
         std::vector<Topology::AttributeData> attributes;
         if (std::isfinite(place.z)) {
             attributes.push_back({kElevation, place.z});
@@ -107,9 +114,9 @@ std::vector<AcDbObjectId> AddNodes(CTopologyStorage& storage, System::CGisSystem
 
 void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
                  const LayerContents& contents, const SnapResult& snapped,
-                 const std::vector<AcDbObjectId>& nodes) {
+                 const std::vector<AcDbObjectId>& nodes, ImportProgress& progress) {
     RowNames names;
-    for (std::size_t i = 0; i < contents.lines.size(); ++i) {
+    for (std::size_t i = 0; i < contents.lines.size() && progress.Added(); ++i) {
         const AcDbImportFeature& line = *contents.lines[i];
         const Prepared prepared(line);
         const std::string name = names.Next(line, prepared.description.name);
@@ -127,23 +134,17 @@ void AddSections(CTopologyStorage& storage, System::CGisSystem& system,
 }
 
 void AddPolygons(CTopologyStorage& storage, System::CGisSystem& system,
-                 const LayerContents& contents) {
+                 const LayerContents& contents, ImportProgress& progress) {
     RowNames names;
     for (const AcDbImportFeature* const pPolygon : contents.polygons) {
+        if (!progress.Added()) {
+            return;
+        }
         const Prepared prepared(*pPolygon);
         const std::string name = names.Next(*pPolygon, prepared.description.name);
         storage.AddPolygon(system,
                            {name, pPolygon->rings, prepared.description.kind, prepared.attributes});
     }
-}
-
-/// What a coordinate system is called in its own text; the text itself if it says nothing.
-std::wstring_view SystemName(const CString& wkt) {
-    const int begin = wkt.Find(L'"');
-    const int end = begin < 0 ? -1 : wkt.Find(L'"', begin + 1);
-    return end < 0 ? wkt.View()
-                   : wkt.View().substr(static_cast<std::size_t>(begin) + 1,
-                                       static_cast<std::size_t>(end - begin - 1));
 }
 
 } // namespace
@@ -184,10 +185,11 @@ EntityDescription::EntityDescription(const AcDbImportFeature& feature) {
 }
 
 CString AddToDrawing(const LayerContents& contents, double tolerance, int systemFunction,
-                     const CString& name, ImportedSystems& imported, LayerCounts& counts) {
+                     const CString& name, ImportedSystems& imported, LayerCounts& counts,
+                     ImportProgress& progress) {
     imported = {};
     SystemsInMaking systems;
-    const CString reason =
+    CString reason =
         systems.Make(name, systemFunction, !contents.points.empty() || !contents.lines.empty(),
                      !contents.polygons.empty());
     if (!reason.IsEmpty()) {
@@ -197,13 +199,20 @@ CString AddToDrawing(const LayerContents& contents, double tolerance, int system
     CTopologyStorage& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
     if (made.pNetwork) {
         const SnapResult snapped = SnapEnds(contents.places, contents.ends, tolerance);
-        const auto nodes = AddNodes(storage, *made.pNetwork, contents, snapped);
-        AddSections(storage, *made.pNetwork, contents, snapped, nodes);
+        progress.ExpectAdding(contents.points.size() + snapped.newNodes.size() +
+                              contents.lines.size() + contents.polygons.size());
+        const auto nodes = AddNodes(storage, *made.pNetwork, contents, snapped, progress);
+        if (!progress.IsStopped()) {
+            AddSections(storage, *made.pNetwork, contents, snapped, nodes, progress);
+        }
         counts = {nodes.size(), snapped.newNodes.size(), contents.lines.size(), 0};
     }
     if (made.pPolygons) {
-        AddPolygons(storage, *made.pPolygons, contents);
+        AddPolygons(storage, *made.pPolygons, contents, progress);
         counts.polygons = contents.polygons.size();
+    }
+    if (progress.IsStopped()) {
+        return kStopped;
     }
     systems.Keep();
     imported = made;
@@ -211,20 +220,25 @@ CString AddToDrawing(const LayerContents& contents, double tolerance, int system
 }
 
 std::vector<CString> TakeCoordinateSystem(const AcDbImportResult& result, bool isFirst) {
-    AcDbDatabase* const pDatabase = acdbHostApplicationServices()->workingDatabase();
-    std::vector<CString> others;
+    AcDbDatabase& database = *acdbHostApplicationServices()->workingDatabase();
+    IDbImporter& importer = *acdbImporter();
+    std::vector<CString> warnings;
     for (const AcDbImportLayer& layer : result.layers) {
-        if (!pDatabase || layer.coordinateSystem.IsEmpty()) {
+        const CString own = database.coordinateSystem();
+        if (layer.coordinateSystem.IsEmpty()) {
             continue;
         }
-        if (pDatabase->coordinateSystem().IsEmpty() && isFirst) {
-            pDatabase->setCoordinateSystem(layer.coordinateSystem);
-        } else if (SystemName(pDatabase->coordinateSystem()) !=
-                   SystemName(layer.coordinateSystem)) {
-            others.push_back(layer.name);
+        if (own.IsEmpty() && isFirst) {
+            database.setCoordinateSystem(layer.coordinateSystem);
+        } else if (!importer.IsSameCoordinateSystem(own, layer.coordinateSystem)) {
+            warnings.push_back(FormatText(L"%s: its coordinate system is %s, that of the drawing "
+                                          L"is %s; positions are taken as they are",
+                                          layer.name,
+                                          importer.CoordinateSystemName(layer.coordinateSystem),
+                                          importer.CoordinateSystemName(own)));
         }
     }
-    return others;
+    return warnings;
 }
 
 } // namespace Orvane::Network

@@ -44,11 +44,13 @@ struct LayerCounts {
 /// polygons, as far as there are any.
 /// \return an empty text, or the reason why nothing was added
 CString AddToDrawing(const LayerContents& contents, double tolerance, int systemFunction,
-                     const CString& name, ImportedSystems& imported, LayerCounts& counts);
+                     const CString& name, ImportedSystems& imported, LayerCounts& counts,
+                     ImportProgress& progress);
 
 /// Gives the current drawing the coordinate system of what was imported, if that is the first
 /// thing in it and it has none yet.
-/// \return the layers whose coordinate system is another than the drawing's
+/// Needs the host's importer.
+/// \return a warning for each layer whose coordinate system is another than the drawing's
 std::vector<CString> TakeCoordinateSystem(const AcDbImportResult& result, bool isFirst);
 
 } // namespace Orvane::Network

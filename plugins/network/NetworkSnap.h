@@ -23,10 +23,9 @@ struct SnapResult {
 };
 
 /// Each end, in the order of the lines, takes the nearest node at most `tolerance` away in
-/// the plane, the earlier of equally near ones; where there is none, it becomes a node itself.
-/// Given nodes never move and are never joined. Positions are finite numbers, the tolerance
-/// is 0 or more. Takes n operations (nearly) unless nodes lie closer together than the
-/// tolerance.
+/// the plane, a given one before one that was made, the first of given ones at one place;
+/// where there is none, it becomes a node itself. Given nodes never move and are never
+/// joined. Positions are finite numbers, the tolerance is 0 or more. Takes n log n.
 SnapResult SnapEnds(std::span<const AcGePoint3d> nodes, std::span<const LineEnds> lines,
                     double tolerance);
 

@@ -577,7 +577,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900102">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>erzeugt Systeme aus einer Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM)</translation>
+        <translation>erzeugt Systeme aus der Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM) oder aus Punkten, Linien und Flächen einer anderen Datei</translation>
     </message>
     <message id="900103">
         <source></source>

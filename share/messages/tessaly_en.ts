@@ -577,7 +577,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="900102">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>makes systems from a water (EPANET) or sewer (SWMM) network file</translation>
+        <translation>makes systems from a water (EPANET) or sewer (SWMM) network file, or from the points, lines and areas of any other file</translation>
     </message>
     <message id="900103">
         <source></source>

@@ -62,8 +62,12 @@ Acad::ErrorStatus CORVCDictionaryPtr::dctWrite(const wchar_t* dictionary, const 
     const AcDbObjectId id =
         bCreate ? m_pDatabase->dictionary(dictionary) : m_pDatabase->findDictionary(dictionary);
     return WithDictionary(*m_pDatabase, id, AcDb::kForWrite, [&](AcDbDictionary& target) {
-        const CString* const pBefore = bAppend ? target.getAt(record) : nullptr;
-        target.setAt(record, pBefore ? *pBefore + text : CString(text));
+        const CString* const pBefore = target.getAt(record);
+        const CString after = bAppend && pBefore ? *pBefore + text : CString(text);
+        // What stands there already is no change of the drawing.
+        if (!pBefore || *pBefore != after) {
+            target.setAt(record, after);
+        }
         return Acad::eOk;
     });
 }

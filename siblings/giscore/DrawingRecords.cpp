@@ -19,20 +19,27 @@ int DrawingRecords::GetInt(const wchar_t* record, int otherwise) const {
     return WholeNumber(Get(record).View()).value_or(otherwise);
 }
 
+template <class Change>
+bool DrawingRecords::Write(AcDbObjectId id, Change change) {
+    AcDbDictionary* pDictionary = nullptr;
+    if (acdbOpenObject(pDictionary, id, AcDb::kForWrite, false, &m_database) != Acad::eOk) {
+        return false;
+    }
+    const Acad::ErrorStatus status = change(*pDictionary);
+    pDictionary->close();
+    return status == Acad::eOk;
+}
+
 bool DrawingRecords::Set(const wchar_t* record, const CString& text) {
     const AcDbDictionary* const pBefore = Dictionary();
     const CString* const pText = pBefore ? pBefore->getAt(record) : nullptr;
     if (pText && *pText == text) {
         return true;
     }
-    AcDbDictionary* pDictionary = nullptr;
-    const AcDbObjectId id = m_database.dictionary(m_strDictionary);
-    if (acdbOpenObject(pDictionary, id, AcDb::kForWrite, false, &m_database) != Acad::eOk) {
-        return false;
-    }
-    pDictionary->setAt(record, text);
-    pDictionary->close();
-    return true;
+    return Write(m_database.dictionary(m_strDictionary), [&](AcDbDictionary& dictionary) {
+        dictionary.setAt(record, text);
+        return Acad::eOk;
+    });
 }
 
 bool DrawingRecords::Set(const wchar_t* record, int number) {
@@ -41,15 +48,14 @@ bool DrawingRecords::Set(const wchar_t* record, int number) {
     return Set(record, text);
 }
 
+bool DrawingRecords::Remove(const wchar_t* record) {
+    return Write(m_database.findDictionary(m_strDictionary),
+                 [&](AcDbDictionary& dictionary) { return dictionary.remove(record); });
+}
+
 bool DrawingRecords::Erase() {
-    AcDbDictionary* pDictionary = nullptr;
-    const AcDbObjectId id = m_database.findDictionary(m_strDictionary);
-    if (acdbOpenObject(pDictionary, id, AcDb::kForWrite, false, &m_database) != Acad::eOk) {
-        return false;
-    }
-    const Acad::ErrorStatus erased = pDictionary->erase();
-    pDictionary->close();
-    return erased == Acad::eOk;
+    return Write(m_database.findDictionary(m_strDictionary),
+                 [](AcDbDictionary& dictionary) { return dictionary.erase(); });
 }
 
 } // namespace Orvane::System

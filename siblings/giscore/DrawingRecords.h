@@ -22,9 +22,14 @@ public:
     /// again. False if somebody else has the dictionary open.
     bool Set(const wchar_t* record, const CString& text);
     bool Set(const wchar_t* record, int number);
+    bool Remove(const wchar_t* record);
+    /// The whole dictionary.
     bool Erase();
 
 private:
+    template <class Change>
+    bool Write(AcDbObjectId id, Change change);
+
     AcDbDatabase& m_database;
     CString m_strDictionary;
 };

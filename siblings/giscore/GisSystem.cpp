@@ -1,5 +1,6 @@
 #include "siblings/giscore/GisSystem.h"
 
+#include "siblings/giscore/GisEvents.h"
 #include "siblings/giscore/GisSystems.h"
 
 namespace Orvane::System {
@@ -41,8 +42,11 @@ AcDbObjectId CGisSystem::GetLayerFor(enmEntityType type) const {
 }
 
 void CGisSystem::SetCoordinateSystem(const wchar_t* text) {
-    m_strCoordinateSystem = text;
-    m_owner.Store(*this);
+    if (m_strCoordinateSystem != text) {
+        m_strCoordinateSystem = text;
+        m_owner.Store(*this);
+        CGisEvents::Instance()->Raise(&ISystemEvents::OnSystemChanged, this);
+    }
 }
 
 int CGisSystem::GetStatisticValue_int(enmStatistic statistic, int& value) const {

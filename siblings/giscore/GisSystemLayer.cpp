@@ -8,19 +8,20 @@ namespace Orvane::System {
 
 namespace {
 
+/// Colours that can be read on light and on dark.
 constexpr LayerDesign kDesigns[] = {
-    {TopologyLine, 1, L"DIONICA", L"sections", 5},
-    {TopologyLine, 2, L"DIONICA", L"sections", 34},
-    {TopologyLine, 3, L"DIONICA", L"sections", 4},
-    {TopologyLine, 4, L"DIONICA", L"sections", 2},
-    {TopologyLine, 5, L"DIONICA", L"sections", 6},
+    {TopologyLine, 1, L"DIONICA", L"sections", 150},
+    {TopologyLine, 2, L"DIONICA", L"sections", 32},
+    {TopologyLine, 3, L"DIONICA", L"sections", 142},
+    {TopologyLine, 4, L"DIONICA", L"sections", 42},
+    {TopologyLine, 5, L"DIONICA", L"sections", 210},
     {TopologyLine, 6, L"DIONICA", L"sections", 1},
     {TopologyLine, 7, L"DIONICA", L"sections", 30},
     {TopologyLine, kFunctionAlignment, L"MALIGNMENT", L"alignments", 1},
-    {TopologyLine, 0, L"DIONICA", L"sections", 3},
+    {TopologyLine, 0, L"DIONICA", L"sections", 92},
     {TopologyLine, 0, L"NODE", L"nodes", 7},
     {TopologyLine, 0, L"TEXT", L"texts", 7},
-    {TopologyPolygon, 0, L"POLYGON_SHELL", L"polygons", 3},
+    {TopologyPolygon, 0, L"POLYGON_SHELL", L"polygons", 92},
     {TopologyPolygon, 0, L"POLYGON_TEMP", L"temporary polygons", 1},
     {TopologyPolygon, 0, L"NODE", L"nodes", 8},
     {TopologyPolygon, 0, L"TEXT", L"texts", 7},

@@ -97,6 +97,17 @@ CString FreeLayerName(const AcDbDatabase& database, const CString& wanted) {
     return name;
 }
 
+/// All that is known of a system but its visibility, for comparing.
+CString ContentOf(const CGisSystem& system) {
+    CString text;
+    text.Format(L"%s\n%s\n%d %d\n%s\n", system.GetSystemName(), system.GetGuid(),
+                system.GetTopologyType(), system.GetSystemFunction(), system.GetCoordinateSystem());
+    for (const CGisSystemLayer& layer : system.GetLayers()) {
+        text.AppendFormat(L"%s %s\n", layer.GetReference(), layer.GetLayerName());
+    }
+    return text;
+}
+
 template <class... Params, class... Args>
 void Tell(void (ISystemEvents::*event)(Params...), Args... args) {
     CGisEvents::Instance()->Raise(event, args...);
@@ -162,6 +173,7 @@ void CGisSystems::Load() {
         }
     }
     m_pActive = GetSystemById(SharedRecords(*m_pDatabase).GetInt(kActive, 0));
+    m_strDrawingGuid = SharedRecords(*m_pDatabase).Get(kGuid);
 }
 
 int CGisSystems::IdOf(const AcDbObject& object) const {
@@ -238,10 +250,38 @@ void CGisSystems::StoreState() {
     if (!m_systems.empty() || shared.Dictionary()) {
         shared.Set(kActive, m_pActive ? m_pActive->GetSystemId() : 0);
     }
+    DropOldCounters();
     for (const auto& system : m_systems) {
         for (const auto& [name, value] : system->m_counters) {
             shared.Set(CounterPrefix(system->m_nId) + name, value);
         }
+    }
+}
+
+void CGisSystems::DropOldCounters() {
+    // Of systems that are gone, and will not come back once the drawing was closed.
+    DrawingRecords shared = SharedRecords(*m_pDatabase);
+    std::vector<CString> old;
+    if (const AcDbDictionary* const pShared = shared.Dictionary()) {
+        for (const auto& [record, text] : pShared->records()) {
+            const auto counter = Behind(record, kCounter);
+            const bool isOld =
+                counter &&
+                !GetSystemById(WholeNumber(counter->Left(counter->Find(L'.')).View()).value_or(0));
+            if (isOld) {
+                old.push_back(record);
+            }
+        }
+    }
+    for (const CString& record : old) {
+        shared.Remove(record);
+    }
+}
+
+void CGisSystems::MakeDrawingGuid() {
+    if (m_strDrawingGuid.IsEmpty()) {
+        m_strDrawingGuid = NewGuid();
+        SharedRecords(*m_pDatabase).Set(kGuid, m_strDrawingGuid);
     }
 }
 
@@ -254,6 +294,7 @@ CGisSystem& CGisSystems::Add(const CString& name, enmTopologyType type, int func
         const AcDbUndoPause pause(*m_pDatabase);
         const OwnChange own(*this);
         shared.Set(kLastId, id);
+        MakeDrawingGuid();
     }
     const AcDbUndoGroup group(*m_pDatabase, name);
     CGisSystem& system = Insert(id);
@@ -270,6 +311,7 @@ CGisSystem& CGisSystems::Add(const CString& name, enmTopologyType type, int func
 void CGisSystems::Remove(CGisSystem& system) {
     const AcDbUndoGroup group(*m_pDatabase, system.m_strName);
     Tell(&ISystemEvents::OnBeforeSystemDelete, &system);
+    Park(system);
     if (m_pActive == &system) {
         SetActive(nullptr);
     }
@@ -305,6 +347,9 @@ void CGisSystems::SetActive(CGisSystem* pSystem) {
         return;
     }
     m_pActive = pSystem;
+    if (acdbHostApplicationServices()->workingDatabase() != m_pDatabase) {
+        return; // told when the drawing becomes the current one
+    }
     if (pOld) {
         Tell(&ISystemEvents::OnSystemBecomeInactive, pOld);
     }
@@ -332,8 +377,12 @@ void CGisSystems::SetVisibility(CGisSystem& system, int visible) {
 
 int CGisSystems::CreateMissingLayers() {
     int made = 0;
-    for (const auto& system : m_systems) {
-        made += CreateMissingLayers(*system);
+    for (CGisSystem* const pSystem : GetSystemList()) {
+        const int madeHere = CreateMissingLayers(*pSystem);
+        made += madeHere;
+        if (madeHere > 0) {
+            Tell(&ISystemEvents::OnSystemChanged, pSystem);
+        }
     }
     return made;
 }
@@ -371,6 +420,9 @@ int CGisSystems::CreateMissingLayers(CGisSystem& system) {
 int CGisSystems::UpgradeSystems() {
     int upgraded = 0;
     const AcDbUndoPause pause(*m_pDatabase);
+    if (!m_systems.empty()) {
+        MakeDrawingGuid();
+    }
     for (const auto& system : m_systems) {
         CString name = system->m_strName;
         CString guid = system->m_strGuid;
@@ -392,6 +444,7 @@ int CGisSystems::UpgradeSystems() {
             system->m_strName = name;
             system->m_strGuid = guid;
             Store(*system);
+            Tell(&ISystemEvents::OnSystemChanged, system.get());
             ++upgraded;
         }
     }
@@ -401,22 +454,17 @@ int CGisSystems::UpgradeSystems() {
 void CGisSystems::objectModified(const AcDbDatabase*, const AcDbObject* pObject) {
     CGisSystem* const pSystem = m_nOwnChanges == 0 ? GetSystemById(IdOf(*pObject)) : nullptr;
     if (pSystem) {
-        const CString name = pSystem->m_strName;
-        const int visible = pSystem->m_bVisible;
+        const int wasVisible = pSystem->m_bVisible;
+        const CString before = ContentOf(*pSystem);
         Read(*pSystem);
-        TellDifferences(name, visible, *pSystem);
-    }
-}
-
-void CGisSystems::TellDifferences(const CString& nameBefore, int visibleBefore,
-                                  CGisSystem& system) {
-    if (visibleBefore != system.m_bVisible) {
-        Tell(system.m_bVisible ? &ISystemEvents::OnSystemBecomeShown
-                               : &ISystemEvents::OnSystemBecomeHidden,
-             &system);
-    }
-    if (nameBefore != system.m_strName) {
-        Tell(&ISystemEvents::OnSystemChanged, &system);
+        if (wasVisible != pSystem->m_bVisible) {
+            Tell(wasVisible ? &ISystemEvents::OnSystemBecomeHidden
+                            : &ISystemEvents::OnSystemBecomeShown,
+                 pSystem);
+        }
+        if (before != ContentOf(*pSystem)) {
+            Tell(&ISystemEvents::OnSystemChanged, pSystem);
+        }
     }
 }
 
@@ -428,12 +476,33 @@ void CGisSystems::objectErased(const AcDbDatabase*, const AcDbObject* pObject, b
     } else if (id && !pSystem && !bErased) {
         CGisSystem& system = Insert(id);
         Read(system);
+        const auto parked = m_parked.find(id);
+        const bool wasActive = parked != m_parked.end() && parked->second.wasActive;
+        if (parked != m_parked.end()) {
+            system.m_counters = std::move(parked->second.counters);
+            m_parked.erase(parked);
+        }
         Tell(&ISystemEvents::OnNewSystemCreated, &system);
+        if (wasActive && !m_pActive) {
+            SetActive(&system);
+        }
+    }
+}
+
+void CGisSystems::Park(const CGisSystem& system) {
+    m_parked[system.m_nId] = {system.m_counters, m_pActive == &system};
+}
+
+void CGisSystems::goodbye(const AcDbDatabase*) {
+    m_pDatabase = nullptr;
+    for (const auto& system : m_systems) {
+        system->m_layers.clear();
     }
 }
 
 void CGisSystems::Drop(CGisSystem& system) {
     Tell(&ISystemEvents::OnBeforeSystemDelete, &system);
+    Park(system);
     if (m_pActive == &system) {
         SetActive(nullptr);
     }

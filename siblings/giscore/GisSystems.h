@@ -12,7 +12,7 @@ namespace Orvane::System {
 ///
 /// In the drawing a system is the dictionary "ORVZ_SYSTEM_<id>", with the records "GUID",
 /// "NAME", "TOPOLOGY", "FUNCTION", "VISIBLE", "SRS", and "LAYER.<reference>" with the name
-/// of each layer. The dictionary "ORVZ_SYSTEMS" has "LASTID", "ACTIVE" (an id) and
+/// of each layer. The dictionary "ORVZ_SYSTEMS" has "GUID", "LASTID", "ACTIVE" (an id) and
 /// "COUNTER.<id>.<name>". Systems follow the dictionaries: when undo takes one away or
 /// brings it back, so go the systems, and observers hear of it.
 class GISCORE_API CGisSystems final : private AcDbDatabaseReactor {
@@ -37,6 +37,8 @@ public:
     CGisSystem* GetActiveSystem() const { return m_pActive; }
     /// Null once the drawing is gone.
     AcDbDatabase* GetDatabase() const { return m_pDatabase; }
+    /// Unique everywhere; given to the drawing with its first system, and kept in it.
+    const CString& GetDrawingGuid() const { return m_strDrawingGuid; }
     /// Another number whenever systems have come or gone.
     std::uint64_t GetRosterStamp() const { return m_nRosterStamp; }
 
@@ -58,7 +60,7 @@ private:
     void objectModified(const AcDbDatabase*, const AcDbObject* pObject) override;
     void objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool bErased) override;
     void databaseReplaced(const AcDbDatabase*) override;
-    void goodbye(const AcDbDatabase*) override { m_pDatabase = nullptr; }
+    void goodbye(const AcDbDatabase*) override;
 
     /// Reads all systems anew, without a word to anybody.
     void Load();
@@ -69,7 +71,10 @@ private:
     int IdOf(const AcDbObject& object) const;
     /// Tells the observers, and takes a system from the list.
     void Drop(CGisSystem& system);
-    void TellDifferences(const CString& nameBefore, int visibleBefore, CGisSystem& system);
+    /// Keeps what the drawing does not know of a system, for when undo brings it back.
+    void Park(const CGisSystem& system);
+    void DropOldCounters();
+    void MakeDrawingGuid();
 
     CGisSystem& Add(const CString& name, enmTopologyType type, int function);
     void Remove(CGisSystem& system);
@@ -82,7 +87,13 @@ private:
 
     AcDbDatabase* m_pDatabase;
     std::vector<std::unique_ptr<CGisSystem>> m_systems;
+    CString m_strDrawingGuid;
     CGisSystem* m_pActive = nullptr;
+    struct Parked {
+        CGisSystem::Counters counters;
+        bool wasActive = false;
+    };
+    std::map<int, Parked> m_parked; ///< of systems that are gone, by id
     std::uint64_t m_nRosterStamp = 0;
     int m_nOwnChanges = 0; ///< the dictionaries are changed from here
 };

@@ -26,7 +26,7 @@ void CNodeIndex::BuildSTRTree(int rebuild) {
 const CSpatialIndex& CNodeIndex::Index() {
     const Topology::CTopologyStorage& topology =
         *Topology::CTopologyMultiStorage::Instance()->GetTopology();
-    if (!m_pIndex || m_nBuiltFor != topology.GetChangeStamp()) {
+    if (!m_pIndex || m_nBuiltFor != topology.GetChangeStamp(EntityNode)) {
         std::vector<BoxEntry> boxes;
         if (const AcDbDatabase* const pDatabase = topology.GetDatabase()) {
             pDatabase->forEachEntity([&](const AcDbEntity& entity) {
@@ -37,7 +37,7 @@ const CSpatialIndex& CNodeIndex::Index() {
             });
         }
         m_pIndex = std::make_unique<CSpatialIndex>(boxes);
-        m_nBuiltFor = topology.GetChangeStamp();
+        m_nBuiltFor = topology.GetChangeStamp(EntityNode);
     }
     return *m_pIndex;
 }

@@ -70,7 +70,7 @@ void CPolygonIndex::BuildSTRTree(int rebuild) {
 
 void CPolygonIndex::Build() {
     const Topology::CTopologyStorage& topology = Drawing();
-    if (m_pIndex && m_nBuiltFor == topology.GetChangeStamp()) {
+    if (m_pIndex && m_nBuiltFor == topology.GetChangeStamp(EntityPolygon)) {
         return;
     }
     m_entries.clear();
@@ -81,7 +81,7 @@ void CPolygonIndex::Build() {
         boxes.push_back({box, polygon.GetObjectId().number()}); // an empty one is left out
     }
     m_pIndex = std::make_unique<CSpatialIndex>(boxes);
-    m_nBuiltFor = topology.GetChangeStamp();
+    m_nBuiltFor = topology.GetChangeStamp(EntityPolygon);
 }
 
 const std::vector<PolygonIndexEntry>& CPolygonIndex::GetPolygonIndex() {

@@ -69,6 +69,10 @@ enmEntityType CEntity::GetEntityType() const {
     return EntityTypeOf(Get());
 }
 
+CString CEntity::GetGuid() const {
+    return m_pStorage->GuidOf(m_id);
+}
+
 int CEntity::GetSystemId() const {
     return SystemIdOf(Get());
 }

@@ -31,6 +31,9 @@ public:
     /// False for an accessor of no entity, or of one that belongs to no system.
     explicit operator bool() const;
     AcDbObjectId GetObjectId() const { return m_id; }
+    /// Unique everywhere, and the same as long as the entity lives: the drawing's GUID with
+    /// the object's number.
+    CString GetGuid() const;
     enmEntityType GetEntityType() const;
 
     int GetSystemId() const;

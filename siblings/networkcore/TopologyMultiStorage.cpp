@@ -4,7 +4,7 @@
 
 #include "platform/arx/ApDocManager.h"
 #include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/GisSystems.h"
+#include "siblings/giscore/SystemManager.h"
 #include "siblings/networkcore/TopologyStatistics.h"
 
 namespace Orvane::Topology {
@@ -17,6 +17,10 @@ public:
     explicit Watcher(CTopologyMultiStorage& owner) : m_owner(owner) {
         acDocManagerPtr()->addReactor(this);
         System::CGisEvents::Instance()->Register(this);
+    }
+    void documentToBeDeactivated(AcApDocument* pDoc) override {
+        // The active system's counters are read again when the drawing is back.
+        SaveCounters(System::CSystemManager::Instance()->GetSystems(pDoc->database()));
     }
     void documentToBeDestroyed(AcApDocument* pDoc) override { m_dying.push_back(pDoc->database()); }
     void documentDestroyed(const wchar_t*) override {
@@ -32,14 +36,16 @@ public:
             pStorage->RemoveSystemEntities(pSystem->GetSystemId());
         }
     }
-    void OnSaveSystemContent(System::CGisSystems* pSystems) override {
+    void OnSaveSystemContent(System::CGisSystems* pSystems) override { SaveCounters(pSystems); }
+
+private:
+    void SaveCounters(System::CGisSystems* pSystems) {
         for (CTopologyStorage* const pStorage : {m_owner.GetTopology(pSystems->GetDatabase()),
                                                  m_owner.GetAuxTopology(pSystems->GetDatabase())}) {
             pStorage->SaveCountersToSystem(pSystems->GetActiveSystem());
         }
     }
 
-private:
     CTopologyMultiStorage& m_owner;
     std::vector<AcDbDatabase*> m_dying;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cwchar>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
@@ -95,7 +96,22 @@ CTopologyStorage::~CTopologyStorage() {
 void CTopologyStorage::Changed() {
     // One count for all storages: an index sees a change of drawing as well.
     static std::uint64_t s_nLast = 0;
-    m_nChangeStamp = ++s_nLast;
+    m_nChangeStamp = m_nPointStamp = m_nPolygonStamp = ++s_nLast;
+}
+
+void CTopologyStorage::Changed(const AcDbEntity& entity) {
+    const std::uint64_t points = m_nPointStamp;
+    const std::uint64_t polygons = m_nPolygonStamp;
+    Changed();
+    const enmEntityType type = EntityTypeOf(entity);
+    m_nPointStamp = type == EntityNode ? m_nChangeStamp : points;
+    m_nPolygonStamp = type == EntityPolygon ? m_nChangeStamp : polygons;
+}
+
+std::uint64_t CTopologyStorage::GetChangeStamp(enmEntityType type) const {
+    return type == EntityNode      ? m_nPointStamp
+           : type == EntityPolygon ? m_nPolygonStamp
+                                   : m_nChangeStamp;
 }
 
 // What belongs to the topology, and how the lists follow the drawing.
@@ -109,7 +125,8 @@ void CTopologyStorage::FollowRoster(Lists& lists) const {
     }
     lists.rosterStamp = stamp;
     std::vector<Lists::System> roster;
-    for (const System::CGisSystem* const pSystem : pSystems->GetSystemList()) {
+    for (const System::CGisSystem* const pSystem :
+         pSystems ? pSystems->GetSystemList() : std::vector<System::CGisSystem*>()) {
         roster.push_back({pSystem->GetSystemId(), pSystem->GetTopologyType()});
     }
     // A system that was just made has no entities yet, one that is back after an undo may.
@@ -169,8 +186,8 @@ void CTopologyStorage::objectAppended(const AcDbDatabase*, const AcDbObject* pOb
     if (!pObject->isEntity()) {
         return;
     }
-    Changed();
     const auto& entity = static_cast<const AcDbEntity&>(*pObject);
+    Changed(entity);
     if (!m_pLists->isStale && Takes(entity) && !m_pLists->isStale) {
         m_pLists->Of(EntityTypeOf(entity)).ids.push_back(entity.objectId());
     }
@@ -180,11 +197,11 @@ void CTopologyStorage::objectModified(const AcDbDatabase*, const AcDbObject* pOb
     if (m_nOwnChanges > 0 || !pObject->isEntity()) {
         return;
     }
-    Changed();
+    const auto& entity = static_cast<const AcDbEntity&>(*pObject);
+    Changed(entity);
     if (m_pLists->isStale) {
         return;
     }
-    const auto& entity = static_cast<const AcDbEntity&>(*pObject);
     EntityList& list = m_pLists->Of(EntityTypeOf(entity));
     const bool isListed = list.Contains(entity.objectId());
     const bool isTaken = Takes(entity);
@@ -197,7 +214,7 @@ void CTopologyStorage::objectModified(const AcDbDatabase*, const AcDbObject* pOb
 void CTopologyStorage::objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool) {
     if (pObject->isEntity()) {
         m_pLists->isStale = true;
-        Changed();
+        Changed(static_cast<const AcDbEntity&>(*pObject));
     }
 }
 
@@ -356,6 +373,30 @@ void CTopologyStorage::RemoveSystemEntities(int systemId) {
 
 CNode CTopologyStorage::GetNodeById(AcDbObjectId id) const {
     return Find(id, AcDbPoint::desc()) ? CNode(this, id) : CNode();
+}
+
+CNode CTopologyStorage::GetNodeByGuid(const wchar_t* guid) const {
+    return GetNodeById(IdOfGuid(guid));
+}
+
+CSection CTopologyStorage::GetSectionByGuid(const wchar_t* guid) const {
+    return GetSectionById(IdOfGuid(guid));
+}
+
+CString CTopologyStorage::GuidOf(AcDbObjectId id) const {
+    const System::CGisSystems* const pSystems =
+        System::CSystemManager::Instance()->GetSystems(m_pDatabase);
+    return pSystems ? FormatText(L"%s-%08X", pSystems->GetDrawingGuid(), id.number()) : CString();
+}
+
+AcDbObjectId CTopologyStorage::IdOfGuid(const wchar_t* guid) const {
+    constexpr int kNumberLength = 8;
+    const CString text(guid);
+    const CString number = text.Right(kNumberLength);
+    wchar_t* end = nullptr;
+    const unsigned long value = std::wcstoul(number, &end, 16);
+    const AcDbObjectId id(static_cast<std::uint32_t>(value));
+    return *end == L'\0' && GuidOf(id).CompareNoCase(text) == 0 ? id : AcDbObjectId();
 }
 
 CSection CTopologyStorage::GetSectionById(AcDbObjectId id) const {

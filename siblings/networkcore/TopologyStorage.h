@@ -56,6 +56,11 @@ public:
     CSection GetSectionById(AcDbObjectId id) const;
     CPolygon GetPolygonById(AcDbObjectId id) const;
     CMapText GetTextById(AcDbObjectId id) const;
+    /// By what CEntity::GetGuid gives.
+    CNode GetNodeByGuid(const wchar_t* guid) const;
+    CSection GetSectionByGuid(const wchar_t* guid) const;
+    /// The GUID of the entity of an id, which need not be there.
+    CString GuidOf(AcDbObjectId id) const;
 
     // All of a kind, in the order of creation.
     EntityRange<CNode> GetNodeVector() const;
@@ -95,6 +100,8 @@ public:
     /// Another number after every change of which entities the drawing has and where they
     /// lie; no two storages ever have the same.
     std::uint64_t GetChangeStamp() const { return m_nChangeStamp; }
+    /// The same for entities of one kind alone; EntityNode stands for all points.
+    std::uint64_t GetChangeStamp(enmEntityType type) const;
 
 private:
     struct Lists;
@@ -114,6 +121,8 @@ private:
     /// The entity of an id if it is one of this topology, of a class.
     const AcDbEntity* Find(AcDbObjectId id, const AcRxClass* pClass) const;
     bool IsOurs(const System::CGisSystem& system) const;
+    /// Null for a text that is no GUID of this drawing.
+    AcDbObjectId IdOfGuid(const wchar_t* guid) const;
 
     /// Gives an entity that is about to be added its system, name, kind and layer.
     void Begin(AcDbEntity& entity, System::CGisSystem& system, enmEntityType type,
@@ -127,12 +136,15 @@ private:
     template <class Change>
     int ChangeEntity(AcDbObjectId id, Change change);
     void Changed();
+    void Changed(const AcDbEntity& entity);
 
     AcDbDatabase* m_pDatabase;
     Role m_role;
     std::unique_ptr<Lists> m_pLists;
     std::unique_ptr<Naming> m_pNaming;
     std::uint64_t m_nChangeStamp = 0;
+    std::uint64_t m_nPointStamp = 0;
+    std::uint64_t m_nPolygonStamp = 0;
     int m_nOwnChanges = 0; ///< what changes is neither an entity's place nor its system
 };
 

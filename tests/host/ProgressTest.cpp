@@ -120,6 +120,8 @@ public:
         }
         return result;
     }
+    bool IsSameCoordinateSystem(const CString&, const CString&) override { return true; }
+    CString CoordinateSystemName(const CString&) override { return {}; }
 };
 
 class OneLine final : public IInputLines {

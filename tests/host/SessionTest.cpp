@@ -29,6 +29,22 @@ TEST_F(ProgramTest, AScriptStopsAtItsFirstFailureWithItsLine) {
     EXPECT_EQ(Run("--script " + m_folder.Native("missing.scr")), 2);
 }
 
+TEST_F(ProgramTest, ImportsLinesOfAnyFileAsANetwork) {
+    m_folder.Write("pipes.geojson", R"({"type": "LineString", "coordinates": [[0, 0], [5, 1]]})");
+    const std::string import = "NETWORK_IMPORT\n" + m_folder.Native("pipes.geojson") + "\nNet\n";
+    EXPECT_EQ(RunScript(import + "sewer\n0.5\nNETWORK_STATS\n"), 0) << m_output;
+    EXPECT_TRUE(Printed("Net: 2 nodes, 1 sections.\n2 of the nodes were made where lines end."))
+        << m_output;
+    EXPECT_TRUE(Printed("Net (Sewer)")) << m_output;
+    EXPECT_TRUE(Printed("one node <1e-06>: ")) << m_output;
+    EXPECT_EQ(RunScript(import + "\n\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
+    EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
+    EXPECT_EQ(RunScript(import + "99\n"), 1) << m_output;
+    EXPECT_EQ(RunScript(import + "1\n-1\n"), 1) << m_output;
+    EXPECT_EQ(RunScript("NEW\nCLOSE\nCLOSE\nNETWORK_STATS\n"), 1) << m_output;
+    EXPECT_TRUE(Printed("No drawing is open.")) << m_output;
+}
+
 TEST_F(ProgramTest, AFailedImportLeavesTheDrawingAsItWas) {
     m_folder.Write("cut.inp", "[JUNCTIONS]\n J1 10\n[PIPES]\n P1 J1\n[COORDINATES]\n J1 0 0\n");
     EXPECT_EQ(Run("", "NETWORK_IMPORT\n" + m_folder.Native("cut.inp") +

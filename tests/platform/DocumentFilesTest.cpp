@@ -217,11 +217,12 @@ TEST_F(DocumentFilesTest, SavedUnderANameItIsTheDrawingsOwnFile) {
     for (const char* name : {"new", "newer.v2", "newer.v2"}) {
         EXPECT_TRUE(m_manager.saveDocumentAs(pDoc, File(name), {}).ok());
     }
-    EXPECT_EQ(pDoc->title().Str(), L"newer.v2");
+    EXPECT_EQ(pDoc->title().Str(), L"newer.v2.gpkg");
     EXPECT_EQ(m_storage.m_log,
-              (Log{L"begin new.gpkg", L"save as, from ", L"complete new.gpkg", L"begin newer.v2",
-                   L"save as, from " + File("new.gpkg"), L"complete newer.v2", L"begin newer.v2",
-                   L"save as, from " + File("newer.v2"), L"complete newer.v2"}));
+              (Log{L"begin new.gpkg", L"save as, from ", L"complete new.gpkg",
+                   L"begin newer.v2.gpkg", L"save as, from " + File("new.gpkg"),
+                   L"complete newer.v2.gpkg", L"begin newer.v2.gpkg",
+                   L"save as, from " + File("newer.v2.gpkg"), L"complete newer.v2.gpkg"}));
 }
 
 TEST_F(DocumentFilesTest, TheVariablesAreThoseOfTheCurrentDrawing) {
@@ -270,14 +271,16 @@ TEST(DrawingNames, EndInFourCharactersThatModulesCut) {
 TEST(DrawingPaths, AreAbsoluteAndHaveAnExtension) {
     const TempFolder folder;
     fs::create_directory(folder / "real");
+    folder.Write("there.v1", "");
     fs::create_directory_symlink(folder / "real", folder / "link");
     const struct {
         const char* typed;
         const char* path;
     } cases[] = {
-        {"plan", "plan.gpkg"},         {"plan.GPKG", "plan.GPKG"},
-        {"plan.v2", "plan.v2"},        {"link/plan", "real/plan.gpkg"},
-        {"real/../plan", "plan.gpkg"}, {"none/plan", "none/plan.gpkg"},
+        {"plan", "plan.gpkg"},           {"plan.GPKG", "plan.GPKG"},
+        {"plan.v2", "plan.v2.gpkg"},     {"there.v1", "there.v1"},
+        {"link/plan", "real/plan.gpkg"}, {"real/../plan", "plan.gpkg"},
+        {"none/plan", "none/plan.gpkg"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(acdbDrawingPath(folder.Wide(row.typed)), folder.Wide(row.path)) << row.typed;

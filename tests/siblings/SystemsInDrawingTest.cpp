@@ -92,10 +92,10 @@ TEST_F(SystemsInDrawingTest, ADrawingGivesBackTheSystemsThatItWasSavedWith) {
     const std::string now = Describe(*Manager().GetSystems());
     EXPECT_EQ(Describe(CGisSystems(&Database())), now);
     EXPECT_NE(now.find(" node:2 active"), std::string::npos) << now;
-    EXPECT_NE(now.find("DIONICA=Wäter sections:5"), std::string::npos) << now;
+    EXPECT_NE(now.find("DIONICA=Wäter sections:150"), std::string::npos) << now;
     EXPECT_NE(now.find("MALIGNMENT=Road alignments:1"), std::string::npos) << now;
     EXPECT_EQ(now.find("DIONICA=Road"), std::string::npos) << now;
-    EXPECT_NE(now.find("POLYGON_SHELL=Parcels polygons:3"), std::string::npos) << now;
+    EXPECT_NE(now.find("POLYGON_SHELL=Parcels polygons:92"), std::string::npos) << now;
     EXPECT_NE(now.find("POLYGON_TEMP="), std::string::npos) << now;
     EXPECT_EQ(water.GetLayerByReference(L"SCHEME"), nullptr);
 }
@@ -119,11 +119,17 @@ TEST_F(SystemsInDrawingTest, UndoAndRedoTakeSystemsAndTheirEntitiesAlong) {
 
     ASSERT_TRUE(undo.redo());
     EXPECT_EQ(observer.Take(), "new A;");
+    EXPECT_EQ(Manager().GetActiveSystem(), Manager().GetSystemByName(L"A"));
     CGisSystem* const pAgain = Manager().GetSystemByName(L"A");
     ASSERT_NE(pAgain, nullptr);
     EXPECT_EQ(pAgain->GetGuid(), guid);
     ASSERT_EQ(Storage().GetNodeVector().size(), 1U);
     EXPECT_EQ(Storage().GetNodeVector()[0].GetSystem(), pAgain);
+    const CNode node = Storage().GetNodeVector()[0];
+    EXPECT_EQ(Storage().GetNodeByGuid(node.GetGuid()).GetObjectId(), node.GetObjectId());
+    EXPECT_FALSE(Storage().GetSectionByGuid(node.GetGuid()));
+    EXPECT_FALSE(Storage().GetNodeByGuid(L"x" + node.GetGuid()));
+    EXPECT_FALSE(Storage().GetNodeByGuid(L""));
 
     Manager().RenameSystem(pAgain, L"B");
     Manager().SetSystemInvisible(pAgain);

@@ -212,6 +212,10 @@ bool AfxIsDesktopMode() {
     return g_desktop;
 }
 
+bool AfxHasDisplay() {
+    return std::getenv("QT_QPA_PLATFORM") || XServerAnswers() || std::getenv("WAYLAND_DISPLAY");
+}
+
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;

@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 
 #include "platform/win/CodePage.h"
 #include "tests/host/storage/StorageFixture.h"
@@ -158,6 +159,15 @@ TEST_F(FailureTest, ALockOfAnotherProgramIsWaitedForShortlyAndTold) {
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
     Save(database, "plan.gpkg");
     EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database)) << "the lock has gone";
+    Rename(database, "changed again");
+    Sqlite brief(m_folder.Native("plan.gpkg"));
+    brief.Execute("BEGIN IMMEDIATE");
+    std::thread end([&] {
+        usleep(200'000);
+        brief.Execute("ROLLBACK");
+    });
+    Save(database, "plan.gpkg");
+    end.join();
     EXPECT_TRUE(Leftovers({"plan.gpkg"}).empty());
 }
 
@@ -174,6 +184,43 @@ TEST_F(FailureTest, AFileInUseWithAWriteAheadLogIsReadAndSaved) {
         m_storage->SaveAs(*again, m_folder.Wide("plan.gpkg"), m_folder.Wide("copy.gpkg"), {}).ok());
     EXPECT_EQ(DescribeFile("copy.gpkg"), Describe(*again));
     EXPECT_TRUE(Contains(Describe(*again), "'theirs'"));
+
+    // Another coordinate system needs another file, which the log would be taken for a part of.
+    const auto there = Open("plan.gpkg");
+    there->setCoordinateSystem(L"LOCAL_CS[\"a town's own\",UNIT[\"metre\",1]]");
+    EXPECT_TRUE(Contains(WhyNotSaved(*there, "plan.gpkg"), "another program has it open"));
+    std::filesystem::create_symlink(m_folder / "plan.gpkg", m_folder / "link.gpkg");
+    EXPECT_TRUE(Contains(WhyNotSavedAs(*there, m_folder.Native("link.gpkg")), "has it open"));
+    other.Execute("PRAGMA journal_mode = DELETE");
+    Save(*there, "plan.gpkg");
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(*there));
+}
+
+TEST_F(FailureTest, AnOlderFileInItsPlaceIsNotTakenForTheDrawing) {
+    AcDbDatabase database;
+    MakePlan(database);
+    const std::string backup = m_folder.Read("plan.gpkg");
+    AddNode(database, 1, 1, "saved after the backup");
+    Save(database, "plan.gpkg");
+    m_folder.Write("plan.gpkg", backup);
+    Rename(database, "changed");
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "has taken its place"));
+    EXPECT_EQ(m_folder.Read("plan.gpkg"), backup);
+    const CString path = m_folder.Wide("plan.gpkg");
+    EXPECT_TRUE(m_storage->SaveAs(database, path, path, {}).ok());
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+}
+
+TEST_F(FailureTest, JournalsOfAFileThatIsGoneAreNotTakenForTheNewOnes) {
+    AcDbDatabase database;
+    MakePlan(database);
+    for (const char* companion : {"-journal", "-wal"}) {
+        std::filesystem::rename(m_folder / "plan.gpkg", m_folder / "kept.gpkg");
+        m_folder.Write("plan.gpkg" + std::string(companion), "what is left");
+        SaveNew(database, "plan.gpkg");
+        EXPECT_TRUE(Leftovers({"plan.gpkg", "kept.gpkg"}).empty()) << companion;
+        EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+    }
 }
 
 TEST_F(FailureTest, PlacesThatCannotBeWrittenToAreToldApart) {
@@ -326,6 +373,7 @@ int KillCount() {
 }
 
 TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
+    using Clock = std::chrono::steady_clock;
     AcDbDatabase database;
     MakePlan(database, 2000);
     const std::string oldState = DescribeFile("plan.gpkg");
@@ -334,8 +382,10 @@ TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
     const std::string newState = Describe(database);
     std::mt19937 random(11);
     std::map<std::string, int> seen;
-    for (int run = 0; run < KillCount(); ++run) {
-        const bool isCopy = run % 3 == 0;
+    useconds_t longest = 0; // what a save takes here; the first two are let finish
+    for (int run = -2; run < KillCount(); ++run) {
+        const bool isCopy = run % 3 == 0 || run == -2;
+        const auto begin = Clock::now();
         const pid_t child = fork();
         if (child == 0) {
             if (isCopy) {
@@ -346,10 +396,16 @@ TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
             }
             _exit(0);
         }
-        usleep(static_cast<useconds_t>(random() % 60'000));
-        kill(child, SIGKILL);
+        if (run >= 0) {
+            usleep(static_cast<useconds_t>(random() % (longest + longest / 4)));
+            kill(child, SIGKILL);
+        }
         int status = 0;
         waitpid(child, &status, 0);
+        const auto micros =
+            std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - begin).count();
+        longest = run < 0 ? std::max(longest, static_cast<useconds_t>(micros)) : longest;
+        seen["in the middle"] += Leftovers({"plan.gpkg", "kept"}).empty() ? 0 : 1;
         const std::string state = DescribeFile("plan.gpkg");
         EXPECT_TRUE(state == oldState || state == newState) << "run " << run;
         ++seen[state == oldState ? "old" : "new"];
@@ -358,6 +414,7 @@ TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
     }
     RecordProperty("old", seen["old"]);
     RecordProperty("new", seen["new"]);
+    RecordProperty("in the middle", seen["in the middle"]);
     // What the killed ones left is cleared by the next.
     EXPECT_TRUE(
         m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"), m_folder.Wide("plan.gpkg"), {})

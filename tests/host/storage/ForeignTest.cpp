@@ -185,6 +185,17 @@ TEST_F(ForeignTest, ViewsAreLayersAndTablesWithoutGeometryAreNot) {
     EXPECT_EQ(On(*database, "points").size(), 3U);
     EXPECT_EQ(On(*database, "some").size(), 2U);
     EXPECT_TRUE(database->findLayer(L"prices").isNull());
+
+    // One that shows our own objects would show them twice.
+    AddNode(*database, 1, 1, "ours");
+    Save(*database, "town.gpkg");
+    Run("town.gpkg",
+        "CREATE VIEW ours AS SELECT n.* FROM NODES AS n, points AS p WHERE n.fid <> p.fid;"
+        "INSERT INTO gpkg_contents (table_name, identifier, data_type, srs_id) "
+        "VALUES ('ours', 'ours', 'features', 32633);"
+        "INSERT INTO gpkg_geometry_columns VALUES ('ours', 'geom', 'POINT', 32633, 0, 0);");
+    EXPECT_EQ(Open("town.gpkg")->entityCount(), 6U);
+    EXPECT_TRUE(HasWarning("ours: it is passed over"));
 }
 
 TEST_F(ForeignTest, ASaveLeavesForeignTablesAsTheyAre) {

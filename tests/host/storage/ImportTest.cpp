@@ -127,6 +127,9 @@ TEST_F(ImportTest, ADxfThatIsCutOrDamagedIsRefusedInTime) {
     lines[lines.find("\r\n10") + 1] = '\0';
     m_folder.Write("plan.dxf", lines);
     WhyNot("plan.dxf");
+    // A word by which another reader takes the file for its own.
+    m_folder.Write("plan.dxf", lines.insert(lines.find("Pipes"), "<kml:kml"));
+    WhyNot("plan.dxf");
 }
 
 TEST_F(ImportTest, ADxfKeepsItsLayersAsValues) {

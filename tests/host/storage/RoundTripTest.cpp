@@ -232,6 +232,53 @@ TEST_F(StorageTest, HeightsAreOptionalInTheFileAsInTheDrawing) {
               "'nodes'|'POINT'|2\n");
 }
 
+TEST_F(StorageTest, ExtentsForOtherProgramsFollowWhatMovesAndGoes) {
+    AcDbDatabase database;
+    std::vector<AcDbObjectId> ids;
+    for (int i = 0; i < 4; ++i) {
+        ids.push_back(AddNode(database, (i + 1) / 7.0, i / 3.0, "node"));
+    }
+    SaveNew(database, "plan.gpkg");
+    const auto expectExtent = [&](double minX, double minY, double maxX, double maxY) {
+        Save(database, "plan.gpkg");
+        char sql[400];
+        // Texts of numbers lose their last digits here and there.
+        std::snprintf(sql, sizeof sql,
+                      "SELECT abs(min_x - %.17g) + abs(min_y - %.17g) + abs(max_x - %.17g) + "
+                      "abs(max_y - %.17g) < 1e-9 FROM gpkg_contents WHERE table_name = 'nodes'",
+                      minX, minY, maxX, maxY);
+        EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query(sql), "1\n") << minX << " " << maxX;
+    };
+    Edit<AcDbPoint>(database, ids[3], [](AcDbPoint& point) { point.erase(); });
+    expectExtent(1 / 7.0, 0, 3 / 7.0, 2 / 3.0);
+    Edit<AcDbPoint>(database, ids[0], [](AcDbPoint& point) { point.setPosition({0.3, -7}); });
+    expectExtent(2 / 7.0, -7, 3 / 7.0, 2 / 3.0);
+    Edit<AcDbPoint>(database, ids[0], [](AcDbPoint& point) { point.setPosition({kNaN, kNaN}); });
+    AddNode(database, 9, 9, "added");
+    expectExtent(2 / 7.0, 1 / 3.0, 9, 9);
+}
+
+/// An entity of a class that some module has made.
+class Special final : public AcDbEntity {
+public:
+    AcRxClass* isA() const override { return AcDbEntity::desc(); }
+    AcGeExtents2d extents() const override { return {}; }
+    std::unique_ptr<AcDbObject> clone() const override { return std::make_unique<Special>(); }
+
+protected:
+    void swapBody(AcDbObject&) override {}
+};
+
+TEST_F(StorageTest, EntitiesOfUnknownClassesAreCountedAndTheRestIsSaved) {
+    AcDbDatabase database;
+    AddNode(database, 1, 1, "node");
+    database.appendEntity(std::make_unique<Special>());
+    SaveNew(database, "plan.gpkg");
+    ASSERT_EQ(m_warnings.size(), 1U);
+    EXPECT_EQ(m_warnings[0].Find(L"1 objects are not saved"), 0);
+    EXPECT_EQ(Open("plan.gpkg")->entityCount(), 1U);
+}
+
 TEST_F(StorageTest, CoordinatesOfWhichNothingIsKnownAreNoDegrees) {
     AcDbDatabase database;
     AddNode(database, 500'000, 5'000'000, "far from any degree");

@@ -81,11 +81,15 @@ std::string Describe(const CTopologyStorage& storage) {
 
 class NetworkOnDisk : public TestDrawing {
 protected:
-    NetworkOnDisk() { acDocManagerPtr()->setStorage(m_pStorage.get()); }
+    NetworkOnDisk() {
+        acDocManagerPtr()->setStorage(m_pStorage.get());
+        acdbSetImporter(m_pImporter.get());
+    }
     ~NetworkOnDisk() override {
         while (acDocManagerPtr()->documentCount() > 0) {
             acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
         }
+        acdbSetImporter(nullptr);
         acDocManagerPtr()->setStorage(nullptr);
     }
     static CTopologyStorage& Current() {
@@ -121,6 +125,8 @@ protected:
 
     TempFolder m_folder;
     std::unique_ptr<IDbStorage> m_pStorage = Tessaly::MakeGeoPackageStorage();
+    std::unique_ptr<IDbImporter> m_pImporter = Tessaly::MakeImporter();
+    ImportProgress m_progress{{}};
 };
 
 class ReferenceNetworkOnDisk : public NetworkOnDisk,
@@ -136,7 +142,8 @@ TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
     const InpResult network = ReadInpFile(Utf8ToWide(path.string()).c_str());
     ASSERT_TRUE(network.ok);
     ImportedSystems imported;
-    ASSERT_TRUE(AddToDrawing(network.model, kFunctionWater, L"Nätwork", imported).IsEmpty());
+    ASSERT_TRUE(
+        AddToDrawing(network.model, kFunctionWater, L"Nätwork", imported, m_progress).IsEmpty());
     System::CSystemManager::Instance()->SetSystemActive(imported.pNetwork);
     CORVCDictionaryPtr records(AcDb::kForWrite);
     records.dctWriteBigString(L"ORVZ_UISTATE", L"UIRECORD", CString(L'\x4E2D', 100000));
@@ -200,7 +207,8 @@ TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
     const LayerContents contents(read);
     ImportedSystems imported;
     LayerCounts counts;
-    ASSERT_TRUE(AddToDrawing(contents, 0.001, kFunctionWater, L"Net", imported, counts).IsEmpty());
+    ASSERT_TRUE(AddToDrawing(contents, 0.001, kFunctionWater, L"Net", imported, counts, m_progress)
+                    .IsEmpty());
     EXPECT_TRUE(TakeCoordinateSystem(read, true).empty());
     EXPECT_FALSE(Document()->database()->coordinateSystem().IsEmpty());
     EXPECT_TRUE(TakeCoordinateSystem(read, false).empty());
@@ -232,7 +240,12 @@ TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
     EXPECT_EQ(storage.GetPolygonVector()[0].GetRings().size(), 2U);
 
     ImportedSystems again;
-    EXPECT_FALSE(AddToDrawing(contents, 0, kFunctionWater, L"net", again, counts).IsEmpty());
+    ImportProgress stopped([](int) { return false; });
+    stopped.Reading()(1);
+    EXPECT_FALSE(
+        AddToDrawing(contents, 0, kFunctionWater, L"stopped", again, counts, stopped).IsEmpty());
+    EXPECT_FALSE(
+        AddToDrawing(contents, 0, kFunctionWater, L"net", again, counts, m_progress).IsEmpty());
     EXPECT_EQ(again.pNetwork, nullptr);
     EXPECT_EQ(System::CSystemManager::Instance()->GetSystems()->GetCount(), 2);
 
@@ -245,7 +258,8 @@ TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
 TEST_F(NetworkOnDisk, WhatAnotherProgramChangesIsThereAfterOpening) {
     const InpResult network = ReadInpFile(L"" TESSALY_SOURCE_DIR "/share/sample/town-water.inp");
     ImportedSystems imported;
-    ASSERT_TRUE(AddToDrawing(network.model, kFunctionWater, L"Town", imported).IsEmpty());
+    ASSERT_TRUE(
+        AddToDrawing(network.model, kFunctionWater, L"Town", imported, m_progress).IsEmpty());
     const auto section = Current().GetSectionVector()[0];
     const std::string name(section.GetNameUtf8());
     const AcDbObjectId gone = section.GetStartNodeId();

@@ -1,0 +1,123 @@
+#include "host/desktop/CommandSearch.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Tessaly {
+
+namespace {
+
+// How well a word fits; 0 if it does not.
+constexpr int kWholeName = 1000;
+constexpr int kNameBegin = 600;
+constexpr int kWordOfName = 400;
+constexpr int kInsideName = 300;
+constexpr int kWordOfDescription = 200;
+constexpr int kInsideDescription = 100;
+constexpr int kLettersOfName = 50;
+
+std::wstring Lower(const CString& text) {
+    return CString(text).MakeLower().Str();
+}
+
+bool BeginsWordAt(const std::wstring& text, std::size_t at) {
+    return at == 0 || text[at - 1] == L' ' || text[at - 1] == L'-';
+}
+
+/// Of the best place where a word stands in a text.
+int ScorePlaces(const std::wstring& text, const std::wstring& word, int atWord, int inside) {
+    std::size_t at = text.find(word);
+    const int otherwise = at == std::wstring::npos ? 0 : inside;
+    for (; at != std::wstring::npos; at = text.find(word, at + 1)) {
+        if (BeginsWordAt(text, at)) {
+            return atWord;
+        }
+    }
+    return otherwise;
+}
+
+bool HasLettersInOrder(const std::wstring& text, const std::wstring& word) {
+    std::size_t at = 0;
+    for (const wchar_t letter : word) {
+        at = text.find(letter, at);
+        if (at == std::wstring::npos) {
+            return false;
+        }
+        ++at;
+    }
+    return true;
+}
+
+std::vector<std::wstring> Words(const CString& query) {
+    std::vector<std::wstring> words;
+    std::wstring word;
+    for (const wchar_t letter : Lower(query) + L' ') {
+        if (letter != L' ' && letter != L'_' && letter != L'\t') {
+            word += letter;
+        } else if (!word.empty()) {
+            words.push_back(std::exchange(word, {}));
+        }
+    }
+    return words;
+}
+
+} // namespace
+
+CommandSearch::CommandSearch(std::vector<CommandEntry> entries) : m_entries(std::move(entries)) {
+    for (const CommandEntry& entry : m_entries) {
+        Text text{Lower(entry.name), Lower(entry.description)};
+        std::replace(text.name.begin(), text.name.end(), L'_', L' ');
+        m_texts.push_back(std::move(text));
+    }
+}
+
+int CommandSearch::ScoreWord(const Text& text, const std::wstring& word) {
+    if (text.name == word) {
+        return kWholeName;
+    }
+    if (text.name.starts_with(word)) {
+        return kNameBegin;
+    }
+    int score = ScorePlaces(text.name, word, kWordOfName, kInsideName);
+    if (score < kWordOfDescription) {
+        score = std::max(
+            score, ScorePlaces(text.description, word, kWordOfDescription, kInsideDescription));
+    }
+    return score > 0 || !HasLettersInOrder(text.name, word) ? score : kLettersOfName;
+}
+
+std::vector<std::size_t> CommandSearch::Find(const CString& query,
+                                             const std::vector<CString>& recent) const {
+    struct Hit {
+        std::size_t entry;
+        int score;
+        std::size_t age; ///< place among the recent ones
+    };
+    const std::vector<std::wstring> words = Words(query);
+    std::vector<Hit> hits;
+    for (std::size_t i = 0; i < m_texts.size(); ++i) {
+        int score = 0;
+        const bool fits = std::all_of(words.begin(), words.end(), [&](const std::wstring& word) {
+            const int wordScore = ScoreWord(m_texts[i], word);
+            score += wordScore;
+            return wordScore > 0;
+        });
+        if (fits) {
+            const auto used = std::find(recent.begin(), recent.end(), m_entries[i].name);
+            hits.push_back({i, score, static_cast<std::size_t>(used - recent.begin())});
+        }
+    }
+    std::sort(hits.begin(), hits.end(), [this](const Hit& left, const Hit& right) {
+        if (left.score != right.score) {
+            return left.score > right.score;
+        }
+        return left.age != right.age ? left.age < right.age
+                                     : m_texts[left.entry].name < m_texts[right.entry].name;
+    });
+    std::vector<std::size_t> found(hits.size());
+    std::transform(hits.begin(), hits.end(), found.begin(),
+                   [](const Hit& hit) { return hit.entry; });
+    return found;
+}
+
+} // namespace Tessaly

@@ -1,0 +1,129 @@
+#include "host/desktop/Desktop.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QTimer>
+#include <cstdio>
+
+#include "host/Session.h"
+#include "host/desktop/DesktopPort.h"
+#include "host/desktop/Frame.h"
+#include "host/desktop/FrameDisplay.h"
+#include "host/desktop/QtTexts.h"
+#include "host/desktop/Theme.h"
+#include "host/desktop/view/DrawingView.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/arx/HostOptions.h"
+#include "platform/mfc/WinApp.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace {
+
+constexpr const wchar_t* kLayoutFile = L"layout.txt";
+constexpr QSize kPictureSize(1600, 1000);
+// Of a picture: how long is waited for what is drawn in steps. Milliseconds.
+constexpr int kPictureStep = 20;
+constexpr int kLeastWait = 300;
+constexpr int kLongestWait = 30'000;
+
+/// Standard output says nothing in a desktop, but who starts it without a display, or with
+/// a wrong option, has to read why nothing is seen.
+void Complain(const char* text) {
+    std::fprintf(stderr, "tessaly: %s\n", text);
+}
+
+CString LayoutPath() {
+    return GetHostOption(kHostOptionSupport) + kLayoutFile;
+}
+
+void SaveLayout(const Frame& frame) {
+    const CString problem = WriteLayout(LayoutPath(), frame.CurrentLayout());
+    if (!problem.IsEmpty()) {
+        acutPrintf(L"The layout of the windows is not kept: %s\n", problem);
+    }
+}
+
+void RestoreLayout(Frame& frame, const Options& options) {
+    CString problem;
+    Layout layout;
+    if (!options.snapshot) {
+        layout = ReadLayout(LayoutPath(), problem).value_or(Layout());
+    }
+    if (options.theme) {
+        layout.theme = *options.theme;
+    }
+    if (!problem.IsEmpty()) {
+        acutPrintf(L"%s\n", problem);
+    }
+    frame.ApplyLayout(layout);
+}
+
+/// Draws the window without anybody seeing it.
+int TakePicture(Frame& frame, const CString& path) {
+    frame.resize(kPictureSize);
+    frame.show();
+    // Until what is drawn in steps is all there.
+    QElapsedTimer waited;
+    waited.start();
+    const auto isWhole = [&] {
+        const DrawingView* const pView = frame.CurrentView();
+        return !pView || pView->IsPictureWhole();
+    };
+    do {
+        QApplication::processEvents(QEventLoop::AllEvents, kPictureStep);
+    } while (waited.elapsed() < kLeastWait || (!isWhole() && waited.elapsed() < kLongestWait));
+    if (!frame.grab().save(ToQt(path.View()))) {
+        Complain("the picture cannot be written");
+        return kExitBadUsage;
+    }
+    return kExitDone;
+}
+
+int Run(const Options& options, Frame& frame, Session& session) {
+    const bool isOpen = session.Start(options.drawing);
+    frame.SetSession(&session);
+    if (options.first) {
+        session.RunScript(*options.first);
+    }
+    if (options.snapshot) {
+        const int status = TakePicture(frame, *options.snapshot);
+        session.End();
+        return isOpen ? status : kExitCommandFailed;
+    }
+    const int status = HasQuit() ? kExitDone : QApplication::exec();
+    SaveLayout(frame);
+    frame.Port().CancelAll();
+    session.End();
+    return status;
+}
+
+} // namespace
+
+int RunDesktop(const Options& options) {
+    AfxSetDesktopMode(true);
+    AfxStartToolkit();
+    QApplication::setApplicationName(QStringLiteral("Tessaly"));
+    Frame frame;
+    IHostPort* const pBefore = SetHostPort(&frame.Port());
+    const FrameDisplay display(frame);
+    if (options.transcript) {
+        frame.Port().SetTranscript(OpenFile(*options.transcript, "wb"));
+    }
+    RestoreLayout(frame, options);
+    int status = kExitDone;
+    {
+        Session session(frame.Port());
+        if (!options.snapshot) {
+            frame.show();
+        }
+        status = Run(options, frame, session);
+        frame.SetSession(nullptr);
+    }
+    SetHostPort(pBefore);
+    return status;
+}
+
+} // namespace Tessaly

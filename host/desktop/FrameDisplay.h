@@ -1,0 +1,32 @@
+// The view of the frame, as modules reach it.
+#pragma once
+
+#include "platform/arx/EdDisplay.h"
+
+namespace Tessaly {
+
+class Frame;
+
+/// Hands everything on to the view of the current drawing. In force while it lives.
+class FrameDisplay final : public IDrawingDisplay {
+public:
+    explicit FrameDisplay(Frame& frame);
+    ~FrameDisplay() override;
+    FrameDisplay(const FrameDisplay&) = delete;
+    FrameDisplay& operator=(const FrameDisplay&) = delete;
+
+    PickOutcome PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) override;
+    bool ZoomTo(std::span<const AcDbObjectId> ids, double factor) override;
+    void ZoomExtents() override;
+    void ZoomBy(double factor) override;
+    void Highlight(std::span<const AcDbObjectId> ids, int colorIndex) override;
+    void Mark(std::span<const AcDbObjectId> ids, int colorIndex) override;
+    void Redraw() override;
+    void Update() override;
+
+private:
+    Frame& m_frame;
+    IDrawingDisplay* m_pBefore;
+};
+
+} // namespace Tessaly

@@ -1,0 +1,223 @@
+#include "host/desktop/LayoutFile.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "platform/win/CodePage.h"
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
+
+namespace Tessaly {
+
+namespace {
+
+// One value a line: "key=value", the first line naming the version, the last one saying that
+// nothing is missing. Bytes are written in hexadecimal, texts in UTF-8 with line ends escaped.
+constexpr std::string_view kVersion = "tessaly layout 1";
+constexpr std::string_view kEnd = "end";
+
+std::string ToHex(const std::string& bytes) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    std::string hex;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        hex += kDigits[byte >> 4];
+        hex += kDigits[byte & 15];
+    }
+    return hex;
+}
+
+int DigitOf(char c) {
+    return c >= '0' && c <= '9' ? c - '0' : c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
+}
+
+bool FromHex(std::string_view hex, std::string& bytes) {
+    if (hex.size() % 2 != 0) {
+        return false;
+    }
+    for (std::size_t i = 0; i < hex.size(); i += 2) {
+        const int high = DigitOf(hex[i]);
+        const int low = DigitOf(hex[i + 1]);
+        if (high < 0 || low < 0) {
+            return false;
+        }
+        bytes += static_cast<char>(high * 16 + low);
+    }
+    return true;
+}
+
+std::string Line(std::string_view key, const std::string& value) {
+    return std::string(key) + "=" + value + "\n";
+}
+
+std::string TextLine(std::string_view key, const CString& text) {
+    return Line(key, ToHex(WideToUtf8(text.View())));
+}
+
+bool ReadText(std::string_view value, CString& text) {
+    std::string utf8;
+    const bool isText = FromHex(value, utf8);
+    text = Utf8ToWide(utf8);
+    return isText;
+}
+
+bool ReadWindow(const std::string& value, ScreenRect& window) {
+    int used = 0;
+    return std::sscanf(value.c_str(), "%d %d %d %d%n", &window.left, &window.top, &window.width,
+                       &window.height, &used) == 4 &&
+           static_cast<std::size_t>(used) == value.size() && window.width > 0 && window.height > 0;
+}
+
+bool ReadEntry(std::string_view key, const std::string& value, Layout& layout) {
+    CString text;
+    if (key == "window") {
+        return ReadWindow(value, layout.window);
+    }
+    if (key == "maximized") {
+        layout.isMaximized = value == "1";
+        return true;
+    }
+    if (key == "panes") {
+        return FromHex(value, layout.panes);
+    }
+    if (!ReadText(value, text)) {
+        return false;
+    }
+    if (key == "theme") {
+        layout.theme = text;
+    } else if (key == "recent") {
+        layout.recent.push_back(text);
+    } else if (key == "history") {
+        layout.history.push_back(text);
+    }
+    return true;
+}
+
+/// Nothing, with a reason, for a text that is no whole layout.
+std::optional<Layout> Parse(std::string_view text, const wchar_t*& reason) {
+    reason = L"it is cut, or was written by another version";
+    Layout layout;
+    bool isFirst = true;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        if (end == std::string_view::npos) {
+            return std::nullopt;
+        }
+        const std::string_view line = text.substr(0, end);
+        text.remove_prefix(end + 1);
+        if (isFirst) {
+            if (line != kVersion) {
+                return std::nullopt;
+            }
+            isFirst = false;
+        } else if (line == kEnd) {
+            return text.empty() ? std::optional(layout) : std::nullopt;
+        } else {
+            const std::size_t equals = line.find('=');
+            if (equals == std::string_view::npos ||
+                !ReadEntry(line.substr(0, equals), std::string(line.substr(equals + 1)), layout)) {
+                reason = L"a value in it is none";
+                return std::nullopt;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+std::string Format(const Layout& layout) {
+    std::string text = std::string(kVersion) + "\n";
+    text +=
+        Line("window",
+             std::to_string(layout.window.left) + " " + std::to_string(layout.window.top) + " " +
+                 std::to_string(layout.window.width) + " " + std::to_string(layout.window.height));
+    text += Line("maximized", layout.isMaximized ? "1" : "0");
+    text += Line("panes", ToHex(layout.panes));
+    text += TextLine("theme", layout.theme);
+    for (const CString& name : layout.recent) {
+        text += TextLine("recent", name);
+    }
+    for (const CString& line : layout.history) {
+        text += TextLine("history", line);
+    }
+    return text + std::string(kEnd) + "\n";
+}
+
+int Overlap(int from, int length, int otherFrom, int otherLength) {
+    return std::min(from + length, otherFrom + otherLength) - std::max(from, otherFrom);
+}
+
+/// How far a place is outside of a range.
+long long Outside(int at, int from, int length) {
+    return std::max(
+        {0LL, static_cast<long long>(from) - at, at - (static_cast<long long>(from) + length)});
+}
+
+} // namespace
+
+std::optional<Layout> ReadLayout(const CString& path, CString& problem) {
+    problem.Empty();
+    if (!FileExists(path)) {
+        return std::nullopt;
+    }
+    const std::optional<std::string> text = ReadFileBytes(path);
+    if (!text) {
+        problem = path + L": " + LastErrorText();
+        return std::nullopt;
+    }
+    const wchar_t* reason = nullptr;
+    std::optional<Layout> layout = Parse(*text, reason);
+    if (!layout) {
+        problem.Format(L"%s: the layout is not used: %s", path, reason);
+    }
+    return layout;
+}
+
+CString WriteLayout(const CString& path, const Layout& layout) {
+    return ReplaceFileBytes(path, Format(layout)) ? CString() : path + L": " + LastErrorText();
+}
+
+ScreenRect OnScreen(const ScreenRect& window, const std::vector<ScreenRect>& workAreas) {
+    constexpr int kCatchWidth = 80;
+    constexpr int kCatchHeight = 24;
+    ScreenRect all = workAreas.empty() ? window : workAreas.front();
+    for (const ScreenRect& area : workAreas) {
+        const int right = std::max(all.left + all.width, area.left + area.width);
+        const int bottom = std::max(all.top + all.height, area.top + area.height);
+        all.left = std::min(all.left, area.left);
+        all.top = std::min(all.top, area.top);
+        all.width = right - all.left;
+        all.height = bottom - all.top;
+    }
+    const bool fits = window.width <= all.width && window.height <= all.height;
+    for (const ScreenRect& area : workAreas) {
+        const bool isCaught =
+            fits &&
+            Overlap(window.left, window.width, area.left, area.width) >=
+                std::min(kCatchWidth, window.width) &&
+            window.top >= area.top &&
+            Overlap(window.top, kCatchHeight, area.top, area.height) == kCatchHeight;
+        if (isCaught) {
+            return window;
+        }
+    }
+    const auto distance = [&](const ScreenRect& area) {
+        return Outside(window.left + window.width / 2, area.left, area.width) +
+               Outside(window.top + window.height / 2, area.top, area.height);
+    };
+    const auto nearest = std::min_element(workAreas.begin(), workAreas.end(),
+                                          [&](const ScreenRect& left, const ScreenRect& right) {
+                                              return distance(left) < distance(right);
+                                          });
+    if (nearest == workAreas.end()) {
+        return window;
+    }
+    ScreenRect moved = window;
+    moved.width = std::min(moved.width, nearest->width);
+    moved.height = std::min(moved.height, nearest->height);
+    moved.left =
+        std::clamp(moved.left, nearest->left, nearest->left + nearest->width - moved.width);
+    moved.top = std::clamp(moved.top, nearest->top, nearest->top + nearest->height - moved.height);
+    return moved;
+}
+
+} // namespace Tessaly

@@ -1,0 +1,18 @@
+// What stands behind docking panes. For sources only.
+#pragma once
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPointer>
+
+#include "platform/xtp/XTPDockingPaneManager.h"
+
+struct CXTPDockingPane::Impl {
+    QPointer<QDockWidget> dock;
+    HWND child = nullptr;
+};
+
+struct CXTPDockingPaneManager::Impl {
+    QPointer<QMainWindow> frame;
+    bool isGentle = false;
+};

@@ -107,7 +107,7 @@ DWORD_PTR CComboBox::GetItemData(int index) const {
 }
 
 void* CComboBox::GetItemDataPtr(int index) const {
-    return reinterpret_cast<void*>(GetItemData(index));
+    return PointerOf<void>(static_cast<LPARAM>(GetItemData(index)));
 }
 
 int CWzComboBox::AddString(const wchar_t* text, int image) {

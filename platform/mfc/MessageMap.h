@@ -137,7 +137,7 @@ template <class C, void (C::*Handler)(WINDOWPOS*)>
 struct Thunk<Handler> {
     static constexpr enmArguments kArguments = enmArguments::Place;
     static LRESULT Call(CCmdTarget* pTarget, WPARAM, LPARAM lParam) {
-        (static_cast<C*>(pTarget)->*Handler)(reinterpret_cast<WINDOWPOS*>(lParam));
+        (static_cast<C*>(pTarget)->*Handler)(PointerOf<WINDOWPOS>(lParam));
         return 0;
     }
 };
@@ -156,7 +156,7 @@ template <class C, HBRUSH (C::*Handler)(CDC*, CWnd*, UINT)>
 struct Thunk<Handler> {
     static constexpr enmArguments kArguments = enmArguments::Colors;
     static LRESULT Call(CCmdTarget* pTarget, WPARAM, LPARAM lParam) {
-        auto& query = *reinterpret_cast<ControlColorQuery*>(lParam);
+        auto& query = *PointerOf<ControlColorQuery>(lParam);
         query.result = (static_cast<C*>(pTarget)->*Handler)(query.pDC, query.pControl, query.type);
         return 0;
     }
@@ -166,7 +166,8 @@ template <class C, void (C::*Handler)(HDROP)>
 struct Thunk<Handler> {
     static constexpr enmArguments kArguments = enmArguments::Drop;
     static LRESULT Call(CCmdTarget* pTarget, WPARAM wParam, LPARAM) {
-        (static_cast<C*>(pTarget)->*Handler)(reinterpret_cast<HDROP>(wParam));
+        (static_cast<C*>(pTarget)->*Handler)(
+            PointerOf<const DroppedFiles>(static_cast<LPARAM>(wParam)));
         return 0;
     }
 };
@@ -176,7 +177,7 @@ struct Thunk<Handler> {
     static constexpr enmArguments kArguments = enmArguments::Notify;
     static LRESULT Call(CCmdTarget* pTarget, WPARAM, LPARAM lParam) {
         LRESULT result = 0;
-        (static_cast<C*>(pTarget)->*Handler)(reinterpret_cast<NMHDR*>(lParam), &result);
+        (static_cast<C*>(pTarget)->*Handler)(PointerOf<NMHDR>(lParam), &result);
         return result;
     }
 };

@@ -117,6 +117,11 @@ struct NMHDR {
 };
 using tagNMHDR = NMHDR;
 
+/// The object that a parameter points to.
+template <class T>
+T* PointerOf(LPARAM value) {
+    return reinterpret_cast<T*>(value); // NOLINT(performance-no-int-to-ptr): so messages are
+}
 /// Two numbers in one parameter.
 constexpr LPARAM PackInts(int low, int high) {
     return static_cast<LPARAM>(static_cast<std::uint64_t>(static_cast<std::uint32_t>(high)) << 32 |

@@ -360,7 +360,7 @@ bool CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 bool CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+    const auto& header = *PointerOf<const NMHDR>(lParam);
     const MessageThunk thunk = FindHandler(WM_NOTIFY, header.code, header.idFrom);
     if (thunk) {
         *pResult = thunk(this, wParam, lParam);

@@ -3,6 +3,7 @@
 
 #include <QToolButton>
 
+#include "platform/mfc/CustomBitmapButton.h"
 #include "tests/mfc/TestDialog.h"
 #include "tests/support/ScriptedScreens.h"
 
@@ -154,6 +155,49 @@ TEST_F(MovingTest, ChildrenStandBehindTheirNeighbour) {
     marker.SetWindowPos(&bar, 0, 3, 20, 3, SWP_NOACTIVATE);
     EXPECT_TRUE(isAbove(bar, marker));
     EXPECT_EQ(parent.ScreenToClient(marker.GetWindowRect()), CRect(0, 3, 20, 6));
+}
+
+TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
+    TestDialog dialog;
+    dialog.Create();
+    dialog.ShowWindow(SW_SHOW);
+    CCustomBitmapButton strip;
+    EXPECT_FALSE(strip.AddButton(1)) << "nothing to put it on";
+    ASSERT_TRUE(strip.Attach(&dialog));
+    EXPECT_TRUE(strip.AddButton(1));
+    EXPECT_TRUE(strip.AddButton(2));
+    EXPECT_FALSE(strip.AddButton(2)) << "twice";
+    EXPECT_TRUE(strip.SetTooltip(2, L"Collapse"));
+    EXPECT_FALSE(strip.SetTooltip(3, L"Help"));
+    int seen = 0;
+    dialog.onPreTranslate = [&](MSG*) { return ++seen > 0; };
+    for (auto* const pButton : FrameOf(dialog)->findChildren<QToolButton*>()) {
+        if (pButton->toolTip() == QStringLiteral("Collapse")) {
+            QTest::mouseClick(pButton, Qt::LeftButton);
+        }
+    }
+    EXPECT_EQ(dialog.log, std::vector<std::string>{"2:-2"});
+    EXPECT_EQ(seen, 0) << "the caption is not the dialog's to look at";
+    dialog.DestroyWindow();
+    EXPECT_FALSE(strip.HasButton(1));
+    TestDialog child(nullptr, 901);
+    child.Create();
+    EXPECT_FALSE(strip.Attach(&child)) << "no caption";
+}
+
+/// Rolled up to its caption, a dialog keeps its place and is its caption alone.
+TEST_F(MovingTest, ADialogCanBeAsLowAsItsCaption) {
+    const ScriptedScreens desktop({{{0, 0, 1920, 1080}, {0, 0, 1920, 1040}}});
+    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1920);
+    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), 1080);
+    TestDialog dialog;
+    dialog.Create();
+    const int caption = GetSystemMetrics(SM_CYSIZE) + GetSystemMetrics(SM_CXFIXEDFRAME);
+    dialog.MoveWindow({10, 20, 310, 20 + caption});
+    dialog.ShowWindow(SW_SHOW);
+    AfxPumpMessages();
+    EXPECT_EQ(dialog.GetWindowRect(), CRect(10, 20, 310, 20 + caption));
+    EXPECT_EQ(dialog.GetClientRect().Height(), 0);
 }
 
 TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {

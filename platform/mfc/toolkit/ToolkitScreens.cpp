@@ -117,6 +117,7 @@ public:
         }
         RefineByServer(windows);
         std::vector<HWND> handles;
+        handles.reserve(windows.size());
         for (const QWidget* const pWindow : windows) {
             handles.push_back(WindowCore::OfWidget(pWindow)->Handle());
         }

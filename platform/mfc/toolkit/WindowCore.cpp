@@ -30,8 +30,8 @@ auto& CoresByWidget() {
 }
 
 HWND NextHandle() {
-    static std::uintptr_t last = 0;
-    return reinterpret_cast<HWND>(++last);
+    static LPARAM last = 0;
+    return PointerOf<WindowHandle>(++last);
 }
 
 const QEvent::Type kPostedMessage = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -71,7 +71,7 @@ private:
 
 std::shared_ptr<WindowCore> WindowCore::Bind(CWnd& wnd, QWidget* pOuter, QWidget* pClient,
                                              CWnd* pParent, UINT id, UINT style) {
-    const std::shared_ptr<WindowCore> core(new WindowCore);
+    std::shared_ptr<WindowCore> core(new WindowCore);
     core->m_handle = NextHandle();
     core->m_pWnd = &wnd;
     core->m_pRole = dynamic_cast<WidgetRole*>(pOuter);

@@ -132,6 +132,7 @@ class Hooked : public Base, public WidgetRole {
 public:
     explicit Hooked(QWidget* pParent, enmWidgetPart part = enmWidgetPart::Whole)
         : Base(pParent), m_part(part) {}
+    // NOLINTNEXTLINE(bugprone-exception-escape): what handlers throw ends the program here
     ~Hooked() override {
         if (WindowCore* pCore = WindowCore::OfWidget(this)) {
             pCore->WidgetGone();

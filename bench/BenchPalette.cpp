@@ -22,7 +22,8 @@ double Milliseconds(auto&& work) {
 
 int main() {
     std::vector<Tessaly::CommandEntry> entries;
-    const wchar_t* const words[] = {L"NETWORK", L"IMPORT", L"SYSTEM", L"NODE", L"SECTION", L"THEME"};
+    const wchar_t* const words[] = {L"NETWORK", L"IMPORT",  L"SYSTEM",
+                                    L"NODE",    L"SECTION", L"THEME"};
     for (int i = 0; i < kCommands; ++i) {
         CString name;
         name.Format(L"%s_%s_%d", words[i % 6], words[i / 6 % 6], i);

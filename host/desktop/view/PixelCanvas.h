@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "host/desktop/view/AciColors.h"
 #include "host/desktop/view/ViewTransform.h"
+#include "platform/arx/AciColors.h"
 
 namespace Tessaly {
 

@@ -1,4 +1,4 @@
-#include "host/desktop/view/AciColors.h"
+#include "platform/arx/AciColors.h"
 
 #include <algorithm>
 #include <array>
@@ -84,3 +84,8 @@ Rgb MixColors(Rgb below, Rgb above, int share) {
 }
 
 } // namespace Tessaly
+
+COLORREF acedGetRGB(int colorIndex) {
+    const Tessaly::Rgb color = Tessaly::AciColor(colorIndex, Tessaly::Background::Dark);
+    return (color >> 16 & 0xFFU) | (color & 0xFF00U) | (color & 0xFFU) << 16;
+}

@@ -1,4 +1,4 @@
-#include "host/desktop/view/AciColors.h"
+#include "platform/arx/AciColors.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -22,6 +22,9 @@ TEST(AciColors, FollowTheTable) {
     for (const Case& test : cases) {
         EXPECT_EQ(AciColor(test.index, Background::Dark), test.color) << test.index;
         EXPECT_EQ(AciColor(test.index, Background::Light), test.color) << test.index;
+        const COLORREF window = acedGetRGB(test.index);
+        EXPECT_EQ(window & 0xFF, test.color >> 16 & 0xFF);
+        EXPECT_EQ(window >> 16, test.color & 0xFF);
     }
 }
 

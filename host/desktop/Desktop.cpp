@@ -121,6 +121,7 @@ int RunDesktop(const Options& options) {
         Session session(frame.Port());
         if (!options.snapshot) {
             frame.show();
+            frame.RaiseFloatingPanes();
         }
         status = Run(options, frame, session);
         frame.SetSession(nullptr);

@@ -33,6 +33,7 @@ namespace {
 constexpr int kPaneVersion = 1;
 constexpr std::size_t kMostRecent = 30;
 constexpr int kCommandHeight = 150; // at first
+constexpr int kRaiseDelay = 150;    // ms
 constexpr int kTitleInterval = 500; // ms
 /// Between two looks at what the user does while long work goes on.
 constexpr int kEventInterval = 40; // ms
@@ -49,14 +50,16 @@ std::vector<ScreenRect> WorkAreas() {
     return areas;
 }
 
+/// With its title bar as far as the place goes: that is what has to be on a screen.
 ScreenRect RectOf(const QWidget& window) {
     const QRect rect =
-        window.normalGeometry().isValid() ? window.normalGeometry() : window.geometry();
+        window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
 void Place(QWidget& window, const ScreenRect& rect) {
-    window.setGeometry(rect.left, rect.top, rect.width, rect.height);
+    window.resize(rect.width, rect.height);
+    window.move(rect.left, rect.top);
 }
 
 /// What a menu entry does: a command of the host.
@@ -232,6 +235,8 @@ void Frame::ApplyLayout(const Layout& layout) {
     if (layout.window.width > 0) {
         Place(*this, OnScreen(layout.window, WorkAreas()));
     }
+    // Panes that float belong to a window that is there before them.
+    winId();
     restoreState(QByteArray::fromStdString(layout.panes), kPaneVersion);
     if (layout.isMaximized) {
         setWindowState(windowState() | Qt::WindowMaximized);
@@ -254,6 +259,18 @@ Layout Frame::CurrentLayout() const {
     }
     layout.theme = m_strTheme;
     return layout;
+}
+
+void Frame::RaiseFloatingPanes() {
+    QApplication::processEvents();
+    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
+        if (pDock->isFloating() && pDock->isVisibleTo(this)) {
+            const ScreenRect rect = OnScreen(RectOf(*pDock), WorkAreas());
+            Place(*pDock, rect);
+            pDock->show();
+            pDock->raise();
+        }
+    }
 }
 
 void Frame::BringAllWindowsHere() {

@@ -43,6 +43,8 @@ public:
     Layout CurrentLayout() const;
     /// Moves the window and all floating panes to where they can be seen.
     void BringAllWindowsHere();
+    /// Panes that float come to lie behind a window that is shown after them.
+    void RaiseFloatingPanes();
 
     /// Runs a command, now or when the running one has ended; one that waits at a prompt is
     /// cancelled for it.

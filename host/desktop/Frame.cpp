@@ -340,7 +340,7 @@ void Frame::Run(const CString& name) {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
     }
     RunPostedSoon();
 }
@@ -360,7 +360,7 @@ bool Frame::IsScripted() const {
 }
 
 void Frame::RunPostedSoon() {
-    QMetaObject::invokeMethod(this, &Frame::RunPosted, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "RunPosted", Qt::QueuedConnection);
 }
 
 void Frame::RunPosted() {

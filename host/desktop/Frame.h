@@ -68,6 +68,9 @@ protected:
     void changeEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
 
+private slots:
+    void RunPosted();
+
 private:
     void documentBecameCurrent(AcApDocument* pDoc) override;
     void documentToBeDestroyed(AcApDocument* pDoc) override;
@@ -78,7 +81,6 @@ private:
     void MakeThemeMenu(QMenu& menu);
     void OnEntered(const QString& line);
     void OnEscaped();
-    void RunPosted();
     void ShowPalette();
     void UpdateTitles();
     void UpdateCompletions();

@@ -1,5 +1,6 @@
 #include "plugins/network/NetworkExecutor.h"
 
+#include "platform/arx/DbUndoScopes.h"
 #include "platform/arx/EdPrompt.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
@@ -166,9 +167,15 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
     auto result = Workspace::NeutralReturnValue();
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
         const CommandEvents events(pCommand->id);
-        const bool hasDrawing = System::CSystemManager::Instance()->GetSystems() != nullptr;
-        const bool isDone = hasDrawing ? pCommand->run() : Refuse(L"No drawing is open.");
-        result->m_nStatus = isDone ? 1 : 0;
+        AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+        if (!pDrawing) {
+            Refuse(L"No drawing is open.");
+            result->m_nStatus = 0;
+            return result;
+        }
+        // One step of the history, also from where the host makes none: the text console.
+        const AcDbUndoGroup step(*pDrawing, pCommand->id);
+        result->m_nStatus = pCommand->run() ? 1 : 0;
     }
     return result;
 }

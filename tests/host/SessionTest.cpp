@@ -39,6 +39,10 @@ TEST_F(ProgramTest, ImportsLinesOfAnyFileAsANetwork) {
     EXPECT_TRUE(Printed("one node <1e-06>: ")) << m_output;
     EXPECT_EQ(RunScript(import + "\n\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
     EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
+    // In the text console each command is a step of its own.
+    EXPECT_EQ(RunScript("test\n" + import + "\n\nexit\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
+    EXPECT_TRUE(Printed("Undone: NETWORK_IMPORT\n")) << m_output;
+    EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
     EXPECT_EQ(RunScript(import + "99\n"), 1) << m_output;
     EXPECT_EQ(RunScript(import + "1\n-1\n"), 1) << m_output;
     EXPECT_EQ(RunScript("NEW\nCLOSE\nCLOSE\nNETWORK_STATS\n"), 1) << m_output;

@@ -9,50 +9,35 @@ namespace Tessaly {
 
 namespace {
 
-QPalette DarkPalette() {
-    QPalette palette;
-    const QColor window(45, 47, 51);
-    const QColor base(30, 31, 34);
-    const QColor text(222, 224, 228);
-    const QColor faded(134, 138, 145);
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, QColor(38, 40, 43));
-    palette.setColor(QPalette::ToolTipBase, QColor(60, 63, 68));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, faded);
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Button, QColor(56, 58, 63));
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::BrightText, QColor(255, 120, 110));
-    palette.setColor(QPalette::Link, QColor(110, 170, 255));
-    palette.setColor(QPalette::Highlight, QColor(53, 110, 190));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, faded);
-    }
-    return palette;
-}
+/// A colour for what it is used for, in both themes.
+struct ThemeColor {
+    QPalette::ColorRole role;
+    QRgb light;
+    QRgb dark;
+};
+constexpr ThemeColor kColors[] = {
+    {QPalette::Window, qRgb(241, 242, 244), qRgb(45, 47, 51)},
+    {QPalette::WindowText, qRgb(28, 30, 33), qRgb(222, 224, 228)},
+    {QPalette::Base, qRgb(255, 255, 255), qRgb(30, 31, 34)},
+    {QPalette::AlternateBase, qRgb(247, 248, 250), qRgb(38, 40, 43)},
+    {QPalette::ToolTipBase, qRgb(255, 255, 225), qRgb(60, 63, 68)},
+    {QPalette::ToolTipText, qRgb(28, 30, 33), qRgb(222, 224, 228)},
+    {QPalette::PlaceholderText, qRgb(130, 134, 140), qRgb(134, 138, 145)},
+    {QPalette::Text, qRgb(28, 30, 33), qRgb(222, 224, 228)},
+    {QPalette::Button, qRgb(233, 235, 238), qRgb(56, 58, 63)},
+    {QPalette::ButtonText, qRgb(28, 30, 33), qRgb(222, 224, 228)},
+    {QPalette::BrightText, qRgb(190, 30, 20), qRgb(255, 120, 110)},
+    {QPalette::Link, qRgb(20, 90, 190), qRgb(110, 170, 255)},
+    {QPalette::Highlight, qRgb(48, 120, 210), qRgb(53, 110, 190)},
+    {QPalette::HighlightedText, qRgb(255, 255, 255), qRgb(255, 255, 255)},
+};
 
-QPalette LightPalette() {
+QPalette MakePalette(bool isDark) {
     QPalette palette;
-    const QColor text(28, 30, 33);
-    const QColor faded(130, 134, 140);
-    palette.setColor(QPalette::Window, QColor(241, 242, 244));
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(247, 248, 250));
-    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, faded);
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Button, QColor(233, 235, 238));
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::BrightText, QColor(190, 30, 20));
-    palette.setColor(QPalette::Link, QColor(20, 90, 190));
-    palette.setColor(QPalette::Highlight, QColor(48, 120, 210));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const ThemeColor& color : kColors) {
+        palette.setColor(color.role, QColor(isDark ? color.dark : color.light));
+    }
+    const QColor faded = palette.color(QPalette::PlaceholderText);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faded);
     }
@@ -64,7 +49,7 @@ QPalette LightPalette() {
 void ApplyTheme(const CString& theme) {
     if (theme == L"dark" || theme == L"light") {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setPalette(theme == L"dark" ? DarkPalette() : LightPalette());
+        QApplication::setPalette(MakePalette(theme == L"dark"));
     } else {
         // An empty palette is the one that the system asks for.
         QApplication::setPalette(QPalette());

@@ -266,6 +266,8 @@ void Frame::RaiseFloatingPanes() {
     for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
         if (pDock->isFloating() && pDock->isVisibleTo(this)) {
             const ScreenRect rect = OnScreen(RectOf(*pDock), WorkAreas());
+            // Shown anew: a window manager knows only now to whom it belongs.
+            pDock->hide();
             Place(*pDock, rect);
             pDock->show();
             pDock->raise();

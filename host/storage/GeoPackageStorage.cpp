@@ -49,6 +49,9 @@ private:
                                const std::string& path, const AcDbProgress& progress);
     AcDbStorageResult SaveWhole(AcDbDatabase& database, const std::string& path,
                                 const AcDbProgress& progress);
+    AcDbStorageResult Finish(AcDbDatabase& database, const std::string& path,
+                             UnfinishedFile& unfinished, DrawingFile remembered, CString reason,
+                             AcDbStorageResult result);
 
     std::map<const AcDbDatabase*, DrawingFile> m_files;
 };
@@ -260,6 +263,23 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
     return SaveCopy(database, source, target, progress);
 }
 
+/// Puts a file that was written whole into its place, unless there is a reason against it.
+AcDbStorageResult GeoPackageStorage::Finish(AcDbDatabase& database, const std::string& path,
+                                            UnfinishedFile& unfinished, DrawingFile remembered,
+                                            CString reason, AcDbStorageResult result) {
+    if (reason.IsEmpty()) {
+        reason = unfinished.PutInPlace();
+    }
+    if (!reason.IsEmpty()) {
+        return Refusal(path, reason);
+    }
+    remembered.path = path;
+    remembered.changeCounter = ChangeCounter(path);
+    m_files[&database] = std::move(remembered);
+    database.markSaved();
+    return result;
+}
+
 AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std::string& from,
                                               const std::string& path,
                                               const AcDbProgress& progress) {
@@ -281,17 +301,8 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
         reason = Write(unfinished.Path(), Mode::Draft, scope, database, remembered, progress,
                        result.warnings);
     }
-    if (reason.IsEmpty()) {
-        reason = unfinished.PutInPlace();
-    }
-    if (!reason.IsEmpty()) {
-        return Refusal(path, reason);
-    }
-    remembered.path = path;
-    remembered.changeCounter = ChangeCounter(path);
-    m_files[&database] = std::move(remembered);
-    database.markSaved();
-    return result;
+    return Finish(database, path, unfinished, std::move(remembered), std::move(reason),
+                  std::move(result));
 }
 
 AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std::string& path,
@@ -301,17 +312,8 @@ AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std
     AcDbStorageResult result;
     CString reason = Write(unfinished.Path(), Mode::Create, Scope::Everything, database, remembered,
                            progress, result.warnings);
-    if (reason.IsEmpty()) {
-        reason = unfinished.PutInPlace();
-    }
-    if (!reason.IsEmpty()) {
-        return Refusal(path, reason);
-    }
-    remembered.path = path;
-    remembered.changeCounter = ChangeCounter(path);
-    m_files[&database] = std::move(remembered);
-    database.markSaved();
-    return result;
+    return Finish(database, path, unfinished, std::move(remembered), std::move(reason),
+                  std::move(result));
 }
 
 } // namespace

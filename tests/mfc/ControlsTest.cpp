@@ -23,21 +23,8 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-class ControlsTest : public WindowTest {
+class ControlsTest : public DialogOnScreenTest {
 protected:
-    void SetUp() override {
-        WindowTest::SetUp();
-        m_pDialog = std::make_unique<TestDialog>();
-        m_pDialog->Create();
-        m_pDialog->ShowWindow(SW_SHOW);
-        AfxPumpMessages();
-        m_pDialog->onCommand = [](UINT) {};
-    }
-    void TearDown() override {
-        m_pDialog.reset();
-        WindowTest::TearDown();
-    }
-    std::unique_ptr<TestDialog> m_pDialog;
 };
 
 TEST_F(ControlsTest, AComboTellsOnlyWhatTheUserChose) {

@@ -10,15 +10,10 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-class ListCtrlTest : public WindowTest {
+class ListCtrlTest : public DialogOnScreenTest {
 protected:
     void SetUp() override {
-        WindowTest::SetUp();
-        m_pDialog = std::make_unique<TestDialog>();
-        m_pDialog->Create();
-        m_pDialog->ShowWindow(SW_SHOW);
-        AfxPumpMessages();
-        m_pDialog->onCommand = [](UINT) {};
+        DialogOnScreenTest::SetUp();
         m_pDialog->onNotify = [this](NMHDR* pHeader) -> LRESULT {
             if (pHeader->code == LVN_ITEMCHANGED) {
                 const auto& change = *reinterpret_cast<NMLISTVIEW*>(pHeader);
@@ -31,10 +26,6 @@ protected:
             }
             return -1;
         };
-    }
-    void TearDown() override {
-        m_pDialog.reset();
-        WindowTest::TearDown();
     }
     CListCtrl& List() { return m_pDialog->Item<CListCtrl>(kList); }
     void Fill(int rows) {
@@ -64,7 +55,6 @@ protected:
         QTest::mouseClick(WidgetOf(List()), button, keys, {Middle(row).x, Middle(row).y});
     }
 
-    std::unique_ptr<TestDialog> m_pDialog;
     Log m_changes;
     Log m_clicks;
 };

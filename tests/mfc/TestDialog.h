@@ -87,3 +87,21 @@ protected:
         return true;
     }
 };
+
+/// A test with a dialog on the screen, whose commands nobody wants unless the test says so.
+class DialogOnScreenTest : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        m_pDialog = std::make_unique<TestDialog>();
+        m_pDialog->Create();
+        m_pDialog->ShowWindow(SW_SHOW);
+        AfxPumpMessages();
+        m_pDialog->onCommand = [](UINT) {};
+    }
+    void TearDown() override {
+        m_pDialog.reset();
+        WindowTest::TearDown();
+    }
+    std::unique_ptr<TestDialog> m_pDialog;
+};

@@ -12,20 +12,11 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-class TreeCtrlTest : public WindowTest {
+class TreeCtrlTest : public DialogOnScreenTest {
 protected:
     void SetUp() override {
-        WindowTest::SetUp();
-        m_pDialog = std::make_unique<TestDialog>();
-        m_pDialog->Create();
-        m_pDialog->ShowWindow(SW_SHOW);
-        AfxPumpMessages();
-        m_pDialog->onCommand = [](UINT) {};
+        DialogOnScreenTest::SetUp();
         m_pDialog->onNotify = [this](NMHDR* pHeader) -> LRESULT { return Note(pHeader); };
-    }
-    void TearDown() override {
-        m_pDialog.reset();
-        WindowTest::TearDown();
     }
 
     LRESULT Note(NMHDR* pHeader) {
@@ -83,7 +74,6 @@ protected:
         return {label.CenterPoint().x, label.CenterPoint().y};
     }
 
-    std::unique_ptr<TestDialog> m_pDialog;
     Log m_log;
     bool m_refuseEdit = false;
     bool m_refuseLabel = false;

@@ -1,10 +1,14 @@
 #include "platform/mfc/Image.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
+#include <vector>
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QImageReader>
+#include <QtMath>
 
 #include "platform/mfc/IIconSource.h"
 #include "platform/mfc/WinApp.h"
@@ -14,32 +18,47 @@ namespace {
 
 IIconSource* g_pIconSource = nullptr;
 
+/// What the gray form of a picture keeps of its opacity.
+constexpr double kGrayShare = 0.7;
+
 } // namespace
 
-CImage::CImage(int width, int height, std::span<const std::uint32_t> pixels) {
-    if (width <= 0 || height <= 0 ||
+CImage::CImage(int width, int height, std::span<const std::uint32_t> pixels, double density) {
+    if (width <= 0 || height <= 0 || !(density > 0) ||
         pixels.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {
         return;
     }
     std::shared_ptr<std::uint32_t[]> copy(new std::uint32_t[pixels.size()]);
     std::copy(pixels.begin(), pixels.end(), copy.get());
     m_pPixels = std::move(copy);
-    m_size = CSize(width, height);
+    m_pixelSize = CSize(width, height);
+    m_density = density;
+}
+
+CSize CImage::Size() const {
+    return {static_cast<int>(std::lround(m_pixelSize.cx / m_density)),
+            static_cast<int>(std::lround(m_pixelSize.cy / m_density))};
 }
 
 std::span<const std::uint32_t> CImage::Pixels() const {
     return {m_pPixels.get(),
-            static_cast<std::size_t>(m_size.cx) * static_cast<std::size_t>(m_size.cy)};
+            static_cast<std::size_t>(m_pixelSize.cx) * static_cast<std::size_t>(m_pixelSize.cy)};
 }
 
-CImage CImage::FromFile(const CString& path, CSize size) {
+CImage CImage::FromFile(const CString& path, CSize size, double density) {
     AfxStartToolkit();
     QImageReader reader(ToQString(path.View()));
     reader.setAutoTransform(true);
     const QSize own = reader.size();
-    if (size.cx > 0 && size.cy > 0) {
+    const bool sized = size.cx > 0 && size.cy > 0;
+    if (!sized) {
+        density = 1;
+    } else if (!(density > 0)) {
+        density = qApp->devicePixelRatio();
+    }
+    if (sized) {
         // Read at the size wanted, a drawing stays sharp.
-        const QSize wanted(size.cx, size.cy);
+        const QSize wanted(qCeil(size.cx * density), qCeil(size.cy * density));
         reader.setScaledSize(own.isValid() ? own.scaled(wanted, Qt::KeepAspectRatio) : wanted);
     }
     const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -50,16 +69,29 @@ CImage CImage::FromFile(const CString& path, CSize size) {
     return {image.width(),
             image.height(),
             {reinterpret_cast<const std::uint32_t*>(image.constBits()),
-             static_cast<std::size_t>(image.sizeInBytes()) / sizeof(std::uint32_t)}};
+             static_cast<std::size_t>(image.sizeInBytes()) / sizeof(std::uint32_t)},
+            density};
+}
+
+CImage CImage::Gray() const {
+    const auto paler = [](int value) { return static_cast<int>(std::lround(value * kGrayShare)); };
+    std::vector<std::uint32_t> pixels(Pixels().begin(), Pixels().end());
+    for (std::uint32_t& pixel : pixels) {
+        const int gray = paler(qGray(pixel));
+        pixel = qRgba(gray, gray, gray, paler(qAlpha(pixel)));
+    }
+    return {m_pixelSize.cx, m_pixelSize.cy, pixels, m_density};
 }
 
 QPixmap ToPixmap(const CImage& image) {
     if (image.IsNull()) {
         return {};
     }
-    const QImage view(reinterpret_cast<const uchar*>(image.Pixels().data()), image.Size().cx,
-                      image.Size().cy, QImage::Format_ARGB32_Premultiplied);
-    return QPixmap::fromImage(view.copy());
+    const QImage view(reinterpret_cast<const uchar*>(image.Pixels().data()), image.PixelSize().cx,
+                      image.PixelSize().cy, QImage::Format_ARGB32_Premultiplied);
+    QPixmap pixmap = QPixmap::fromImage(view.copy());
+    pixmap.setDevicePixelRatio(image.Density());
+    return pixmap;
 }
 
 IIconSource* SetIconSource(IIconSource* pSource) {
@@ -68,4 +100,8 @@ IIconSource* SetIconSource(IIconSource* pSource) {
 
 CImage ImageOfIcon(HICON icon, CSize size) {
     return icon && g_pIconSource ? g_pIconSource->GetImage(icon, size) : CImage();
+}
+
+bool DestroyIcon(HICON icon) {
+    return icon && g_pIconSource && g_pIconSource->Destroy(icon);
 }

@@ -13,6 +13,10 @@ int CImageList::Add(HICON icon) {
     return Add(ImageOfIcon(icon, m_size));
 }
 
+int CImageList::AddGray(HICON icon) {
+    return Add(ImageOfIcon(icon, m_size).Gray());
+}
+
 int CImageList::Add(const CImage& image) {
     m_images.push_back(image);
     return GetImageCount() - 1;

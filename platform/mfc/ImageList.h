@@ -20,6 +20,8 @@ public:
     /// \return its index
     int Add(HICON icon);
     int Add(const CImage& image);
+    /// The gray form of an icon.
+    int AddGray(HICON icon);
     int GetImageCount() const { return static_cast<int>(m_images.size()); }
     CSize ImageSize() const { return m_size; }
     CImage GetImage(int index) const; ///< empty for no index

@@ -5,7 +5,7 @@
 #include "platform/arx/HostOptions.h"
 #include "platform/win/File.h"
 #include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/Icon.h"
+#include "siblings/giscore/IconStore.h"
 #include "siblings/giscore/MessageCatalogue.h"
 #include "siblings/giscore/SupportFile.h"
 #include "siblings/giscore/TopologyConfiguration.h"
@@ -36,7 +36,8 @@ CModuleConfiguration* CModuleConfiguration::Instance() {
     return instance;
 }
 
-CModuleConfiguration::CModuleConfiguration() {
+CModuleConfiguration::CModuleConfiguration() : m_pIcons(std::make_unique<CIconStore>()) {
+    SetIconSource(m_pIcons.get());
     ReadSettings();
     const CString topologies = GetPath(L"support") + L"TopologyConfiguration.ini";
     m_pTopologies =
@@ -87,18 +88,16 @@ CString CModuleConfiguration::GetPath(const wchar_t* key) const {
     return {};
 }
 
+CString CModuleConfiguration::IconFolder() const {
+    return GetPath(L"install") + L"share/icons/";
+}
+
 HICON CModuleConfiguration::GetIcon(const wchar_t* name) {
-    const CString wanted = name;
-    if (const auto known = m_icons.find(wanted); known != m_icons.end()) {
-        return known->second.get();
-    }
-    // A name with a separator would lead out of the folder.
-    const CString path = GetPath(L"install") + L"share/icons/" + wanted + L".svg";
-    if (wanted.IsEmpty() || FileNameOf(wanted) != wanted || !FileExists(path)) {
-        return nullptr;
-    }
-    auto icon = std::make_unique<CIcon>(CIcon{wanted, path});
-    return m_icons.emplace(wanted, std::move(icon)).first->second.get();
+    return m_pIcons->Get(IconFolder(), name);
+}
+
+HICON CModuleConfiguration::LoadImageW(const wchar_t* name, CSize size) {
+    return m_pIcons->Load(IconFolder(), name, size);
 }
 
 int CModuleConfiguration::GetGSValueInt(const wchar_t* key, int& value) const {

@@ -6,16 +6,16 @@
 #include <vector>
 
 #include "platform/win/IniFile.h"
-#include "platform/win/Types.h"
+#include "platform/win/Rect.h"
 #include "siblings/giscore/Api.h"
 #include "siblings/giscore/GisTypes.h"
 
 namespace Orvane {
 
+class CIconStore;
 class CMessageCatalogue;
 class CTopology;
 class CTopologyConfiguration;
-struct CIcon;
 
 /// Main thread only. The first call of Instance reads the files of the folder "support";
 /// the host options must be set by then.
@@ -33,8 +33,11 @@ public:
     CString GetPath(const wchar_t* key) const;
 
     /// An icon by name; null if there is none. The handle (Icon.h) stays valid and is the
-    /// same each time. A missing icon is looked for again at the next call.
+    /// same each time. A missing icon is looked for again at the next call. Its pixels:
+    /// ImageOfIcon, or the controls that take an icon.
     HICON GetIcon(const wchar_t* name);
+    /// An icon of the caller's own with a size of its own; DestroyIcon ends it.
+    HICON LoadImageW(const wchar_t* name, CSize size);
 
     /// Reads the number of a general setting. Returns 1 if it is there and is a number;
     /// otherwise 0, and `value` is untouched.
@@ -70,12 +73,13 @@ private:
     CModuleConfiguration();
     void ReadSettings();
     void ChooseLanguage();
+    CString IconFolder() const;
 
     IniFile m_settings;
     CString m_strLanguage; ///< of the messages
     std::unique_ptr<CMessageCatalogue> m_pMessages;
     std::unique_ptr<CTopologyConfiguration> m_pTopologies;
-    std::map<CString, std::unique_ptr<CIcon>, CStringLess> m_icons;
+    std::unique_ptr<CIconStore> m_pIcons;
     std::map<CString, std::vector<CString>, CStringLess> m_problems;
     int m_bApplicationIsLoaded = 0;
 };

@@ -31,9 +31,8 @@ HICON CIconStore::Get(const CString& folder, const CString& name) {
         return known->second;
     }
     const CString path = FileOf(folder, name);
-    return path.IsEmpty()
-               ? nullptr
-               : m_shared.emplace(name, Keep({name, path, kUsualSize})).first->second;
+    return path.IsEmpty() ? nullptr
+                          : m_shared.emplace(name, Keep({name, path, kUsualSize})).first->second;
 }
 
 HICON CIconStore::Load(const CString& folder, const CString& name, CSize size) {

@@ -140,7 +140,7 @@ const CTopology* CModuleConfiguration::GetTopology(enmTopologyType type) const {
 int CModuleConfiguration::DoesETbelongTT(enmEntityType entityType,
                                          enmTopologyType topologyType) const {
     const CTopology* const pTopology = GetTopology(topologyType);
-    return pTopology && pTopology->GetEntityType(entityType);
+    return entityType == EntityNone || (pTopology && pTopology->GetEntityType(entityType));
 }
 
 std::vector<CString> CModuleConfiguration::GetProblems() const {

@@ -54,7 +54,8 @@ public:
     const CTopologyConfiguration* GetTopologyConfiguration() const;
     /// Null if the configuration has no such topology.
     const CTopology* GetTopology(enmTopologyType type) const;
-    /// Non-zero if systems of a topology hold entities of a kind.
+    /// Non-zero if systems of a topology hold entities of a kind; always for EntityNone:
+    /// what serves no kind of entity belongs everywhere.
     int DoesETbelongTT(enmEntityType entityType, enmTopologyType topologyType) const;
 
     /// Set once the workspace has come up.

@@ -1,9 +1,8 @@
 #include "workspacecore/commands/WsCommand.h"
 
-#include <algorithm>
 #include <cstdint>
 
-#include "workspacecore/foundation/XmlField.h"
+#include "workspacecore/foundation/XmlRecord.h"
 
 namespace Orvane::Workspace {
 
@@ -29,37 +28,15 @@ CWsCommand& CWsCommand::operator=(const CWsCommand& other) {
     return *this;
 }
 
-void CWsCommand::AddWsTopologyData(TopologyDataPtr data) {
-    m_wsTopologyDataVector.push_back(data);
-    m_wsTopologyDataMap.emplace(data->GetMapKey(), data);
-}
-
-void CWsCommand::RemoveWsTopologyData(const TopologyDataPtr& data) {
-    const auto hit = std::find(m_wsTopologyDataVector.begin(), m_wsTopologyDataVector.end(), data);
-    const CString key = data->GetMapKey();
-    if (hit != m_wsTopologyDataVector.end()) {
-        m_wsTopologyDataVector.erase(hit);
-    }
-    m_wsTopologyDataMap.erase(key);
-}
-
-int CWsCommand::DoesTopologyDataExist(const CWsTopologyData* data) const {
-    return m_wsTopologyDataMap.contains(data->GetMapKey()) ? 1 : 0;
-}
-
 CString CWsCommand::GetXML() const {
-    // Handle and pointer are written for whoever looks at the dump; readers discard them.
-    const auto low32 = [](const void* pointer) {
-        return static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(pointer));
-    };
     CString xml(L"<wsCommand ");
     xml.AppendFormat(L"id=\"%s\" name=\"%s\" description=\"%s\" icon=\"%d\" repoCmdBehavior=\"%d\" "
                      L"cmdGroup=\"%d\" repositoryTag=\"%s\" wsItemTypes=\"%d\" cmdExecutor=\"%d\" "
                      L"setCmd=\"%s\" ",
                      EncodeXmlField(m_strId), EncodeXmlField(m_strName),
-                     EncodeXmlField(m_strDescription), low32(m_hIcon), m_treeCmdBehavior,
+                     EncodeXmlField(m_strDescription), HandleAsNumber(m_hIcon), m_treeCmdBehavior,
                      m_cmdGroup, EncodeXmlField(m_strRepositoryTag),
-                     static_cast<std::int32_t>(m_nWsItemTypes), low32(m_pCmdExecutor),
+                     static_cast<std::int32_t>(m_nWsItemTypes), HandleAsNumber(m_pCmdExecutor),
                      FormatText(L"%d", m_bIsSetDataCommand));
     return xml += L"></wsCommand>";
 }

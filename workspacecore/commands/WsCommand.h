@@ -1,13 +1,9 @@
 // The record of one workspace command: what a tree item offers.
 #pragma once
 
-#include <boost/shared_ptr.hpp>
-#include <map>
-#include <vector>
-
 #include "platform/win/Types.h"
 #include "workspacecore/commands/CommandsTypes.h"
-#include "workspacecore/commands/WsTopologyData.h"
+#include "workspacecore/commands/WsTopologyDataSet.h"
 #include "workspacecore/tree/TreeTypes.h"
 
 namespace Orvane::Workspace {
@@ -18,9 +14,9 @@ class IWsCommandExecutor;
 /// not owned and has to outlive every execution.
 class WORKSPACE_API CWsCommand {
 public:
-    using TopologyDataPtr = boost::shared_ptr<CWsTopologyData>;
-    using TopologyDataVector = std::vector<TopologyDataPtr>;
-    using TopologyDataMap = std::map<CString, TopologyDataPtr, CStringLess>;
+    using TopologyDataPtr = CWsTopologyDataSet::Ptr;
+    using TopologyDataVector = CWsTopologyDataSet::Vector;
+    using TopologyDataMap = CWsTopologyDataSet::Map;
 
     CWsCommand() = default;
     /// Copies carry everything but the topology data: a copy starts without any, and the
@@ -62,13 +58,15 @@ public:
 
     /// A second record of the same topology and function stands in the vector again, while
     /// the map keeps the first.
-    void AddWsTopologyData(TopologyDataPtr data);
+    void AddWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Add(data); }
     /// Takes the record out of the vector, by pointer, and its key out of the map.
-    void RemoveWsTopologyData(const TopologyDataPtr& data);
-    int DoesTopologyDataExist(const CWsTopologyData* data) const;
-    TopologyDataVector* GetWsTopologyDataVector() { return &m_wsTopologyDataVector; }
-    TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyDataMap; }
-    const TopologyDataMap* GetWsTopologyDataMap() const { return &m_wsTopologyDataMap; }
+    void RemoveWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Remove(data); }
+    int DoesTopologyDataExist(const CWsTopologyData* data) const {
+        return m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;
+    }
+    TopologyDataVector* GetWsTopologyDataVector() { return &m_wsTopologyData.vector; }
+    TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyData.map; }
+    const TopologyDataMap* GetWsTopologyDataMap() const { return &m_wsTopologyData.map; }
 
     CString GetXML() const;
     void MakeDeepCopy(CWsCommand& target) const { target = *this; }
@@ -87,8 +85,7 @@ private:
     IWsCommandExecutor* m_pCmdExecutor = nullptr;
     int m_bIsSetDataCommand = 0;
     enmEntityType m_entityType = EntityNone;
-    TopologyDataVector m_wsTopologyDataVector;
-    TopologyDataMap m_wsTopologyDataMap;
+    CWsTopologyDataSet m_wsTopologyData;
     unsigned int m_nMenuCmdId = 0;
 };
 

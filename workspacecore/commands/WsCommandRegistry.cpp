@@ -86,7 +86,7 @@ CWsCommandRegistry::GetWsCommandByGroup(enmCommandGroup group, enmTopologyType t
     for (auto entry = first; entry != last; ++entry) {
         const CommandPtr& command = entry->second;
         if (command->TestWsItemType(itemType) &&
-            (topologyType == kAnyTopology || command->m_wsTopologyDataMap.contains(key)) &&
+            (topologyType == kAnyTopology || command->m_wsTopologyData.Contains(key)) &&
             DoesTagMatch(command->m_strRepositoryTag.View(), tag)) {
             found.push_back(command);
         }

@@ -1,36 +1,25 @@
 // The command registry as a text, and as a file.
 #include <cstdint>
 
-#include "platform/arx/EdPrompt.h"
-#include "platform/win/Number.h"
 #include "workspacecore/commands/WsCommandRegistry.h"
-#include "workspacecore/foundation/XmlDocument.h"
-#include "workspacecore/foundation/XmlField.h"
+#include "workspacecore/foundation/XmlRecord.h"
 
 namespace Orvane::Workspace {
 
 namespace {
 
-CString ReadText(const XmlDocument& document, const wchar_t* name) {
-    return DecodeXmlField(document.GetAttrib(name));
-}
-
-int ReadInt(const XmlDocument& document, const wchar_t* name) {
-    return TextToInt(document.GetAttrib(name).View());
-}
-
 /// What a text says of a command. Executor, icon and the set-data mark mean nothing once
 /// they were written, and stay as a fresh record has them.
 boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
     boost::shared_ptr<CWsCommand> command(new CWsCommand);
-    command->SetId(ReadText(document, L"id"));
-    command->SetName(ReadText(document, L"name"));
-    command->SetDescription(ReadText(document, L"description"));
+    command->SetId(ReadXmlText(document, L"id"));
+    command->SetName(ReadXmlText(document, L"name"));
+    command->SetDescription(ReadXmlText(document, L"description"));
     command->SetTreeCmdBehavior(
-        static_cast<enmTreeCommandBehavior>(ReadInt(document, L"repoCmdBehavior")));
-    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadInt(document, L"cmdGroup")));
-    command->SetRepositoryTag(ReadText(document, L"repositoryTag"));
-    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadInt(document, L"wsItemTypes")));
+        static_cast<enmTreeCommandBehavior>(ReadXmlInt(document, L"repoCmdBehavior")));
+    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadXmlInt(document, L"cmdGroup")));
+    command->SetRepositoryTag(ReadXmlText(document, L"repositoryTag"));
+    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadXmlInt(document, L"wsItemTypes")));
     return command;
 }
 
@@ -60,24 +49,20 @@ int CWsCommandRegistry::ParseXML(const wchar_t* xml) {
 }
 
 int CWsCommandRegistry::Load(const wchar_t* path) {
-    XmlDocument document;
-    return document.Load(path) ? ParseXML(document.GetDoc()) : 0;
+    return LoadXmlRecord(*this, path);
 }
 
 int CWsCommandRegistry::Save(const wchar_t* path) const {
-    XmlDocument document;
-    return document.SetDoc(GetXML()) && document.Save(path) ? 1 : 0;
+    return SaveXmlRecord(*this, path);
 }
 
 int CWsCommandRegistry::LoadFromDictionary() {
-    AfxMessageBox(L"Not implemented");
+    SayNotImplemented();
     return ParseXML(L"");
 }
 
 int CWsCommandRegistry::SaveToDictionary() const {
-    const CString xml = GetXML();
-    static_cast<void>(xml);
-    AfxMessageBox(L"Not implemented");
+    SayNotImplemented();
     return 0;
 }
 

@@ -46,8 +46,11 @@ CWsManager* CWsManager::Instance() {
     m_pInstance->m_PluginMgr.LoadModules();
     CAnsi2UnicodeUtility::Instance()->ReleaseBufferMemory();
     WS_TRACE_TEXT("CWsManager - 3");
-    // The system, disk and net tree templates are built here, once there are tree items;
-    // they need every plug-in's definitions.
+    // They need the definitions of every plug-in.
+    CWsTreeItemDefinitionList& definitions = *m_pInstance->m_TreeMgr.GetTreeItemDefinitionList();
+    definitions.InitializeSystemTreeTemplate();
+    definitions.InitializeDiskTreeTemplate();
+    definitions.InitializeNetTreeTemplate();
     WS_TRACE_TEXT("CWsManager - 4");
     // The log viewer is made here with its docking pane, once there are panes.
     WS_TRACE_TEXT("CWsManager - 5");
@@ -81,6 +84,22 @@ CWsManager::~CWsManager() {
 
 int CWsManager::RegisterWsCommand(boost::shared_ptr<CWsCommand> command) {
     return m_CmdMgr.GetCommandRegistry()->AddWsCommand(command);
+}
+
+void CWsManager::RegisterWsTreeItem(boost::shared_ptr<CWsTreeItemDefinition> definition) {
+    m_TreeMgr.GetTreeItemDefinitionList()->AddWsTreeItemDefinition(definition);
+}
+
+void CWsManager::RegisterTreeControl(CTreeCtrl* pTree) {
+    m_TreeMgr.m_views[CWsTreeManager::SystemTree] = pTree;
+}
+
+void CWsManager::RegisterDiskTreeControl(CTreeCtrl* pTree) {
+    m_TreeMgr.m_views[CWsTreeManager::DiskTree] = pTree;
+}
+
+void CWsManager::RegisterNetTreeControl(CTreeCtrl* pTree) {
+    m_TreeMgr.m_views[CWsTreeManager::NetTree] = pTree;
 }
 
 void CWsManager::RegisterBaseExecutor(IWsCommandExecutor* pExecutor) {

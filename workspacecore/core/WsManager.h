@@ -8,6 +8,7 @@
 #include "workspacecore/Api.h"
 #include "workspacecore/commands/WsCommandManager.h"
 #include "workspacecore/core/IWsListener.h"
+#include "workspacecore/panel/WsTreeManager.h"
 #include "workspacecore/plugins/WsPluginManager.h"
 
 class ORVZWorkspaceCore_EditorReactor;
@@ -46,6 +47,7 @@ public:
 
     // The parts. Never null.
     CWsPluginManager* PluginMgr() { return &m_PluginMgr; }
+    CWsTreeManager* TreeMgr() { return &m_TreeMgr; }
     CWsCommandManager* CmdMgr() { return &m_CmdMgr; }
 
     // Publishers, shared with every module that asks for the same names.
@@ -59,11 +61,16 @@ public:
     // Registration, for plug-ins in their hooks. No argument is checked.
     /// 0 if there is a command of that id already.
     int RegisterWsCommand(boost::shared_ptr<CWsCommand> command);
+    void RegisterWsTreeItem(boost::shared_ptr<CWsTreeItemDefinition> definition);
     /// The first executor stays; later ones are passed over. Not owned.
     void RegisterBaseExecutor(IWsCommandExecutor* pExecutor);
     void RegisterInfoTooltip(boost::shared_ptr<Utility::IInfoTooltip> tooltip);
     void RegisterRepositoryFactory(const wchar_t* tag, CRepositoryFactory* pFactory);
     void RegisterRepositoryItemFactory(const wchar_t* tag, CRepositoryItemFactory* pFactory);
+    // The view of a tree, null included; the last one stands. Not owned.
+    void RegisterTreeControl(CTreeCtrl* pTree);
+    void RegisterDiskTreeControl(CTreeCtrl* pTree);
+    void RegisterNetTreeControl(CTreeCtrl* pTree);
     /// A listener that is registered already keeps its place. Not owned.
     void RegisterWsListener(IWsListener* pListener);
     void UnregisterWsListener(IWsListener* pListener);
@@ -122,6 +129,7 @@ private:
     CWsDocumentReactor* m_pDocumentReactor = nullptr;            ///< owned
     ORVZWorkspaceCore_EditorReactor* m_pEditorReactor = nullptr; ///< owned
     CWsPluginManager m_PluginMgr;
+    CWsTreeManager m_TreeMgr;
     CWsCommandManager m_CmdMgr;
     std::set<IWsListener*> m_ListenerSet;
     std::vector<IWsListener*> m_Listeners;

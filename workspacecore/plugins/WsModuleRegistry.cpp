@@ -2,12 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/arx/EdPrompt.h"
-#include "platform/win/Number.h"
 #include "platform/win/StringArray.h"
 #include "siblings/giscore/Utility.h"
-#include "workspacecore/foundation/XmlDocument.h"
-#include "workspacecore/foundation/XmlField.h"
+#include "workspacecore/foundation/XmlRecord.h"
 
 namespace Orvane::Workspace {
 
@@ -23,9 +20,9 @@ CString LastPiece(const wchar_t* file) {
 
 boost::shared_ptr<CWsModule> ReadModule(const XmlDocument& document) {
     boost::shared_ptr<CWsModule> module(new CWsModule);
-    module->SetMsgName(TextToInt(document.GetAttrib(L"msgName").View()));
-    module->SetOn(TextToInt(document.GetAttrib(L"on").View()));
-    module->SetFileName(DecodeXmlField(document.GetAttrib(L"fileName")));
+    module->SetMsgName(ReadXmlInt(document, L"msgName"));
+    module->SetOn(ReadXmlInt(document, L"on"));
+    module->SetFileName(ReadXmlText(document, L"fileName"));
     return module;
 }
 
@@ -78,19 +75,16 @@ int CWsModuleRegistry::Load(const wchar_t* lpszPath) {
 }
 
 int CWsModuleRegistry::Save(const wchar_t* lpszPath) const {
-    XmlDocument document;
-    return document.SetDoc(GetXML()) && document.Save(lpszPath) ? 1 : 0;
+    return SaveXmlRecord(*this, lpszPath);
 }
 
 int CWsModuleRegistry::LoadFromDictionary() {
-    AfxMessageBox(L"Not implemented");
+    SayNotImplemented();
     return ParseXML(L"");
 }
 
 int CWsModuleRegistry::SaveToDictionary() const {
-    const CString xml = GetXML();
-    static_cast<void>(xml);
-    AfxMessageBox(L"Not implemented");
+    SayNotImplemented();
     return 0;
 }
 

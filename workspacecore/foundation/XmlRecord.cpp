@@ -1,0 +1,11 @@
+#include "workspacecore/foundation/XmlRecord.h"
+
+#include "platform/arx/EdPrompt.h"
+
+namespace Orvane {
+
+void SayNotImplemented() {
+    AfxMessageBox(L"Not implemented");
+}
+
+} // namespace Orvane

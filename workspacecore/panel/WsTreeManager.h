@@ -1,0 +1,124 @@
+// The way to the trees of the workspace and to what hangs on them.
+#pragma once
+
+#include <array>
+
+#include "workspacecore/tree/WsTreeItemData.h"
+#include "workspacecore/tree/WsTreeItemDefinitionList.h"
+
+class CMenu;
+class CTreeCtrl;
+
+namespace Orvane::Workspace {
+
+class CWsCommand;
+
+/// There are three trees: the systems of the drawing, the repository on disk, and the one on
+/// the net. The panels that host them make and fill them, hang a CWsTreeItemData on each
+/// node, and register them with CWsManager. Until then everything here answers null or does
+/// nothing. Nothing reports an error. Main thread only.
+///
+/// Icons live as long as the process. One that cannot be found is looked for again the next
+/// time.
+class WORKSPACE_API CWsTreeManager {
+public:
+    CWsTreeManager();
+    CWsTreeManager(const CWsTreeManager&) = default;
+    CWsTreeManager& operator=(const CWsTreeManager&) = default;
+    ~CWsTreeManager();
+
+    // Each for the system, the disk and the net tree. Views are not owned.
+    CTreeCtrl* GetTreeControl() const { return m_views[SystemTree]; }
+    CTreeCtrl* GetDiskTreeControl() const { return m_views[DiskTree]; }
+    CTreeCtrl* GetNetTreeControl() const { return m_views[NetTree]; }
+    CWsTreeItemData* GetItemData(HTREEITEM item) const { return Data(SystemTree, item); }
+    CWsTreeItemData* GetItemDataDisk(HTREEITEM item) const { return Data(DiskTree, item); }
+    CWsTreeItemData* GetItemDataNet(HTREEITEM item) const { return Data(NetTree, item); }
+    HTREEITEM GetSelectedItem() const { return Selected(SystemTree); }
+    HTREEITEM GetSelectedItemDisk() const { return Selected(DiskTree); }
+    HTREEITEM GetSelectedItemNet() const { return Selected(NetTree); }
+    CWsTreeItemData* GetSelectedItemData() const { return GetItemData(GetSelectedItem()); }
+    CWsTreeItemData* GetSelectedItemDataDisk() const {
+        return GetItemDataDisk(GetSelectedItemDisk());
+    }
+    CWsTreeItemData* GetSelectedItemDataNet() const { return GetItemDataNet(GetSelectedItemNet()); }
+    /// The node where the cursor was when the message in hand came about, wherever in its
+    /// line.
+    HTREEITEM GetItemByPosition() const { return UnderCursor(SystemTree); }
+    HTREEITEM GetItemByPositionDisk() const { return UnderCursor(DiskTree); }
+    HTREEITEM GetItemByPositionNet() const { return UnderCursor(NetTree); }
+    CWsTreeItemData* GetItemDataByPosition() const { return GetItemData(GetItemByPosition()); }
+    CWsTreeItemData* GetItemDataByPositionDisk() const {
+        return GetItemDataDisk(GetItemByPositionDisk());
+    }
+    CWsTreeItemData* GetItemDataByPositionNet() const {
+        return GetItemDataNet(GetItemByPositionNet());
+    }
+    /// Deletes a node that has no children. Of one that has some it deletes everything below
+    /// and leaves the node itself; a second call takes that, too. Item data is not touched.
+    void DeleteTreeItem(HTREEITEM item) const { Delete(SystemTree, item); }
+    void DeleteTreeItemDisk(HTREEITEM item) const { Delete(DiskTree, item); }
+    void DeleteTreeItemNet(HTREEITEM item) const { Delete(NetTree, item); }
+
+    /// Never null.
+    CWsTreeItemDefinitionList* GetTreeItemDefinitionList() const {
+        return m_pTreeItemDefinitionList.get();
+    }
+    /// Appends the commands for a node, in the context of a system, which may be null.
+    /// \param pItemData null stands for the selected node of the system tree
+    /// \return 1 if there is at least one
+    int GetMenuBar(CMenu& menu, CWsTreeItemData* pItemData, System::CGisSystem* pSystem) const;
+    /// The command of an id that was chosen in a menu, or null. The registry keeps it alive.
+    CWsCommand* GetMenuCommand(unsigned int menuCmdId) const;
+    /// Brings the children of a template, not those below, into the user's order: tool
+    /// groups first, then the families of "workspaceRepositoryOrder.xml", then the others.
+    void SortTreeTemplate(const CWsTreeTemplate::Ptr& treeTemplate) const;
+
+    HICON GetSystemManagerIcon();
+    HICON GetSystemIcon();
+    /// Null for other topologies than lines, polygons and points.
+    HICON GetSystemIcon(enmTopologyType type);
+    HICON GetDiskRepositoryIcon();
+    HICON GetSystemToolIcon();
+    HICON GetSystemTool_DrawIcon();    // NOLINT(readability-identifier-naming): the interface's
+    HICON GetSystemTool_SetDataIcon(); // NOLINT(readability-identifier-naming)
+    HICON GetSystemTool_EditIcon();    // NOLINT(readability-identifier-naming)
+    HICON GetSystemTool_ManagerIcon(); // NOLINT(readability-identifier-naming)
+    HICON GetFastCommandIcon();
+    HICON GetEntityTypeIcon(enmEntityType type);
+    /// As the active system's topology calls it.
+    CString GetEntityTypeName(enmEntityType type) const;
+
+private:
+    friend class CWsManager;
+    enum enmTree { SystemTree, DiskTree, NetTree };
+    /// Icons that have a field of their own, in its order.
+    enum enmIcon {
+        SystemManagerIcon,
+        DiskRepositoryIcon,
+        SystemIcon,
+        SystemToolIcon,
+        DrawToolIcon,
+        SetDataToolIcon,
+        EditToolIcon,
+        ManagerToolIcon,
+        FastCommandIcon,
+        IconCount
+    };
+
+    CWsTreeItemData* Data(enmTree tree, HTREEITEM item) const;
+    HTREEITEM Selected(enmTree tree) const;
+    HTREEITEM UnderCursor(enmTree tree) const;
+    void Delete(enmTree tree, HTREEITEM item) const;
+    HICON Icon(enmIcon icon);
+    void LoadRepositorySortOrder();
+
+    boost::shared_ptr<CWsTreeItemDefinitionList> m_pTreeItemDefinitionList;
+    std::array<CTreeCtrl*, 3> m_views{};
+    std::map<enmEntityType, HICON> m_entityIcons;
+    std::map<enmTopologyType, HICON> m_topologyIcons;
+    std::array<HICON, IconCount> m_icons{};
+    std::vector<CString> m_repositorySortOrder; ///< tags; read once
+};
+
+} // namespace Orvane::Workspace

@@ -35,8 +35,8 @@ std::vector<MenuEntries> Sections(const CWsCommandRegistry& registry, const Menu
         if (group == CommandGroupHidden) {
             continue;
         }
-        MenuEntries section = CommandsOfGroup(registry, static_cast<enmCommandGroup>(group),
-                                              topology, definition);
+        MenuEntries section =
+            CommandsOfGroup(registry, static_cast<enmCommandGroup>(group), topology, definition);
         if (!section.empty()) {
             std::erase_if(section, [&](const MenuEntry& command) {
                 return !IsForEntities(*command, definition);
@@ -109,8 +109,7 @@ MenuEntries AddMenuEntries(const CWsCommandRegistry& registry, const MenuTopolog
                            const CWsTreeItemDefinition* pSelected) {
     MenuEntries entries;
     if (pSelected) {
-        const MenuEntries answer =
-            CommandsOfGroup(registry, CommandGroupAdd, topology, *pSelected);
+        const MenuEntries answer = CommandsOfGroup(registry, CommandGroupAdd, topology, *pSelected);
         std::copy_if(answer.begin(), answer.end(), std::back_inserter(entries),
                      [&](const MenuEntry& command) { return AddsHere(*command, *pSelected); });
         if (!entries.empty()) {

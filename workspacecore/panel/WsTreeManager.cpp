@@ -14,9 +14,9 @@ namespace Orvane::Workspace {
 
 namespace {
 
-constexpr enmWSTreeItemType kToolGroups[] = {
-    WsItemSystemTool,        WsItemSystemToolDraw,    WsItemSystemToolEdit,
-    WsItemSystemToolSetData, WsItemSystemToolManager, WsItemSystemToolFastCommand};
+constexpr enmWSTreeItemType kToolGroups[] = {WsItemSystemTool,        WsItemSystemToolDraw,
+                                             WsItemSystemToolEdit,    WsItemSystemToolSetData,
+                                             WsItemSystemToolManager, WsItemSystemToolFastCommand};
 
 bool IsToolGroup(const CWsTreeTemplate::Ptr& node) {
     const auto& definition = node->GetItemDefinition();
@@ -108,9 +108,7 @@ HTREEITEM CWsTreeManager::UnderCursor(enmTree tree) const {
     if (!m_views[tree]) {
         return nullptr;
     }
-    CPoint point = GetMessagePos();
-    m_views[tree]->ScreenToClient(&point);
-    return m_views[tree]->HitTest(point);
+    return m_views[tree]->HitTest(m_views[tree]->ScreenToClient(GetMessagePos()));
 }
 
 void CWsTreeManager::Delete(enmTree tree, HTREEITEM item) const {
@@ -154,8 +152,8 @@ void CWsTreeManager::SortTreeTemplate(const CWsTreeTemplate::Ptr& treeTemplate) 
 
 HICON CWsTreeManager::Icon(enmIcon icon) {
     static constexpr IconSource kSources[IconCount] = {
-        {nullptr, IconSystemManager}, {L"IDI_DISKDATA"},  {nullptr, IconSystem},
-        {L"ORV_IDI_TOOLBOX"},         {L"IDI_PENCIL"},    {L"IDI_DATA_EDIT"},
+        {nullptr, IconSystemManager}, {L"IDI_DISKDATA"},   {nullptr, IconSystem},
+        {L"ORV_IDI_TOOLBOX"},         {L"IDI_PENCIL"},     {L"IDI_DATA_EDIT"},
         {L"IDI_WINDOW_EDIT"},         {L"ORV_ID_MANAGER"}, {L"IDI_FLASH"}};
     return FindOnce(m_icons[icon], kSources[icon]);
 }
@@ -190,16 +188,14 @@ HICON CWsTreeManager::GetFastCommandIcon() {
 
 HICON CWsTreeManager::GetSystemIcon(enmTopologyType type) {
     const ModuleResources resources;
-    const bool hasIcon =
-        type == TopologyLine || type == TopologyPolygon || type == TopologyPoint;
+    const bool hasIcon = type == TopologyLine || type == TopologyPolygon || type == TopologyPoint;
     return hasIcon ? FindOnce(m_topologyIcons, type, {nullptr, IconSystem}) : nullptr;
 }
 
 HICON CWsTreeManager::GetEntityTypeIcon(enmEntityType type) {
     const ModuleResources resources;
-    const auto* const pRow =
-        std::find_if(std::begin(kEntityIcons), std::end(kEntityIcons),
-                     [type](const auto& row) { return row.type == type; });
+    const auto* const pRow = std::find_if(std::begin(kEntityIcons), std::end(kEntityIcons),
+                                          [type](const auto& row) { return row.type == type; });
     return FindOnce(m_entityIcons, type,
                     {pRow == std::end(kEntityIcons) ? kUnknownEntityIcon : pRow->name});
 }

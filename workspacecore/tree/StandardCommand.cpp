@@ -13,8 +13,8 @@ using TopologyDataVector = CWsTopologyDataSet::Vector;
 TopologyDataVector ConfiguredTopologies() {
     TopologyDataVector all;
     const auto add = [&](const CTopology& topology, int function) {
-        all.push_back(CWsTopologyDataSet::Ptr(
-            new CWsTopologyData(topology.GetTopologyType(), function)));
+        all.push_back(
+            CWsTopologyDataSet::Ptr(new CWsTopologyData(topology.GetTopologyType(), function)));
     };
     for (const CTopology& topology :
          CModuleConfiguration::Instance()->GetTopologyConfiguration()->GetTopologyVector()) {
@@ -52,7 +52,7 @@ TopologyDataVector StandardTopologies(const TopologyDataVector* given, enmEntity
     TopologyDataVector wanted = given ? *given : ConfiguredTopologies();
     std::erase_if(wanted, [entityType](const CWsTopologyDataSet::Ptr& data) {
         return !data || !CModuleConfiguration::Instance()->DoesETbelongTT(entityType,
-                                                                         data->GetTopologyType());
+                                                                          data->GetTopologyType());
     });
     return wanted;
 }

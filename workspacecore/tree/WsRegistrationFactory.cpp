@@ -71,9 +71,8 @@ void AddTopologies(CWsTreeItemDefinition& definition, const TopologyDataVector& 
 
 void RegisterSystemCommands(IWsCommandExecutor* executor, const TopologyDataVector& topologies) {
     for (const auto& row : kSystemCommands) {
-        RegisterStandardCommand(
-            {row.id, row.group, row.nameMessage, row.behavior, row.itemTypes}, executor, L"",
-            EntityNone, topologies);
+        RegisterStandardCommand({row.id, row.group, row.nameMessage, row.behavior, row.itemTypes},
+                                executor, L"", EntityNone, topologies);
     }
 }
 
@@ -81,9 +80,9 @@ void RegisterToolGroups(const TopologyDataVector& topologies) {
     for (const auto& row : kToolGroups) {
         for (const auto& data : topologies) {
             const DefinitionPtr definition(new CWsTreeItemDefinition);
-            definition->SetId(FormatText(row.idFormat, data->GetTopologyType(),
-                                         data->GetTopologyFunction())
-                                  .c_str());
+            definition->SetId(
+                FormatText(row.idFormat, data->GetTopologyType(), data->GetTopologyFunction())
+                    .c_str());
             definition->SetName(Message(row.nameMessage));
             definition->SetIcon((CWsManager::Instance()->TreeMgr()->*row.icon)());
             definition->SetWsItemType(row.itemType);

@@ -40,15 +40,12 @@ public:
     /// \param hasSendToSystem also gives ids to the commands that send to the net and that
     ///     set the default item
     /// \param doubleClickNotEdit 0: a double click in the system tree edits
-    static void RegisterRepositoryItem(const wchar_t* repositoryTag, const wchar_t* name,
-                                       HICON icon, unsigned int entityTypes,
-                                       IWsCommandExecutor* executor,
-                                       TopologyDataVector* topologies, enmRegistrationTarget target,
-                                       int entitySpecific, int commandsPerEntity, int hasAdd,
-                                       int hasEdit, int hasDelete, int hasRename, int hasRun,
-                                       int hasDoubleClick, int hasQueryDrop, int hasRepositoryDrop,
-                                       int hasCopy, int hasSendToSystem, int hasSendToRepository,
-                                       int doubleClickNotEdit);
+    static void RegisterRepositoryItem(
+        const wchar_t* repositoryTag, const wchar_t* name, HICON icon, unsigned int entityTypes,
+        IWsCommandExecutor* executor, TopologyDataVector* topologies, enmRegistrationTarget target,
+        int entitySpecific, int commandsPerEntity, int hasAdd, int hasEdit, int hasDelete,
+        int hasRename, int hasRun, int hasDoubleClick, int hasQueryDrop, int hasRepositoryDrop,
+        int hasCopy, int hasSendToSystem, int hasSendToRepository, int doubleClickNotEdit);
 };
 
 } // namespace Orvane::Workspace

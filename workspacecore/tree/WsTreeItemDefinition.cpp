@@ -44,15 +44,15 @@ void CWsTreeItemDefinition::MakeDeepCopy(CWsTreeItemDefinition& target) const {
 
 CString CWsTreeItemDefinition::GetXML() const {
     CString xml(L"<wsTreeItemDefinition ");
-    xml.AppendFormat(
-        L"id=\"%s\" icon=\"%d\" name=\"%s\" description=\"%s\" wsItemType=\"%d\" "
-        L"wsParentItemType=\"%d\" repositoryTag=\"%s\" acceptQueryDrop=\"%d\" "
-        L"cmdIdDoubleClick=\"%s\" cmdIdQueryDrop=\"%s\" entitySpecific=\"%d\" ",
-        EncodeXmlField(m_strId), HandleAsNumber(m_hIcon), EncodeXmlField(m_strName),
-        EncodeXmlField(m_strDescription), static_cast<std::int32_t>(m_wsItemType),
-        static_cast<std::int32_t>(m_wsParentItemType), EncodeXmlField(m_strRepositoryTag),
-        m_bAcceptQueryDrop, EncodeXmlField(m_strCmdIdDoubleClick),
-        EncodeXmlField(m_strCmdIdQueryDrop), m_bIsEntitySpecific);
+    xml.AppendFormat(L"id=\"%s\" icon=\"%d\" name=\"%s\" description=\"%s\" wsItemType=\"%d\" "
+                     L"wsParentItemType=\"%d\" repositoryTag=\"%s\" acceptQueryDrop=\"%d\" "
+                     L"cmdIdDoubleClick=\"%s\" cmdIdQueryDrop=\"%s\" entitySpecific=\"%d\" ",
+                     EncodeXmlField(m_strId), HandleAsNumber(m_hIcon), EncodeXmlField(m_strName),
+                     EncodeXmlField(m_strDescription), static_cast<std::int32_t>(m_wsItemType),
+                     static_cast<std::int32_t>(m_wsParentItemType),
+                     EncodeXmlField(m_strRepositoryTag), m_bAcceptQueryDrop,
+                     EncodeXmlField(m_strCmdIdDoubleClick), EncodeXmlField(m_strCmdIdQueryDrop),
+                     m_bIsEntitySpecific);
     xml += L">";
     for (const TopologyDataPtr& data : m_wsTopologyData.vector) {
         xml += data->GetXML();

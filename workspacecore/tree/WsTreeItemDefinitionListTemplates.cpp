@@ -17,9 +17,9 @@ constexpr TreeItemIndex::Kinds kRepositoryTree = {WsItemRepositoryEntityFolder,
                                                   WsItemRepositoryConfiguration, false};
 
 /// The tool groups of a system, in the order of the nodes under it.
-constexpr enmWSTreeItemType kToolGroups[] = {
-    WsItemSystemToolDraw,    WsItemSystemToolEdit, WsItemSystemToolSetData,
-    WsItemSystemToolManager, WsItemSystemTool,     WsItemSystemToolFastCommand};
+constexpr enmWSTreeItemType kToolGroups[] = {WsItemSystemToolDraw,    WsItemSystemToolEdit,
+                                             WsItemSystemToolSetData, WsItemSystemToolManager,
+                                             WsItemSystemTool,        WsItemSystemToolFastCommand};
 
 CString MapKey(enmTopologyType type, int function) {
     return CWsTopologyData(type, function).GetMapKey();

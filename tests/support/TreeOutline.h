@@ -1,0 +1,52 @@
+// Definitions, commands and templates as texts, so that a test reads like the tree it means.
+#pragma once
+
+#include <boost/make_shared.hpp>
+#include <string>
+
+#include "platform/win/CodePage.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Workspace {
+
+inline std::string Narrow(const CString& text) {
+    return WideToUtf8(text.Str());
+}
+
+/// "id" at its depth; then "+" for a place to add, with the kind of configuration, and "e"
+/// with the entity type where it belongs to one.
+inline std::string Outline(const CWsTreeTemplate& node, int depth = 0) {
+    std::string line(static_cast<std::size_t>(depth) * 2, ' ');
+    line += node.GetItemDefinition() ? Narrow(node.GetItemDefinition()->GetId()) : "(none)";
+    if (node.IsPlaceToAddConfiguration()) {
+        const auto& configuration = node.GetConfigurationDefinition();
+        line += " +" + (configuration ? std::to_string(configuration->GetWsItemType()) + "/" +
+                                            std::to_string(configuration->GetEntityType())
+                                      : std::string("-"));
+    }
+    if (node.IsEntitySpecificConfiguration()) {
+        line += " e" + std::to_string(node.GetConfigurationEntityType());
+    }
+    line += "\n";
+    for (const auto& child : *node.GetChildren()) {
+        line += Outline(*child, depth + 1);
+    }
+    return line;
+}
+
+inline std::string Outline(const CWsTreeTemplate::Ptr& node) {
+    return node ? Outline(*node) : "null";
+}
+
+/// Templates hold themselves alive, which is fine for a process and none of a test's.
+inline void TakeApart(const CWsTreeTemplate::Ptr& node) {
+    if (node) {
+        const CWsTreeTemplate::Children children = std::move(*node->GetChildren());
+        node->GetChildren()->clear();
+        for (const auto& child : children) {
+            TakeApart(child);
+        }
+    }
+}
+
+} // namespace Orvane::Workspace

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/DcImpl.h"
@@ -13,6 +14,21 @@
 namespace {
 
 constexpr int kCellMargin = 6;
+
+/// Makes rows high enough for their pictures, which the model knows nothing of.
+class RowHeights final : public QStyledItemDelegate {
+public:
+    RowHeights(QObject* pParent, const QSize& images)
+        : QStyledItemDelegate(pParent), m_images(images) {}
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int kRoom = 2;
+        return QStyledItemDelegate::sizeHint(option, index)
+            .expandedTo(QSize(0, m_images.height() + kRoom));
+    }
+
+private:
+    const QSize& m_images;
+};
 
 } // namespace
 
@@ -119,6 +135,7 @@ ListWidget::ListWidget(QWidget* pParent, UINT style)
     : HookedArea(pParent), m_style(style), m_textColor(GetSysColor(COLOR_WINDOWTEXT)),
       m_backColor(GetSysColor(COLOR_WINDOW)) {
     setModel(&m_model);
+    setItemDelegate(new RowHeights(this, m_imageSize));
     setUniformRowHeights(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -148,7 +165,7 @@ void ListWidget::SetImages(const CImageList& images) {
     }
     m_imageSize = QSize(images.ImageSize().cx, images.ImageSize().cy);
     setIconSize(m_imageSize);
-    viewport()->update();
+    scheduleDelayedItemsLayout();
 }
 
 void ListWidget::SetTextColors(COLORREF text, COLORREF back) {

@@ -85,9 +85,10 @@ CWsCommandRegistry::GetWsCommandByGroup(enmCommandGroup group, enmTopologyType t
     CommandVector found;
     for (auto entry = first; entry != last; ++entry) {
         const CommandPtr& command = entry->second;
+        // In the order of what the tests cost.
         if (command->TestWsItemType(itemType) &&
-            (topologyType == kAnyTopology || command->m_wsTopologyData.Contains(key)) &&
-            DoesTagMatch(command->m_strRepositoryTag.View(), tag)) {
+            DoesTagMatch(command->m_strRepositoryTag.View(), tag) &&
+            (topologyType == kAnyTopology || command->m_wsTopologyData.Contains(key))) {
             found.push_back(command);
         }
     }

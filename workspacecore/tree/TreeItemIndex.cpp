@@ -1,6 +1,7 @@
 #include "workspacecore/tree/TreeItemIndex.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 namespace Orvane::Workspace {
@@ -8,62 +9,90 @@ namespace Orvane::Workspace {
 namespace {
 
 constexpr const wchar_t* kEveryFamily = L"0";
+/// Stands for whatever kind of entity; no kind has the number.
+constexpr int kAnyEntityType = -1;
+constexpr int kUnknown = -1;
 
-std::wstring Key(CString tag, const CString& topology) {
-    return tag.MakeLower().Str() + L'\n' + topology.Str();
+int Number(std::unordered_map<std::wstring, int>& numbers, const std::wstring& text) {
+    return numbers.emplace(text, static_cast<int>(numbers.size())).first->second;
 }
 
-std::wstring Key(const CString& tag, enmEntityType type, const CString& topology) {
-    return Key(tag, topology) + L'\n' + std::to_wstring(type);
+int FindNumber(const std::unordered_map<std::wstring, int>& numbers, const std::wstring& text) {
+    const auto hit = numbers.find(text);
+    return hit == numbers.end() ? kUnknown : hit->second;
 }
 
 } // namespace
+
+std::size_t TreeItemIndex::KeyHash::operator()(const Key& key) const {
+    const auto bits = [](int number) { return static_cast<std::uint32_t>(number); };
+    const std::uint64_t mixed = (std::uint64_t{bits(key.tag)} << 32U | bits(key.entityType)) ^
+                                std::uint64_t{bits(key.topology)} << 20U;
+    return mixed * 0x9E3779B97F4A7C15U; // spreads neighbours over the table
+}
 
 TreeItemIndex::TreeItemIndex(const DefinitionMapByType& definitions, const Kinds& kinds)
     : m_byTopology(kinds.byTopology) {
     std::size_t place = 0;
     const auto [folder, lastFolder] = definitions.equal_range(kinds.entityFolder);
-    for (auto entry = folder; entry != lastFolder; ++entry, ++place) {
-        const DefinitionPtr& definition = entry->second;
-        ForEachTopology(definition, [&](const CString& topology) {
-            m_folders[Key(definition->GetRepositoryTag(), definition->GetEntityType(), topology)]
-                .push_back({place, definition});
-        });
+    for (auto entry = folder; entry != lastFolder; ++entry) {
+        AddFolder(entry->second, place++);
     }
-    const auto [first, last] = definitions.equal_range(kinds.configuration);
-    for (auto entry = first; entry != last; ++entry) {
-        const DefinitionPtr& definition = entry->second;
-        const CString tag = definition->GetRepositoryTag();
-        // The first one stays.
-        ForEachTopology(definition, [&](const CString& topology) {
-            m_configurations.emplace(Key(tag, definition->GetEntityType(), topology), definition);
-            m_configurations.emplace(Key(tag, topology), definition);
-        });
+    const auto [configuration, last] = definitions.equal_range(kinds.configuration);
+    for (auto entry = configuration; entry != last; ++entry) {
+        AddConfiguration(entry->second);
     }
 }
 
 template <class Put>
-void TreeItemIndex::ForEachTopology(const DefinitionPtr& definition, const Put& put) const {
+void TreeItemIndex::ForEachTopology(const DefinitionPtr& definition, const Put& put) {
+    const int tag = Number(m_tags, definition->GetRepositoryTag().MakeLower().Str());
     if (!m_byTopology) {
-        put(CString());
+        put(Key{tag, Number(m_topologies, {}), definition->GetEntityType()});
         return;
     }
     for (const auto& [topology, data] : *definition->GetWsTopologyDataMap()) {
-        put(topology);
+        put(Key{tag, Number(m_topologies, topology.Str()), definition->GetEntityType()});
     }
 }
 
-const std::vector<TreeItemIndex::Registered>&
-TreeItemIndex::Folders(const CString& tag, enmEntityType type, const CString& topology) const {
+void TreeItemIndex::AddFolder(const DefinitionPtr& definition, std::size_t place) {
+    ForEachTopology(definition, [&](const Key& key) {
+        m_folders[key].push_back({place, definition});
+    });
+}
+
+void TreeItemIndex::AddConfiguration(const DefinitionPtr& definition) {
+    // The first one stays.
+    ForEachTopology(definition, [&](const Key& key) {
+        m_configurations.try_emplace(key, definition);
+        m_configurations.try_emplace({key.tag, key.topology, kAnyEntityType}, definition);
+    });
+}
+
+const std::vector<TreeItemIndex::Registered>& TreeItemIndex::Folders(const Key& key) const {
     static const std::vector<Registered> none;
-    const auto hit = m_folders.find(Key(tag, type, topology));
+    const auto hit = m_folders.find(key);
     return hit == m_folders.end() ? none : hit->second;
 }
 
-TreeItemIndex::DefinitionVector TreeItemIndex::EntityFolders(const CString& tag, enmEntityType type,
-                                                             const CString& topology) const {
-    const std::vector<Registered>& ofFamily = Folders(tag, type, topology);
-    const std::vector<Registered>& ofAll = Folders(kEveryFamily, type, topology);
+TreeItemIndex::DefinitionPtr TreeItemIndex::Configuration(const Key& key) const {
+    const auto hit = m_configurations.find(key);
+    return hit == m_configurations.end() ? nullptr : hit->second;
+}
+
+TreeItemIndex::Family TreeItemIndex::In(const CString& tag, const CString& topology) const {
+    Family family;
+    family.m_pIndex = this;
+    family.m_tag = FindNumber(m_tags, CString(tag).MakeLower().Str());
+    family.m_everyFamily = FindNumber(m_tags, kEveryFamily);
+    family.m_topology = FindNumber(m_topologies, topology.Str());
+    return family;
+}
+
+TreeItemIndex::DefinitionVector TreeItemIndex::Family::EntityFolders(enmEntityType type) const {
+    const std::vector<Registered>& ofFamily = m_pIndex->Folders({m_tag, m_topology, type});
+    const std::vector<Registered>& ofAll = m_pIndex->Folders({m_everyFamily, m_topology, type});
     std::vector<Registered> merged;
     const auto earlier = [](const Registered& a, const Registered& b) { return a.place < b.place; };
     // A union: the family "0" itself has its folders once.
@@ -76,16 +105,12 @@ TreeItemIndex::DefinitionVector TreeItemIndex::EntityFolders(const CString& tag,
     return found;
 }
 
-TreeItemIndex::DefinitionPtr TreeItemIndex::Configuration(const CString& tag, enmEntityType type,
-                                                          const CString& topology) const {
-    const auto hit = m_configurations.find(Key(tag, type, topology));
-    return hit == m_configurations.end() ? nullptr : hit->second;
+TreeItemIndex::DefinitionPtr TreeItemIndex::Family::Configuration(enmEntityType type) const {
+    return m_pIndex->Configuration({m_tag, m_topology, type});
 }
 
-TreeItemIndex::DefinitionPtr TreeItemIndex::Configuration(const CString& tag,
-                                                          const CString& topology) const {
-    const auto hit = m_configurations.find(Key(tag, topology));
-    return hit == m_configurations.end() ? nullptr : hit->second;
+TreeItemIndex::DefinitionPtr TreeItemIndex::Family::Configuration() const {
+    return m_pIndex->Configuration({m_tag, m_topology, kAnyEntityType});
 }
 
 } // namespace Orvane::Workspace

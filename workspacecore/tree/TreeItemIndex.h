@@ -26,15 +26,25 @@ public:
 
     TreeItemIndex(const DefinitionMapByType& definitions, const Kinds& kinds);
 
-    /// The folders of a family and those of every family, in order of registration.
+    /// One family in one place of a tree.
+    class Family {
+    public:
+        /// The folders of the family and those of every family, in order of registration.
+        DefinitionVector EntityFolders(enmEntityType type) const;
+        /// The first configuration for a kind of entity; null for none.
+        DefinitionPtr Configuration(enmEntityType type) const;
+        /// The same for whatever kind of entity.
+        DefinitionPtr Configuration() const;
+
+    private:
+        friend class TreeItemIndex;
+        const TreeItemIndex* m_pIndex;
+        int m_tag;
+        int m_everyFamily;
+        int m_topology;
+    };
     /// \param topology a key of topology data; empty in trees that know no topologies
-    DefinitionVector EntityFolders(const CString& tag, enmEntityType type,
-                                   const CString& topology) const;
-    /// The first configuration of a family for a kind of entity; null for none.
-    DefinitionPtr Configuration(const CString& tag, enmEntityType type,
-                                const CString& topology) const;
-    /// The same for whatever kind of entity.
-    DefinitionPtr Configuration(const CString& tag, const CString& topology) const;
+    Family In(const CString& tag, const CString& topology) const;
 
 private:
     /// A definition and its place in the order of registration.
@@ -42,14 +52,30 @@ private:
         std::size_t place;
         DefinitionPtr definition;
     };
+    /// Family, topology and kind of entity as numbers, the texts counted as they come.
+    struct Key {
+        int tag;
+        int topology;
+        int entityType;
+        bool operator==(const Key&) const = default;
+    };
+    struct KeyHash {
+        std::size_t operator()(const Key& key) const;
+    };
+    using Numbers = std::unordered_map<std::wstring, int>;
+
     template <class Put>
-    void ForEachTopology(const DefinitionPtr& definition, const Put& put) const;
-    const std::vector<Registered>& Folders(const CString& tag, enmEntityType type,
-                                           const CString& topology) const;
+    void ForEachTopology(const DefinitionPtr& definition, const Put& put);
+    void AddFolder(const DefinitionPtr& definition, std::size_t place);
+    void AddConfiguration(const DefinitionPtr& definition);
+    const std::vector<Registered>& Folders(const Key& key) const;
+    DefinitionPtr Configuration(const Key& key) const;
 
     bool m_byTopology;
-    std::unordered_map<std::wstring, std::vector<Registered>> m_folders;
-    std::unordered_map<std::wstring, DefinitionPtr> m_configurations;
+    Numbers m_tags; ///< in lower case
+    Numbers m_topologies;
+    std::unordered_map<Key, std::vector<Registered>, KeyHash> m_folders;
+    std::unordered_map<Key, DefinitionPtr, KeyHash> m_configurations;
 };
 
 } // namespace Orvane::Workspace

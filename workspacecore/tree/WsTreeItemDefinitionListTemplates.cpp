@@ -66,27 +66,26 @@ public:
                                        const TreeItemIndex& index, const CString& topology,
                                        const std::vector<enmEntityType>& entityTypes) {
         const TemplatePtr folder = Append(root, definition);
+        const TreeItemIndex::Family family = index.In(definition->GetRepositoryTag(), topology);
         if (!definition->GetIsEntitySpecific()) {
             folder->m_bIsPlaceToAddConfiguration = 1;
-            folder->m_configurationDefinition =
-                index.Configuration(definition->GetRepositoryTag(), topology);
+            folder->m_configurationDefinition = family.Configuration();
             return;
         }
         for (const enmEntityType type : entityTypes) {
-            AppendEntityFolders(folder, index, topology, type);
+            AppendEntityFolders(folder, family, type);
         }
     }
 
 private:
-    static void AppendEntityFolders(const TemplatePtr& folder, const TreeItemIndex& index,
-                                    const CString& topology, enmEntityType type) {
-        const CString tag = folder->m_itemDefinition->GetRepositoryTag();
-        for (const DefinitionPtr& definition : index.EntityFolders(tag, type, topology)) {
+    static void AppendEntityFolders(const TemplatePtr& folder, const TreeItemIndex::Family& family,
+                                    enmEntityType type) {
+        for (const DefinitionPtr& definition : family.EntityFolders(type)) {
             const TemplatePtr node = Append(folder, definition);
             node->m_bIsEntitySpecificConfiguration = 1;
             node->m_configurationEntityType = type;
             node->m_bIsPlaceToAddConfiguration = 1;
-            node->m_configurationDefinition = index.Configuration(tag, type, topology);
+            node->m_configurationDefinition = family.Configuration(type);
         }
     }
 };

@@ -16,13 +16,16 @@ std::size_t CountBelow(const _TREEITEM& item) {
 } // namespace
 
 std::size_t TreeModel::PlaceOf(const _TREEITEM& item) {
-    const auto& siblings = item.pParent->children;
-    if (item.place >= siblings.size() || siblings[item.place].get() != &item) {
-        for (std::size_t place = 0; place < siblings.size(); ++place) {
-            siblings[place]->place = place;
-        }
+    const _TREEITEM& parent = *item.pParent;
+    const auto guess = static_cast<std::size_t>(item.place - parent.firstPlace);
+    if (guess < parent.children.size() && parent.children[guess].get() == &item) {
+        return guess;
     }
-    return item.place;
+    std::ptrdiff_t place = parent.firstPlace;
+    for (const auto& sibling : parent.children) {
+        sibling->place = place++;
+    }
+    return static_cast<std::size_t>(item.place - parent.firstPlace);
 }
 
 HTREEITEM TreeModel::ItemOf(const QModelIndex& index) const {
@@ -97,9 +100,12 @@ Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
 HTREEITEM TreeModel::Insert(HTREEITEM parent, std::size_t place, std::unique_ptr<_TREEITEM> item) {
     const HTREEITEM added = item.get();
     added->pParent = parent;
-    added->place = place;
     const int row = static_cast<int>(place);
     beginInsertRows(IndexOf(parent), row, row);
+    if (row == 0) {
+        --parent->firstPlace;
+    }
+    added->place = parent->firstPlace + row;
     parent->children.insert(parent->children.begin() + row, std::move(item));
     ++m_count;
     endInsertRows();
@@ -112,6 +118,9 @@ void TreeModel::Remove(HTREEITEM item) {
     m_count -= 1 + CountBelow(*item);
     beginRemoveRows(IndexOf(parent), row, row);
     parent->children.erase(parent->children.begin() + row);
+    if (row == 0) {
+        ++parent->firstPlace;
+    }
     endRemoveRows();
 }
 
@@ -137,8 +146,9 @@ void TreeModel::Sort(HTREEITEM parent,
     const QModelIndexList before = persistentIndexList();
     std::stable_sort(parent->children.begin(), parent->children.end(),
                      [&less](const auto& a, const auto& b) { return less(*a, *b); });
-    for (std::size_t place = 0; place < parent->children.size(); ++place) {
-        parent->children[place]->place = place;
+    std::ptrdiff_t place = parent->firstPlace;
+    for (const auto& child : parent->children) {
+        child->place = place++;
     }
     QModelIndexList after;
     for (const QModelIndex& old : before) {

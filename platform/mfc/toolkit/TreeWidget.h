@@ -1,6 +1,7 @@
 // Model and widget of a tree. For sources only.
 #pragma once
 
+#include <boost/container/deque.hpp>
 #include <memory>
 #include <optional>
 
@@ -12,8 +13,10 @@
 
 struct _TREEITEM { // NOLINT(bugprone-reserved-identifier)
     _TREEITEM* pParent = nullptr;
-    std::vector<std::unique_ptr<_TREEITEM>> children;
-    mutable std::size_t place = 0; ///< among its siblings; a guess, see TreeModel::PlaceOf
+    /// Cheap at both ends, and no memory where there are none.
+    boost::container::deque<std::unique_ptr<_TREEITEM>> children;
+    std::ptrdiff_t firstPlace = 0;    ///< of the first child; falls and rises at the front
+    mutable std::ptrdiff_t place = 0; ///< a guess, see TreeModel::PlaceOf
     CString text;
     int image = -1;
     int selectedImage = -1;
@@ -34,8 +37,9 @@ public:
     HTREEITEM Root() { return &m_root; }
     HTREEITEM ItemOf(const QModelIndex& index) const;
     QModelIndex IndexOf(HTREEITEM item) const;
-    /// Where a node stands among its siblings. The place noted in the node is right unless
-    /// siblings were inserted or removed in front of it; then all of them are noted anew.
+    /// Where a node stands among its siblings. The place noted in the node is right, counted
+    /// from the first one's, unless siblings were inserted or removed between the first and
+    /// it; then all of them are noted anew.
     static std::size_t PlaceOf(const _TREEITEM& item);
 
     HTREEITEM Insert(HTREEITEM parent, std::size_t place, std::unique_ptr<_TREEITEM> item);

@@ -2,7 +2,6 @@
 #include <cstdint>
 
 #include "platform/arx/EdPrompt.h"
-#include "platform/win/Number.h"
 #include "workspacecore/commands/WsCommandRegistry.h"
 #include "workspacecore/foundation/XmlDocument.h"
 #include "workspacecore/foundation/XmlField.h"
@@ -11,26 +10,18 @@ namespace Orvane::Workspace {
 
 namespace {
 
-CString ReadText(const XmlDocument& document, const wchar_t* name) {
-    return DecodeXmlField(document.GetAttrib(name));
-}
-
-int ReadInt(const XmlDocument& document, const wchar_t* name) {
-    return TextToInt(document.GetAttrib(name).View());
-}
-
 /// What a text says of a command. Executor, icon and the set-data mark mean nothing once
 /// they were written, and stay as a fresh record has them.
 boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
     boost::shared_ptr<CWsCommand> command(new CWsCommand);
-    command->SetId(ReadText(document, L"id"));
-    command->SetName(ReadText(document, L"name"));
-    command->SetDescription(ReadText(document, L"description"));
+    command->SetId(ReadXmlText(document, L"id"));
+    command->SetName(ReadXmlText(document, L"name"));
+    command->SetDescription(ReadXmlText(document, L"description"));
     command->SetTreeCmdBehavior(
-        static_cast<enmTreeCommandBehavior>(ReadInt(document, L"repoCmdBehavior")));
-    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadInt(document, L"cmdGroup")));
-    command->SetRepositoryTag(ReadText(document, L"repositoryTag"));
-    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadInt(document, L"wsItemTypes")));
+        static_cast<enmTreeCommandBehavior>(ReadXmlInt(document, L"repoCmdBehavior")));
+    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadXmlInt(document, L"cmdGroup")));
+    command->SetRepositoryTag(ReadXmlText(document, L"repositoryTag"));
+    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadXmlInt(document, L"wsItemTypes")));
     return command;
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/win/CodePage.h"
+#include "platform/win/Number.h"
 #include "workspacecore/foundation/XmlDocument.h"
 
 namespace Orvane {
@@ -81,6 +82,14 @@ CString EncodeXmlField(const wchar_t* pszValue) {
 
 CString DecodeXmlField(const wchar_t* pszRaw) {
     return DecodeEqualsHex(XmlDocument::UnescapeEntities(pszRaw ? pszRaw : L"").View());
+}
+
+CString ReadXmlText(const XmlDocument& document, const wchar_t* pszName) {
+    return DecodeXmlField(document.GetAttrib(pszName));
+}
+
+int ReadXmlInt(const XmlDocument& document, const wchar_t* pszName) {
+    return TextToInt(document.GetAttrib(pszName).View());
 }
 
 CString EncodeEqualsHex(std::wstring_view text) {

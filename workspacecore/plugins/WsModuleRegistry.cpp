@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/arx/EdPrompt.h"
-#include "platform/win/Number.h"
 #include "platform/win/StringArray.h"
 #include "siblings/giscore/Utility.h"
 #include "workspacecore/foundation/XmlDocument.h"
@@ -23,9 +22,9 @@ CString LastPiece(const wchar_t* file) {
 
 boost::shared_ptr<CWsModule> ReadModule(const XmlDocument& document) {
     boost::shared_ptr<CWsModule> module(new CWsModule);
-    module->SetMsgName(TextToInt(document.GetAttrib(L"msgName").View()));
-    module->SetOn(TextToInt(document.GetAttrib(L"on").View()));
-    module->SetFileName(DecodeXmlField(document.GetAttrib(L"fileName")));
+    module->SetMsgName(ReadXmlInt(document, L"msgName"));
+    module->SetOn(ReadXmlInt(document, L"on"));
+    module->SetFileName(ReadXmlText(document, L"fileName"));
     return module;
 }
 

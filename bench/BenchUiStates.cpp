@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -165,8 +166,8 @@ int main(int argc, char** argv) {
     const std::string bytes = ReadFileBytes(ownWide.c_str()).value_or(std::string());
 
     // Kept over the runs: what is measured is not the taking down of the records before.
-    std::vector<CUiStates> own;
-    std::vector<PeerStates> peers;
+    std::deque<CUiStates> own;
+    std::deque<PeerStates> peers;
     std::vector<Work> works = {
         {"load, CUiStates", [&] { return own.emplace_back().Load(ownWide.c_str()) == 1; }},
         {"load, pugixml", [&] { return Load(ownPath, peers.emplace_back()); }},

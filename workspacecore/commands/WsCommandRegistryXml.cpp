@@ -14,14 +14,16 @@ namespace {
 /// they were written, and stay as a fresh record has them.
 boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
     boost::shared_ptr<CWsCommand> command(new CWsCommand);
-    command->SetId(ReadXmlText(document, L"id"));
-    command->SetName(ReadXmlText(document, L"name"));
-    command->SetDescription(ReadXmlText(document, L"description"));
-    command->SetTreeCmdBehavior(
-        static_cast<enmTreeCommandBehavior>(ReadXmlInt(document, L"repoCmdBehavior")));
-    command->SetCmdGroup(static_cast<enmCommandGroup>(ReadXmlInt(document, L"cmdGroup")));
-    command->SetRepositoryTag(ReadXmlText(document, L"repositoryTag"));
-    command->SetWsItemTypes(static_cast<std::uint32_t>(ReadXmlInt(document, L"wsItemTypes")));
+    const auto [id, name, description, behavior, group, tag, types] =
+        document.GetRawAttribs<7>({L"id", L"name", L"description", L"repoCmdBehavior", L"cmdGroup",
+                                   L"repositoryTag", L"wsItemTypes"});
+    command->SetId(XmlFieldText(id));
+    command->SetName(XmlFieldText(name));
+    command->SetDescription(XmlFieldText(description));
+    command->SetTreeCmdBehavior(static_cast<enmTreeCommandBehavior>(XmlFieldInt(behavior)));
+    command->SetCmdGroup(static_cast<enmCommandGroup>(XmlFieldInt(group)));
+    command->SetRepositoryTag(XmlFieldText(tag));
+    command->SetWsItemTypes(static_cast<std::uint32_t>(XmlFieldInt(types)));
     return command;
 }
 

@@ -7,9 +7,12 @@
 
 namespace Orvane::Workspace {
 
+using namespace std::string_view_literals;
+
 void CDialogState::AddStateAttribute(AttributePtr attribute) {
     m_stateAttributeVector.push_back(attribute);
-    m_stateAttributeMapById.emplace(attribute->GetId(), attribute);
+    CString id = attribute->GetId();
+    m_stateAttributeMapById.emplace(std::move(id), std::move(attribute));
 }
 
 void CDialogState::RemoveStateAttribute(const AttributePtr& attribute) {
@@ -29,16 +32,30 @@ CDialogState::AttributePtr CDialogState::GetStateAttributeById(const wchar_t* id
 }
 
 CString CDialogState::GetXML() const {
-    CString xml(L"<dialogState ");
-    xml.AppendFormat(L"id=\"%s\" top=\"%d\" left=\"%d\" width=\"%d\" height=\"%d\" "
-                     L"resizable=\"%d\" docked=\"%d\" side=\"%d\" ",
-                     EncodeXmlField(m_strId), m_nTop, m_nLeft, m_nWidth, m_nHeight, m_nResizable,
-                     m_nDocked, m_nSide);
-    xml += L">";
-    for (const AttributePtr& attribute : m_stateAttributeVector) {
-        xml += attribute->GetXML();
+    std::string xml;
+    AppendXML(xml);
+    return CString(std::wstring(xml.begin(), xml.end()));
+}
+
+void CDialogState::AppendXML(std::string& xml) const {
+    xml += "<dialogState id=\""sv;
+    AppendXmlField(xml, m_strId);
+    const std::pair<std::string_view, int> numbers[] = {{"\" top=\""sv, m_nTop},
+                                                        {"\" left=\""sv, m_nLeft},
+                                                        {"\" width=\""sv, m_nWidth},
+                                                        {"\" height=\""sv, m_nHeight},
+                                                        {"\" resizable=\""sv, m_nResizable},
+                                                        {"\" docked=\""sv, m_nDocked},
+                                                        {"\" side=\""sv, m_nSide}};
+    for (const auto& [opening, number] : numbers) {
+        xml += opening;
+        AppendXmlInt(xml, number);
     }
-    return xml += L"</dialogState>";
+    xml += "\" >"sv;
+    for (const AttributePtr& attribute : m_stateAttributeVector) {
+        attribute->AppendXML(xml);
+    }
+    xml += "</dialogState>"sv;
 }
 
 void CDialogState::MakeDeepCopy(CDialogState& target) const {

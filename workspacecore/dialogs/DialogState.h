@@ -55,6 +55,10 @@ public:
     void MakeDeepCopy(CDialogState& target) const;
 
 private:
+    friend class CUiStates;
+
+    void AppendXML(std::string& xml) const;
+
     CString m_strId;
     int m_nTop = 0;
     int m_nLeft = 0;

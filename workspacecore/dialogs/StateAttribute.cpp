@@ -5,6 +5,8 @@
 
 namespace Orvane::Workspace {
 
+using namespace std::string_view_literals;
+
 CStateAttribute::CStateAttribute(const wchar_t* id, const Data::CDataBox& value)
     : m_strId(id), m_nType(value.GetDataType()), m_strValue(value) {}
 
@@ -37,10 +39,19 @@ Data::CDataBox CStateAttribute::GetDataBox() const {
 }
 
 CString CStateAttribute::GetXML() const {
-    CString xml(L"<stateAttribute ");
-    xml.AppendFormat(L"id=\"%s\" type=\"%d\" value=\"%s\" ", EncodeXmlField(m_strId), m_nType,
-                     EncodeXmlField(m_strValue));
-    return xml += L"></stateAttribute>";
+    std::string xml;
+    AppendXML(xml);
+    return CString(std::wstring(xml.begin(), xml.end()));
+}
+
+void CStateAttribute::AppendXML(std::string& xml) const {
+    xml += "<stateAttribute id=\""sv;
+    AppendXmlField(xml, m_strId);
+    xml += "\" type=\""sv;
+    AppendXmlInt(xml, m_nType);
+    xml += "\" value=\""sv;
+    AppendXmlField(xml, m_strValue);
+    xml += "\" ></stateAttribute>"sv;
 }
 
 } // namespace Orvane::Workspace

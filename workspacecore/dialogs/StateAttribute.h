@@ -11,6 +11,8 @@ class WORKSPACE_API CStateAttribute {
 public:
     CStateAttribute() = default;
     CStateAttribute(const wchar_t* id, const Data::CDataBox& value);
+    CStateAttribute(CString id, int type, CString value)
+        : m_strId(std::move(id)), m_nType(type), m_strValue(std::move(value)) {}
     CStateAttribute(const CStateAttribute&) = default;
     CStateAttribute& operator=(const CStateAttribute&) = default;
     virtual ~CStateAttribute() = default;
@@ -29,6 +31,10 @@ public:
     void MakeDeepCopy(CStateAttribute& target) const { target = *this; }
 
 private:
+    friend class CDialogState;
+
+    void AppendXML(std::string& xml) const;
+
     CString m_strId;
     int m_nType = Data::DataTypeNone;
     CString m_strValue;

@@ -7,7 +7,8 @@ namespace Orvane::Workspace {
 
 void CUiStates::AddDialogState(DialogStatePtr state) {
     m_dialogStateVector.push_back(state);
-    m_dialogStateMapById.emplace(state->GetId(), state);
+    CString id = state->GetId();
+    m_dialogStateMapById.emplace(std::move(id), std::move(state));
 }
 
 void CUiStates::RemoveDialogState(const DialogStatePtr& state) {

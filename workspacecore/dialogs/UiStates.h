@@ -52,6 +52,8 @@ public:
     void MakeDeepCopy(CUiStates& target) const;
 
 private:
+    /// The text in ASCII, to which the encoding of fields brings everything.
+    std::string Text() const;
     int Read(XmlDocument& document);
 
     DialogStateVector m_dialogStateVector;

@@ -2,7 +2,6 @@
 #include <boost/make_shared.hpp>
 
 #include "platform/arx/DbDatabase.h"
-#include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
@@ -20,24 +19,24 @@ constexpr const wchar_t* kDictionary = L"ORVZ_UISTATE";
 constexpr const wchar_t* kRecord = L"UIRECORD";
 
 boost::shared_ptr<CStateAttribute> ReadAttribute(const XmlDocument& document) {
-    auto attribute = boost::make_shared<CStateAttribute>();
-    attribute->SetId(ReadXmlText(document, L"id"));
-    attribute->SetType(ReadXmlInt(document, L"type"));
-    attribute->SetValue(ReadXmlText(document, L"value"));
-    return attribute;
+    const auto [id, type, value] = document.GetRawAttribs<3>({L"id", L"type", L"value"});
+    return boost::make_shared<CStateAttribute>(XmlFieldText(id), XmlFieldInt(type),
+                                               XmlFieldText(value));
 }
 
 /// Without its attributes.
 boost::shared_ptr<CDialogState> ReadDialog(const XmlDocument& document) {
     auto state = boost::make_shared<CDialogState>();
-    state->SetId(ReadXmlText(document, L"id"));
-    state->SetTop(ReadXmlInt(document, L"top"));
-    state->SetLeft(ReadXmlInt(document, L"left"));
-    state->SetWidth(ReadXmlInt(document, L"width"));
-    state->SetHeight(ReadXmlInt(document, L"height"));
-    state->SetResizable(ReadXmlInt(document, L"resizable"));
-    state->SetDocked(ReadXmlInt(document, L"docked"));
-    state->SetSide(ReadXmlInt(document, L"side"));
+    const auto [id, top, left, width, height, resizable, docked, side] = document.GetRawAttribs<8>(
+        {L"id", L"top", L"left", L"width", L"height", L"resizable", L"docked", L"side"});
+    state->SetId(XmlFieldText(id));
+    state->SetTop(XmlFieldInt(top));
+    state->SetLeft(XmlFieldInt(left));
+    state->SetWidth(XmlFieldInt(width));
+    state->SetHeight(XmlFieldInt(height));
+    state->SetResizable(XmlFieldInt(resizable));
+    state->SetDocked(XmlFieldInt(docked));
+    state->SetSide(XmlFieldInt(side));
     return state;
 }
 
@@ -51,12 +50,26 @@ void KeepDamagedFile(const wchar_t* path, const CString& reason) {
 
 } // namespace
 
-CString CUiStates::GetXML() const {
-    CString xml(L"<uiStates>");
+std::string CUiStates::Text() const {
+    // A usual length: growing by steps would move the whole text several times.
+    constexpr std::size_t kDialogLength = 160;
+    constexpr std::size_t kAttributeLength = 100;
+    std::size_t length = 0;
     for (const DialogStatePtr& state : m_dialogStateVector) {
-        xml += state->GetXML();
+        length += kDialogLength + kAttributeLength * state->m_stateAttributeVector.size();
     }
-    return xml += L"</uiStates>";
+    std::string xml;
+    xml.reserve(length);
+    xml += "<uiStates>";
+    for (const DialogStatePtr& state : m_dialogStateVector) {
+        state->AppendXML(xml);
+    }
+    return xml += "</uiStates>";
+}
+
+CString CUiStates::GetXML() const {
+    const std::string xml = Text();
+    return CString(std::wstring(xml.begin(), xml.end()));
 }
 
 int CUiStates::Read(XmlDocument& document) {
@@ -95,9 +108,9 @@ int CUiStates::Load(const wchar_t* path) {
 }
 
 int CUiStates::Save(const wchar_t* path) const {
-    const CString xml = GetXML();
+    const std::string xml = Text();
     XmlDocument document;
-    return document.SetDoc(xml) && ReplaceFileBytes(path, WideToUtf8(xml.View())) ? 1 : 0;
+    return document.SetDocUtf8(xml) && ReplaceFileBytes(path, xml) ? 1 : 0;
 }
 
 int CUiStates::LoadFromDictionary() {

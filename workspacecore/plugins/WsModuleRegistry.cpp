@@ -22,9 +22,11 @@ CString LastPiece(const wchar_t* file) {
 
 boost::shared_ptr<CWsModule> ReadModule(const XmlDocument& document) {
     boost::shared_ptr<CWsModule> module(new CWsModule);
-    module->SetMsgName(ReadXmlInt(document, L"msgName"));
-    module->SetOn(ReadXmlInt(document, L"on"));
-    module->SetFileName(ReadXmlText(document, L"fileName"));
+    const auto [msgName, on, fileName] =
+        document.GetRawAttribs<3>({L"msgName", L"on", L"fileName"});
+    module->SetMsgName(XmlFieldInt(msgName));
+    module->SetOn(XmlFieldInt(on));
+    module->SetFileName(XmlFieldText(fileName));
     return module;
 }
 

@@ -2,12 +2,34 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
+
+namespace {
+
+/// Renames unless there is something of that name; then errno is EEXIST.
+bool RenameToFree(const char* from, const char* to) {
+    if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    if (errno != EINVAL) {
+        return false;
+    }
+    // The file system cannot do it in one step.
+    struct stat info {};
+    if (lstat(to, &info) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return std::rename(from, to) == 0;
+}
+
+} // namespace
 
 std::string NativePath(const wchar_t* path) {
     std::string native = WideToUtf8(path ? path : L"");
@@ -57,6 +79,26 @@ bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes) {
         unlink(draft.c_str());
     }
     return isWritten;
+}
+
+std::optional<CString> SetFileAside(const wchar_t* path, const wchar_t* suffix) {
+    const std::string source = NativePath(path);
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(source, failure)) {
+        SetLastErrorNumber(failure ? failure.value() : EINVAL);
+        return std::nullopt;
+    }
+    for (int number = 1;; ++number) {
+        CString aside(path);
+        aside.AppendFormat(L"%s%d", suffix, number);
+        if (RenameToFree(source.c_str(), NativePath(aside).c_str())) {
+            return aside;
+        }
+        if (errno != EEXIST) {
+            SetLastErrorNumber(errno);
+            return std::nullopt;
+        }
+    }
 }
 
 bool FileExists(const wchar_t* path) {

@@ -28,6 +28,10 @@ PLATFORM_API std::optional<std::string> ReadFileBytes(const wchar_t* path);
 /// with LastErrorText set and the old one as it was.
 PLATFORM_API bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes);
 
+/// Gives a regular file the first free name of path + suffix + 1, 2, 3 and so on, and returns
+/// that; nothing on failure, with LastErrorText set. No other file is ever replaced.
+PLATFORM_API std::optional<CString> SetFileAside(const wchar_t* path, const wchar_t* suffix);
+
 PLATFORM_API bool FileExists(const wchar_t* path);
 /// The part behind the last separator.
 PLATFORM_API CString FileNameOf(const wchar_t* path);

@@ -1,10 +1,15 @@
 #include "platform/win/Number.h"
 
 #include <charconv>
+#include <clocale>
 #include <cmath>
+#include <cwchar>
 #include <limits>
 
-int TextToInt(std::wstring_view text) {
+namespace {
+
+template <class Whole>
+Whole ToWhole(std::wstring_view text) {
     std::size_t at = 0;
     while (at < text.size() && (text[at] == L' ' || (text[at] >= L'\t' && text[at] <= L'\r'))) {
         ++at;
@@ -13,15 +18,37 @@ int TextToInt(std::wstring_view text) {
     if (at < text.size() && (text[at] == L'-' || text[at] == L'+')) {
         ++at;
     }
-    constexpr long long kMost = std::numeric_limits<int>::max();
-    long long value = 0;
-    for (; at < text.size() && text[at] >= L'0' && text[at] <= L'9' && value <= kMost; ++at) {
-        value = value * 10 + (text[at] - L'0');
+    constexpr Whole kLeast = std::numeric_limits<Whole>::min();
+    constexpr Whole kMost = std::numeric_limits<Whole>::max();
+    // Counts downwards: below zero there is one number more than above it.
+    Whole value = 0;
+    for (; at < text.size() && text[at] >= L'0' && text[at] <= L'9'; ++at) {
+        const auto digit = static_cast<Whole>(text[at] - L'0');
+        if (value < kLeast / 10 || value * 10 < kLeast + digit) {
+            return negative ? kLeast : kMost;
+        }
+        value = value * 10 - digit;
     }
     if (negative) {
-        return static_cast<int>(-std::min(value, kMost + 1));
+        return value;
     }
-    return static_cast<int>(std::min(value, kMost));
+    return value == kLeast ? kMost : -value;
+}
+
+} // namespace
+
+int TextToInt(std::wstring_view text) {
+    return ToWhole<int>(text);
+}
+
+long TextToLong(std::wstring_view text) {
+    return ToWhole<long>(text);
+}
+
+double TextToDouble(const std::wstring& text) {
+    // The locale of the process is the user's, and may have a decimal comma.
+    static const locale_t kNoLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return wcstod_l(text.c_str(), nullptr, kNoLocale);
 }
 
 std::optional<double> TextToReal(std::string_view text) {

@@ -80,3 +80,20 @@ TEST(IniFile, ANewReadForgetsTheOldOne) {
     EXPECT_TRUE(file.GetProblems().empty());
     EXPECT_FALSE(file.Load(folder.Wide("none.ini")));
 }
+
+TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
+    const TempFolder folder;
+    folder.Write("a.damaged-1", "earlier");
+    std::filesystem::create_directory(folder / "a.damaged-2");
+    std::filesystem::create_symlink("nowhere", folder / "a.damaged-3");
+    folder.Write("a", "content");
+    EXPECT_EQ(SetFileAside(folder.Wide("a"), L".damaged-"), folder.Wide("a.damaged-4"));
+    EXPECT_FALSE(folder.Has("a"));
+    EXPECT_EQ(folder.Read("a.damaged-1"), "earlier");
+    EXPECT_EQ(folder.Read("a.damaged-4"), "content");
+
+    EXPECT_FALSE(SetFileAside(folder.Wide("a"), L".damaged-"));
+    EXPECT_EQ(LastErrorText().Str(), L"No such file or directory");
+    EXPECT_FALSE(SetFileAside(folder.Wide("a.damaged-2"), L".damaged-"));
+    EXPECT_TRUE(folder.Has("a.damaged-2"));
+}

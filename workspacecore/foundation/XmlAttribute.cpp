@@ -59,14 +59,14 @@ private:
 
 } // namespace
 
-std::optional<std::wstring_view> FindXmlAttribute(std::wstring_view tag, std::wstring_view name,
-                                                  bool bIgnoreCase) {
+void FindXmlAttributes(std::wstring_view tag, std::span<const std::wstring_view> names,
+                       bool bIgnoreCase, std::span<std::optional<std::wstring_view>> values) {
     TagTokens tokens(tag);
     tokens.Name(); // the element's own
-    for (;;) {
+    for (std::size_t nMissing = names.size(); nMissing > 0;) {
         const wchar_t cFirst = tokens.Peek();
         if (cFirst == L'>' || cFirst == L'/' || cFirst == L'?') {
-            return std::nullopt;
+            return;
         }
         if (cFirst == L'=') {
             tokens.Skip();
@@ -74,12 +74,16 @@ std::optional<std::wstring_view> FindXmlAttribute(std::wstring_view tag, std::ws
             continue;
         }
         const std::wstring_view found = tokens.Name();
-        if (MatchXmlName(found, name, bIgnoreCase)) {
-            if (tokens.Peek() != L'=') {
-                return found;
-            }
+        std::wstring_view value = found;
+        if (tokens.Peek() == L'=') {
             tokens.Skip();
-            return tokens.Value();
+            value = tokens.Value();
+        }
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            if (!values[i] && MatchXmlName(found, names[i], bIgnoreCase)) {
+                values[i] = value;
+                --nMissing;
+            }
         }
     }
 }

@@ -184,6 +184,17 @@ bool XmlDocument::SetDoc(const wchar_t* pszText) {
     return Parse();
 }
 
+bool XmlDocument::SetDocUtf8(std::string_view text) {
+    Clear();
+    if (static_cast<long long>(text.size()) > kMostCharacters) {
+        m_strErrorText = TooLarge(static_cast<long long>(text.size()), L"bytes");
+    } else {
+        m_docText = WideBuffer(text.size());
+        m_docText.Shorten(Utf8ToWide(text, m_docText.Data()));
+    }
+    return Parse();
+}
+
 bool XmlDocument::Load(const wchar_t* pszPath) {
     TextFile file;
     if (!file.Open(pszPath)) {
@@ -304,12 +315,19 @@ bool XmlDocument::OutOfElem() {
 }
 
 CString XmlDocument::GetAttrib(const wchar_t* pszName) const {
-    if (m_nPos == 0 || m_nNodeType != XML_NODE_ELEMENT || !pszName) {
+    if (!pszName) {
         return CString();
     }
-    const auto nTag = static_cast<std::size_t>(m_index[m_nPos].start) + 1;
-    const auto value = FindXmlAttribute(Text().substr(nTag), pszName, IgnoresCase());
+    const auto [value] = GetRawAttribs<1>({pszName});
     return value ? UnescapeEntities(*value) : CString();
+}
+
+void XmlDocument::FindRawAttribs(std::span<const std::wstring_view> names,
+                                 std::span<std::optional<std::wstring_view>> values) const {
+    if (m_nPos != 0 && m_nNodeType == XML_NODE_ELEMENT) {
+        const auto nTag = static_cast<std::size_t>(m_index[m_nPos].start) + 1;
+        FindXmlAttributes(Text().substr(nTag), names, IgnoresCase(), values);
+    }
 }
 
 } // namespace Orvane

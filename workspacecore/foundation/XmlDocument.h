@@ -3,6 +3,8 @@
 
 #include <array>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -38,6 +40,8 @@ public:
 
     /// Takes a text (null: an empty one) and tells whether it is well formed.
     bool SetDoc(const wchar_t* pszText);
+    /// The same for a text in UTF-8, which may hold anything.
+    bool SetDocUtf8(std::string_view text);
     /// Reads a UTF-8 file. GetError holds a report after a good load, too.
     bool Load(const wchar_t* pszPath);
     /// Writes the text as UTF-8, as it stands. GetError holds a report afterwards.
@@ -55,6 +59,15 @@ public:
     /// The value of an attribute of the current element with its entities decoded, or
     /// an empty text.
     CString GetAttrib(const wchar_t* pszName) const;
+    /// Several attributes in one walk over the tag, as they stand in the text, entities and
+    /// all: parts of it that hold until the next document. No value where there is none.
+    template <std::size_t N>
+    std::array<std::optional<std::wstring_view>, N>
+    GetRawAttribs(const std::array<std::wstring_view, N>& names) const {
+        std::array<std::optional<std::wstring_view>, N> values;
+        FindRawAttribs(names, values);
+        return values;
+    }
 
     static constexpr int kIgnoreCase = 8; ///< names compare ignoring case
     int GetDocFlags() const { return m_nDocFlags; }
@@ -76,6 +89,8 @@ private:
     bool Parse();
     CString BuildIndex();
     std::wstring_view ElementName(int nRecord) const;
+    void FindRawAttribs(std::span<const std::wstring_view> names,
+                        std::span<std::optional<std::wstring_view>> values) const;
     void Swap(XmlDocument& other) noexcept;
     void SetCursor(int nParent, int nPos, int nChild);
 

@@ -1,8 +1,13 @@
 #include "workspacecore/foundation/XmlField.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstdint>
+#include <limits>
 
 #include "platform/win/CodePage.h"
+#include "platform/win/Number.h"
 #include "workspacecore/foundation/XmlDocument.h"
 
 namespace Orvane {
@@ -11,9 +16,9 @@ namespace {
 
 constexpr std::size_t kPairLength = 3; ///< "=" and two digits
 
-void AppendPair(std::wstring& text, unsigned nValue) {
-    constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
-    text += L'=';
+void AppendPair(std::string& text, unsigned nValue) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    text += '=';
     text += kDigits[nValue >> 4 & 0xF];
     text += kDigits[nValue & 0xF];
 }
@@ -46,16 +51,21 @@ std::size_t SequencePairs(unsigned nFirst) {
     return 0;
 }
 
+/// ASCII is the same on every page.
+wchar_t Wide(unsigned char byte) {
+    return byte < 0x80 ? static_cast<wchar_t>(byte) : AnsiToWide(byte);
+}
+
 /// Decodes what stands at the "=" at the front of the bytes and returns how many of them
 /// were used; 0 if the text ends within it.
-std::size_t DecodeOne(std::string_view bytes, std::string& result) {
+std::size_t DecodeOne(std::string_view bytes, std::wstring& result) {
     constexpr unsigned kLastPlain = 126;
     if (bytes.size() < kPairLength) {
         return 0;
     }
     const unsigned nFirst = Pair(bytes);
     if (nFirst <= kLastPlain) {
-        result += static_cast<char>(nFirst);
+        result += static_cast<wchar_t>(nFirst);
         return kPairLength;
     }
     const std::size_t nPairs = SequencePairs(nFirst);
@@ -68,31 +78,34 @@ std::size_t DecodeOne(std::string_view bytes, std::string& result) {
     }
     const unsigned nSecondLast = Pair(bytes.substr(nLength - 2 * kPairLength));
     const unsigned nLast = Pair(bytes.substr(nLength - kPairLength));
-    result += static_cast<char>((nSecondLast - 2) * 64 + nLast);
+    result += Wide(static_cast<unsigned char>((nSecondLast - 2) * 64 + nLast));
     return nLength;
 }
 
-} // namespace
-
-CString EncodeXmlField(const wchar_t* pszValue) {
-    constexpr int kFlags = XmlDocument::kEscapeQuotes | XmlDocument::kEscapeKeepReferences;
-    return EncodeEqualsHex(XmlDocument::EscapeEntities(pszValue ? pszValue : L"", kFlags).View());
+/// How many characters at the front of a text stand for themselves in an attribute.
+std::size_t PlainLength(std::wstring_view text) {
+    static constexpr auto kPlain = [] {
+        std::array<bool, 0x80> plain{};
+        std::fill(plain.begin() + 1, plain.end(), true);
+        for (const wchar_t c : {L'<', L'&', L'>', L'\'', L'"', L'='}) {
+            plain[static_cast<std::size_t>(c)] = false;
+        }
+        return plain;
+    }();
+    const auto hit = std::find_if_not(text.begin(), text.end(), [](wchar_t c) {
+        const auto nCode = static_cast<std::uint32_t>(c);
+        return nCode < kPlain.size() && kPlain[nCode];
+    });
+    return static_cast<std::size_t>(hit - text.begin());
 }
 
-CString DecodeXmlField(const wchar_t* pszRaw) {
-    return DecodeEqualsHex(XmlDocument::UnescapeEntities(pszRaw ? pszRaw : L"").View());
-}
-
-CString EncodeEqualsHex(std::wstring_view text) {
-    const std::string bytes = WideToAnsi(text);
-    std::wstring result;
-    result.reserve(bytes.size());
-    for (const char c : bytes) {
+void AppendEqualsHex(std::string& result, std::wstring_view text) {
+    for (const char c : WideToAnsi(text)) {
         const unsigned nByte = static_cast<unsigned char>(c);
         if (c == '=') {
             AppendPair(result, nByte);
         } else if (nByte < 0x80) {
-            result += static_cast<wchar_t>(nByte);
+            result += c;
         } else {
             // The byte counts as negative and is widened to 0xFF80 and above before it is
             // brought to UTF-8. Files in use are written so.
@@ -102,12 +115,65 @@ CString EncodeEqualsHex(std::wstring_view text) {
             AppendPair(result, 0x80 | (nWidened & 0x3F));
         }
     }
-    return CString(std::move(result));
+}
+
+} // namespace
+
+CString EncodeXmlField(const wchar_t* pszValue) {
+    std::string text;
+    AppendXmlField(text, pszValue);
+    return CString(std::wstring(text.begin(), text.end()));
+}
+
+void AppendXmlField(std::string& text, const CString& strValue) {
+    constexpr int kFlags = XmlDocument::kEscapeQuotes | XmlDocument::kEscapeKeepReferences;
+    const std::wstring_view value = strValue.View();
+    const std::size_t nPlain = PlainLength(value);
+    const std::size_t nBefore = text.size();
+    text.resize(nBefore + nPlain);
+    std::transform(value.begin(), value.begin() + static_cast<std::ptrdiff_t>(nPlain),
+                   text.begin() + static_cast<std::ptrdiff_t>(nBefore),
+                   [](wchar_t c) { return static_cast<char>(c); });
+    if (nPlain < value.size()) {
+        // As far as a text without its length goes.
+        const std::wstring_view rest(strValue.GetString() + nPlain);
+        AppendEqualsHex(text, XmlDocument::EscapeEntities(rest, kFlags).View());
+    }
+}
+
+void AppendXmlInt(std::string& text, int nValue) {
+    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{}; // with a sign
+    text.append(digits.data(),
+                std::to_chars(digits.data(), digits.data() + digits.size(), nValue).ptr);
+}
+
+CString DecodeXmlField(const wchar_t* pszRaw) {
+    const std::wstring_view raw(pszRaw ? pszRaw : L"");
+    return raw.find(L'&') == raw.npos ? DecodeEqualsHex(raw)
+                                      : DecodeEqualsHex(XmlDocument::UnescapeEntities(raw).View());
+}
+
+CString XmlFieldText(std::optional<std::wstring_view> raw) {
+    const std::wstring_view text = raw.value_or(std::wstring_view());
+    return PlainLength(text) == text.size() ? CString(text)
+                                            : DecodeXmlField(XmlDocument::UnescapeEntities(text));
+}
+
+int XmlFieldInt(std::optional<std::wstring_view> raw) {
+    const std::wstring_view text = raw.value_or(std::wstring_view());
+    return text.find(L'&') == text.npos ? TextToInt(text)
+                                        : TextToInt(XmlDocument::UnescapeEntities(text).View());
+}
+
+CString EncodeEqualsHex(std::wstring_view text) {
+    std::string result;
+    AppendEqualsHex(result, text);
+    return CString(std::wstring(result.begin(), result.end()));
 }
 
 CString DecodeEqualsHex(std::wstring_view text) {
     const std::string bytes = WideToAnsi(text);
-    std::string result;
+    std::wstring result;
     result.reserve(bytes.size());
     for (std::string_view rest = bytes; !rest.empty();) {
         std::size_t nUsed = 1;
@@ -117,11 +183,11 @@ CString DecodeEqualsHex(std::wstring_view text) {
                 break;
             }
         } else {
-            result += rest.front();
+            result += Wide(static_cast<unsigned char>(rest.front()));
         }
         rest.remove_prefix(nUsed);
     }
-    return CString(AnsiToWide(result));
+    return CString(std::move(result));
 }
 
 } // namespace Orvane

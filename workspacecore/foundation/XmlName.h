@@ -31,7 +31,10 @@ inline bool MatchXmlName(std::wstring_view candidate, std::wstring_view searched
     const bool bSame =
         bIgnoreCase ? std::equal(candidate.begin(), candidate.end(), searched.begin(),
                                  [](wchar_t a, wchar_t b) { return ToLower(a) == ToLower(b); })
-                    : std::wmemcmp(candidate.data(), searched.data(), nLength) == 0;
+                    : nLength == 0 ||
+                          // Most names differ here, and need no call.
+                          (candidate.front() == searched.front() &&
+                           std::wmemcmp(candidate.data(), searched.data(), nLength) == 0);
     constexpr std::wstring_view kEnds = L" =/[]";
     return bSame && (nLength == searched.size() || kEnds.find(searched[nLength]) != kEnds.npos);
 }

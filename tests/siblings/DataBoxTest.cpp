@@ -1,0 +1,79 @@
+#include "siblings/giscore/DataBox.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "platform/win/CodePage.h"
+
+namespace Orvane::Data {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr int kMostInt = std::numeric_limits<int>::max();
+constexpr int kLeastInt = std::numeric_limits<int>::min();
+constexpr long kMostLong = std::numeric_limits<long>::max();
+constexpr long kLeastLong = std::numeric_limits<long>::min();
+
+CStringArray List(std::initializer_list<const wchar_t*> pieces) {
+    CStringArray list;
+    for (const wchar_t* piece : pieces) {
+        list.Add(piece);
+    }
+    return list;
+}
+
+TEST(DataBox, EveryKindIsGivenOutAsEveryOther) {
+    const struct {
+        CDataBox box;
+        int type;
+        double asDouble;
+        int asInt;
+        long asLong;
+        const wchar_t* asText;
+    } cases[] = {
+        {{}, 0, 0, 0, 0, L""},
+        {1.0 / 3, 5001, 1.0 / 3, 0, 0, L"0.3333333333333333"},
+        {-2.9, 5001, -2.9, -2, -2, L"-2.9"},
+        {1e10, 5001, 1e10, kMostInt, 10000000000L, L"1e+10"},
+        {9223372036854775808.0, 5001, 9223372036854775808.0, kMostInt, kMostLong,
+         L"9223372036854775808"},
+        {-1e300, 5001, -1e300, kLeastInt, kLeastLong, L"-1e+300"},
+        {kInfinity, 5001, kInfinity, kMostInt, kMostLong, L"inf"},
+        {-7, 5003, -7, -7, -7, L"-7"},
+        {kLeastInt, 5003, kLeastInt, kLeastInt, kLeastInt, L"-2147483648"},
+        {true, 5003, 1, 1, 1, L"1"},
+        {2147483648L, 5010, 2147483648.0, kMostInt, 2147483648L, L"2147483648"},
+        {kLeastLong, 5010, -9223372036854775808.0, kLeastInt, kLeastLong, L"-9223372036854775808"},
+        {L" 12.75 m", 5005, 12.75, 12, 12, L" 12.75 m"},
+        {L"99999999999999999999", 5005, 1e20, kMostInt, kMostLong, L"99999999999999999999"},
+        {L"m 12", 5005, 0, 0, 0, L"m 12"},
+        {CString(L"1,5"), 5005, 1, 1, 1, L"1,5"},
+        {static_cast<const wchar_t*>(nullptr), 5005, 0, 0, 0, L""},
+        {List({L"3", L"", L"b"}), 5023, 3, 3, 3, L"3;;b"},
+        {List({}), 5023, 0, 0, 0, L""},
+    };
+    for (const auto& row : cases) {
+        const std::string name = WideToUtf8(row.asText) + " of " + std::to_string(row.type);
+        EXPECT_EQ(row.box.GetDataType(), row.type) << name;
+        EXPECT_EQ(row.box.IsNull(), row.type == 0) << name;
+        EXPECT_EQ(static_cast<double>(row.box), row.asDouble) << name;
+        EXPECT_EQ(static_cast<int>(row.box), row.asInt) << name;
+        EXPECT_EQ(static_cast<long>(row.box), row.asLong) << name;
+        EXPECT_EQ(static_cast<CString>(row.box), row.asText) << name;
+    }
+    EXPECT_EQ(static_cast<int>(CDataBox(kNoNumber)), 0);
+    EXPECT_EQ(static_cast<long>(CDataBox(kNoNumber)), 0);
+}
+
+TEST(DataBox, OnlyAListHasPieces) {
+    CDataBox box(List({L"1#a#x", L""}));
+    ASSERT_EQ(box.GetStringArray().GetCount(), 2);
+    EXPECT_EQ(box.GetStringArray()[0], L"1#a#x");
+    box.SetValue(L"1;2");
+    EXPECT_TRUE(box.GetStringArray().IsEmpty());
+    EXPECT_TRUE(CDataBox().GetStringArray().IsEmpty());
+}
+
+} // namespace
+} // namespace Orvane::Data

@@ -1,0 +1,377 @@
+#include <boost/make_shared.hpp>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/arx/ApDocManager.h"
+#include "platform/arx/DbUndo.h"
+#include "siblings/cadwrapper/DictionaryPtr.h"
+#include "siblings/logging/LogEngine.h"
+#include "tests/support/TestHost.h"
+#include "workspacecore/dialogs/UiStates.h"
+
+namespace Orvane::Workspace {
+namespace {
+
+using Data::CDataBox;
+
+boost::shared_ptr<CStateAttribute> Attribute(const wchar_t* id, const CDataBox& value) {
+    return boost::make_shared<CStateAttribute>(id, value);
+}
+
+boost::shared_ptr<CDialogState> Dialog(const wchar_t* id, int left = 0) {
+    auto state = boost::make_shared<CDialogState>();
+    state->SetId(id);
+    state->SetLeft(left);
+    return state;
+}
+
+CUiStates OneDialog(const wchar_t* id) {
+    CUiStates states;
+    states.AddDialogState(Dialog(id));
+    return states;
+}
+
+/// Ids and lefts of the dialogs with the ids, types and values of their attributes.
+std::string Content(const CUiStates& states) {
+    std::wstring text;
+    for (const auto& dialog : *states.GetDialogStateVector()) {
+        text += FormatText(L"%s@%d(", dialog->GetId(), dialog->GetLeft());
+        for (const auto& attribute : *dialog->GetStateAttributeVector()) {
+            text += FormatText(L"%s:%d=%s,", attribute->GetId(), attribute->GetType(),
+                               attribute->GetValue());
+        }
+        text += L")";
+    }
+    return WideToUtf8(text);
+}
+
+constexpr const char* kTwoDialogs =
+    R"(<uiStates><dialogState id="a" top="1" left="-2" width="3" height="4" resizable="1" )"
+    R"(docked="0" side="0" ><stateAttribute id="k" type="5005" value="x=3Dy" >)"
+    R"(</stateAttribute></dialogState><dialogState id="b" top="0" left="0" width="0" height="0" )"
+    R"(resizable="0" docked="0" side="0" ></dialogState></uiStates>)";
+
+class UiStatesFile : public testing::Test {
+protected:
+    int Load(CUiStates& states) const { return states.Load(m_folder.Wide("s.xml")); }
+    /// What happens to a record of one dialog when a file of this content is loaded.
+    std::string AfterLoading(const std::string& bytes) const {
+        m_folder.Write("s.xml", bytes);
+        CUiStates states = OneDialog(L"old");
+        const int result = Load(states);
+        return std::to_string(result) + " " + Content(states);
+    }
+    std::size_t Files() const {
+        const std::filesystem::directory_iterator files(m_folder / "");
+        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+    }
+
+    TempFolder m_folder;
+};
+
+} // namespace
+
+TEST(UiStates, WritesTheFixedForm) {
+    CUiStates states;
+    EXPECT_EQ(states.GetXML(), L"<uiStates></uiStates>");
+    EXPECT_EQ(states.ParseXML(states.GetXML()), 1);
+    ASSERT_EQ(states.ParseXML(Utf8ToWide(kTwoDialogs).c_str()), 1);
+    EXPECT_EQ(states.GetXML(), Utf8ToWide(kTwoDialogs).c_str());
+    const CDialogState& dialog = *states.GetDialogStateById(L"a");
+    EXPECT_EQ(dialog.GetTop(), 1);
+    EXPECT_EQ(dialog.GetLeft(), -2);
+    EXPECT_EQ(dialog.GetWidth(), 3);
+    EXPECT_EQ(dialog.GetHeight(), 4);
+    EXPECT_EQ(dialog.GetResizable(), 1);
+    EXPECT_EQ(dialog.GetStateAttributeById(L"k")->GetValue(), L"x=y");
+    EXPECT_EQ(dialog.GetStateAttributeById(L"K"), nullptr);
+    EXPECT_EQ(dialog.GetStateAttributeById(nullptr), nullptr);
+}
+
+TEST(UiStates, ValuesComeBackThroughTheText) {
+    const struct {
+        CDataBox value;
+        int type;
+        const wchar_t* text;
+    } cases[] = {
+        {L"a = b;c", 5005, L"a = b;c"},
+        {L"Stra\u00DFe \u20AC <'\">&", 5005, L"Stra\u00DFe \u20AC <'\">&"},
+        // References are resolved by the reader, whoever wrote them.
+        {L"a&amp;b", 5005, L"a&b"},
+        {L"\u4E2D\u00E4", 5005, L"?\u00E4"},
+        {std::numeric_limits<int>::min(), 5003, L"-2147483648"},
+        {std::numeric_limits<long>::max(), 5010, L"9223372036854775807"},
+        {0.1, 5001, L"0.1"},
+        {CDataBox(), 0, L""},
+        {CString(L'x', 5'000'000), 5005, nullptr},
+    };
+    for (const auto& row : cases) {
+        CUiStates states = OneDialog(L"d");
+        (*states.GetDialogStateVector())[0]->AddStateAttribute(Attribute(L"k \u00E8", row.value));
+        CUiStates again;
+        ASSERT_EQ(again.ParseXML(states.GetXML()), 1);
+        const auto attribute = again.GetDialogStateById(L"d")->GetStateAttributeById(L"k \u00E8");
+        ASSERT_NE(attribute, nullptr) << row.type;
+        EXPECT_EQ(attribute->GetType(), row.type);
+        const CString expected = row.text ? CString(row.text) : static_cast<CString>(row.value);
+        EXPECT_TRUE(attribute->GetValue() == expected) << WideToUtf8(expected.Left(40).View());
+    }
+}
+
+TEST(UiStates, TheTypeDecidesWhatAValueIs) {
+    const struct {
+        int type;
+        const wchar_t* value;
+        int boxType;
+        const wchar_t* boxText;
+        int pieces;
+    } cases[] = {
+        {5001, L" 1.50m", 5001, L"1.5", 0},
+        {5001, L"", 5001, L"0", 0},
+        {5003, L"12.9", 5003, L"12", 0},
+        {5003, L"99999999999", 5003, L"2147483647", 0},
+        {5005, L"a;b", 5005, L"a;b", 0},
+        {5010, L"99999999999", 5010, L"99999999999", 0},
+        {5023, L"a;;b;", 5023, L"a;;b;", 4},
+        {5023, L"", 5023, L"", 0},
+        {0, L"1", 0, L"", 0},
+        {5002, L"1", 0, L"", 0},
+        {-5003, L"1", 0, L"", 0},
+    };
+    for (const auto& row : cases) {
+        const CDataBox box = CStateAttribute(L"k", row.type, row.value).GetDataBox();
+        const std::string name = std::to_string(row.type) + WideToUtf8(row.value);
+        EXPECT_EQ(box.GetDataType(), row.boxType) << name;
+        EXPECT_EQ(static_cast<CString>(box), row.boxText) << name;
+        EXPECT_EQ(box.GetStringArray().GetCount(), row.pieces) << name;
+    }
+}
+
+TEST(UiStates, OfTwoWithOneIdTheFirstIsFound) {
+    CUiStates states;
+    const auto first = Dialog(L"d", 1);
+    const auto second = Dialog(L"d", 2);
+    first->AddStateAttribute(Attribute(L"k", 1));
+    first->AddStateAttribute(Attribute(L"k", 2));
+    states.AddDialogState(first);
+    states.AddDialogState(second);
+    CUiStates again;
+    ASSERT_EQ(again.ParseXML(states.GetXML()), 1);
+    EXPECT_EQ(Content(again), "d@1(k:5003=1,k:5003=2,)d@2()");
+    EXPECT_EQ(again.GetDialogStateById(L"d")->GetLeft(), 1);
+    EXPECT_EQ(first->GetStateAttributeById(L"k")->GetValue(), L"1");
+
+    // The id goes from the look-up, whichever of them is taken off.
+    states.RemoveDialogState((*states.GetDialogStateVector())[1]);
+    EXPECT_EQ(Content(states), "d@1(k:5003=1,k:5003=2,)");
+    EXPECT_EQ(states.GetDialogStateById(L"d"), nullptr);
+    first->RemoveStateAttribute((*first->GetStateAttributeVector())[0]);
+    EXPECT_EQ(Content(states), "d@1(k:5003=2,)");
+    EXPECT_EQ(first->GetStateAttributeById(L"k"), nullptr);
+    states.RemoveDialogState(second);
+    EXPECT_EQ(states.GetDialogStateVector()->size(), 1U);
+    states.Clear();
+    EXPECT_EQ(states.GetXML(), L"<uiStates></uiStates>");
+}
+
+TEST(UiStates, DeepCopiesAreSeparateAtTheirOwnLevelOnly) {
+    CUiStates states = OneDialog(L"d");
+    const auto dialog = states.GetDialogStateById(L"d");
+    dialog->AddStateAttribute(Attribute(L"k", 1));
+    const CUiStates shallow(states);
+    CUiStates deep = OneDialog(L"old");
+    states.MakeDeepCopy(deep);
+    CDialogState deepDialog;
+    deepDialog.AddStateAttribute(Attribute(L"old", 1));
+    dialog->MakeDeepCopy(deepDialog);
+
+    dialog->SetLeft(5);
+    dialog->GetStateAttributeById(L"k")->SetValue(L"2");
+    EXPECT_EQ(Content(shallow), "d@5(k:5003=2,)");
+    EXPECT_EQ(Content(deep), "d@0(k:5003=2,)");
+    EXPECT_EQ(deepDialog.GetXML().Find(L"old"), -1);
+    EXPECT_EQ(deepDialog.GetStateAttributeById(L"k")->GetValue(), L"1");
+}
+
+TEST(UiStates, BadTextsGiveWhatCanBeRead) {
+    const struct {
+        const char* name;
+        const wchar_t* text;
+        int result;
+        const char* content;
+    } cases[] = {
+        {"none", nullptr, 0, ""},
+        {"empty", L"", 0, ""},
+        {"wrong root", L"<states><dialogState id='a'/></states>", 0, ""},
+        {"longer root", L"<uiStates2><dialogState id='a'/></uiStates2>", 0, ""},
+        {"root with blanks", L" <uiStates >\n<dialogState id='a'/>\n</uiStates >", 1, "a@0()"},
+        {"nothing given", L"<uiStates><dialogState><stateAttribute/></dialogState></uiStates>", 1,
+         "@0(:0=,)"},
+        {"out of range", L"<uiStates><dialogState left='9999999999'><stateAttribute id='k' "
+                         L"type='-9999999999'/></dialogState></uiStates>",
+         1, "@2147483647(k:-2147483648=,)"},
+        {"no numbers", L"<uiStates><dialogState left='x1'/><dialogState left=' 7px'/></uiStates>",
+         1, "@0()@7()"},
+        {"elements in between",
+         L"<uiStates><stateAttribute id='z'/><x><dialogState id='y'/></x><dialogState id='a'>"
+         L"<x/><stateAttribute id='k'/><dialogState id='b'/></dialogState></uiStates>",
+         1, "a@0(k:0=,)"},
+        {"entity in a number", L"<uiStates><dialogState left='&#49;2'/></uiStates>", 1, "@12()"},
+        {"cut escape", L"<uiStates><dialogState id='ab=EF=B'/></uiStates>", 1, "ab@0()"},
+        {"dialog not ended", L"<uiStates><dialogState id='a'><stateAttribute id='k'/></uiStates>",
+         1, "a@0()"},
+    };
+    for (const auto& row : cases) {
+        CUiStates states = OneDialog(L"old");
+        EXPECT_EQ(states.ParseXML(row.text), row.result) << row.name;
+        EXPECT_EQ(Content(states), row.content) << row.name;
+        EXPECT_EQ(states.GetDialogStateById(L"old"), nullptr) << row.name;
+    }
+}
+
+TEST_F(UiStatesFile, CutAnywhereItIsNotTakenAndKept) {
+    const std::string whole = kTwoDialogs;
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        const std::string cut = whole.substr(0, length);
+        EXPECT_EQ(AfterLoading(cut), "0 old@0()") << length;
+        EXPECT_FALSE(m_folder.Has("s.xml"));
+        EXPECT_EQ(m_folder.Read("s.xml.damaged-1"), cut);
+        std::filesystem::remove(m_folder / "s.xml.damaged-1");
+    }
+    EXPECT_EQ(AfterLoading(whole), "1 a@-2(k:5005=x=y,)b@0()");
+    EXPECT_EQ(Files(), 1U);
+}
+
+TEST_F(UiStatesFile, OtherEncodings) {
+    const std::string one = "<uiStates><dialogState id='\xE4' left='1'/></uiStates>";
+    std::string wide;
+    for (const char c : one) {
+        (wide += c) += '\0';
+    }
+    EXPECT_EQ(AfterLoading("\xEF\xBB\xBF" + std::string(kTwoDialogs)),
+              "1 a@-2(k:5005=x=y,)b@0()");
+    EXPECT_EQ(AfterLoading("<?xml version='1.0'?>\r\n" + std::string(kTwoDialogs) + "\r\n"),
+              "1 a@-2(k:5005=x=y,)b@0()");
+    EXPECT_EQ(AfterLoading(one), "1 ?@1()");
+    EXPECT_EQ(AfterLoading("<uiStates><dialogState id='ä' left='1'/></uiStates>"), "1 ä@1()");
+    EXPECT_EQ(Files(), 1U);
+    EXPECT_EQ(AfterLoading("\xFF\xFE" + wide), "0 old@0()");
+    EXPECT_EQ(AfterLoading('\0' + wide), "0 old@0()");
+}
+
+TEST_F(UiStatesFile, ADamagedOneIsReportedAndNoneIsLost) {
+    CLogEngine::SetLogging(1, m_folder.Native("trace.log"));
+    EXPECT_EQ(AfterLoading("<uiStates><a></uiStates>"), "0 old@0()");
+    // Well formed, but nothing of ours: the record is emptied, and the file is kept as well.
+    EXPECT_EQ(AfterLoading("<other/>"), "0 ");
+    EXPECT_EQ(m_folder.Read("s.xml.damaged-1"), "<uiStates><a></uiStates>");
+    EXPECT_EQ(m_folder.Read("s.xml.damaged-2"), "<other/>");
+    const std::string trace = m_folder.Read("trace.log");
+    EXPECT_NE(trace.find("End tag 'uiStates'"), std::string::npos) << trace;
+    EXPECT_NE(trace.find("s.xml.damaged-2"), std::string::npos) << trace;
+
+    CUiStates states;
+    EXPECT_EQ(Load(states), 0);
+    EXPECT_EQ(m_folder.Read("trace.log"), trace) << "a first start is no damage";
+    std::filesystem::create_directory(m_folder / "s.xml");
+    EXPECT_EQ(Load(states), 0);
+    EXPECT_EQ(states.Save(m_folder.Wide("s.xml")), 0);
+    EXPECT_TRUE(std::filesystem::is_directory(m_folder / "s.xml"));
+}
+
+TEST_F(UiStatesFile, AFullDiskLeavesTheOldOne) {
+    ASSERT_EQ(OneDialog(L"before").Save(m_folder.Wide("s.xml")), 1);
+    CUiStates states = OneDialog(L"after");
+    states.GetDialogStateById(L"after")->AddStateAttribute(
+        Attribute(L"k", CString(L'x', 100'000)));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit little{50'000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    EXPECT_EQ(states.Save(m_folder.Wide("s.xml")), 0);
+    setrlimit(RLIMIT_FSIZE, &before);
+    CUiStates read;
+    EXPECT_EQ(Load(read), 1);
+    EXPECT_EQ(Content(read), "before@0()");
+    EXPECT_EQ(Files(), 1U) << "a draft was left behind";
+    EXPECT_EQ(states.Save(m_folder.Wide("no/such/folder.xml")), 0);
+}
+
+TEST_F(UiStatesFile, KilledAtAnyMomentThereIsAWholeOne) {
+    const CUiStates one = OneDialog(L"one");
+    CUiStates many;
+    for (int i = 0; i < 2000; ++i) {
+        many.AddDialogState(Dialog(L"many", i));
+    }
+    const CString path = m_folder.Wide("s.xml");
+    ASSERT_EQ(one.Save(path), 1);
+    for (int round = 0; round < 15; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (;;) {
+                one.Save(path);
+                many.Save(path);
+            }
+        }
+        usleep(static_cast<useconds_t>(1000 + 1700 * round));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        CUiStates read;
+        ASSERT_EQ(Load(read), 1) << round;
+        const std::size_t count = read.GetDialogStateVector()->size();
+        EXPECT_TRUE(count == 1 || count == 2000) << count;
+    }
+}
+
+TEST_F(UiStatesFile, TwoMillionAttributesAreRead) {
+    constexpr std::size_t kMany = 2'000'000;
+    std::string text = "<uiStates><dialogState id='d' ";
+    for (std::size_t i = 0; i < kMany; ++i) {
+        text += "a ";
+    }
+    text += "left='3'>";
+    for (std::size_t i = 0; i < kMany; ++i) {
+        text += "<stateAttribute/>";
+    }
+    m_folder.Write("s.xml", text + "</dialogState></uiStates>");
+    CUiStates states;
+    ASSERT_EQ(Load(states), 1);
+    const auto dialog = states.GetDialogStateById(L"d");
+    EXPECT_EQ(dialog->GetLeft(), 3);
+    EXPECT_EQ(dialog->GetStateAttributeVector()->size(), kMany);
+    EXPECT_EQ(dialog->GetStateAttributeMapById()->size(), 1U);
+}
+
+TEST(UiStatesInDrawing, AreNoStepOfItsHistory) {
+    AcApDocument* const pDoc = acDocManagerPtr()->newDocument(L"a.dwg");
+    CUiStates states = OneDialog(L"old");
+    EXPECT_EQ(states.LoadFromDictionary(), 1) << "a drawing without the record";
+    EXPECT_EQ(Content(states), "old@0()");
+
+    pDoc->database()->appendEntity(std::make_unique<AcDbPoint>());
+    ASSERT_EQ(OneDialog(L"kept").SaveToDictionary(), 1);
+    EXPECT_TRUE(pDoc->database()->isModified());
+    EXPECT_FALSE(pDoc->isLocked());
+    EXPECT_FALSE(pDoc->database()->isUndoRecordingDisabled());
+    EXPECT_TRUE(pDoc->database()->undo().undo());
+    EXPECT_EQ(pDoc->database()->entityCount(), 0U);
+    EXPECT_EQ(states.LoadFromDictionary(), 1);
+    EXPECT_EQ(Content(states), "kept@0()");
+
+    CORVCDictionaryPtr dictionary(AcDb::kForWrite);
+    for (const wchar_t* text : {L"", L"<other/>"}) {
+        dictionary.dctWriteBigString(L"ORVZ_UISTATE", L"UIRECORD", text);
+        CUiStates read = OneDialog(L"old");
+        const int result = read.LoadFromDictionary();
+        EXPECT_EQ(std::to_string(result) + Content(read), *text ? "0" : "1old@0()");
+    }
+    acDocManagerPtr()->closeDocument(pDoc);
+    EXPECT_EQ(states.SaveToDictionary(), 0);
+    EXPECT_EQ(states.LoadFromDictionary(), 1);
+}
+
+} // namespace Orvane::Workspace

@@ -61,9 +61,8 @@ double Contrast(std::uint32_t pixel, const std::array<int, 3>& ground) {
 
 /// How many pixels of a picture stand out clearly.
 long Visible(const CImage& image, const std::array<int, 3>& ground) {
-    return std::count_if(
-        image.Pixels().begin(), image.Pixels().end(),
-        [&ground](std::uint32_t pixel) { return Contrast(pixel, ground) >= 2.5; });
+    return std::count_if(image.Pixels().begin(), image.Pixels().end(),
+                         [&ground](std::uint32_t pixel) { return Contrast(pixel, ground) >= 2.5; });
 }
 
 class IconsTest : public testing::Test {
@@ -100,8 +99,8 @@ TEST_F(IconsTest, NoLineIsAsLightOrAsDarkAsAGround) {
 }
 
 TEST_F(IconsTest, AllDrawingsOfTheFolderAreAskedForByName) {
-    for (const auto& entry : std::filesystem::directory_iterator(TESSALY_STAGE_DIR
-                                                                 "/share/icons")) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator(TESSALY_STAGE_DIR "/share/icons")) {
         const std::wstring name = entry.path().stem().wstring();
         EXPECT_TRUE(std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames) ||
                     name == L"IDI_EMPTY_16" || name == L"TESSALY")

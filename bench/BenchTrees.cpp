@@ -118,12 +118,13 @@ void Menus() {
     double best = 1e9;
     std::size_t entries = 0;
     for (int run = 0; run < 50; ++run) {
-        best = std::min(best, Milliseconds([&] {
-                            CMenu menu;
-                            menu.CreatePopupMenu();
-                            AppendMenuEntries(menu, TreeMenuEntries(registry, topology, definition));
-                            entries = menu.GetMenuItemCount();
-                        }));
+        best =
+            std::min(best, Milliseconds([&] {
+                         CMenu menu;
+                         menu.CreatePopupMenu();
+                         AppendMenuEntries(menu, TreeMenuEntries(registry, topology, definition));
+                         entries = menu.GetMenuItemCount();
+                     }));
     }
     double bare = 1e9;
     for (int run = 0; run < 50; ++run) {

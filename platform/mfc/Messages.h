@@ -72,6 +72,8 @@ inline constexpr UINT SWP_NOZORDER = 0x0004;
 inline constexpr UINT SWP_NOACTIVATE = 0x0010;
 inline constexpr UINT SWP_SHOWWINDOW = 0x0040;
 inline constexpr UINT SWP_HIDEWINDOW = 0x0080;
+/// In WINDOWPOS alone: the user moves the window, keeping its size.
+inline constexpr UINT SWP_USERMOVE = 0x10000;
 
 /// How a window is shown.
 inline constexpr int SW_HIDE = 0;

@@ -123,6 +123,8 @@ void CModuleConfiguration::ReloadGeneralSettings() {
     System::CGisEvents::Instance()->Raise(&System::ISystemEvents::OnAfterGeneralSettingsChanged);
 }
 
+void CModuleConfiguration::ShowGSDialog(const wchar_t* /*dialogId*/) {}
+
 int CModuleConfiguration::GetNodeIndexCoorPrecision() const {
     int precision = kDefaultPrecision;
     GetGSValueInt(kPrecisionKey, precision);

@@ -47,6 +47,9 @@ public:
     /// Reads the settings file again, the language included, and tells the observers of
     /// the GIS core. Names of topologies keep their language until the next start.
     void ReloadGeneralSettings();
+    /// Shows the general settings in a dialog and reads them again if the user changed any.
+    /// \param dialogId the dialog from which the user came; may be empty
+    void ShowGSDialog(const wchar_t* dialogId);
     /// Decimal places by which coordinates of nodes count as equal; 0 to 9.
     int GetNodeIndexCoorPrecision() const;
 

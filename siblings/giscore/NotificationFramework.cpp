@@ -23,6 +23,10 @@ void CNotificationFramework::UnregisterSubscriber(CSubscriber* pSubscriber) {
     }
 }
 
+void CNotificationFramework::BlockAllResponders() {
+    CPublisher::s_bBlocked = true;
+}
+
 int CNotificationFramework::IsCommandActive() {
     return !Instance()->m_activeCommands.empty();
 }

@@ -21,6 +21,9 @@ public:
     /// Takes a subscriber off every publisher.
     static void UnregisterSubscriber(CSubscriber* pSubscriber);
 
+    /// From now on no publisher tells anybody anything. There is no way back.
+    static void BlockAllResponders();
+
     /// Non-zero while a SetActiveCommand lives.
     static int IsCommandActive();
     /// Name of the command that began last; empty if none is active.

@@ -23,7 +23,12 @@ void CPublisher::UnregisterSubscriber(CSubscriber* pSubscriber) {
     }
 }
 
+bool CPublisher::s_bBlocked = false;
+
 void CPublisher::Notify(void* pHint1, void* pHint2) {
+    if (s_bBlocked) {
+        return;
+    }
     struct Running {
         explicit Running(CPublisher& publisher) : m_publisher(publisher) {
             ++m_publisher.m_nRunning;

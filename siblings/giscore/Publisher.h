@@ -29,6 +29,9 @@ public:
     void Notify(void* pHint1, void* pHint2);
 
 private:
+    friend class CNotificationFramework;
+    static bool s_bBlocked; ///< all of them are
+
     CString m_strName;
     std::vector<CSubscriber*> m_subscribers; ///< null: has gone while somebody was being told
     int m_nRunning = 0;                      ///< calls of Notify under way

@@ -11,6 +11,9 @@ public:
     /// Splits a text at every character of `separators` and puts the pieces, empty ones
     /// included, in place of what the array held. An empty text has no pieces.
     static void SplitString(const wchar_t* text, const wchar_t* separators, CStringArray& pieces);
+    /// Opens the help page of a dialog, or the first page if it has none of its own, in the
+    /// program that the desktop has for it. Nothing happens if there is no help at all.
+    static void ShowHelp(const wchar_t* dialogId);
 };
 
 } // namespace Orvane::Utility

@@ -191,9 +191,10 @@ TEST(Topologies, EntityTypesBelongToTopologies) {
     for (const enmTopologyType topology :
          {TopologyNone, TopologyLine, TopologyPolygon, TopologyPoint, TopologyScheme}) {
         for (const enmEntityType entity :
-             {EntityNone, EntityNode, EntitySection, EntityPolygon, EntityPolygonNode}) {
+             {EntityNode, EntitySection, EntityPolygon, EntityPolygonNode}) {
             count += Configuration().DoesETbelongTT(entity, topology);
         }
+        EXPECT_TRUE(Configuration().DoesETbelongTT(EntityNone, topology)) << "belongs everywhere";
     }
     for (const auto& [entity, topology] : belonging) {
         EXPECT_TRUE(Configuration().DoesETbelongTT(entity, topology)) << entity << ' ' << topology;

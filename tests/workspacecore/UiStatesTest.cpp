@@ -210,8 +210,9 @@ TEST(UiStates, BadTextsGiveWhatCanBeRead) {
         {"root with blanks", L" <uiStates >\n<dialogState id='a'/>\n</uiStates >", 1, "a@0()"},
         {"nothing given", L"<uiStates><dialogState><stateAttribute/></dialogState></uiStates>", 1,
          "@0(:0=,)"},
-        {"out of range", L"<uiStates><dialogState left='9999999999'><stateAttribute id='k' "
-                         L"type='-9999999999'/></dialogState></uiStates>",
+        {"out of range",
+         L"<uiStates><dialogState left='9999999999'><stateAttribute id='k' "
+         L"type='-9999999999'/></dialogState></uiStates>",
          1, "@2147483647(k:-2147483648=,)"},
         {"no numbers", L"<uiStates><dialogState left='x1'/><dialogState left=' 7px'/></uiStates>",
          1, "@0()@7()"},
@@ -251,8 +252,7 @@ TEST_F(UiStatesFile, OtherEncodings) {
     for (const char c : one) {
         (wide += c) += '\0';
     }
-    EXPECT_EQ(AfterLoading("\xEF\xBB\xBF" + std::string(kTwoDialogs)),
-              "1 a@-2(k:5005=x=y,)b@0()");
+    EXPECT_EQ(AfterLoading("\xEF\xBB\xBF" + std::string(kTwoDialogs)), "1 a@-2(k:5005=x=y,)b@0()");
     EXPECT_EQ(AfterLoading("<?xml version='1.0'?>\r\n" + std::string(kTwoDialogs) + "\r\n"),
               "1 a@-2(k:5005=x=y,)b@0()");
     EXPECT_EQ(AfterLoading(one), "1 ?@1()");
@@ -285,8 +285,7 @@ TEST_F(UiStatesFile, ADamagedOneIsReportedAndNoneIsLost) {
 TEST_F(UiStatesFile, AFullDiskLeavesTheOldOne) {
     ASSERT_EQ(OneDialog(L"before").Save(m_folder.Wide("s.xml")), 1);
     CUiStates states = OneDialog(L"after");
-    states.GetDialogStateById(L"after")->AddStateAttribute(
-        Attribute(L"k", CString(L'x', 100'000)));
+    states.GetDialogStateById(L"after")->AddStateAttribute(Attribute(L"k", CString(L'x', 100'000)));
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);

@@ -1,5 +1,6 @@
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 
+#include "platform/xtp/XTPDockingPaneManager.h"
 #include "siblings/giscore/DataConfiguration.h"
 #include "siblings/giscore/GisSystems.h"
 #include "siblings/giscore/Publisher.h"
@@ -17,7 +18,9 @@ namespace {
 
 /// Without a drawing there is nothing that panels and dialogs could show.
 void CloseAllWindows() {
-    // The panes are closed and the dialogs hidden here, once there are any.
+    CWsManager& manager = *CWsManager::Instance();
+    static_cast<CXTPDockingPaneManager*>(manager.PDlgMgr()->GetPanelManager())->CloseAll();
+    manager.DlgMgr()->HideAll();
 }
 
 } // namespace

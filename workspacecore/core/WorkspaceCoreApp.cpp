@@ -30,6 +30,15 @@ protected:
 
 CWorkspaceCoreApp theApp;
 
+/// Nothing tears the workspace down; what dialogs remember is written when the module goes,
+/// with the process.
+__attribute__((destructor)) void SaveAtUnload() {
+    if (CWsManager::IsWSInitialized()) {
+        CWsManager::m_pInstance->DlgMgr()->ReleaseDialogs();
+        CWsManager::m_pInstance->DlgMgr()->SaveDialogStates();
+    }
+}
+
 } // namespace
 
 } // namespace Orvane::Workspace

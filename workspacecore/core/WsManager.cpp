@@ -102,6 +102,18 @@ void CWsManager::RegisterNetTreeControl(CTreeCtrl* pTree) {
     m_TreeMgr.m_views[CWsTreeManager::NetTree] = pTree;
 }
 
+void CWsManager::RegisterWsDialogFactory(boost::shared_ptr<IWsDialogFactory> factory) {
+    m_DlgMgr.GetDlgFactories()->push_back(factory);
+}
+
+void CWsManager::RegisterWsPanelDialog(boost::shared_ptr<CWsPanelDialogMetadata> metadata) {
+    m_PanelDlgMgr.RegisterWsPanelDialog(metadata);
+}
+
+CWsBaseDialog* CWsManager::GetDlgById(const wchar_t* dialogId) {
+    return m_DlgMgr.GetDlgById(dialogId);
+}
+
 void CWsManager::RegisterBaseExecutor(IWsCommandExecutor* pExecutor) {
     if (!m_CmdMgr.m_pBaseExecutor) {
         m_CmdMgr.m_pBaseExecutor = pExecutor;

@@ -8,6 +8,8 @@
 #include "workspacecore/Api.h"
 #include "workspacecore/commands/WsCommandManager.h"
 #include "workspacecore/core/IWsListener.h"
+#include "workspacecore/dialogs/WsDialogManager.h"
+#include "workspacecore/dialogs/WsPanelDialogManager.h"
 #include "workspacecore/panel/WsTreeManager.h"
 #include "workspacecore/plugins/WsPluginManager.h"
 
@@ -49,6 +51,8 @@ public:
     CWsPluginManager* PluginMgr() { return &m_PluginMgr; }
     CWsTreeManager* TreeMgr() { return &m_TreeMgr; }
     CWsCommandManager* CmdMgr() { return &m_CmdMgr; }
+    CWsDialogManager* DlgMgr() { return &m_DlgMgr; }
+    CWsPanelDialogManager* PDlgMgr() { return &m_PanelDlgMgr; }
 
     // Publishers, shared with every module that asks for the same names.
     Notification::CPublisher* GetRefreshAllPbl() const { return m_pRefreshAllPbl; }
@@ -62,6 +66,8 @@ public:
     /// 0 if there is a command of that id already.
     int RegisterWsCommand(boost::shared_ptr<CWsCommand> command);
     void RegisterWsTreeItem(boost::shared_ptr<CWsTreeItemDefinition> definition);
+    void RegisterWsDialogFactory(boost::shared_ptr<IWsDialogFactory> factory);
+    void RegisterWsPanelDialog(boost::shared_ptr<CWsPanelDialogMetadata> metadata);
     /// The first executor stays; later ones are passed over. Not owned.
     void RegisterBaseExecutor(IWsCommandExecutor* pExecutor);
     void RegisterInfoTooltip(boost::shared_ptr<Utility::IInfoTooltip> tooltip);
@@ -75,6 +81,8 @@ public:
     void RegisterWsListener(IWsListener* pListener);
     void UnregisterWsListener(IWsListener* pListener);
 
+    /// CWsDialogManager::GetDlgById.
+    CWsBaseDialog* GetDlgById(const wchar_t* dialogId);
     /// Non-zero if the general setting "RUN_AFTER_DROP" is 1.
     int StartCommandAfterDragAndDrop() const;
     /// Runs the text console on the host's command line until the user leaves it.
@@ -131,6 +139,8 @@ private:
     CWsPluginManager m_PluginMgr;
     CWsTreeManager m_TreeMgr;
     CWsCommandManager m_CmdMgr;
+    CWsDialogManager m_DlgMgr;
+    CWsPanelDialogManager m_PanelDlgMgr;
     std::set<IWsListener*> m_ListenerSet;
     std::vector<IWsListener*> m_Listeners;
     unsigned int m_nListenerChanges = 0;

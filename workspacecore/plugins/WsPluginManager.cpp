@@ -9,6 +9,7 @@
 #include "platform/win/Library.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "workspacecore/core/Trace.h"
+#include "workspacecore/core/WsManager.h"
 #include "workspacecore/plugins/LoadSteps.h"
 #include "workspacecore/plugins/SplashScreen.h"
 
@@ -153,8 +154,7 @@ int CWsPluginManager::LoadModules() {
     }
     m_bModulesLoaded = 1;
     splash.Close();
-    // The panel buttons that the plug-ins claimed are stacked here, once there are panel
-    // dialogs.
+    CWsManager::Instance()->PDlgMgr()->StackRegisteredPanelButtons();
     return bAnyAccepted;
 }
 

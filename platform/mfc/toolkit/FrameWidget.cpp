@@ -191,7 +191,7 @@ void FrameWidget::DragTo(const QPoint& onScreen) {
     place.y = wanted.y();
     place.cx = wanted.width();
     place.cy = wanted.height();
-    place.flags = SWP_NOZORDER | (m_edges ? 0 : SWP_NOSIZE);
+    place.flags = SWP_NOZORDER | (m_edges ? 0 : SWP_NOSIZE | SWP_USERMOVE);
     pCore->Place(place, nullptr);
 }
 

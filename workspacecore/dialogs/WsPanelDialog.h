@@ -1,0 +1,30 @@
+// The base of dialogs that plug-ins show in the main panel.
+#pragma once
+
+#include "platform/mfc/AdUiBaseDialog.h"
+#include "siblings/giscore/Subscriber.h"
+#include "workspacecore/Api.h"
+#include "workspacecore/core/IWsListener.h"
+
+namespace Orvane::Workspace {
+
+/// A child dialog with an id. Unlike CWsBaseDialog it is registered nowhere: what it wants to
+/// hear it subscribes to and listens to itself. Owned by the factory that made it.
+class WORKSPACE_API CWsPanelDialog : public CAdUiBaseDialog,
+                                     public Notification::CSubscriber,
+                                     public IWsListener {
+public:
+    CWsPanelDialog(unsigned int dialogResourceId, const wchar_t* dialogId, CWnd* parent,
+                   HINSTANCE resourceInstance);
+    ~CWsPanelDialog() override;
+
+    CString GetDialogId() const { return m_dialogId; }
+
+    virtual void OnWorkspaceButtonClicked() {}
+    void Update(Notification::CPublisher*, void*, void*) override {}
+
+private:
+    CString m_dialogId;
+};
+
+} // namespace Orvane::Workspace

@@ -27,26 +27,26 @@ TEST(DataBox, EveryKindIsGivenOutAsEveryOther) {
     const struct {
         CDataBox box;
         int type;
-        double asDouble;
         int asInt;
+        double asDouble;
         long asLong;
         const wchar_t* asText;
     } cases[] = {
         {{}, 0, 0, 0, 0, L""},
-        {1.0 / 3, 5001, 1.0 / 3, 0, 0, L"0.3333333333333333"},
-        {-2.9, 5001, -2.9, -2, -2, L"-2.9"},
-        {1e10, 5001, 1e10, kMostInt, 10000000000L, L"1e+10"},
-        {9223372036854775808.0, 5001, 9223372036854775808.0, kMostInt, kMostLong,
+        {1.0 / 3, 5001, 0, 1.0 / 3, 0, L"0.3333333333333333"},
+        {-2.9, 5001, -2, -2.9, -2, L"-2.9"},
+        {1e10, 5001, kMostInt, 1e10, 10000000000L, L"1e+10"},
+        {9223372036854775808.0, 5001, kMostInt, 9223372036854775808.0, kMostLong,
          L"9223372036854775808"},
-        {-1e300, 5001, -1e300, kLeastInt, kLeastLong, L"-1e+300"},
-        {kInfinity, 5001, kInfinity, kMostInt, kMostLong, L"inf"},
+        {-1e300, 5001, kLeastInt, -1e300, kLeastLong, L"-1e+300"},
+        {kInfinity, 5001, kMostInt, kInfinity, kMostLong, L"inf"},
         {-7, 5003, -7, -7, -7, L"-7"},
         {kLeastInt, 5003, kLeastInt, kLeastInt, kLeastInt, L"-2147483648"},
         {true, 5003, 1, 1, 1, L"1"},
-        {2147483648L, 5010, 2147483648.0, kMostInt, 2147483648L, L"2147483648"},
-        {kLeastLong, 5010, -9223372036854775808.0, kLeastInt, kLeastLong, L"-9223372036854775808"},
-        {L" 12.75 m", 5005, 12.75, 12, 12, L" 12.75 m"},
-        {L"99999999999999999999", 5005, 1e20, kMostInt, kMostLong, L"99999999999999999999"},
+        {2147483648L, 5010, kMostInt, 2147483648.0, 2147483648L, L"2147483648"},
+        {kLeastLong, 5010, kLeastInt, -9223372036854775808.0, kLeastLong, L"-9223372036854775808"},
+        {L" 12.75 m", 5005, 12, 12.75, 12, L" 12.75 m"},
+        {L"99999999999999999999", 5005, kMostInt, 1e20, kMostLong, L"99999999999999999999"},
         {L"m 12", 5005, 0, 0, 0, L"m 12"},
         {CString(L"1,5"), 5005, 1, 1, 1, L"1,5"},
         {static_cast<const wchar_t*>(nullptr), 5005, 0, 0, 0, L""},

@@ -124,22 +124,22 @@ TEST(UiStates, ValuesComeBackThroughTheText) {
 TEST(UiStates, TheTypeDecidesWhatAValueIs) {
     const struct {
         int type;
-        const wchar_t* value;
         int boxType;
+        const wchar_t* value;
         const wchar_t* boxText;
         int pieces;
     } cases[] = {
-        {5001, L" 1.50m", 5001, L"1.5", 0},
-        {5001, L"", 5001, L"0", 0},
-        {5003, L"12.9", 5003, L"12", 0},
-        {5003, L"99999999999", 5003, L"2147483647", 0},
-        {5005, L"a;b", 5005, L"a;b", 0},
-        {5010, L"99999999999", 5010, L"99999999999", 0},
-        {5023, L"a;;b;", 5023, L"a;;b;", 4},
-        {5023, L"", 5023, L"", 0},
-        {0, L"1", 0, L"", 0},
-        {5002, L"1", 0, L"", 0},
-        {-5003, L"1", 0, L"", 0},
+        {5001, 5001, L" 1.50m", L"1.5", 0},
+        {5001, 5001, L"", L"0", 0},
+        {5003, 5003, L"12.9", L"12", 0},
+        {5003, 5003, L"99999999999", L"2147483647", 0},
+        {5005, 5005, L"a;b", L"a;b", 0},
+        {5010, 5010, L"99999999999", L"99999999999", 0},
+        {5023, 5023, L"a;;b;", L"a;;b;", 4},
+        {5023, 5023, L"", L"", 0},
+        {0, 0, L"1", L"", 0},
+        {5002, 0, L"1", L"", 0},
+        {-5003, 0, L"1", L"", 0},
     };
     for (const auto& row : cases) {
         const CDataBox box = CStateAttribute(L"k", row.type, row.value).GetDataBox();
@@ -181,7 +181,8 @@ TEST(UiStates, DeepCopiesAreSeparateAtTheirOwnLevelOnly) {
     CUiStates states = OneDialog(L"d");
     const auto dialog = states.GetDialogStateById(L"d");
     dialog->AddStateAttribute(Attribute(L"k", 1));
-    const CUiStates shallow(states);
+    CUiStates shallow;
+    shallow = states;
     CUiStates deep = OneDialog(L"old");
     states.MakeDeepCopy(deep);
     CDialogState deepDialog;
@@ -211,8 +212,8 @@ TEST(UiStates, BadTextsGiveWhatCanBeRead) {
         {"nothing given", L"<uiStates><dialogState><stateAttribute/></dialogState></uiStates>", 1,
          "@0(:0=,)"},
         {"out of range",
-         L"<uiStates><dialogState left='9999999999'><stateAttribute id='k' "
-         L"type='-9999999999'/></dialogState></uiStates>",
+         L"<uiStates><dialogState left='9999999999'><stateAttribute id='k' type='-9999999999'/>"
+         L"</dialogState></uiStates>",
          1, "@2147483647(k:-2147483648=,)"},
         {"no numbers", L"<uiStates><dialogState left='x1'/><dialogState left=' 7px'/></uiStates>",
          1, "@0()@7()"},

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -88,12 +89,12 @@ std::size_t PlainLength(std::wstring_view text) {
         std::array<bool, 0x80> plain{};
         std::fill(plain.begin() + 1, plain.end(), true);
         for (const wchar_t c : {L'<', L'&', L'>', L'\'', L'"', L'='}) {
-            plain[static_cast<std::size_t>(c)] = false;
+            plain[std::bit_cast<std::uint32_t>(c)] = false;
         }
         return plain;
     }();
     const auto hit = std::find_if_not(text.begin(), text.end(), [](wchar_t c) {
-        const auto nCode = static_cast<std::uint32_t>(c);
+        const auto nCode = std::bit_cast<std::uint32_t>(c);
         return nCode < kPlain.size() && kPlain[nCode];
     });
     return static_cast<std::size_t>(hit - text.begin());

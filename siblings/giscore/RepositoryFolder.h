@@ -1,0 +1,35 @@
+// Configurations of a family as files of a folder.
+#pragma once
+
+#include "siblings/giscore/RepositoryStore.h"
+
+namespace Orvane {
+
+/// <folder>/<tag>/<guid>.xml, UTF-8. The files are read once, and again by Reload; a folder
+/// that is not there holds nothing, and is made when something is added.
+class GISCORE_API CRepositoryFolder final : public CRepositoryStore {
+public:
+    /// \param folder of all families
+    /// \param problemKey the name under which problems are noted
+    CRepositoryFolder(const wchar_t* tag, const CString& folder, CString problemKey);
+
+    const CString& GetFolder() const { return m_strFolder; }
+    void Reload();
+
+private:
+    std::vector<Entry> Entries(std::vector<CString>& problems) const override;
+    std::optional<CString> TextOf(const CString& guid) const override;
+    CString Write(const CRepositoryItem& item) override;
+    CString Erase(const CRepositoryItem& item) override;
+    CString ProblemKey() const override { return m_strProblemKey; }
+
+    CString PathOf(const CString& guid) const;
+    void ReadFile(const CString& name);
+
+    CString m_strFolder; ///< of the family, with a separator
+    CString m_strProblemKey;
+    std::vector<Entry> m_entries;
+    std::vector<CString> m_unreadable;
+};
+
+} // namespace Orvane

@@ -54,8 +54,8 @@ void CRepositoryFolder::ReadFile(const CString& name) {
     if (bytes) {
         m_entries.push_back({path, guid, Utf8ToWide(*bytes)});
     } else {
-        m_unreadable.push_back(path + L": " +
-                               (guid.IsEmpty() ? L"it is not named after a GUID" : LastErrorText()));
+        m_unreadable.push_back(
+            path + L": " + (guid.IsEmpty() ? L"it is not named after a GUID" : LastErrorText()));
     }
 }
 

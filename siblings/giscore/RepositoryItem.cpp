@@ -67,9 +67,8 @@ CString CRepositoryItem::Take(const XmlElement& root) {
     return ReadContent(root);
 }
 
-boost::shared_ptr<CRepositoryItem> ReadRepositoryItem(const CString& text,
-                                                      const wchar_t* repositoryTag,
-                                                      CString& reason) {
+boost::shared_ptr<CRepositoryItem>
+ReadRepositoryItem(const CString& text, const wchar_t* repositoryTag, CString& reason) {
     const auto root = ReadRoot(text.View(), repositoryTag, reason);
     if (!root) {
         return {};

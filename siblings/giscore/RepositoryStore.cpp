@@ -87,9 +87,8 @@ CString CRepositoryStore::WhyNot(const CRepositoryItem& item) const {
 }
 
 CString CRepositoryStore::Add(const CRepositoryItem& item) {
-    CString reason = TextOf(item.GetGuid())
-                         ? RepositoryMessage(kMsgItemIsThere, item.GetName())
-                         : WhyNot(item);
+    CString reason =
+        TextOf(item.GetGuid()) ? RepositoryMessage(kMsgItemIsThere, item.GetName()) : WhyNot(item);
     reason = reason.IsEmpty() ? Write(item) : reason;
     if (reason.IsEmpty()) {
         Tell(&ISystemEvents::OnNewConfigDefinitionAdded, *this, item);
@@ -143,9 +142,9 @@ CString CRepositoryStore::WriteDefault(const CRepositoryItem& /*item*/) {
 CString FreeItemName(const CRepositoryStore& store, enmEntityType type, const CString& wanted) {
     const std::vector<CRepositoryStore::ItemPtr> items = store.GetItems(type);
     CString name = wanted;
-    for (int number = 2; std::any_of(items.begin(), items.end(), [&](const auto& item) {
-             return item->GetName().CompareNoCase(name) == 0;
-         });
+    for (int number = 2;
+         std::any_of(items.begin(), items.end(),
+                     [&](const auto& item) { return item->GetName().CompareNoCase(name) == 0; });
          ++number) {
         name.Format(L"%s (%d)", wanted, number);
     }

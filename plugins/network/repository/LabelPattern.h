@@ -24,7 +24,7 @@ public:
 
 private:
     struct Piece {
-        std::string text;       ///< of a piece without an attribute
+        std::string text; ///< of a piece without an attribute
         bool isAttribute = false;
         AcDbNameId attribute{};
         int decimals = -1; ///< negative: as many as the number has

@@ -33,9 +33,8 @@ public:
         }
         m_sections.resize(m_offsets.back());
         std::vector<std::size_t> next = m_offsets;
-        ForEachEnd([&](std::int32_t node, std::int32_t section) {
-            m_sections[next[node]++] = section;
-        });
+        ForEachEnd(
+            [&](std::int32_t node, std::int32_t section) { m_sections[next[node]++] = section; });
     }
     std::span<const std::int32_t> Of(std::int32_t node) const {
         return std::span(m_sections)

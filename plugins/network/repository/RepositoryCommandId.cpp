@@ -10,11 +10,16 @@ constexpr struct {
     std::wstring_view prefix;
     Verb verb;
 } kVerbs[] = {
-    {L"ADD_", Verb::Add},           {L"EDIT_", Verb::Edit},
-    {L"DEL_", Verb::Delete},        {L"REN_", Verb::Rename},
-    {L"COPY_", Verb::Copy},         {L"SENDTO_", Verb::SendTo},
-    {L"SETASDEFAULT_", Verb::SetAsDefault}, {L"RUN_", Verb::Run},
-    {L"DBLCLICK_", Verb::DoubleClick},      {L"QRYDROP_", Verb::QueryDrop},
+    {L"ADD_", Verb::Add},
+    {L"EDIT_", Verb::Edit},
+    {L"DEL_", Verb::Delete},
+    {L"REN_", Verb::Rename},
+    {L"COPY_", Verb::Copy},
+    {L"SENDTO_", Verb::SendTo},
+    {L"SETASDEFAULT_", Verb::SetAsDefault},
+    {L"RUN_", Verb::Run},
+    {L"DBLCLICK_", Verb::DoubleClick},
+    {L"QRYDROP_", Verb::QueryDrop},
     {L"RPODROP_", Verb::ItemDrop},
 };
 

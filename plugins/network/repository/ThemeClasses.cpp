@@ -79,8 +79,7 @@ ThemeResult ClassifyUnique(std::span<const ThemeValue> values, const ThemeRule& 
     for (const auto& [value, count] : counts) {
         if (count >= least && result.classes.size() < kMostUniqueClasses) {
             classOf[value] = static_cast<int>(result.classes.size());
-            result.classes.push_back(
-                {value.text, UniqueColor(rule, result.classes.size()), count});
+            result.classes.push_back({value.text, UniqueColor(rule, result.classes.size()), count});
         } else {
             others += count;
         }

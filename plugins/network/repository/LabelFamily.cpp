@@ -116,7 +116,8 @@ std::optional<int> LabelFamily::Run(const CRepositoryItem& item, System::CGisSys
             ++count;
         }
     }
-    acutPrintf(L"%s\n", Text(Msg::Labelled, label.GetName(), count, system.GetSystemName(), removed));
+    acutPrintf(L"%s\n",
+               Text(Msg::Labelled, label.GetName(), count, system.GetSystemName(), removed));
     acedUpdateDisplay();
     return count;
 }

@@ -89,9 +89,9 @@ bool LongitudinalFamily::AskContent(CRepositoryItem& item, const System::CGisSys
     };
     return take(profile.from, AskTextOrNone(Text(Msg::FromNode), profile.from)) &&
            take(profile.to, AskTextOrNone(Text(Msg::ToNode), profile.to)) &&
-           take(profile.heightAttribute, AskAttribute(Text(Msg::HeightAttribute),
-                                                      profile.heightAttribute, pSystem,
-                                                      EntityNode)) &&
+           take(profile.heightAttribute,
+                AskAttribute(Text(Msg::HeightAttribute), profile.heightAttribute, pSystem,
+                             EntityNode)) &&
            take(profile.depthAttribute,
                 AskTextOrNone(Text(Msg::DepthAttribute), profile.depthAttribute));
 }

@@ -22,10 +22,11 @@ constexpr enmEntityType kQueried[] = {EntityNone, EntityNode, EntitySection, Ent
 
 bool AskQueriedType(CQueryDefinition& query, const System::CGisSystem* pSystem) {
     const auto& topologies = *CModuleConfiguration::Instance()->GetTopologyConfiguration();
-    std::vector<Choice> choices = {{L"all", Text(Msg::Everything)},
-                                   {L"node", topologies.GetEntityTypeName(EntityNode, pSystem)},
-                                   {L"section", topologies.GetEntityTypeName(EntitySection, nullptr)},
-                                   {L"polygon", topologies.GetEntityTypeName(EntityPolygon, nullptr)}};
+    std::vector<Choice> choices = {
+        {L"all", Text(Msg::Everything)},
+        {L"node", topologies.GetEntityTypeName(EntityNode, pSystem)},
+        {L"section", topologies.GetEntityTypeName(EntitySection, nullptr)},
+        {L"polygon", topologies.GetEntityTypeName(EntityPolygon, nullptr)}};
     const auto* const pCurrent =
         std::find(std::begin(kQueried), std::end(kQueried), query.GetQueriedType());
     const std::size_t current = pCurrent == std::end(kQueried) ? 0 : pCurrent - kQueried;
@@ -38,8 +39,7 @@ bool AskQueriedType(CQueryDefinition& query, const System::CGisSystem* pSystem) 
 
 bool AskMatch(CQueryDefinition& query) {
     const auto choice = AskChoice(
-        Text(Msg::Match),
-        {{L"all", Text(Msg::AllConditions)}, {L"any", Text(Msg::AnyCondition)}},
+        Text(Msg::Match), {{L"all", Text(Msg::AllConditions)}, {L"any", Text(Msg::AnyCondition)}},
         query.GetMatchAny() ? 1 : 0);
     query.SetMatchAny(choice == 1U);
     return choice.has_value();
@@ -51,8 +51,7 @@ bool AskConditions(CQueryDefinition& query, const System::CGisSystem* pSystem) {
     std::vector<Condition> conditions;
     for (std::size_t i = 0;; ++i) {
         const CString current = i < old.size() ? ConditionText(old[i]) : CString();
-        const auto answer =
-            AskTextOrNone(Text(Msg::Condition, conditions.size() + 1), current);
+        const auto answer = AskTextOrNone(Text(Msg::Condition, conditions.size() + 1), current);
         if (!answer) {
             return false;
         }

@@ -80,8 +80,8 @@ enum class Msg : int {
 
 template <class... Args>
 CString Text(Msg message, const Args&... args) {
-    return FormatText(
-        CModuleConfiguration::Instance()->GetMsg(static_cast<int>(message)).View(), args...);
+    return FormatText(CModuleConfiguration::Instance()->GetMsg(static_cast<int>(message)).View(),
+                      args...);
 }
 
 } // namespace Orvane::Network

@@ -47,9 +47,8 @@ std::vector<AcDbObjectId> EntitiesOf(const System::CGisSystem& system, enmEntity
     std::vector<AcDbObjectId> ids = EntitiesOf(system, type == EntityNone ? queried : type);
     const Query::QueryMatcher matcher(*pOnly);
     const CTopologyStorage& storage = StorageOf(system);
-    std::erase_if(ids, [&](AcDbObjectId id) {
-        return !matcher.Matches(ValuesOf(CEntity(&storage, id)));
-    });
+    std::erase_if(
+        ids, [&](AcDbObjectId id) { return !matcher.Matches(ValuesOf(CEntity(&storage, id))); });
     return ids;
 }
 
@@ -62,7 +61,8 @@ std::optional<CString> AttributeInUse(const System::CGisSystem& system, enmEntit
     std::optional<CString> similar;
     const auto* const pDrawing = system.GetDatabase();
     for (const AcDbObjectId id : EntitiesOf(system, type)) {
-        const AcDbAttributes& all = static_cast<const AcDbEntity*>(pDrawing->peek(id))->attributes();
+        const AcDbAttributes& all =
+            static_cast<const AcDbEntity*>(pDrawing->peek(id))->attributes();
         for (std::size_t i = 0; i < all.size(); ++i) {
             const CString known = Utf8ToWide(AcDbNameOf(all.at(i).name));
             if (known == name) {

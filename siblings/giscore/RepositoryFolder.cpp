@@ -12,6 +12,7 @@ namespace Orvane {
 
 namespace {
 
+constexpr const wchar_t* kNoFolder = L": there is no such folder";
 constexpr std::wstring_view kSuffix = L".xml";
 
 /// What stands before ".xml" if that can be a GUID, else an empty text.
@@ -26,16 +27,23 @@ CString GuidOf(const CString& fileName) {
 
 } // namespace
 
-CRepositoryFolder::CRepositoryFolder(const wchar_t* tag, const CString& folder, CString problemKey)
-    : CRepositoryStore(tag), m_strFolder(WithSeparator(folder) + tag + L"/"),
-      m_strProblemKey(std::move(problemKey)) {
+CRepositoryFolder::CRepositoryFolder(const wchar_t* tag, const CString& folder, CString problemKey,
+                                     MissingFolder missing)
+    : CRepositoryStore(tag), m_strRoot(folder), m_missing(missing),
+      m_strFolder(WithSeparator(folder) + tag + L"/"), m_strProblemKey(std::move(problemKey)) {
     Reload();
+}
+
+bool CRepositoryFolder::LacksRoot() const {
+    return m_missing == MissingFolder::IsAProblem && !FileExists(m_strRoot);
 }
 
 void CRepositoryFolder::Reload() {
     m_entries.clear();
     m_unreadable.clear();
-    if (FileExists(m_strFolder)) {
+    if (LacksRoot()) {
+        m_unreadable.push_back(m_strRoot + kNoFolder);
+    } else if (FileExists(m_strFolder)) {
         const auto names = ListFileNames(m_strFolder);
         if (!names) {
             m_unreadable.push_back(m_strFolder + L": " + LastErrorText());
@@ -79,6 +87,9 @@ std::optional<CString> CRepositoryFolder::TextOf(const CString& guid) const {
 }
 
 CString CRepositoryFolder::Write(const CRepositoryItem& item) {
+    if (LacksRoot()) {
+        return RepositoryMessage(kMsgItemNotWritten, item.GetName(), m_strRoot + kNoFolder);
+    }
     const CString text = item.GetXML();
     const CString path = PathOf(item.GetGuid());
     if (!IsGuid(item.GetGuid().View()) || !MakeFolder(m_strFolder) ||

@@ -2,7 +2,6 @@
 
 #include <boost/make_shared.hpp>
 
-#include "platform/win/File.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/RepositoryFolder.h"
 #include "siblings/giscore/RepositoryRecords.h"
@@ -19,10 +18,8 @@ void CStoredRepositoryFactory::ReloadRepository(int /*mode*/) {
     configuration.SetProblems(key, {});
     CString folder;
     if (configuration.GetGSValueText(L"NET_REPOSITORY", folder) && !folder.Trim().IsEmpty()) {
-        m_pNet = boost::make_shared<CRepositoryFolder>(m_strTag, folder, key);
-        if (!FileExists(folder)) {
-            configuration.SetProblems(key, {folder + L": there is no such folder"});
-        }
+        m_pNet =
+            boost::make_shared<CRepositoryFolder>(m_strTag, folder, key, MissingFolder::IsAProblem);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "plugins/network/repository/LongitudinalFamily.h"
 
+#include <algorithm>
 #include <boost/make_shared.hpp>
 
 #include "platform/arx/EdPrompt.h"
@@ -40,23 +41,31 @@ std::optional<std::int32_t> FindNode(const SystemNetwork& network, const System:
     return std::nullopt;
 }
 
-ProfileStation StationOf(const Topology::CNode& node, double chainage,
-                         const LongitudinalDefinition& profile) {
-    const auto number = [&](const CString& attribute) {
-        return attribute.IsEmpty() ? std::nullopt
-                                   : Query::ValueNumber(node.GetAttribute(
-                                         AcDbIntern(WideToUtf8(attribute.View()))));
-    };
-    ProfileStation station{chainage, std::string(node.GetNameUtf8()), {}, {}};
-    const auto height = number(profile.heightAttribute);
-    const auto depth = number(profile.depthAttribute);
-    if (height && depth) {
-        station.invert = height;
-        station.ground = *height + *depth;
-    } else {
-        station.ground = height;
+std::optional<double> NumberOf(const Topology::CNode& node, const CString& attribute) {
+    return attribute.IsEmpty()
+               ? std::nullopt
+               : Query::ValueNumber(node.GetAttribute(AcDbIntern(WideToUtf8(attribute.View()))));
+}
+
+std::vector<ProfileStation> StationsOf(const std::vector<Topology::CNode>& nodes,
+                                       const NetworkPath& path,
+                                       const LongitudinalDefinition& profile) {
+    const bool hasDepths = std::any_of(nodes.begin(), nodes.end(), [&](const auto& node) {
+        return NumberOf(node, profile.depthAttribute).has_value();
+    });
+    std::vector<ProfileStation> stations;
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        const auto height = NumberOf(nodes[i], profile.heightAttribute);
+        const auto depth = NumberOf(nodes[i], profile.depthAttribute);
+        ProfileStation& station = stations.emplace_back();
+        station.chainage = path.chainages[i];
+        station.name = nodes[i].GetNameUtf8();
+        (hasDepths ? station.invert : station.ground) = height;
+        if (height && depth) {
+            station.ground = *height + *depth;
+        }
     }
-    return station;
+    return stations;
 }
 
 } // namespace
@@ -112,14 +121,13 @@ std::optional<int> LongitudinalFamily::Run(const CRepositoryItem& item, System::
         Refuse(Text(Msg::NoPath, fromName, toName));
         return std::nullopt;
     }
-    std::vector<ProfileStation> stations;
-    for (std::size_t i = 0; i < path->nodes.size(); ++i) {
-        const auto node = StorageOf(system).GetNodeById(network.NodeId(path->nodes[i]));
-        stations.push_back(StationOf(node, path->chainages[i], profile));
+    std::vector<Topology::CNode> nodes;
+    for (const std::int32_t node : path->nodes) {
+        nodes.push_back(StorageOf(system).GetNodeById(network.NodeId(node)));
     }
     acutPrintf(L"%s\n", Text(Msg::Profile, item.GetName(), system.GetSystemName(), fromName, toName,
                              CString(FormatText(L"%.2f", path->chainages.back()))));
-    for (const std::string& line : ProfileLines(stations)) {
+    for (const std::string& line : ProfileLines(StationsOf(nodes, *path, profile))) {
         PrintLine(line);
     }
     return static_cast<int>(path->sections.size());

@@ -13,8 +13,8 @@ public:
     // Names of nodes. Where one is empty, the user is asked at each run.
     CString from;
     CString to;
-    /// Attributes of nodes. Where a node has a depth, its height is that of the invert, and
-    /// the ground lies as much above it; else the height is that of the ground.
+    /// Attributes of nodes. Where any node of the way has a depth, heights are those of
+    /// inverts, and the ground lies a depth above; else heights are those of the ground.
     CString heightAttribute = L"ELEVATION";
     CString depthAttribute = L"MaxDepth";
 

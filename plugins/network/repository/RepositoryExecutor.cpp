@@ -101,8 +101,7 @@ ItemPtr CopyItem(Call& call) {
     if (!item) {
         return {};
     }
-    const CString free =
-        FreeItemName(*call.target.store, item->GetEntityType(), item->GetName());
+    const CString free = FreeItemName(*call.target.store, item->GetEntityType(), item->GetName());
     const auto name = AskText(Text(Msg::Name), free);
     if (!name) {
         return {};
@@ -254,8 +253,8 @@ ResultPtr CFamilyExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
         return Workspace::NeutralReturnValue();
     }
     const CommandScope scope(OwnCommandId(lpszCommandId));
-    return RunItem(m_family, *pRepositoryItem, System::CSystemManager::Instance()->GetActiveSystem(),
-                   nullptr);
+    return RunItem(m_family, *pRepositoryItem,
+                   System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
 }
 
 } // namespace Orvane::Network

@@ -65,7 +65,7 @@ enum class Msg : int {
     Added = 900421,
     Changed = 900422,
     Deleted = 900423,
-    Sent = 900425, // with the place
+    Sent = 900425,
     IsDefault = 900426,
     Selected = 900435,     // query, count, system
     Themed = 900436,       // theme, system, attribute, count

@@ -48,7 +48,8 @@ const CTopology* AskTopology() {
          CModuleConfiguration::Instance()->GetTopologyConfiguration()->GetTopologyVector()) {
         if (topology.GetOnOff()) {
             topologies.push_back(&topology);
-            choices.push_back({FormatText(L"%d", topology.GetTopologyType()), topology.GetNameUI()});
+            choices.push_back(
+                {FormatText(L"%d", topology.GetTopologyType()), topology.GetNameUI()});
         }
     }
     const auto choice = choices.empty() ? std::optional<std::size_t>()
@@ -78,8 +79,7 @@ bool AddSystem(Call& call) {
         return false;
     }
     CString reason;
-    call.pSystem =
-        Systems().CreateSystem(*name, pTopology->GetTopologyType(), *function, &reason);
+    call.pSystem = Systems().CreateSystem(*name, pTopology->GetTopologyType(), *function, &reason);
     if (!call.pSystem) {
         return Refuse(reason);
     }

@@ -43,8 +43,9 @@ bool FillSupportFolder(const CString& defaults, const CString& support) {
     }
     for (const fs::directory_entry& file : fs::directory_iterator(NativePath(defaults), error)) {
         const fs::path copy = target / file.path().filename();
-        if (file.is_regular_file() && !fs::exists(copy)) {
-            fs::copy_file(file.path(), copy, error);
+        // A folder comes whole or not at all: what the user removed from it stays away.
+        if (!fs::exists(copy)) {
+            fs::copy(file.path(), copy, fs::copy_options::recursive, error);
             if (error) {
                 SetLastErrorText(ToText(copy) + L": " + CString(Utf8ToWide(error.message())));
                 return false;

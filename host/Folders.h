@@ -11,8 +11,9 @@ CString ProgramFolder();
 /// The user's folder of settings: in the place where the desktop keeps programs' data.
 CString UserSupportFolder();
 
-/// Copies every default support file that the folder does not have yet. False, with
-/// LastErrorText set, if the folder cannot be made or a file cannot be copied.
+/// Copies every default support file, and every folder with all that is in it, that the
+/// user's folder does not have yet. False, with LastErrorText set, if the folder cannot be
+/// made or something cannot be copied.
 bool FillSupportFolder(const CString& defaults, const CString& support);
 
 } // namespace Tessaly

@@ -106,6 +106,42 @@ bool FileExists(const wchar_t* path) {
     return std::filesystem::exists(NativePath(path), ignored);
 }
 
+bool RemoveFile(const wchar_t* path) {
+    if (unlink(NativePath(path).c_str()) != 0) {
+        SetLastErrorNumber(errno);
+        return false;
+    }
+    return true;
+}
+
+bool MakeFolder(const wchar_t* path) {
+    std::error_code error;
+    std::filesystem::create_directories(NativePath(path), error);
+    if (error) {
+        SetLastErrorNumber(error.value());
+    }
+    return !error;
+}
+
+std::optional<std::vector<CString>> ListFileNames(const wchar_t* folder) {
+    namespace fs = std::filesystem;
+    std::vector<CString> names;
+    std::error_code error;
+    for (fs::directory_iterator at(NativePath(folder), error); !error && at != fs::end(at);
+         at.increment(error)) {
+        std::error_code ignored;
+        if (!at->is_directory(ignored)) {
+            names.emplace_back(Utf8ToWide(at->path().filename().string()));
+        }
+    }
+    if (error) {
+        SetLastErrorNumber(error.value());
+        return std::nullopt;
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 CString FileNameOf(const wchar_t* path) {
     const std::wstring_view whole(path ? path : L"");
     return CString(whole.substr(whole.find_last_of(L"\\/") + 1));

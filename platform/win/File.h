@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/win/String.h"
 
@@ -33,6 +34,13 @@ PLATFORM_API bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes);
 PLATFORM_API std::optional<CString> SetFileAside(const wchar_t* path, const wchar_t* suffix);
 
 PLATFORM_API bool FileExists(const wchar_t* path);
+/// False on failure, with LastErrorText set; also if there is no such file.
+PLATFORM_API bool RemoveFile(const wchar_t* path);
+/// Makes a folder and those above it. True if it is there already.
+PLATFORM_API bool MakeFolder(const wchar_t* path);
+/// Names of the files of a folder, without folders, by code point. Nothing on failure, with
+/// LastErrorText set.
+PLATFORM_API std::optional<std::vector<CString>> ListFileNames(const wchar_t* folder);
 /// The part behind the last separator.
 PLATFORM_API CString FileNameOf(const wchar_t* path);
 /// The path with a separator at its end, unless it is empty.

@@ -28,6 +28,7 @@ public:
     SystemNetwork(const Topology::CTopologyStorage& storage, const System::CGisSystem& system);
 
     NetworkGeometry Geometry() const;
+    AcDbObjectId NodeId(std::size_t node) const { return m_nodeIds[node]; }
 
     std::string NodeName(std::size_t node) const override;
     std::string SectionName(std::size_t section) const override;

@@ -1,7 +1,7 @@
 #include "plugins/network/NetworkExecutor.h"
 
-#include "platform/arx/DbUndoScopes.h"
 #include "platform/arx/EdPrompt.h"
+#include "plugins/network/CommandScope.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkDrawing.h"
@@ -14,7 +14,6 @@
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/giscore/Topology.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
-#include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Network {
 
@@ -127,28 +126,11 @@ constexpr NetworkCommand kCommands[] = {
     {L"SYSTEM_ACTIVATE", 900109, 900110, ActivateSystem},
 };
 
-/// Tells the listeners that a command runs, and that it has ended, however it does.
-class CommandEvents {
-public:
-    explicit CommandEvents(const wchar_t* id) : m_id(id) {
-        Workspace::CWsManager::Instance()->Raise_OnBeforeCommandActivated(m_id);
-    }
-    ~CommandEvents() { Workspace::CWsManager::Instance()->Raise_OnAfterCommandCompleted(m_id); }
-    CommandEvents(const CommandEvents&) = delete;
-    CommandEvents& operator=(const CommandEvents&) = delete;
-
-private:
-    const wchar_t* m_id;
-};
-
-/// The command of an id. The registry finds commands by ids with one letter too many, so
-/// the id that comes here may not be the command's own.
+/// Null for an id that is none of these.
 const NetworkCommand* FindCommand(const wchar_t* lpszCommandId) {
-    const auto command =
-        Workspace::CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandById(
-            lpszCommandId);
+    const CString id = OwnCommandId(lpszCommandId);
     for (const NetworkCommand& entry : kCommands) {
-        if (command && command->GetId() == entry.id) {
+        if (id == entry.id) {
             return &entry;
         }
     }
@@ -166,15 +148,11 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
                           Workspace::CWsTreeItemData*) {
     auto result = Workspace::NeutralReturnValue();
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
-        const CommandEvents events(pCommand->id);
-        AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
-        if (!pDrawing) {
+        const CommandScope scope(pCommand->id);
+        if (!acdbHostApplicationServices()->workingDatabase()) {
             Refuse(L"No drawing is open.");
-            result->m_nStatus = 0;
             return result;
         }
-        // One step of the history, also from where the host makes none: the text console.
-        const AcDbUndoGroup step(*pDrawing, pCommand->id);
         result->m_nStatus = pCommand->run() ? 1 : 0;
     }
     return result;

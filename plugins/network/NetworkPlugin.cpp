@@ -1,7 +1,11 @@
 // ORVZNetwork.arx: what the workspace meets of it.
 #include "plugins/network/NetworkExecutor.h"
+#include "plugins/network/repository/RepositoryExecutor.h"
+#include "plugins/network/repository/RepositoryFamilies.h"
+#include "plugins/network/repository/SystemExecutor.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/tree/WsRegistrationFactory.h"
 
 namespace {
 
@@ -9,8 +13,12 @@ using namespace Orvane::Workspace;
 
 class NetworkPlugin final : public IPluginInfo {
 public:
-    /// The executor comes first, so that standard commands of any plug-in find one.
-    void PluginHook6() override { CWsManager::Instance()->RegisterBaseExecutor(&m_executor); }
+    /// What others stand on comes first: the executor of standard commands, and the
+    /// repositories, of which registrations ask whether they have default items.
+    void PluginHook6() override {
+        CWsManager::Instance()->RegisterBaseExecutor(&m_baseExecutor);
+        Orvane::Network::RegisterRepositories();
+    }
     void PluginHook1() override {
         const Orvane::CModuleConfiguration& messages = *Orvane::CModuleConfiguration::Instance();
         for (const Orvane::Network::NetworkCommand& entry : Orvane::Network::NetworkCommands()) {
@@ -22,7 +30,12 @@ public:
             CWsManager::Instance()->RegisterWsCommand(command);
         }
     }
-    void PluginHook2() override {}
+    /// The trees.
+    void PluginHook2() override {
+        CWsRegistrationFactory::RegisterBasicItems();
+        CWsRegistrationFactory::RegisterSystemItem(&m_systemExecutor, nullptr, 1, 1);
+        Orvane::Network::RegisterFamilies();
+    }
     void PluginHook3() override {}
     void PluginHook4() override {}
     void PluginHook5() override {}
@@ -30,6 +43,8 @@ public:
 
 private:
     Orvane::Network::CNetworkExecutor m_executor;
+    Orvane::Network::CBaseExecutor m_baseExecutor;
+    Orvane::Network::CSystemExecutor m_systemExecutor;
 };
 
 } // namespace

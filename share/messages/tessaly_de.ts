@@ -624,5 +624,365 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Network plug-in</extracomment>
         <translation>%s Flächen</translation>
     </message>
+    <message id="900130">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Abfragen</translation>
+    </message>
+    <message id="900131">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Themen</translation>
+    </message>
+    <message id="900132">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Beschriftungen</translation>
+    </message>
+    <message id="900133">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Längsschnitte</translation>
+    </message>
+    <message id="900310">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Eine Konfiguration braucht einen Namen.</translation>
+    </message>
+    <message id="900311">
+        <source></source>
+        <extracomment>Reason; with the name</extracomment>
+        <translation>Es gibt eine andere Konfiguration namens &quot;%s&quot;.</translation>
+    </message>
+    <message id="900312">
+        <source></source>
+        <extracomment>Reason; with the name</extracomment>
+        <translation>&quot;%s&quot; gibt es dort schon.</translation>
+    </message>
+    <message id="900313">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Konfiguration gibt es nicht mehr.</translation>
+    </message>
+    <message id="900314">
+        <source></source>
+        <extracomment>Reason; with the name and why</extracomment>
+        <translation>&quot;%s&quot; konnte nicht geschrieben werden: %s</translation>
+    </message>
+    <message id="900315">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Zeichnung ist in Arbeit und kann jetzt nicht geändert werden.</translation>
+    </message>
+    <message id="900316">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Nur Konfigurationen eines Systems können Standard sein.</translation>
+    </message>
+    <message id="900400">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="900401">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Objekte</translation>
+    </message>
+    <message id="900402">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Erfüllte Bedingungen</translation>
+    </message>
+    <message id="900403">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Bedingung %d (Attribut, Operator, Wert; - entfernt)</translation>
+    </message>
+    <message id="900404">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; ist keine Bedingung. Schreiben Sie ein Attribut, eines von = &lt;&gt; &lt; &lt;= &gt; &gt;= contains empty und einen Wert.</translation>
+    </message>
+    <message id="900405">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribut</translation>
+    </message>
+    <message id="900406">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Hinweis: Kein solches Objekt von %s hat ein Attribut &quot;%s&quot;.</translation>
+    </message>
+    <message id="900407">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Klassen</translation>
+    </message>
+    <message id="900408">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Anzahl der Klassen</translation>
+    </message>
+    <message id="900409">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Klassengrenzen, mit Leerzeichen getrennt (- für berechnete)</translation>
+    </message>
+    <message id="900410">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Farben von 1 bis 255, mit Leerzeichen getrennt (- für die üblichen)</translation>
+    </message>
+    <message id="900411">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; ist keine Liste von Zahlen.</translation>
+    </message>
+    <message id="900412">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Text mit Attributen in Klammern</translation>
+    </message>
+    <message id="900413">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Texthöhe (0: wie in der Ansicht)</translation>
+    </message>
+    <message id="900414">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; ist keine Texthöhe.</translation>
+    </message>
+    <message id="900415">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Von Knoten (- um jedes Mal gefragt zu werden)</translation>
+    </message>
+    <message id="900416">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Bis Knoten (- um jedes Mal gefragt zu werden)</translation>
+    </message>
+    <message id="900417">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribut der Höhe</translation>
+    </message>
+    <message id="900418">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribut der Tiefe (- für keines)</translation>
+    </message>
+    <message id="900419">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; ist keines von %s.</translation>
+    </message>
+    <message id="900420">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Das ergibt keinen Sinn: %s.</translation>
+    </message>
+    <message id="900421">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s wurde hinzugefügt.</translation>
+    </message>
+    <message id="900422">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s wurde geändert.</translation>
+    </message>
+    <message id="900423">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s wurde gelöscht.</translation>
+    </message>
+    <message id="900425">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s wurde gesendet.</translation>
+    </message>
+    <message id="900426">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s ist jetzt der Standard.</translation>
+    </message>
+    <message id="900427">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>%s löschen</translation>
+    </message>
+    <message id="900428">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>%s gibt es dort schon. Ersetzen</translation>
+    </message>
+    <message id="900429">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Senden an Platte, Netz oder ein System</translation>
+    </message>
+    <message id="900430">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; ist weder Platte noch Netz noch ein System der Zeichnung.</translation>
+    </message>
+    <message id="900431">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Es gibt keine Ablage im Netz. Die Einstellung NET_REPOSITORY nennt ihren Ordner.</translation>
+    </message>
+    <message id="900432">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Kein System ist aktiv. SYSTEM_ACTIVATE aktiviert eines.</translation>
+    </message>
+    <message id="900433">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Es gibt keine Konfiguration &quot;%s&quot;.</translation>
+    </message>
+    <message id="900434">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s hat keine Objekte dieser Art.</translation>
+    </message>
+    <message id="900435">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %u Objekte von %s sind ausgewählt.</translation>
+    </message>
+    <message id="900436">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s, %s nach %s: %u Objekte</translation>
+    </message>
+    <message id="900437">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>kein Wert</translation>
+    </message>
+    <message id="900438">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %u Objekte haben die Farbe ihres Layers.</translation>
+    </message>
+    <message id="900439">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %d Beschriftungen in %s, %u ältere entfernt.</translation>
+    </message>
+    <message id="900440">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s hat keinen Knoten &quot;%s&quot;.</translation>
+    </message>
+    <message id="900441">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Von %s führt kein Weg nach %s.</translation>
+    </message>
+    <message id="900442">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s, %s: %s bis %s, Länge %s</translation>
+    </message>
+    <message id="900443">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Es wurde nichts abgelegt, was hierher gehört.</translation>
+    </message>
+    <message id="900445">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Name des Systems</translation>
+    </message>
+    <message id="900446">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Art des Systems</translation>
+    </message>
+    <message id="900447">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Wofür es ist</translation>
+    </message>
+    <message id="900449">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Die Zeichnung hat kein System &quot;%s&quot;. SYSTEM_LIST zeigt sie.</translation>
+    </message>
+    <message id="900450">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s ist das aktive System.</translation>
+    </message>
+    <message id="900451">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s wird gezeigt.</translation>
+    </message>
+    <message id="900452">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s ist verborgen.</translation>
+    </message>
+    <message id="900453">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s gibt es dort schon mit demselben Inhalt.</translation>
+    </message>
+    <message id="900460">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Ja</translation>
+    </message>
+    <message id="900461">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Nein</translation>
+    </message>
+    <message id="900462">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Alles</translation>
+    </message>
+    <message id="900463">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Alle</translation>
+    </message>
+    <message id="900464">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Eine</translation>
+    </message>
+    <message id="900465">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Werte</translation>
+    </message>
+    <message id="900466">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Bereiche</translation>
+    </message>
+    <message id="900467">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="900468">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Platte</translation>
+    </message>
+    <message id="900469">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Netz</translation>
+    </message>
 </context>
 </TS>

@@ -624,5 +624,365 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Network plug-in</extracomment>
         <translation>%s polygons</translation>
     </message>
+    <message id="900130">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Queries</translation>
+    </message>
+    <message id="900131">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Themes</translation>
+    </message>
+    <message id="900132">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Labels</translation>
+    </message>
+    <message id="900133">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Longitudinal sections</translation>
+    </message>
+    <message id="900310">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>A configuration needs a name.</translation>
+    </message>
+    <message id="900311">
+        <source></source>
+        <extracomment>Reason; with the name</extracomment>
+        <translation>There is another configuration named &quot;%s&quot;.</translation>
+    </message>
+    <message id="900312">
+        <source></source>
+        <extracomment>Reason; with the name</extracomment>
+        <translation>&quot;%s&quot; is there already.</translation>
+    </message>
+    <message id="900313">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>The configuration is not there any more.</translation>
+    </message>
+    <message id="900314">
+        <source></source>
+        <extracomment>Reason; with the name and why</extracomment>
+        <translation>&quot;%s&quot; could not be written: %s</translation>
+    </message>
+    <message id="900315">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>The drawing is busy and cannot be changed now.</translation>
+    </message>
+    <message id="900316">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Only configurations of a system can be the default.</translation>
+    </message>
+    <message id="900400">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="900401">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Entities</translation>
+    </message>
+    <message id="900402">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Fulfilled conditions</translation>
+    </message>
+    <message id="900403">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Condition %d (attribute, operator, value; - removes)</translation>
+    </message>
+    <message id="900404">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; is no condition. Write an attribute, one of = &lt;&gt; &lt; &lt;= &gt; &gt;= contains empty, and a value.</translation>
+    </message>
+    <message id="900405">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribute</translation>
+    </message>
+    <message id="900406">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Note: no such entity of %s has an attribute &quot;%s&quot;.</translation>
+    </message>
+    <message id="900407">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Classes</translation>
+    </message>
+    <message id="900408">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Number of classes</translation>
+    </message>
+    <message id="900409">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Breaks between classes, with blanks between (- for computed ones)</translation>
+    </message>
+    <message id="900410">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Colours from 1 to 255, with blanks between (- for the usual ones)</translation>
+    </message>
+    <message id="900411">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; is no list of numbers.</translation>
+    </message>
+    <message id="900412">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Text with attributes in braces</translation>
+    </message>
+    <message id="900413">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Text height (0: as the view has it)</translation>
+    </message>
+    <message id="900414">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; is no text height.</translation>
+    </message>
+    <message id="900415">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>From node (- to be asked each time)</translation>
+    </message>
+    <message id="900416">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>To node (- to be asked each time)</translation>
+    </message>
+    <message id="900417">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribute of the height</translation>
+    </message>
+    <message id="900418">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Attribute of the depth (- for none)</translation>
+    </message>
+    <message id="900419">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; is none of %s.</translation>
+    </message>
+    <message id="900420">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>This makes no sense: %s.</translation>
+    </message>
+    <message id="900421">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s was added.</translation>
+    </message>
+    <message id="900422">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s was changed.</translation>
+    </message>
+    <message id="900423">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s was deleted.</translation>
+    </message>
+    <message id="900425">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s was sent.</translation>
+    </message>
+    <message id="900426">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s is the default now.</translation>
+    </message>
+    <message id="900427">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Delete %s</translation>
+    </message>
+    <message id="900428">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>%s is there already. Replace it</translation>
+    </message>
+    <message id="900429">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Send to disk, net or a system</translation>
+    </message>
+    <message id="900430">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>&quot;%s&quot; is neither the disk nor the net nor a system of the drawing.</translation>
+    </message>
+    <message id="900431">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>There is no net repository. The setting NET_REPOSITORY names its folder.</translation>
+    </message>
+    <message id="900432">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>No system is active. SYSTEM_ACTIVATE makes one so.</translation>
+    </message>
+    <message id="900433">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>There is no configuration &quot;%s&quot;.</translation>
+    </message>
+    <message id="900434">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s holds no entities of this kind.</translation>
+    </message>
+    <message id="900435">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %u entities of %s are selected.</translation>
+    </message>
+    <message id="900436">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s, %s by %s: %u entities</translation>
+    </message>
+    <message id="900437">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>no value</translation>
+    </message>
+    <message id="900438">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %u entities have the colour of their layer.</translation>
+    </message>
+    <message id="900439">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s: %d labels in %s, %u older ones removed.</translation>
+    </message>
+    <message id="900440">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s has no node &quot;%s&quot;.</translation>
+    </message>
+    <message id="900441">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>No way leads from %s to %s.</translation>
+    </message>
+    <message id="900442">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s, %s: %s to %s, length %s</translation>
+    </message>
+    <message id="900443">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>Nothing was dropped that belongs here.</translation>
+    </message>
+    <message id="900445">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Name of the system</translation>
+    </message>
+    <message id="900446">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>Kind of system</translation>
+    </message>
+    <message id="900447">
+        <source></source>
+        <extracomment>Prompt of the network plug-in</extracomment>
+        <translation>What it is for</translation>
+    </message>
+    <message id="900449">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>The drawing has no system &quot;%s&quot;. SYSTEM_LIST shows them.</translation>
+    </message>
+    <message id="900450">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s is the active system.</translation>
+    </message>
+    <message id="900451">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s is shown.</translation>
+    </message>
+    <message id="900452">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s is hidden.</translation>
+    </message>
+    <message id="900453">
+        <source></source>
+        <extracomment>Message of the network plug-in</extracomment>
+        <translation>%s is there already, with the same content.</translation>
+    </message>
+    <message id="900460">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Yes</translation>
+    </message>
+    <message id="900461">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>No</translation>
+    </message>
+    <message id="900462">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Everything</translation>
+    </message>
+    <message id="900463">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>All</translation>
+    </message>
+    <message id="900464">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Any</translation>
+    </message>
+    <message id="900465">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Values</translation>
+    </message>
+    <message id="900466">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Ranges</translation>
+    </message>
+    <message id="900467">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="900468">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Disk</translation>
+    </message>
+    <message id="900469">
+        <source></source>
+        <extracomment>Choice at a prompt of the network plug-in</extracomment>
+        <translation>Net</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <string_view>
 #include <vector>
 
 #include "siblings/giscore/Api.h"
@@ -12,6 +13,11 @@
 namespace Orvane::System {
 
 class CGisSystems;
+class DrawingRecords;
+
+/// Records with this prefix are items and defaults of repository families, which are kept
+/// with the system. When they change, by undo for instance, observers hear OnSystemChanged.
+inline constexpr std::wstring_view kItemPrefix = L"ITEM.";
 
 /// What is known of a system apart from its entities. Kept in the drawing as a dictionary,
 /// so that it is saved, and undone, with it. Made and owned by CGisSystems; gone once it is
@@ -36,6 +42,10 @@ public:
     /// Non-zero if it is the drawing's active system.
     int GetActive() const;
     AcDbDatabase* GetDatabase() const;
+    /// The dictionary that it is kept as. Not after its drawing was closed.
+    DrawingRecords GetRecords() const;
+    /// Another number after each change of the items that are kept with it.
+    std::size_t GetItemStamp() const { return m_nItemStamp; }
 
     /// By their references.
     const std::vector<CGisSystemLayer>& GetLayers() const { return m_layers; }
@@ -76,6 +86,7 @@ private:
     CString m_strCoordinateSystem;
     std::vector<CGisSystemLayer> m_layers;
     Counters m_counters;
+    std::size_t m_nItemStamp = 0;
 };
 
 } // namespace Orvane::System

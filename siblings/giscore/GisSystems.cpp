@@ -1,11 +1,11 @@
 #include "siblings/giscore/GisSystems.h"
 
 #include <algorithm>
-#include <random>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "siblings/giscore/DrawingRecords.h"
 #include "siblings/giscore/GisEvents.h"
+#include "siblings/giscore/Guid.h"
 #include "siblings/giscore/WholeNumber.h"
 
 namespace Orvane::System {
@@ -26,19 +26,6 @@ constexpr const wchar_t* kVisible = L"VISIBLE";
 constexpr const wchar_t* kCoordinateSystem = L"SRS";
 constexpr const wchar_t* kLayer = L"LAYER.";
 
-/// A random one of the usual form (variant 1, version 4).
-CString NewGuid() {
-    static std::random_device source;
-    unsigned int words[4];
-    for (unsigned int& word : words) {
-        word = source();
-    }
-    words[1] = (words[1] & 0xFFFF0FFFU) | 0x4000U;
-    words[2] = (words[2] & 0x3FFFFFFFU) | 0x80000000U;
-    return FormatText(L"%08X-%04X-%04X-%04X-%04X%08X", words[0], words[1] >> 16, words[1] & 0xFFFFU,
-                      words[2] >> 16, words[2] & 0xFFFFU, words[3]);
-}
-
 template <class Test>
 CGisSystem* FindIf(const std::vector<std::unique_ptr<CGisSystem>>& systems, Test test) {
     for (const auto& system : systems) {
@@ -51,6 +38,18 @@ CGisSystem* FindIf(const std::vector<std::unique_ptr<CGisSystem>>& systems, Test
 
 DrawingRecords RecordsOf(AcDbDatabase& database, int id) {
     return {database, FormatText(L"%s%d", kSystemPrefix, id)};
+}
+
+/// Changes with the items that are kept under a system.
+std::size_t ItemStampOf(const AcDbDictionary& dictionary) {
+    std::size_t stamp = 0;
+    for (const auto& [record, text] : dictionary.records()) {
+        if (record.View().starts_with(kItemPrefix)) {
+            const std::hash<std::wstring_view> hash;
+            stamp = stamp * 31 + hash(record.View()) * 7 + hash(text.View());
+        }
+    }
+    return stamp;
 }
 
 DrawingRecords SharedRecords(AcDbDatabase& database) {
@@ -102,6 +101,7 @@ CString ContentOf(const CGisSystem& system) {
     CString text;
     text.Format(L"%s\n%s\n%d %d\n%s\n", system.GetSystemName(), system.GetGuid(),
                 system.GetTopologyType(), system.GetSystemFunction(), system.GetCoordinateSystem());
+    text.AppendFormat(L"%x\n", system.GetItemStamp());
     for (const CGisSystemLayer& layer : system.GetLayers()) {
         text.AppendFormat(L"%s %s\n", layer.GetReference(), layer.GetLayerName());
     }
@@ -126,6 +126,10 @@ public:
 private:
     CGisSystems& m_systems;
 };
+
+DrawingRecords CGisSystem::GetRecords() const {
+    return RecordsOf(*GetDatabase(), m_nId);
+}
 
 CGisSystems::CGisSystems(AcDbDatabase* pDatabase) : m_pDatabase(pDatabase) {
     m_pDatabase->addReactor(this);
@@ -204,6 +208,7 @@ void CGisSystems::Read(CGisSystem& system) const {
     system.m_strCoordinateSystem = records.Get(kCoordinateSystem);
     system.m_layers.clear();
     if (const AcDbDictionary* const pDictionary = records.Dictionary()) {
+        system.m_nItemStamp = ItemStampOf(*pDictionary);
         for (const auto& [record, text] : pDictionary->records()) {
             if (const auto reference = Behind(record, kLayer)) {
                 system.m_layers.emplace_back(*m_pDatabase, *reference, text);

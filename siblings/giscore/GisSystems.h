@@ -12,9 +12,9 @@ namespace Orvane::System {
 ///
 /// In the drawing a system is the dictionary "ORVZ_SYSTEM_<id>", with the records "GUID",
 /// "NAME", "TOPOLOGY", "FUNCTION", "VISIBLE", "SRS", and "LAYER.<reference>" with the name
-/// of each layer. The dictionary "ORVZ_SYSTEMS" has "GUID", "LASTID", "ACTIVE" (an id) and
-/// "COUNTER.<id>.<name>". Systems follow the dictionaries: when undo takes one away or
-/// brings it back, so go the systems, and observers hear of it.
+/// of each layer, and "ITEM.<tag>.<guid>" for each configuration. The dictionary "ORVZ_SYSTEMS" has
+/// "GUID", "LASTID", "ACTIVE" (an id) and "COUNTER.<id>.<name>". Systems follow the dictionaries:
+/// when undo takes one away or brings it back, so go the systems, and observers hear of it.
 class GISCORE_API CGisSystems final : private AcDbDatabaseReactor {
 public:
     /// Reads what the drawing has.

@@ -1,12 +1,21 @@
 // What a module provides for a repository of its own.
 #pragma once
 
+#include <boost/shared_ptr.hpp>
+
 namespace Orvane {
+
+class CRepositoryStore;
+namespace System {
+class CGisSystem;
+}
 
 /// Stands for one family of repository items. Registered by tag, not owned: it has to
 /// live as long as the process.
 class CRepositoryFactory {
 public:
+    using StorePtr = boost::shared_ptr<CRepositoryStore>;
+
     virtual ~CRepositoryFactory() = default;
 
     /// Reads the items of the family again from where they are kept.
@@ -14,6 +23,12 @@ public:
     virtual void ReloadRepository(int mode) = 0;
     /// Non-zero if one item of the family can be the default one.
     virtual int SupportsDefaultItem() const { return 0; }
+
+    // Where items of the family are kept. Null if there is no such place.
+    virtual StorePtr GetDiskStore() { return {}; }
+    virtual StorePtr GetNetStore() { return {}; }
+    /// Null for a null system, too. Must not outlive the system.
+    virtual StorePtr GetSystemStore(System::CGisSystem* /*pSystem*/) { return {}; }
 };
 
 } // namespace Orvane

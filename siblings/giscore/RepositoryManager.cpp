@@ -2,13 +2,9 @@
 
 #include <algorithm>
 
-#include "siblings/giscore/QueryDefinition.h"
 #include "siblings/giscore/RepositoryFactory.h"
 
 namespace Orvane {
-
-CRepositoryItem::~CRepositoryItem() = default;
-Query::CQueryDefinition::~CQueryDefinition() = default;
 
 namespace {
 

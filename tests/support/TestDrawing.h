@@ -21,6 +21,7 @@ protected:
     TestDrawing& operator=(const TestDrawing&) = delete;
 
     const TestHost& Host() const { return m_host; }
+    TestHost& Host() { return m_host; }
     AcApDocument* Document() const { return m_pDoc; }
     /// Of the current drawing.
     static Orvane::Topology::CTopologyStorage& Storage() {

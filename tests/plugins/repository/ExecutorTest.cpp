@@ -1,0 +1,359 @@
+// Commands on configurations and systems, driven by nodes of trees made by hand.
+#include <boost/make_shared.hpp>
+
+#include "host/storage/GeoPackageStorage.h"
+#include "platform/arx/DbUndo.h"
+#include "plugins/network/repository/LabelFamily.h"
+#include "plugins/network/repository/RepositoryExecutor.h"
+#include "plugins/network/repository/RepositoryFamilies.h"
+#include "plugins/network/repository/SystemExecutor.h"
+#include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/RepositoryFactory.h"
+#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/RepositoryStore.h"
+#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscoreadds/SelectionSet.h"
+#include "tests/support/TestDrawing.h"
+#include "workspacecore/tree/WsTreeItemData.h"
+
+using namespace Orvane;
+using namespace Orvane::Network;
+using Workspace::CWsTreeItemData;
+
+namespace {
+
+constexpr const wchar_t* kEscape = L"\x1B";
+
+/// Counts what a publisher tells.
+class Counter final : public Notification::CSubscriber {
+public:
+    explicit Counter(const wchar_t* publisher) {
+        Notification::CNotificationFramework::Instance()
+            ->GetPublisher(publisher)
+            ->RegisterSubscriber(this);
+    }
+    ~Counter() override { Notification::CNotificationFramework::UnregisterSubscriber(this); }
+    Counter(const Counter&) = delete;
+    Counter& operator=(const Counter&) = delete;
+    void Update(Notification::CPublisher*, void* pHint, void*) override {
+        ++count;
+        pLast = pHint;
+    }
+    int count = 0;
+    void* pLast = nullptr;
+};
+
+/// Three nodes in a row, two sections of 100 and 400 mm between them, and a system for it.
+class Executors : public TestDrawing {
+protected:
+    Executors() : m_system(MakeSystem(L"Town")) {
+        acDocManagerPtr()->setStorage(m_pStorage.get());
+        RegisterRepositories();
+        const Topology::AttributeData high[] = {{"ELEVATION", 12.5}};
+        const Topology::AttributeData thin[] = {{"DIAMETER", 100}};
+        const Topology::AttributeData thick[] = {{"DIAMETER", 400}};
+        const auto a = Storage().AddNode(m_system, {"A", {0, 0}, "Tank", high});
+        const auto b = Storage().AddNode(m_system, {"B", {10, 0}});
+        const auto c = Storage().AddNode(m_system, {"C", {30, 0}});
+        m_thin = Storage().AddSection(m_system, {"S1", {a}, {b}, {}, "Pipe", thin});
+        m_thick = Storage().AddSection(m_system, {"S2", {b}, {c}, {}, "Pipe", thick});
+        System::CSystemManager::Instance()->SetSystemActive(&m_system);
+    }
+    ~Executors() override {
+        while (acDocManagerPtr()->documentCount() > 0) {
+            acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
+        }
+        acDocManagerPtr()->setStorage(nullptr);
+    }
+
+    /// A node of a system tree, or of the disk tree if there is no system.
+    static CWsTreeItemData Node(const wchar_t* tag, Workspace::enmWSTreeItemType type,
+                                System::CGisSystem* pSystem, const CString& guid = {},
+                                enmEntityType entityType = EntityNone) {
+        const auto definition = boost::make_shared<Workspace::CWsTreeItemDefinition>();
+        definition->SetRepositoryTag(tag);
+        definition->SetWsItemType(type);
+        definition->SetEntityType(entityType);
+        CWsTreeItemData node;
+        node.SetPtrItemDefinition(definition);
+        node.SetSystem(pSystem);
+        node.SetGuid(guid);
+        return node;
+    }
+    CWsTreeItemData SystemItem(const wchar_t* tag, const CString& guid = {},
+                               enmEntityType type = EntityNone) {
+        return Node(tag, Workspace::WsItemSystemConfiguration, &m_system, guid, type);
+    }
+
+    /// GUID of the item that a command was about; empty if it was not carried out.
+    CString Base(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
+                 CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
+        Host().Answer(answers);
+        const auto result = m_base.Execute(id, pQuery, pNode);
+        EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
+        EXPECT_EQ(result->m_nStatus == 0, result->m_strText1.IsEmpty());
+        return result->m_strText1;
+    }
+    /// How many entities a run was about; -1 if it was not carried out.
+    static int Run(const wchar_t* tag, const wchar_t* id, CWsTreeItemData* pNode,
+                   Query::CQueryDefinition* pQuery = nullptr) {
+        const auto result = FindFamilyExecutor(tag)->Execute(id, pQuery, pNode);
+        return result->m_nStatus ? result->m_nNumber : -1;
+    }
+    int System(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
+               CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
+        Host().Answer(answers);
+        const int status = m_systemExecutor.Execute(id, pQuery, pNode)->m_nStatus;
+        EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
+        return status;
+    }
+    static CRepositoryFactory& Family(const wchar_t* tag) {
+        return *CRepositoryManager::Instance()->GetRepositoryfactory(tag);
+    }
+    CRepositoryFactory::StorePtr InSystem(const wchar_t* tag) {
+        return Family(tag).GetSystemStore(&m_system);
+    }
+    int Color(AcDbObjectId id) const {
+        return static_cast<const AcDbEntity*>(Document()->database()->peek(id))->colorIndex();
+    }
+    std::string Labels() {
+        std::string text;
+        for (const auto label : Storage().GetTextVector()) {
+            text += std::string(label.GetNameUtf8()) + " ";
+        }
+        return text;
+    }
+    AcDbUndo& Undo() { return Document()->database()->undo(); }
+
+    std::unique_ptr<IDbStorage> m_pStorage = Tessaly::MakeGeoPackageStorage();
+    System::CGisSystem& m_system;
+    AcDbObjectId m_thin;
+    AcDbObjectId m_thick;
+    CBaseExecutor m_base;
+    CSystemExecutor m_systemExecutor;
+};
+
+} // namespace
+
+TEST_F(Executors, AQueryIsAddedRunEditedAndUndone) {
+    CWsTreeItemData folder = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
+    Counter refreshes(L"REFRESH_CHILDREN");
+    const CString guid = Base(
+        L"ADD_QUERY", {L" Thick ", L"section", L"all", L"diameter >= 300", L""}, &folder);
+    ASSERT_TRUE(InSystem(L"QUERY")->GetItem(guid));
+    EXPECT_EQ(refreshes.count, 1);
+    EXPECT_EQ(refreshes.pLast, &m_system);
+
+    CWsTreeItemData item = SystemItem(L"QUERY", guid);
+    Counter selections(L"SELECTION_COMPLETED");
+    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &item), 1);
+    EXPECT_EQ(selections.count, 1);
+    EXPECT_NE(Host().TakeOutput().find("Thick: 1 entities of Town"), std::string::npos);
+    EXPECT_EQ(Base(L"EDIT_QUERY", {L"", L"any", L"-", L"KIND = tank", L"DIAMETER < 300", L""},
+                   &item),
+              guid);
+    EXPECT_EQ(Run(L"QUERY", L"DBLCLICK_QUERY", &item), 1);
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_FALSE(InSystem(L"QUERY")->GetItem(guid));
+    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &item), -1) << "the item is gone, the node is not";
+}
+
+TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
+    CWsTreeItemData query = SystemItem(L"QUERY");
+    CWsTreeItemData theme = SystemItem(L"THEME", {}, EntitySection);
+    CWsTreeItemData label = SystemItem(L"LABEL", {}, EntityNode);
+    struct {
+        const wchar_t* id;
+        CWsTreeItemData* pNode;
+        std::initializer_list<const wchar_t*> answers;
+        const char* message;
+    } const cases[] = {
+        {L"ADD_QUERY", &query, {kEscape}, ""},
+        {L"ADD_QUERY", &query, {L""}, ""},
+        {L"ADD_QUERY", &query, {L"x", L"pipes"}, "\"pipes\" is none of"},
+        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER"}, "is no condition"},
+        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"A = 1", kEscape}, ""},
+        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"1,2"}, "no list of numbers"},
+        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"2 1", L""}, "do not ascend"},
+        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"", L"99", L""}, "from 1 to 12"},
+        {L"ADD_THEME_2", &theme, {L"x", L"unique", L"DIAMETER", L"1 300"}, "from 1 to 255"},
+        {L"ADD_LABEL_1", &label, {L"x", L"{NAME"}, "a brace"},
+        {L"ADD_LABEL_1", &label, {L"x", L"", L"-3"}, "is no text height"},
+        {L"DEL_QUERY", &query, {L"nothing"}, "There is no configuration \"nothing\"."},
+        {L"RPODROP_QUERY", &query, {}, "Nothing was dropped"},
+        {L"ADD_UNKNOWN", &query, {}, ""},
+        {L"FLY_QUERY", &query, {}, ""},
+    };
+    for (const auto& test : cases) {
+        EXPECT_TRUE(Base(test.id, test.answers, test.pNode).IsEmpty()) << WideToUtf8(test.id);
+        EXPECT_NE(Host().TakeOutput().find(test.message), std::string::npos) << test.message;
+    }
+    EXPECT_EQ(Undo().undoName() ? *Undo().undoName() : CString(), L"") << "no step was made";
+    for (const wchar_t* tag : {L"QUERY", L"THEME", L"LABEL"}) {
+        EXPECT_TRUE(InSystem(tag)->GetItems().empty());
+    }
+}
+
+TEST_F(Executors, AThemeColoursItsEntitiesOrThoseOfADroppedQuery) {
+    CWsTreeItemData folder =
+        Node(L"THEME", Workspace::WsItemSystemEntityFolder, &m_system, {}, EntitySection);
+    const CString guid =
+        Base(L"ADD_THEME_2", {L"D", L"ranges", L"diameter", L"200", L"3 1"}, &folder);
+    CWsTreeItemData item = SystemItem(L"THEME", guid, EntitySection);
+    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), 2);
+    EXPECT_EQ(Color(m_thin), 3);
+    EXPECT_EQ(Color(m_thick), 1);
+    EXPECT_NE(Host().TakeOutput().find("       1    3  x < 200\n"), std::string::npos);
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_EQ(Color(m_thin), kColorByLayer);
+
+    Query::CQueryDefinition query(L"q", L"thick");
+    query.SetConditions({{L"NAME", Query::Operator::Equal, L"S2"}});
+    EXPECT_EQ(Run(L"THEME", L"QRYDROP_THEME_2", &item, &query), 1);
+    EXPECT_EQ(Color(m_thin), kColorByLayer);
+    EXPECT_EQ(Color(m_thick), 1);
+    query.SetQueriedType(EntityNode);
+    EXPECT_EQ(Run(L"THEME", L"QRYDROP_THEME_2", &item, &query), 0);
+
+    item.SetSystem(&MakeSystem(L"Parcels", TopologyPolygon, 0));
+    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), -1) << "it stands in another system";
+    CRepositoryFactory& themes = Family(L"THEME");
+    EXPECT_TRUE(
+        themes.GetSystemStore(item.GetSystem())->Add(*InSystem(L"THEME")->GetItem(guid)).IsEmpty());
+    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), -1) << "polygons have no sections";
+}
+
+TEST_F(Executors, LabelsReplaceTheirOwnOlderOnesAlone) {
+    Storage().AddText(m_system, {"by hand", {1, 1}});
+    CWsTreeItemData nodes = SystemItem(L"LABEL", {}, EntityNode);
+    CWsTreeItemData sections = SystemItem(L"LABEL", {}, EntitySection);
+    nodes.SetGuid(Base(L"ADD_LABEL_1", {L"names", L"", L"2.5"}, &nodes));
+    sections.SetGuid(Base(L"ADD_LABEL_2", {L"sizes", L"DN {DIAMETER}", L""}, &sections));
+    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &nodes), 3);
+    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_2", &sections), 2);
+    EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ");
+    EXPECT_EQ(Storage().GetTextVector()[4].GetPosition().x, 5);
+    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &nodes), 3);
+    EXPECT_EQ(Labels(), "by hand DN 100 DN 400 A B C ");
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ");
+}
+
+TEST_F(Executors, AProfileFollowsTheShortestWay) {
+    CWsTreeItemData node = SystemItem(L"LONGITUDINAL");
+    node.SetGuid(Base(L"ADD_LONGITUDINAL", {L"P", L"C", L"-", L"elevation", L"-"}, &node));
+    Host().Answer({L"A"});
+    EXPECT_EQ(Run(L"LONGITUDINAL", L"RUN_LONGITUDINAL", &node), 2);
+    EXPECT_NE(Host().TakeOutput().find("P, Town: C to A, length 30.00"), std::string::npos);
+    Host().Answer({L"Z"});
+    EXPECT_EQ(Run(L"LONGITUDINAL", L"RUN_LONGITUDINAL", &node), -1);
+    EXPECT_NE(Host().TakeOutput().find("Town has no node \"Z\"."), std::string::npos);
+}
+
+TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
+    CWsTreeItemData node = SystemItem(L"QUERY");
+    const CString guid = Base(L"ADD_QUERY", {L"one", L"all", L"all", L""}, &node);
+    node.SetGuid(guid);
+    EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"net"}, &node).IsEmpty());
+    EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"nowhere"}, &node).IsEmpty());
+    node.SetS2D(1);
+    EXPECT_EQ(Base(L"SENDTO_QUERY", {}, &node), guid);
+    EXPECT_TRUE(Base(L"SENDTO_QUERY", {}, &node).IsEmpty()) << "it is there, and the same";
+
+    CString typed = L"renamed\nin place";
+    node.SetCustomData(&typed);
+    EXPECT_EQ(Base(L"REN_QUERY", {}, &node), guid);
+    EXPECT_EQ(InSystem(L"QUERY")->GetItem(guid)->GetName(), L"renamed in place");
+    node.SetCustomData(nullptr);
+    EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"no"}, &node).IsEmpty());
+    EXPECT_EQ(Base(L"SENDTO_QUERY", {L"yes"}, &node), guid);
+    const auto disk = Family(L"QUERY").GetDiskStore();
+    EXPECT_EQ(disk->GetItem(guid)->GetName(), L"renamed in place");
+    EXPECT_TRUE(Host().Support().Has("repository/QUERY/" + WideToUtf8(guid.View()) + ".xml"));
+
+    const CString copy = Base(L"COPY_QUERY", {L""}, &node);
+    EXPECT_EQ(InSystem(L"QUERY")->GetItem(copy)->GetName(), L"renamed in place (2)");
+    EXPECT_EQ(Base(L"DEL_QUERY", {L"y"}, &node), L"") << "only a whole word says yes";
+    EXPECT_EQ(Base(L"DEL_QUERY", {L"Yes"}, &node), guid);
+
+    // From the disk tree onto a folder of the system, and onto the system itself.
+    CWsTreeItemData dragged =
+        Node(L"QUERY", Workspace::WsItemRepositoryConfiguration, nullptr, guid);
+    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &dragged), 5) << "on the active system";
+    CWsTreeItemData target = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
+    target.SetCustomData(&dragged);
+    EXPECT_EQ(Base(L"RPODROP_QUERY", {}, &target), guid);
+    System::CGisSystem& other = MakeSystem(L"Other");
+    CWsTreeItemData system = Node(L"", Workspace::WsItemSystem, &other);
+    system.SetCustomData(&dragged);
+    EXPECT_EQ(System(L"SYSTEM_DROPITEM", {}, &system), 1);
+    EXPECT_EQ(Family(L"QUERY").GetSystemStore(&other)->GetItems().size(), 1U);
+}
+
+TEST_F(Executors, ConfigurationsAreSavedWithTheDrawing) {
+    CWsTreeItemData node = SystemItem(L"LABEL", {}, EntityNode);
+    const CString guid = Base(L"ADD_LABEL_1", {L"names", L"{NAME}!", L"1.5"}, &node);
+    node.SetGuid(guid);
+    EXPECT_EQ(Base(L"SETASDEFAULT_LABEL_1", {}, &node), guid);
+    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &node), 3);
+    const CString path = Host().Support().Wide("town.gpkg");
+    ASSERT_TRUE(
+        acDocManagerPtr()->saveDocumentAs(acDocManagerPtr()->curDocument(), path, {}).ok());
+    acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
+    AcApDocument* pDoc = nullptr;
+    ASSERT_TRUE(acDocManagerPtr()->openDocument(path, {}, pDoc).ok());
+    System::CGisSystem* const pSystem =
+        System::CSystemManager::Instance()->GetSystemByName(L"Town");
+    ASSERT_TRUE(pSystem);
+    const auto store = Family(L"LABEL").GetSystemStore(pSystem);
+    const auto label = boost::dynamic_pointer_cast<LabelDefinition>(store->GetItem(guid));
+    ASSERT_TRUE(label);
+    EXPECT_EQ(label->pattern, L"{NAME}!");
+    EXPECT_EQ(label->height, 1.5);
+    EXPECT_EQ(label->GetEntityType(), EntityNode);
+    EXPECT_EQ(store->GetDefault(EntityNode), guid);
+    node.SetSystem(pSystem);
+    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &node), 3);
+    EXPECT_EQ(Labels(), "A! B! C! ") << "those from the file were replaced";
+}
+
+TEST_F(Executors, WithoutANodeTheNameIsAskedForAndFoundOnDisk) {
+    const Query::CQueryDefinition query(L"Q1", L"On disk");
+    EXPECT_TRUE(Family(L"QUERY").GetDiskStore()->Add(query).IsEmpty());
+    Host().Answer({L"on DISK"});
+    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", nullptr), 5);
+    System::CSystemManager::Instance()->SetSystemActive(nullptr);
+    Host().Answer({L"on disk"});
+    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", nullptr), -1);
+    EXPECT_NE(Host().TakeOutput().find("No system is active."), std::string::npos);
+    EXPECT_EQ(Base(L"DEL_QUERY", {L"on disk", L"yes"}, nullptr), L"Q1");
+}
+
+TEST_F(Executors, SystemsAreMadeChangedAndRemoved) {
+    System::CSystemManager& systems = *System::CSystemManager::Instance();
+    EXPECT_EQ(System(L"SYSTEM_ADD", {L"Lots", L"2"}, nullptr), 1);
+    EXPECT_EQ(System(L"SYSTEM_ADD", {L"Sewer", L"1", L"2"}, nullptr), 1);
+    EXPECT_EQ(System(L"SYSTEM_ADD", {L"town", L"", L""}, nullptr), 0) << "the name is taken";
+    EXPECT_EQ(System(L"SYSTEM_ADD", {L"x", L"77"}, nullptr), 0);
+    System::CGisSystem* const pSewer = systems.GetSystemByName(L"Sewer");
+    ASSERT_TRUE(pSewer);
+    EXPECT_EQ(pSewer->GetSystemFunction(), 2);
+    CWsTreeItemData node = Node(L"", Workspace::WsItemSystem, pSewer);
+    EXPECT_EQ(System(L"SYSTEM_DBLCLICK", {}, &node), 1);
+    EXPECT_EQ(systems.GetActiveSystem(), pSewer);
+    EXPECT_EQ(System(L"SYSTEM_TOGGLEVISIBILITY", {}, &node), 1);
+    EXPECT_FALSE(pSewer->GetVisibility());
+    EXPECT_EQ(System(L"SYSTEM_EDIT", {L"Lots"}, &node), 0);
+    EXPECT_EQ(System(L"SYSTEM_EDIT", {L"Drains"}, &node), 1);
+    EXPECT_EQ(System(L"SYSTEM_DEL", {L"no"}, &node), 0);
+    EXPECT_EQ(System(L"SYSTEM_DEL", {L"yes"}, &node), 1);
+    EXPECT_FALSE(systems.GetSystemByName(L"Drains"));
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_TRUE(systems.GetSystemByName(L"Drains"));
+    EXPECT_EQ(System(L"SYSTEM_DBLCLICK", {L"nobody"}, nullptr), 0);
+    EXPECT_EQ(System(L"SYSTEM_DBLCLICK", {L"lots"}, nullptr), 1);
+    EXPECT_EQ(System(L"SILENT_SYSTEM_DEL", {}, nullptr), 1);
+    EXPECT_FALSE(systems.GetSystemByName(L"Lots"));
+    EXPECT_EQ(System(L"SILENT_SYSTEM_DEL", {}, nullptr), 0) << "no system is active";
+}

@@ -1,0 +1,265 @@
+// Where configurations are kept: folders, with all that can be wrong with files, and systems
+// of a drawing.
+#include <boost/make_shared.hpp>
+
+#include "platform/arx/DbUndoScopes.h"
+#include "siblings/giscore/DrawingRecords.h"
+#include "siblings/giscore/GisEvents.h"
+#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/QueryDefinition.h"
+#include "siblings/giscore/RepositoryFolder.h"
+#include "siblings/giscore/RepositoryItemFactory.h"
+#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/RepositoryRecords.h"
+#include "siblings/giscore/StoredRepositoryFactory.h"
+#include "tests/support/TestDrawing.h"
+
+using namespace Orvane;
+using Query::CQueryDefinition;
+
+namespace {
+
+class QueryItems final : public CRepositoryItemFactory {
+    boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
+                                                  const wchar_t* name) override {
+        return boost::make_shared<CQueryDefinition>(guid, name);
+    }
+};
+
+/// Notes the events of configurations.
+class Events final : public System::ISystemEvents {
+public:
+    Events() { System::CGisEvents::Instance()->Register(this); }
+    ~Events() { System::CGisEvents::Instance()->Unregister(this); }
+    Events(const Events&) = delete;
+    Events& operator=(const Events&) = delete;
+
+    void OnNewConfigDefinitionAdded(System::CGisSystem* p, const wchar_t* tag,
+                                    const wchar_t* guid) override {
+        Note("added", p, tag, guid);
+    }
+    void OnBeforeConfigDefinitionDeleted(System::CGisSystem* p, const wchar_t* tag,
+                                         const wchar_t* guid) override {
+        Note("deleted", p, tag, guid);
+    }
+    void OnConfigDefinitionChanged(System::CGisSystem* p, const wchar_t* tag,
+                                   const wchar_t* guid) override {
+        Note("changed", p, tag, guid);
+    }
+    void OnConfigBecomeDefault(System::CGisSystem* p, const wchar_t* tag,
+                               const wchar_t* guid) override {
+        Note("default", p, tag, guid);
+    }
+    void OnSystemChanged(System::CGisSystem*) override { ++systemChanges; }
+    std::string Take() { return std::exchange(m_text, {}); }
+    int systemChanges = 0;
+
+private:
+    void Note(const char* what, const System::CGisSystem* pSystem, const CString& tag,
+              const CString& guid) {
+        m_text += std::string(what) + (pSystem ? " in " : " ") +
+                  WideToUtf8((pSystem ? pSystem->GetSystemName() + L" " : CString()).View()) +
+                  WideToUtf8((tag + L"/" + guid).View()) + "; ";
+    }
+    std::string m_text;
+};
+
+std::string Names(const std::vector<CRepositoryStore::ItemPtr>& items) {
+    std::string text;
+    for (const auto& item : items) {
+        text += (text.empty() ? "" : ", ") + WideToUtf8(item->GetName().View());
+    }
+    return text;
+}
+
+std::string Problems() {
+    std::string text;
+    for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
+        text += WideToUtf8(problem.View()) + "\n";
+    }
+    return text;
+}
+
+std::string QueryText(const std::string& guid, const std::string& name,
+                      const std::string& rest = R"(of="2" match="all"/>)") {
+    return R"(<item tag="QUERY" guid=")" + guid + R"(" name=")" + name + R"(" entityType="0" )" +
+           rest;
+}
+
+class RepositoryStore : public TestDrawing {
+protected:
+    RepositoryStore() {
+        CRepositoryManager::Instance()->RegisterRepositoryItemFactory(L"QUERY", &m_items);
+        std::filesystem::create_directories(m_folder / "QUERY");
+    }
+    CRepositoryFolder Folder() const { return {L"QUERY", m_folder.Wide(""), L"test"}; }
+
+    QueryItems m_items;
+    TempFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
+    struct {
+        const char* file;
+        std::string content;
+        const char* problem; ///< empty: it is read
+    } const cases[] = {
+        {"A1.xml", QueryText("A1", "good"), ""},
+        {"b2.xml", QueryText("B2", "also good"), ""},
+        {"B2.xml", QueryText("b2", "twice"), ""},
+        {"CUT.xml", QueryText("CUT", "x").substr(0, 40), "CUT.xml: 1: "},
+        {"EMPTY.xml", "", "EMPTY.xml: 1: "},
+        {"BIN.xml", std::string("\0\xff\xfe<", 4), "BIN.xml: 1: "},
+        {"ROOT.xml", R"(<query tag="QUERY" guid="ROOT" name="x"/>)", "its root is \"query\""},
+        {"TAG.xml", R"(<item tag="THEME" guid="TAG" name="x"/>)", "to the family \"THEME\""},
+        {"NAME.xml", QueryText("NAME", " "), "NAME.xml: it has no name"},
+        {"OTHER.xml", QueryText("A1", "copied by hand"), "OTHER.xml: it has the GUID \"A1\""},
+        {"OP.xml", QueryText("OP", "x", R"(of="2" match="all"><condition attribute="A"/></item>)"),
+         "OP.xml: a condition of it is none"},
+        {"OF.xml", QueryText("OF", "x", R"(of="9999999999" match="all"/>)"),
+         "OF.xml: it does not say"},
+        {"DTD.xml", "<!DOCTYPE item [<!ENTITY a \"b\">]>" + QueryText("DTD", "&a;"),
+         "a document type is not allowed"},
+        {"notes.txt", "x", "notes.txt: it is not named after a GUID"},
+        {"A1.xml.new-77", "x", "A1.xml.new-77: it is not named after a GUID"},
+        {"not a guid.xml", QueryText("x", "x"), "not a guid.xml: it is not named after a GUID"},
+    };
+    for (const auto& test : cases) {
+        m_folder.Write(std::string("QUERY/") + test.file, test.content);
+    }
+    std::string deep = QueryText("DEEP", "x", R"(of="2" match="all">)");
+    for (int i = 0; i < 100'000; ++i) {
+        deep += "<a>";
+    }
+    m_folder.Write("QUERY/DEEP.xml", deep);
+    std::filesystem::create_symlink("nowhere", m_folder / "QUERY/GONE.xml");
+
+    const CRepositoryFolder store = Folder();
+    EXPECT_EQ(Names(store.GetItems()), "good, twice") << "capital letters come first";
+    const std::string problems = Problems();
+    for (const auto& test : cases) {
+        EXPECT_NE(problems.find(test.problem), std::string::npos) << test.file << "\n" << problems;
+    }
+    EXPECT_NE(problems.find("DEEP.xml: 1: the elements are too deep"), std::string::npos);
+    EXPECT_NE(problems.find("GONE.xml: "), std::string::npos);
+    EXPECT_NE(problems.find("b2.xml: there is another item of its GUID"), std::string::npos);
+    EXPECT_FALSE(store.GetItem(L"OTHER"));
+    EXPECT_FALSE(store.GetItem(L"CUT"));
+    EXPECT_FALSE(store.GetItem(L"../QUERY/A1"));
+}
+
+TEST_F(RepositoryStore, WhatIsWrittenComesBackWhateverItsTexts) {
+    const wchar_t* const kHard = L"<\"&'> \x17E\x4E2D\x1F600 =3D \t";
+    CRepositoryFolder store = Folder();
+    CQueryDefinition query(L"Q1", L"x");
+    query.SetName(CString(kHard) + L"end");
+    query.SetQueriedType(EntitySection);
+    query.SetMatchAny(true);
+    query.SetConditions({{L"A & B", Query::Operator::Contains, CString(kHard) + L"\x1\xD800|"}});
+    Events events;
+    EXPECT_TRUE(store.Add(query).IsEmpty());
+    EXPECT_EQ(events.Take(), "added QUERY/Q1; ");
+    const auto again = boost::dynamic_pointer_cast<CQueryDefinition>(Folder().GetItem(L"Q1"));
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->GetName(), query.GetName());
+    EXPECT_EQ(again->GetQueriedType(), EntitySection);
+    EXPECT_TRUE(again->GetMatchAny());
+    ASSERT_EQ(again->GetConditions().size(), 1U);
+    EXPECT_EQ(again->GetConditions()[0].value, CString(kHard) + L"|");
+}
+
+TEST_F(RepositoryStore, ChangesOfAFolder) {
+    CRepositoryFolder store = Folder();
+    const auto add = [&](const wchar_t* guid, const wchar_t* name) {
+        return store.Add(CQueryDefinition(guid, name)).IsEmpty();
+    };
+    EXPECT_TRUE(add(L"Q1", L"one"));
+    EXPECT_TRUE(add(L"Q2", L"two"));
+    EXPECT_FALSE(add(L"q1", L"three")) << "the GUID is taken";
+    EXPECT_FALSE(add(L"Q3", L"ONE")) << "the name is taken";
+    EXPECT_FALSE(add(L"Q3", L"")) << "there is no name";
+    EXPECT_FALSE(add(L"../Q3", L"three")) << "a GUID that leads out of the folder";
+    Events events;
+    EXPECT_FALSE(store.Rename(L"Q2", L"one").IsEmpty());
+    EXPECT_TRUE(store.Rename(L"Q2", L"TWO").IsEmpty());
+    EXPECT_FALSE(store.Rename(L"Q9", L"nine").IsEmpty());
+    EXPECT_FALSE(store.Replace(CQueryDefinition(L"Q9", L"nine")).IsEmpty());
+    EXPECT_FALSE(store.SetDefault(L"Q1").IsEmpty()) << "folders have no default";
+    EXPECT_TRUE(store.Remove(L"Q1").IsEmpty());
+    EXPECT_FALSE(store.Remove(L"Q1").IsEmpty());
+    EXPECT_EQ(events.Take(), "changed QUERY/Q2; deleted QUERY/Q1; ");
+    EXPECT_EQ(Names(Folder().GetItems()), "TWO");
+    EXPECT_EQ(FreeItemName(store, EntityNone, L"two"), L"two (2)");
+
+    std::filesystem::remove_all(m_folder / "QUERY");
+    m_folder.Write("QUERY", "a file in the place of the folder");
+    EXPECT_FALSE(add(L"Q4", L"four"));
+    EXPECT_EQ(Names(store.GetItems()), "TWO") << "what was not written is not there";
+}
+
+TEST_F(RepositoryStore, ItemsOfASystemAreUndoneAndGoWithIt) {
+    System::CGisSystem* pSystem = &MakeSystem(L"Town");
+    AcDbUndo& undo = Document()->database()->undo();
+    CQueryDefinition query(L"Q1", L"one");
+    Events events;
+    EXPECT_TRUE(CRepositoryRecords(L"QUERY", *pSystem).Add(query).IsEmpty());
+    EXPECT_TRUE(CRepositoryRecords(L"QUERY", *pSystem).SetDefault(L"Q1").IsEmpty());
+    EXPECT_EQ(events.Take(), "added in Town QUERY/Q1; default in Town QUERY/Q1; ");
+    EXPECT_TRUE(CRepositoryRecords(L"THEME", *pSystem).GetItems().empty());
+    EXPECT_TRUE(CRepositoryRecords(L"QUERY", *pSystem).Remove(L"Q1").IsEmpty());
+    EXPECT_TRUE(CRepositoryRecords(L"QUERY", *pSystem).GetDefault(EntityNone).IsEmpty());
+
+    events.systemChanges = 0;
+    EXPECT_TRUE(undo.undo()) << "the item and that it is the default are one step";
+    EXPECT_EQ(events.systemChanges, 1);
+    const CRepositoryRecords store(L"QUERY", *pSystem);
+    EXPECT_EQ(Names(store.GetItems()), "one");
+    EXPECT_EQ(store.GetDefault(EntityNone), L"Q1");
+
+    System::CSystemManager::Instance()->DeleteSystem(pSystem);
+    EXPECT_TRUE(undo.undo());
+    pSystem = System::CSystemManager::Instance()->GetSystemByName(L"Town");
+    ASSERT_TRUE(pSystem);
+    EXPECT_EQ(Names(CRepositoryRecords(L"QUERY", *pSystem).GetItems()), "one");
+}
+
+TEST_F(RepositoryStore, RecordsThatOthersSpoiltAreSkipped) {
+    System::CGisSystem& system = MakeSystem(L"Town");
+    System::DrawingRecords records = system.GetRecords();
+    records.Set(L"ITEM.QUERY.A1", CString(Utf8ToWide(QueryText("A1", "good"))));
+    records.Set(L"ITEM.QUERY.A2", CString(Utf8ToWide(QueryText("A2", "cut").substr(0, 30))));
+    records.Set(L"ITEM.QUERY.a b", L"x");
+    records.Set(L"ITEM.QUERY.DEFAULT.0", L"no such item");
+    const CRepositoryRecords store(L"QUERY", system);
+    EXPECT_EQ(Names(store.GetItems()), "good");
+    EXPECT_NE(Problems().find("Town: ITEM.QUERY.A2: 1: "), std::string::npos) << Problems();
+    EXPECT_NE(Problems().find("Town: ITEM.QUERY.a b: it is not"), std::string::npos);
+    EXPECT_FALSE(store.GetItem(store.GetDefault(EntityNone)));
+
+    AcDbDictionary* pOpen = nullptr;
+    ASSERT_EQ(acdbOpenObject(pOpen, records.Dictionary()->objectId(), AcDb::kForWrite), Acad::eOk);
+    EXPECT_FALSE(CRepositoryRecords(L"QUERY", system).Add(CQueryDefinition(L"Q", L"q")).IsEmpty());
+    pOpen->close();
+}
+
+TEST_F(RepositoryStore, TheNetRepositoryIsTheFolderOfTheSetting) {
+    CStoredRepositoryFactory family(L"QUERY", false);
+    EXPECT_FALSE(family.GetNetStore());
+    EXPECT_TRUE(family.GetDiskStore()->GetItems().empty()) << "there is no folder yet";
+    m_folder.Write("QUERY/A1.xml", QueryText("A1", "shared"));
+    Host().Support().Write("Settings.ini",
+                           "[General]\nNET_REPOSITORY=" + m_folder.Native("") + "\n");
+    CModuleConfiguration::Instance()->ReloadGeneralSettings();
+    family.ReloadRepository(0);
+    ASSERT_TRUE(family.GetNetStore());
+    EXPECT_EQ(Names(family.GetNetStore()->GetItems()), "shared");
+
+    Host().Support().Write("Settings.ini", "[General]\nNET_REPOSITORY=/no/such/folder\n");
+    CModuleConfiguration::Instance()->ReloadGeneralSettings();
+    family.ReloadRepository(0);
+    EXPECT_TRUE(family.GetNetStore()->GetItems().empty());
+    EXPECT_NE(Problems().find("/no/such/folder: there is no such folder"), std::string::npos);
+    EXPECT_FALSE(family.GetNetStore()->Add(CQueryDefinition(L"Q", L"q")).IsEmpty());
+}

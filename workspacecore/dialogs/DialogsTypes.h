@@ -5,11 +5,11 @@ namespace Orvane::Workspace {
 
 /// What the framework does with a dialog's place. Single bits, of which a dialog has one.
 enum enmDialogType : int {
-    enmDialogFixed = 1,            ///< place restored
-    enmDialogSizable = 2,          ///< place and size restored
-    enmDialogFixedCascaded = 4,    ///< the same; new ones cascade, others stick to them
+    enmDialogFixed = 1,         ///< place restored
+    enmDialogSizable = 2,       ///< place and size restored
+    enmDialogFixedCascaded = 4, ///< the same; new ones cascade, others stick to them
     enmDialogSizableCascaded = 8,
-    enmDialogFixedHosted = 16,     ///< lives in something that owns its place
+    enmDialogFixedHosted = 16, ///< lives in something that owns its place
     enmDialogSizableHosted = 32,
 };
 

@@ -43,8 +43,8 @@ CUiStates::DialogStatePtr NeedState(const wchar_t* dialogId) {
 } // namespace
 
 CWsBaseDialog::CWsBaseDialog(unsigned int, const wchar_t* dialogId, enmDialogType type,
-                             int settingsButton, int, int, CWnd* parent,
-                             HINSTANCE resourceInstance, unsigned int subscriberNumber)
+                             int settingsButton, int, int, CWnd* parent, HINSTANCE resourceInstance,
+                             unsigned int subscriberNumber)
     : CAdUiBaseDialog(0, parent, resourceInstance), CSubscriber(subscriberNumber),
       m_dialogId(dialogId), m_dialogType(type), m_hasSettingsButton(settingsButton) {
     CWsManager& manager = *CWsManager::Instance();
@@ -54,9 +54,9 @@ CWsBaseDialog::CWsBaseDialog(unsigned int, const wchar_t* dialogId, enmDialogTyp
     manager.DlgMgr()->RegisterWsDialog(this);
     manager.RegisterWsListener(this);
     int number = 1;
-    for (const auto& [wanted, pId] :
-         {std::pair(m_hasExpandButton, &m_expandButtonId), std::pair(m_hasHelpButton, &m_helpButtonId),
-          std::pair(m_hasSettingsButton, &m_settingsButtonId)}) {
+    for (const auto& [wanted, pId] : {std::pair(m_hasExpandButton, &m_expandButtonId),
+                                      std::pair(m_hasHelpButton, &m_helpButtonId),
+                                      std::pair(m_hasSettingsButton, &m_settingsButtonId)}) {
         if (wanted) {
             *pId = number++;
         }
@@ -88,8 +88,7 @@ void CWsBaseDialog::DoDataExchange(CDataExchange* pExchange) {
 }
 
 bool CWsBaseDialog::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->message == WM_KEYDOWN &&
-        (pMsg->wParam == VK_RETURN || pMsg->wParam == VK_ESCAPE)) {
+    if (pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_RETURN || pMsg->wParam == VK_ESCAPE)) {
         // To the control that has the focus, and never to the default or cancel button.
         DispatchMessage(pMsg);
         return true;
@@ -290,9 +289,9 @@ void CWsBaseDialog::ExpandCollapse() {
     if (!m_isCollapsed) {
         m_expandedRect = place;
     }
-    for (const int height :
-         m_isCollapsed ? ExpandHeights(caption, place.top, m_expandedRect.Height())
-                       : CollapseHeights(place.Height(), caption)) {
+    for (const int height : m_isCollapsed
+                                ? ExpandHeights(caption, place.top, m_expandedRect.Height())
+                                : CollapseHeights(place.Height(), caption)) {
         SetHeight(height);
     }
     m_isCollapsed = !m_isCollapsed;

@@ -17,9 +17,9 @@ namespace {
 
 /// Dialogs that outlive DeleteAllModelessDialogs.
 constexpr const wchar_t* kKept[] = {
-    L"DLG_ORV_TOOLBAR",   L"WS_SYSMAN_PANELPLUGIN", L"DLG_ORV_UNDO",      L"DLG_PANELSEARCH",
-    L"DLG_SINGLE_PREVIEW", L"DLG_LOGVIEWER",        L"DLG_PREVIEW_PANEL", L"SINGLE_INPUT",
-    L"DLG_ORVUTIL",       L"DLG_SMALLDATAWRITER"};
+    L"DLG_ORV_TOOLBAR",    L"WS_SYSMAN_PANELPLUGIN", L"DLG_ORV_UNDO",      L"DLG_PANELSEARCH",
+    L"DLG_SINGLE_PREVIEW", L"DLG_LOGVIEWER",         L"DLG_PREVIEW_PANEL", L"SINGLE_INPUT",
+    L"DLG_ORVUTIL",        L"DLG_SMALLDATAWRITER"};
 
 /// What other modules of the family keep of places in a drawing.
 constexpr const wchar_t* kPlacesInDrawing[] = {L"ORVZ_AG_SETTINGS", L"ORVZ_LSD_IA"};
@@ -158,7 +158,8 @@ void CWsDialogManager::GetAllDialogs(std::vector<CString>& ids) const {
 
 boost::shared_ptr<CUiStates> CWsDialogManager::GetDialogStates() {
     if (!m_uiStates) {
-        m_uiStatesPath.Format(L"%suiStates.xml", CModuleConfiguration::Instance()->GetPath(L"support"));
+        m_uiStatesPath.Format(L"%suiStates.xml",
+                              CModuleConfiguration::Instance()->GetPath(L"support"));
         m_uiStates.reset(new CUiStates);
         m_uiStates->Load(m_uiStatesPath);
     }

@@ -60,8 +60,7 @@ CWsPanelDialogManager::GetWsPanelMetadata(enmPanelDialogPosition position) {
     return m_panelDialogs[position];
 }
 
-CWsPanelDialog*
-CWsPanelDialogManager::GetWsPanelDialogByPosition(enmPanelDialogPosition position) {
+CWsPanelDialog* CWsPanelDialogManager::GetWsPanelDialogByPosition(enmPanelDialogPosition position) {
     const MetadataPtr metadata = m_panelDialogs[position];
     if (!metadata || metadata->m_panelDialog) {
         return metadata ? metadata->m_panelDialog : nullptr;

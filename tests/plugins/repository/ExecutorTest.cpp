@@ -138,8 +138,8 @@ protected:
 TEST_F(Executors, AQueryIsAddedRunEditedAndUndone) {
     CWsTreeItemData folder = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
     Counter refreshes(L"REFRESH_CHILDREN");
-    const CString guid = Base(
-        L"ADD_QUERY", {L" Thick ", L"section", L"all", L"diameter >= 300", L""}, &folder);
+    const CString guid =
+        Base(L"ADD_QUERY", {L" Thick ", L"section", L"all", L"diameter >= 300", L""}, &folder);
     ASSERT_TRUE(InSystem(L"QUERY")->GetItem(guid));
     EXPECT_EQ(refreshes.count, 1);
     EXPECT_EQ(refreshes.pLast, &m_system);
@@ -149,9 +149,9 @@ TEST_F(Executors, AQueryIsAddedRunEditedAndUndone) {
     EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &item), 1);
     EXPECT_EQ(selections.count, 1);
     EXPECT_NE(Host().TakeOutput().find("Thick: 1 entities of Town"), std::string::npos);
-    EXPECT_EQ(Base(L"EDIT_QUERY", {L"", L"any", L"-", L"KIND = tank", L"DIAMETER < 300", L""},
-                   &item),
-              guid);
+    EXPECT_EQ(
+        Base(L"EDIT_QUERY", {L"", L"any", L"-", L"KIND = tank", L"DIAMETER < 300", L""}, &item),
+        guid);
     EXPECT_EQ(Run(L"QUERY", L"DBLCLICK_QUERY", &item), 1);
     EXPECT_TRUE(Undo().undo());
     EXPECT_TRUE(Undo().undo());
@@ -298,8 +298,7 @@ TEST_F(Executors, ConfigurationsAreSavedWithTheDrawing) {
     EXPECT_EQ(Base(L"SETASDEFAULT_LABEL_1", {}, &node), guid);
     EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &node), 3);
     const CString path = Host().Support().Wide("town.gpkg");
-    ASSERT_TRUE(
-        acDocManagerPtr()->saveDocumentAs(acDocManagerPtr()->curDocument(), path, {}).ok());
+    ASSERT_TRUE(acDocManagerPtr()->saveDocumentAs(acDocManagerPtr()->curDocument(), path, {}).ok());
     acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
     AcApDocument* pDoc = nullptr;
     ASSERT_TRUE(acDocManagerPtr()->openDocument(path, {}, pDoc).ok());

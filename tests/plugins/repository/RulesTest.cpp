@@ -115,13 +115,11 @@ TEST(ThemeClasses, RareValuesShareTheLastClass) {
 
 TEST(ThemeClasses, RulesThatMakeNoSenseAreFound) {
     const double nan = std::nan("");
-    for (const ThemeRule& rule : {ThemeRule{ThemeMode::Ranges, 0, {}, {}},
-                                  ThemeRule{ThemeMode::Ranges, 13, {}, {}},
-                                  ThemeRule{ThemeMode::Ranges, 5, {1, 1}, {}},
-                                  ThemeRule{ThemeMode::Ranges, 5, {2, 1}, {}},
-                                  ThemeRule{ThemeMode::Ranges, 5, {1, nan}, {}},
-                                  ThemeRule{ThemeMode::Unique, 5, {}, {0}},
-                                  ThemeRule{ThemeMode::Unique, 5, {}, {1, 256}}}) {
+    for (const ThemeRule& rule :
+         {ThemeRule{ThemeMode::Ranges, 0, {}, {}}, ThemeRule{ThemeMode::Ranges, 13, {}, {}},
+          ThemeRule{ThemeMode::Ranges, 5, {1, 1}, {}}, ThemeRule{ThemeMode::Ranges, 5, {2, 1}, {}},
+          ThemeRule{ThemeMode::Ranges, 5, {1, nan}, {}}, ThemeRule{ThemeMode::Unique, 5, {}, {0}},
+          ThemeRule{ThemeMode::Unique, 5, {}, {1, 256}}}) {
         EXPECT_STRNE(ThemeRuleFault(rule), "");
     }
     EXPECT_STREQ(ThemeRuleFault({ThemeMode::Ranges, 12, {-1, 0, 1}, {1, 255}}), "");
@@ -170,10 +168,8 @@ TEST(LabelPlaces, AreTheMiddleOfALineAndTheCentreOfAnArea) {
         std::vector<AcGePoint3d> line;
         AcGePoint3d middle;
     } const lines[] = {
-        {{{0, 0}, {10, 0}}, {5, 0}},
-        {{{0, 0}, {10, 0}, {10, 20}}, {10, 5}},
-        {{{3, 4}, {3, 4}}, {3, 4}},
-        {{{3, 4}}, {3, 4}},
+        {{{0, 0}, {10, 0}}, {5, 0}},          {{{0, 0}, {10, 0}, {10, 20}}, {10, 5}},
+        {{{3, 4}, {3, 4}}, {3, 4}},           {{{3, 4}}, {3, 4}},
         {{{nan, 0}, {0, 0}, {4, 0}}, {2, 0}},
     };
     for (const auto& test : lines) {
@@ -248,10 +244,9 @@ TEST(ShortestPath, GoesByDrawnLengthInEitherDirection) {
 
 TEST(ProfileLines, LeaveOutWhatNoStationHas) {
     EXPECT_EQ(ProfileLines({{0, "A", 10.0, {}}, {50, "Ö", 9.0, {}}, {50, "C", {}, {}}}),
-              (std::vector<std::string>{"    chainage     ground   slope %  node",
-                                        "        0.00      10.00            A",
-                                        "       50.00       9.00     -2.00  Ö",
-                                        "       50.00          -         -  C"}));
+              (std::vector<std::string>{
+                  "    chainage     ground   slope %  node", "        0.00      10.00            A",
+                  "       50.00       9.00     -2.00  Ö", "       50.00          -         -  C"}));
     EXPECT_EQ(ProfileLines({{0, "A", 12.0, 10.0}, {10, "B", 12.0, 9.5}})[2],
               "       10.00      12.00       9.50     -5.00  B");
     EXPECT_EQ(ProfileLines({{0, "A", {}, {}}})[1], "        0.00  A");

@@ -119,7 +119,7 @@ std::optional<Condition> ParseCondition(const CString& text) {
 }
 
 CString ConditionText(const Condition& condition) {
-    const CString left = condition.attribute + L" " + OperatorText(condition.op);
+    CString left = condition.attribute + L" " + OperatorText(condition.op);
     if (condition.op == Operator::IsEmpty) {
         return left;
     }

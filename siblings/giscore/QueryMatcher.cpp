@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <compare>
 
 #include "platform/win/CodePage.h"
 #include "platform/win/Number.h"
@@ -62,7 +63,7 @@ bool QueryMatcher::Fulfils(const Test& test, const AcDbValue& value) {
         return text.IsEmpty();
     }
     const auto order = Order(ValueNumber(value), text, test.number, test.text);
-    const bool isEqual = order && *order == 0;
+    const bool isEqual = order && std::is_eq(*order);
     const bool isOrdered = order && !text.IsEmpty();
     switch (test.op) {
     case Operator::Equal:
@@ -70,13 +71,13 @@ bool QueryMatcher::Fulfils(const Test& test, const AcDbValue& value) {
     case Operator::NotEqual:
         return !isEqual;
     case Operator::Less:
-        return isOrdered && *order < 0;
+        return isOrdered && std::is_lt(*order);
     case Operator::LessOrEqual:
-        return isOrdered && *order <= 0;
+        return isOrdered && std::is_lteq(*order);
     case Operator::Greater:
-        return isOrdered && *order > 0;
+        return isOrdered && std::is_gt(*order);
     case Operator::GreaterOrEqual:
-        return isOrdered && *order >= 0;
+        return isOrdered && std::is_gteq(*order);
     default:
         return false;
     }

@@ -128,7 +128,7 @@ CString CRepositoryStore::SetDefault(const wchar_t* guid) {
     if (!item) {
         return RepositoryMessage(kMsgItemIsGone);
     }
-    const CString reason = WriteDefault(*item);
+    CString reason = WriteDefault(*item);
     if (reason.IsEmpty()) {
         Tell(&ISystemEvents::OnConfigBecomeDefault, *this, *item);
     }

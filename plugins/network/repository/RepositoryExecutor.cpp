@@ -137,7 +137,7 @@ CRepositoryFactory::StorePtr AskDestination(const Call& call) {
         return answer->CompareNoCase(word) == 0 || answer->CompareNoCase(Text(shown)) == 0;
     };
     const bool isNet = is(L"net", Msg::Net);
-    const auto store =
+    auto store =
         isNet ? factory.GetNetStore()
         : is(L"disk", Msg::Disk)
             ? factory.GetDiskStore()

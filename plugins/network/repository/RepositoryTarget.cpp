@@ -25,7 +25,7 @@ bool IsOfRepositoryTree(const CWsTreeItemData* pNode) {
 
 /// Null, which the user is told, if there is no net repository.
 StorePtr FolderStore(CRepositoryFactory& factory, bool net) {
-    const StorePtr store = net ? factory.GetNetStore() : factory.GetDiskStore();
+    StorePtr store = net ? factory.GetNetStore() : factory.GetDiskStore();
     if (!store) {
         Refuse(Text(Msg::NoNet));
     }
@@ -45,7 +45,7 @@ StorePtr StoreOf(CRepositoryFactory& factory, const CWsTreeItemData* pNode,
     if (!pSystem && !pNode) {
         return factory.GetDiskStore();
     }
-    const StorePtr store = factory.GetSystemStore(pSystem);
+    StorePtr store = factory.GetSystemStore(pSystem);
     if (!store) {
         Refuse(Text(Msg::NoSystem));
     }
@@ -57,7 +57,7 @@ CRepositoryStore::ItemPtr FindByName(RepositoryTarget& target, const CString& na
     CRepositoryFactory& factory =
         *CRepositoryManager::Instance()->GetRepositoryfactory(target.store->GetTag());
     for (const StorePtr& store : {target.store, factory.GetDiskStore(), factory.GetNetStore()}) {
-        if (const auto item = store ? store->GetItemByName(name) : nullptr) {
+        if (auto item = store ? store->GetItemByName(name) : nullptr) {
             target.store = store;
             return item;
         }

@@ -232,7 +232,7 @@ TEST_F(WsRegistrationFactory, CommandsOfAFamilyInBothTrees) {
               (Lines{"SETASDEFAULT_X base 5 0 16 0", "ADD_X base 1 1 28 0", "EDIT_X base 2 7 16 0",
                      "RUN_X own 5 0 16 0", "DBLCLICK_X own 7 0 16 0", "QRYDROP_X own 7 0 16 0",
                      "DEL_X base 4 2 272 0", "REN_X base 2 7 272 0", "COPY_X base 2 0 16 0",
-                     "SENDTO_X base 7 1 272 0", "RPODROP_X own 7 1 24 0"}));
+                     "SENDTO_X base 7 1 272 0", "RPODROP_X base 7 1 24 0"}));
     for (const auto& command : Commands()) {
         EXPECT_EQ(command->GetRepositoryTag(), L"X");
         EXPECT_EQ(Topologies(*command), " 1:10 1:11 2:0") << Narrow(command->GetId());
@@ -260,7 +260,7 @@ TEST_F(WsRegistrationFactory, ACommandSetForEachKindOfEntity) {
                "EDIT_X_16 base 2 7 16 16", "RUN_X_16 own 5 0 16 16", "DBLCLICK_X_16 own 7 0 16 16",
                "QRYDROP_X_16 own 7 0 16 16", "DEL_X_16 base 4 2 16 16", "REN_X_16 base 2 7 16 16",
                "COPY_X_16 base 2 0 16 16", "SENDTO_X_16 base 7 1 16 16",
-               "RPODROP_X_16 own 7 1 24 16"}));
+               "RPODROP_X_16 base 7 1 24 16"}));
 }
 
 TEST_F(WsRegistrationFactory, AFamilyOfTheRepositoryTreesAlone) {
@@ -272,7 +272,7 @@ TEST_F(WsRegistrationFactory, AFamilyOfTheRepositoryTreesAlone) {
     Register(request);
     EXPECT_EQ(CommandLines(),
               (Lines{" base 5 0 16 0", "DEL_X base 4 2 256 0", "REN_X base 2 7 256 0",
-                     "COPY_X base 2 0 0 0", "RPODROP_X own 7 1 0 0"}))
+                     "COPY_X base 2 0 0 0", "RPODROP_X base 7 1 0 0"}))
         << "the command of the empty id included; sending needs the flag of the system tree";
     request.tag = L"Y";
     Register(request);

@@ -96,7 +96,7 @@ void CWsTreeManager::LoadRepositorySortOrder() {
 
 CWsTreeItemData* CWsTreeManager::Data(enmTree tree, HTREEITEM item) const {
     return m_views[tree] && item
-               ? reinterpret_cast<CWsTreeItemData*>(m_views[tree]->GetItemData(item))
+               ? PointerOf<CWsTreeItemData>(static_cast<LPARAM>(m_views[tree]->GetItemData(item)))
                : nullptr;
 }
 

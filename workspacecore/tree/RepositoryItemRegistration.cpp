@@ -119,7 +119,7 @@ void RegisterEntityFolder(const Family& family, enmEntityType entityType, const 
 /// All configurations of a family have its tag for an id.
 DefinitionPtr RegisterConfiguration(const Family& family, enmEntityType entityType,
                                     const TreeKinds& kinds) {
-    const DefinitionPtr definition =
+    DefinitionPtr definition =
         CreateDefinition(family, entityType, kinds.configuration,
                          family.entitySpecific ? kinds.entityFolder : kinds.folder);
     definition->SetAcceptQueryDrop(family.hasQueryDrop);
@@ -200,7 +200,7 @@ constexpr CommandRow kRows[] = {
     {kRename, CommandRow::Base, CommandGroupEdit, 1379, TreeBehaviorEdit, &Sets::deleteTypes},
     {kCopy, CommandRow::Base, CommandGroupEdit, 6066, TreeBehaviorNone, &Sets::editTypes},
     {kSendTo, CommandRow::Base, CommandGroupHidden, 6072, TreeBehaviorAdd, &Sets::sendToTypes},
-    {kItemDrop, CommandRow::Own, CommandGroupHidden, 6065, TreeBehaviorAdd, &Sets::dropTypes},
+    {kItemDrop, CommandRow::Base, CommandGroupHidden, 6065, TreeBehaviorAdd, &Sets::dropTypes},
 };
 
 void RegisterRows(const Family& family, std::span<const CommandRow> rows, enmEntityType entityType,

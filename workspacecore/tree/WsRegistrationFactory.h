@@ -28,9 +28,8 @@ public:
                        int registerCommands, int registerTools);
 
     /// A family of repository configurations: its folders, its items and its commands.
-    /// Adding, editing, deleting, renaming, copying, sending and setting as default are the
-    /// base executor's, which has to be registered before; running and drops go to
-    /// `executor`.
+    /// Running, double clicks and dropped queries go to `executor`; everything else is the
+    /// base executor's, which has to be registered before.
     /// \param repositoryTag names the family, and with it folder and configurations
     /// \param entityTypes bit set of the kinds of entities that it serves
     /// \param topologies null for every topology and function of the configuration

@@ -211,11 +211,16 @@ void Frame::changeEvent(QEvent* pEvent) {
 }
 
 void Frame::keyPressEvent(QKeyEvent* pEvent) {
-    // Whoever types over the drawing means the command line.
+    // Whoever types over the drawing means the command line; a key that a pane has left is
+    // not meant for it.
+    const QWidget* const pFocus = QApplication::focusWidget();
+    const bool isOver = !pFocus || pFocus == this || pFocus == centralWidget() ||
+                        centralWidget()->isAncestorOf(pFocus) ||
+                        m_pCommandDock->isAncestorOf(pFocus);
     const bool isText = !pEvent->text().isEmpty() && pEvent->text()[0].isPrint() &&
                         !(pEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
-    if ((isText || isEnter) && m_pPane->isEnabled()) {
+    if (isOver && (isText || isEnter) && m_pPane->isEnabled()) {
         m_pPane->TypeKey(*pEvent);
     } else {
         QMainWindow::keyPressEvent(pEvent);
@@ -309,9 +314,7 @@ void Frame::OnEntered(const QString& line) {
 
 void Frame::OnEscaped() {
     DrawingView* const pView = CurrentView();
-    if (pView && pView->IsPicking()) {
-        pView->CancelPick();
-    } else if (m_pPort->IsPrompting()) {
+    if (m_pPort->IsPrompting()) {
         m_pPort->Cancel();
     } else if (pView) {
         pView->SetSelection({});
@@ -323,7 +326,7 @@ void Frame::Run(const CString& name) {
         return;
     }
     if (IsRunning()) {
-        m_pPort->Cancel();
+        m_pPort->CancelOpen();
         m_pPort->PostCommand(name.View());
         return;
     }
@@ -338,7 +341,18 @@ void Frame::Run(const CString& name) {
     m_pSession->RunCommand(name);
     --m_nDepth;
     m_pPort->DropAnswers();
-    m_pPane->SetCompleting(true);
+    AfterRunning();
+}
+
+int Frame::RunScript(const CString& path) {
+    ++m_nDepth;
+    const int status = m_pSession->RunScript(path);
+    --m_nDepth;
+    AfterRunning();
+    return status;
+}
+
+void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
@@ -417,13 +431,18 @@ void Frame::ShowText(const QString& text) {
 }
 
 void Frame::BeginPrompt(const QString& prompt) {
+    m_prompts.append(prompt);
     m_pPane->SetPrompt(prompt);
     m_pPane->SetCompleting(false);
-    m_pPane->FocusInput();
 }
 
 void Frame::EndPrompt() {
-    m_pPane->SetPrompt({});
+    m_prompts.removeLast();
+    m_pPane->SetPrompt(m_prompts.isEmpty() ? QString() : m_prompts.last());
+    m_pPane->SetCompleting(m_prompts.isEmpty());
+    if (!IsRunning()) {
+        RunPostedSoon();
+    }
 }
 
 bool Frame::ShowProgress(const QString& what, int percent) {

@@ -51,7 +51,10 @@ public:
     void Run(const CString& name);
     /// Runs a command whose first prompts are answered already.
     void RunAnswered(const CString& name, const std::vector<CString>& answers);
-    bool IsRunning() const { return m_nDepth > 0; }
+    /// A command runs, or something waits for the user's answer.
+    bool IsRunning() const { return m_nDepth > 0 || !m_prompts.isEmpty(); }
+    /// Runs the commands of a file; see Session::RunScript.
+    int RunScript(const CString& path);
     /// Answers come from a script.
     bool IsScripted() const;
 
@@ -81,6 +84,7 @@ private:
     void MakeThemeMenu(QMenu& menu);
     void OnEntered(const QString& line);
     void OnEscaped();
+    void AfterRunning();
     void ShowPalette();
     void UpdateTitles();
     void UpdateCompletions();
@@ -108,6 +112,7 @@ private:
     std::map<AcApDocument*, View> m_views;
     std::vector<CString> m_recent; ///< the command used last first
     CString m_strTheme;
+    QStringList m_prompts; ///< that are open, the innermost last
     int m_nDepth = 0; ///< commands that run, one inside of the other
     bool m_bStopAsked = false;
     bool m_bFollowing = false; ///< the tabs are being made to show what is current

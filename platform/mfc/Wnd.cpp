@@ -248,6 +248,12 @@ CWnd* CWnd::GetParent() const {
     return m_pCore ? m_pCore->Parent() : nullptr;
 }
 
+void CWnd::SetParent(CWnd* pParent) {
+    if (m_pCore) {
+        m_pCore->MoveTo(pParent ? pParent->m_pCore : nullptr);
+    }
+}
+
 CWnd* CWnd::GetDlgItem(UINT id) const {
     if (!m_pCore) {
         return nullptr;

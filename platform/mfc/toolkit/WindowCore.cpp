@@ -137,6 +137,26 @@ void WindowCore::HandOver(CWnd& wnd) {
     m_pOwned.reset();
 }
 
+void WindowCore::MoveTo(WindowCore* pParent) {
+    for (const WindowCore* pAbove = pParent; pAbove; pAbove = Find(pAbove->m_parent)) {
+        if (pAbove == this) {
+            return;
+        }
+    }
+    if (WindowCore* const pBefore = Find(m_parent)) {
+        std::erase(pBefore->m_children, m_handle);
+    }
+    m_parent = pParent ? pParent->m_handle : nullptr;
+    if (pParent) {
+        pParent->m_children.push_back(m_handle);
+    }
+    if (m_outer && !m_outer->isWindow()) {
+        const bool isShown = !m_outer->isHidden();
+        m_outer->setParent(pParent ? pParent->m_client : nullptr);
+        m_outer->setVisible(isShown && pParent);
+    }
+}
+
 void WindowCore::Destroy() {
     if (m_destroying) {
         return;
@@ -190,7 +210,10 @@ void WindowCore::Detach() {
 }
 
 void WindowCore::WidgetGone() {
-    m_destroying = true;
+    const std::shared_ptr<WindowCore> keep = shared_from_this();
+    if (!m_destroying) {
+        TellDestroyed();
+    }
     Detach();
 }
 

@@ -68,6 +68,8 @@ public:
 
     /// Has another object stand for the window; the one before is left without.
     void HandOver(CWnd& wnd);
+    /// Has the window go with another parent; null: with none.
+    void MoveTo(WindowCore* pParent);
     /// An object that goes with the window: a control that nobody took over.
     void Own(std::unique_ptr<CWnd> pWnd) { m_pOwned = std::move(pWnd); }
     void Destroy();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <clocale>
-#include <cstdlib>
 #include <iterator>
 
 #include <QCursor>
@@ -11,11 +10,11 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QUrl>
-#include <xcb/xcb.h>
 
 #include "platform/mfc/WaitCursor.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
+#include "platform/mfc/toolkit/Displays.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 
 namespace {
@@ -23,35 +22,6 @@ namespace {
 bool g_desktop = false;
 /// Left alone at the end of the process, where the order of destruction is nobody's.
 Application* g_pApplication = nullptr;
-
-/// An empty variable says nothing.
-bool IsSet(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value && *value;
-}
-
-bool XServerAnswers() {
-    if (!IsSet("DISPLAY")) {
-        return false;
-    }
-    xcb_connection_t* const pConnection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(pConnection) == 0;
-    xcb_disconnect(pConnection);
-    return answers;
-}
-
-/// The toolkit ends the process if it cannot open a display, so it is asked for one only
-/// where there is one. A Wayland client can neither read nor set its place, so X11 comes
-/// first there, too.
-const char* ChosenDisplay() {
-    if (!g_desktop) {
-        return "offscreen";
-    }
-    if (XServerAnswers()) {
-        return "xcb;offscreen";
-    }
-    return IsSet("WAYLAND_DISPLAY") ? "wayland;offscreen" : "offscreen";
-}
 
 bool IsTranslated(QEvent::Type type) {
     switch (type) {
@@ -219,20 +189,29 @@ bool AfxIsDesktopMode() {
 }
 
 bool AfxHasDisplay() {
-    return IsSet("QT_QPA_PLATFORM") || XServerAnswers() || IsSet("WAYLAND_DISPLAY");
+    // The toolkit may have found that it cannot open what answers.
+    const std::string visible = VisibleDisplays();
+    return !visible.empty() && (!QCoreApplication::instance() ||
+                                visible.find(QGuiApplication::platformName().toStdString()) !=
+                                    std::string::npos);
 }
 
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
     }
-    if (!IsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", ChosenDisplay());
-    }
+    // Only for the start: programs that are started from here find their own.
+    const QByteArray named = qgetenv("QT_QPA_PLATFORM");
+    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(DisplaysToStartWith(g_desktop)));
     static int argc = 1;
     static char name[] = "tessaly";
     static char* argv[] = {name, nullptr};
     g_pApplication = new Application(argc, argv);
+    if (named.isEmpty()) {
+        qunsetenv("QT_QPA_PLATFORM");
+    } else {
+        qputenv("QT_QPA_PLATFORM", named);
+    }
     // It takes the user's language for everything, and "3,14" is no number in our files.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -59,7 +59,7 @@ void RestoreLayout(Frame& frame, const Options& options) {
     }
     frame.ApplyLayout(layout);
     if (options.theme) {
-        ApplyTheme(*options.theme); // for this run; the layout keeps its own
+        frame.SetThemeOfRun(*options.theme);
     }
 }
 

@@ -15,6 +15,7 @@
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/Displays.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 
 namespace {
@@ -37,7 +38,7 @@ bool IsTranslated(QEvent::Type type) {
 
 CPoint PointOf(const QEvent* pEvent) {
     const auto* const pMouse = dynamic_cast<const QMouseEvent*>(pEvent);
-    return ToCPoint(pMouse ? pMouse->globalPosition().toPoint() : QCursor::pos());
+    return ToScreenPoint(pMouse ? pMouse->globalPosition().toPoint() : QCursor::pos());
 }
 
 MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEvent) {
@@ -177,7 +178,7 @@ Qt::KeyboardModifiers Application::ModifiersInHand() const {
 }
 
 CPoint Application::PointInHand() const {
-    return m_inputs.empty() ? ToCPoint(QCursor::pos()) : m_inputs.back()->point;
+    return m_inputs.empty() ? ToScreenPoint(QCursor::pos()) : m_inputs.back()->point;
 }
 
 void AfxSetDesktopMode(bool desktop) {

@@ -92,6 +92,9 @@ public:
     void StartTimerOf(DWORD_PTR id, UINT milliseconds);
     bool StopTimerOf(DWORD_PTR id);
 
+    /// Of a child in its parent, of others on the screen as modules count.
+    QRect GeometryNow() const;
+    void TakeGeometry(const QRect& rect);
     /// Asks the handlers about a place, then takes it.
     void Place(WINDOWPOS place, const WindowCore* pInsertAfter);
 
@@ -107,7 +110,6 @@ private:
     void Register(QWidget* pWidget);
     void TellDestroyed();
     void Detach();
-    QRect GeometryNow() const;
 
     HWND m_handle = nullptr;
     HWND m_parent = nullptr;

@@ -65,6 +65,12 @@ CString DescriptionOf(const AcEdCommand& command) {
     return description;
 }
 
+/// Users look for a command by its title, too.
+CString WithTitle(const EdSourceCommand& command) {
+    const bool hasBoth = !command.title.IsEmpty() && !command.description.IsEmpty();
+    return command.title + (hasBoth ? L": " : L"") + command.description;
+}
+
 bool Help() {
     for (const ListedCommand& command : ListCommands()) {
         acutPrintf(L"%-20s %s\n", command.name, command.description);
@@ -90,8 +96,8 @@ std::vector<ListedCommand> ListCommands() {
                         isAble ? CString() : CString(L"No drawing is open")});
     }
     for (const IEdCommandSource* pSource : acedRegCmds()->sources()) {
-        for (auto& [name, description] : pSource->List()) {
-            list.push_back({name, description, {}});
+        for (const EdSourceCommand& command : pSource->List()) {
+            list.push_back({command.name, WithTitle(command), command.whyNot});
         }
     }
     return list;

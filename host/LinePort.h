@@ -23,4 +23,27 @@ public:
 /// Thrown when a command goes on prompting although the input has long ended.
 struct InputEnded {};
 
+/// What prompts get when nobody is left to answer them. A command that asks once hears that it
+/// was cancelled. One that asks on and on, as a text console does on Escape, is told to quit;
+/// one that does not listen to that either must not keep the program from ending, and gets
+/// InputEnded thrown.
+class PromptsBehindEnd {
+public:
+    void Reset() { m_nPrompts = 0; }
+    PromptEnd Answer(CString& answer) {
+        constexpr int kMost = 1000;
+        if (m_nPrompts++ == 0) {
+            return PromptEnd::Cancelled;
+        }
+        if (m_nPrompts > kMost) {
+            throw InputEnded();
+        }
+        answer = L"_quit";
+        return PromptEnd::Answered;
+    }
+
+private:
+    int m_nPrompts = 0;
+};
+
 } // namespace Tessaly

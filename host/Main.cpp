@@ -34,6 +34,28 @@ bool SetUpFolders(const Tessaly::Options& options) {
     return true;
 }
 
+bool WantsDesktop(const Tessaly::Options& options) {
+    return !options.console && !options.script;
+}
+
+/// Starts the toolkit for a desktop that can be seen, or for a picture of one.
+bool HasDesktop(const Tessaly::Options& options) {
+    if (options.snapshot) {
+        AfxStartToolkit();
+        return true;
+    }
+    AfxSetDesktopMode(true);
+    if (AfxHasDisplay()) {
+        AfxStartToolkit();
+    }
+    if (AfxHasDisplay()) {
+        return true;
+    }
+    AfxSetDesktopMode(false);
+    acutPrintf(L"There is no display that can be used: the console is started instead.\n");
+    return false;
+}
+
 int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
     Tessaly::Session session(port);
     const bool isOpen = session.Start(options.drawing);
@@ -72,11 +94,7 @@ int main(int argc, char** argv) {
     }
     int status = Tessaly::kExitBadUsage;
     if (SetUpFolders(options)) {
-        const bool isConsole =
-            options.console || options.script || (!options.snapshot && !AfxHasDisplay());
-        if (isConsole && !options.console && !options.script) {
-            acutPrintf(L"There is no display: the console is started instead.\n");
-        }
+        const bool isConsole = !WantsDesktop(options) || !HasDesktop(options);
         status = isConsole ? Run(options, port) : Tessaly::RunDesktop(options);
     }
     AfxStopToolkit();

@@ -55,6 +55,10 @@ OptionsResult ReadOptions(const std::vector<std::string>& arguments) {
             result.options.drawing = Utf8ToWide(argument);
         }
     }
+    const std::optional<CString>& theme = result.options.theme;
+    if (result.error.IsEmpty() && theme && *theme != L"light" && *theme != L"dark") {
+        result.error.Format(L"--theme %s: it can be light or dark", *theme);
+    }
     return result;
 }
 

@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::wstring_view kEscape = L"\x1B";
 constexpr std::wstring_view kBlanks = L" \t";
-/// What the host answers a prompt with when it wants to leave and a command still asks.
-constexpr const wchar_t* kQuitAnswer = L"_quit";
-/// Prompts that are answered so before the command counts as one that will never end.
-constexpr int kMostPromptsBehindEnd = 1000;
 /// Terminal sequences: to the begin of the line, and away with what is behind the cursor.
 constexpr const wchar_t* kLineBegin = L"\r";
 constexpr const wchar_t* kClearRest = L"\x1B[K";
@@ -119,17 +115,7 @@ PromptEnd ConsolePort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
     answer.Empty();
     const std::optional<CString> line = NextLine(prompt);
     if (!line) {
-        // A command that asks once hears that it was cancelled. One that asks on and on,
-        // as the text console does on Escape, is told to quit; one that does not listen
-        // to that either must not keep the program from ending.
-        if (m_nPromptsBehindEnd++ == 0) {
-            return PromptEnd::Cancelled;
-        }
-        if (m_nPromptsBehindEnd > kMostPromptsBehindEnd) {
-            throw InputEnded();
-        }
-        answer = kQuitAnswer;
-        return PromptEnd::Answered;
+        return m_behindEnd.Answer(answer);
     }
     if (line->View() == kEscape) {
         return PromptEnd::Cancelled;

@@ -19,7 +19,7 @@ public:
 
     void SetInput(IInputLines* pInput) override {
         m_pInput = pInput;
-        m_nPromptsBehindEnd = 0;
+        m_behindEnd.Reset();
     }
     IInputLines* Input() const { return m_pInput; }
 
@@ -55,7 +55,7 @@ private:
     IInputLines* m_pInput = nullptr;
     std::deque<CString> m_posted;
     bool m_atLineStart = true;
-    int m_nPromptsBehindEnd = 0;
+    PromptsBehindEnd m_behindEnd;
 };
 
 } // namespace Tessaly

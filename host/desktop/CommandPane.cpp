@@ -90,6 +90,11 @@ void CommandPane::SetCompleting(bool isOn) {
     m_pInput->setCompleter(isOn ? m_pCompleter : nullptr);
 }
 
+void CommandPane::SetHistory(const QStringList& lines) {
+    m_history = lines;
+    m_nHistoryPlace = m_history.size();
+}
+
 void CommandPane::Remember(const QString& line) {
     if (!line.trimmed().isEmpty() && (m_history.isEmpty() || m_history.last() != line)) {
         m_history.append(line);

@@ -26,7 +26,7 @@ public:
     void SetCompletions(const QStringList& words);
     void SetCompleting(bool isOn);
     /// Lines that the arrow keys bring back, the oldest first.
-    void SetHistory(const QStringList& lines) { m_history = lines; }
+    void SetHistory(const QStringList& lines);
     const QStringList& History() const { return m_history; }
     void Remember(const QString& line);
     void FocusInput();

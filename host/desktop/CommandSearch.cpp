@@ -22,6 +22,12 @@ std::wstring Lower(const CString& text) {
     return CString(text).MakeLower().Str();
 }
 
+std::wstring SearchedName(const CString& name) {
+    std::wstring words = Lower(name);
+    std::replace(words.begin(), words.end(), L'_', L' ');
+    return words;
+}
+
 bool BeginsWordAt(const std::wstring& text, std::size_t at) {
     return at == 0 || text[at - 1] == L' ' || text[at - 1] == L'-';
 }
@@ -67,9 +73,7 @@ std::vector<std::wstring> Words(const CString& query) {
 
 CommandSearch::CommandSearch(std::vector<CommandEntry> entries) : m_entries(std::move(entries)) {
     for (const CommandEntry& entry : m_entries) {
-        Text text{Lower(entry.name), Lower(entry.description)};
-        std::replace(text.name.begin(), text.name.end(), L'_', L' ');
-        m_texts.push_back(std::move(text));
+        m_texts.push_back({SearchedName(entry.name), Lower(entry.description)});
     }
     // Sorted once here, so that nothing is compared letter by letter at a keystroke.
     std::vector<std::size_t> order(m_texts.size());
@@ -105,9 +109,9 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
         std::size_t age; ///< place among the recent ones
     };
     const std::vector<std::wstring> words = Words(query);
-    std::unordered_map<std::wstring_view, std::size_t> ages;
+    std::unordered_map<std::wstring, std::size_t> ages;
     for (std::size_t age = 0; age < recent.size(); ++age) {
-        ages.emplace(recent[age].View(), age);
+        ages.emplace(SearchedName(recent[age]), age);
     }
     std::vector<Hit> hits;
     hits.reserve(m_texts.size());
@@ -119,7 +123,7 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
             return wordScore > 0;
         });
         if (fits) {
-            const auto used = ages.find(m_entries[i].name.View());
+            const auto used = ages.find(m_texts[i].name);
             hits.push_back({i, score, used == ages.end() ? recent.size() : used->second});
         }
     }

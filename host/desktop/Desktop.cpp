@@ -17,6 +17,7 @@
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
 #include "platform/mfc/WinApp.h"
+#include "platform/win/CodePage.h"
 #include "platform/win/File.h"
 
 namespace Tessaly {
@@ -42,7 +43,8 @@ CString LayoutPath() {
 void SaveLayout(const Frame& frame) {
     const CString problem = WriteLayout(LayoutPath(), frame.CurrentLayout());
     if (!problem.IsEmpty()) {
-        acutPrintf(L"The layout of the windows is not kept: %s\n", problem);
+        // The command line has gone from sight already.
+        Complain(WideToUtf8((L"the layout of the windows is not kept: " + problem).View()).c_str());
     }
 }
 
@@ -52,13 +54,13 @@ void RestoreLayout(Frame& frame, const Options& options) {
     if (!options.snapshot) {
         layout = ReadLayout(LayoutPath(), problem).value_or(Layout());
     }
-    if (options.theme) {
-        layout.theme = *options.theme;
-    }
     if (!problem.IsEmpty()) {
         acutPrintf(L"%s\n", problem);
     }
     frame.ApplyLayout(layout);
+    if (options.theme) {
+        frame.SetThemeOfRun(*options.theme);
+    }
 }
 
 /// Draws the window without anybody seeing it.
@@ -89,7 +91,7 @@ int Run(const Options& options, Frame& frame, Session& session) {
     const bool isOpen = session.Start(options.drawing);
     frame.SetSession(&session);
     if (options.first) {
-        session.RunScript(*options.first);
+        frame.RunScript(*options.first);
     }
     if (options.snapshot) {
         const int status = TakePicture(frame, *options.snapshot);
@@ -106,7 +108,6 @@ int Run(const Options& options, Frame& frame, Session& session) {
 } // namespace
 
 int RunDesktop(const Options& options) {
-    AfxSetDesktopMode(true);
     AfxStartToolkit();
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
     Frame frame;

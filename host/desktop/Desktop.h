@@ -5,7 +5,7 @@
 
 namespace Tessaly {
 
-/// Runs the desktop until the user leaves, or until its picture was drawn.
+/// With the toolkit started, runs the desktop until the user leaves, or until its picture was drawn.
 /// \return the program's exit status
 int RunDesktop(const Options& options);
 

@@ -1,35 +1,38 @@
 #include "host/desktop/DesktopPort.h"
 
 #include <QApplication>
-#include <QEventLoop>
-#include <QMessageBox>
-#include <QPushButton>
 
+#include "host/desktop/CommandPane.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/QtTexts.h"
+#include "platform/mfc/MessageBox.h"
+#include "platform/mfc/Messages.h"
+#include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
+#include "platform/xtp/XTPDockingPaneManager.h"
 
 namespace Tessaly {
 
 namespace {
 
 constexpr const wchar_t* kEscape = L"\x1B";
+constexpr const wchar_t* kTitle = L"Tessaly";
 constexpr std::wstring_view kBlanks = L" \t";
 constexpr const wchar_t* kQuestion = L"[Yes/No";
 
-/// The choice in angle brackets, which stands where nothing else was said.
-QMessageBox::StandardButton DefaultOf(const CString& prompt) {
-    return prompt.Find(L"<No>") >= 0    ? QMessageBox::No
-           : prompt.Find(L"<Yes>") >= 0 ? QMessageBox::Yes
-                                        : QMessageBox::Cancel;
+/// Which button stands for the choice in angle brackets, where nothing else was said.
+UINT DefaultOf(const CString& prompt) {
+    return prompt.Find(L"<No>") >= 0    ? MB_DEFBUTTON2
+           : prompt.Find(L"<Yes>") >= 0 ? MB_DEFBUTTON1
+                                        : MB_DEFBUTTON3;
+}
+
+/// What a box stands on: whatever is in front, or else the frame.
+CWnd* Over() {
+    return QApplication::activeWindow() ? nullptr : acedGetAcadFrame();
 }
 
 } // namespace
-
-struct DesktopPort::Prompt {
-    QEventLoop loop;
-    std::optional<CString> answer;
-};
 
 DesktopPort::DesktopPort(Frame& frame) : m_frame(frame) {}
 
@@ -83,34 +86,28 @@ std::optional<CString> DesktopPort::TakePosted() {
 }
 
 PromptEnd DesktopPort::AskInBox(const CString& prompt, CString& answer) {
-    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
-    if (prompt.Find(L"/Cancel") >= 0) {
-        buttons |= QMessageBox::Cancel;
-    }
+    const bool canCancel = prompt.Find(L"/Cancel") >= 0;
     const CString question = prompt.Left(prompt.Find(L'[')).Trim();
-    const auto pressed = QMessageBox::question(&m_frame, QStringLiteral("Tessaly"),
-                                               ToQt(question.View()), buttons, DefaultOf(prompt));
-    answer = pressed == QMessageBox::Yes ? L"Yes" : pressed == QMessageBox::No ? L"No" : L"";
+    const int pressed =
+        ShowMessageBox(Over(), question, kTitle,
+                       MB_ICONQUESTION | (canCancel ? MB_YESNOCANCEL : MB_YESNO) | DefaultOf(prompt));
+    answer = pressed == IDYES ? L"Yes" : pressed == IDNO ? L"No" : L"";
     return answer.IsEmpty() ? PromptEnd::Cancelled : PromptEnd::Answered;
 }
 
 PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) {
     answer.Empty();
-    if (m_bEnding) {
-        return PromptEnd::Cancelled;
-    }
     std::optional<CString> line = TakeLine();
+    if (!line && !IsAttended()) {
+        return m_behindEnd.Answer(answer);
+    }
     if (!line && CString(prompt).Find(kQuestion) >= 0) {
         return AskInBox(CString(prompt), answer);
     }
     if (!line) {
-        Prompt open;
-        m_prompts.push_back(&open);
-        m_frame.BeginPrompt(ToQt(prompt));
-        open.loop.exec();
-        std::erase(m_prompts, &open);
-        m_frame.EndPrompt();
-        line = open.answer;
+        Question question;
+        Wait(question, ToQt(prompt));
+        line = question.answer;
     }
     PrintLine(CString(prompt) + (line ? *line : CString(L"*Cancel*")));
     if (!line || *line == kEscape) {
@@ -126,33 +123,52 @@ PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
     return PromptEnd::Answered;
 }
 
+bool DesktopPort::IsAttended() const {
+    return AfxIsDesktopMode() && !m_bEnding;
+}
+
+void DesktopPort::Wait(Question& question, const QString& prompt) {
+    m_questions.push_back(&question);
+    m_frame.BeginPrompt(prompt);
+    if (question.takesText) {
+        m_frame.Pane().FocusInput();
+    }
+    question.loop.exec();
+    std::erase(m_questions, &question);
+    m_frame.EndPrompt();
+}
+
 void DesktopPort::Answer(const CString& text) {
-    if (!m_prompts.empty()) {
-        m_prompts.back()->answer = text;
-        m_prompts.back()->loop.quit();
+    if (!m_questions.empty() && m_questions.back()->takesText) {
+        m_questions.back()->answer = text;
+        m_questions.back()->loop.quit();
     }
 }
 
 void DesktopPort::Cancel() {
-    if (!m_prompts.empty()) {
-        m_prompts.back()->loop.quit();
+    if (!m_questions.empty()) {
+        m_questions.back()->loop.quit();
+    }
+}
+
+void DesktopPort::CancelOpen() {
+    for (Question* const pQuestion : m_questions) {
+        pQuestion->loop.quit();
     }
 }
 
 void DesktopPort::CancelAll() {
     m_bEnding = true;
-    for (Prompt* const pPrompt : m_prompts) {
-        pPrompt->loop.quit();
-    }
+    CancelOpen();
 }
 
 void DesktopPort::Alert(std::wstring_view text, std::wstring_view title) {
     // A script has nobody to take note of it.
-    if (m_bEnding || m_pInput) {
+    if (!IsAttended() || m_pInput) {
         Print(FormatText(L"%s: %s\n", CString(title), CString(text)));
         return;
     }
-    QMessageBox::information(&m_frame, ToQt(title), ToQt(text));
+    ShowMessageBox(Over(), CString(text), CString(title), MB_OK | MB_ICONINFORMATION);
 }
 
 void DesktopPort::PostCommand(std::wstring_view text) {

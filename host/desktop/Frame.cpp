@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -22,18 +21,16 @@
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/Theme.h"
 #include "host/desktop/view/DrawingView.h"
+#include "platform/mfc/Dialog.h"
 #include "platform/mfc/NativeWidget.h"
+#include "platform/win/Screens.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 
 namespace Tessaly {
 
 namespace {
 
-/// Of the saved pane states; another number makes old ones unreadable.
-constexpr int kPaneVersion = 1;
 constexpr std::size_t kMostRecent = 30;
-constexpr int kCommandHeight = 150; // at first
-constexpr int kRaiseDelay = 150;    // ms
 constexpr int kTitleInterval = 500; // ms
 /// Between two looks at what the user does while long work goes on.
 constexpr int kEventInterval = 40; // ms
@@ -41,33 +38,22 @@ constexpr const wchar_t* kFirstWords = L"Tessaly. HELP lists the commands, QUIT 
 
 const QString kDrawingFilter = QStringLiteral("Drawings (*.gpkg);;All files (*)");
 
-std::vector<ScreenRect> WorkAreas() {
-    std::vector<ScreenRect> areas;
-    for (const QScreen* const pScreen : QGuiApplication::screens()) {
-        const QRect area = pScreen->availableGeometry();
-        areas.push_back({area.x(), area.y(), area.width(), area.height()});
+/// A single "&" would underline the next letter.
+QString TabText(const AcApDocument& document) {
+    return ToQt(document.title().View()).replace('&', "&&") +
+           (document.isModified() ? QStringLiteral(" *") : QString());
+}
+
+/// The dialogs that hold a window, the innermost first.
+std::vector<CDialog*> DialogsAround(CWnd* pWindow) {
+    std::vector<CDialog*> dialogs;
+    for (; pWindow; pWindow = pWindow->GetParent()) {
+        if (auto* const pDialog = dynamic_cast<CDialog*>(pWindow)) {
+            dialogs.push_back(pDialog);
+        }
     }
-    return areas;
+    return dialogs;
 }
-
-/// With its title bar as far as the place goes: that is what has to be on a screen.
-ScreenRect RectOf(const QWidget& window) {
-    const QRect rect =
-        window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
-    return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
-void Place(QWidget& window, const ScreenRect& rect) {
-    window.resize(rect.width, rect.height);
-    window.move(rect.left, rect.top);
-}
-
-/// What a menu entry does: a command of the host.
-struct MenuCommand {
-    const char* text;
-    const char* shortcut;
-    const wchar_t* command;
-};
 
 } // namespace
 
@@ -90,6 +76,8 @@ Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
     connect(m_pPalette, &CommandPalette::chosen, this,
             [this](const QString& name) { Run(FromQt(name)); });
     MakeMenus();
+    m_pSystemTheme = std::make_unique<SystemTheme>();
+    connect(m_pSystemTheme.get(), &SystemTheme::changed, this, &Frame::FollowTheme);
     auto* const pTimer = new QTimer(this);
     connect(pTimer, &QTimer::timeout, this, &Frame::UpdateTitles);
     pTimer->start(kTitleInterval);
@@ -107,100 +95,6 @@ Frame::~Frame() {
     acDocManagerPtr()->removeReactor(this);
 }
 
-// What it consists of.
-
-void Frame::MakePanes() {
-    m_pPane = new CommandPane;
-    m_pCommandDock = new QDockWidget(tr("Command line"), this);
-    m_pCommandDock->setObjectName(QStringLiteral("CommandLine"));
-    m_pCommandDock->setWidget(m_pPane);
-    m_pCommandDock->setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
-    addDockWidget(Qt::BottomDockWidgetArea, m_pCommandDock);
-    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    connect(m_pPane, &CommandPane::entered, this, &Frame::OnEntered);
-    connect(m_pPane, &CommandPane::escaped, this, &Frame::OnEscaped);
-}
-
-void Frame::MakeStatusBar() {
-    m_pPosition = new QLabel;
-    m_pPosition->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0")) * 36);
-    m_pWork = new QLabel;
-    m_pProgress = new QProgressBar;
-    m_pProgress->setRange(0, 100);
-    m_pProgress->setMaximumWidth(240);
-    m_pStop = new QPushButton(tr("Stop"));
-    for (QWidget* const pWidget :
-         {static_cast<QWidget*>(m_pWork), static_cast<QWidget*>(m_pProgress),
-          static_cast<QWidget*>(m_pStop)}) {
-        statusBar()->addPermanentWidget(pWidget);
-        pWidget->hide();
-    }
-    statusBar()->addWidget(m_pPosition);
-    connect(m_pStop, &QPushButton::clicked, this, [this] { m_bStopAsked = true; });
-}
-
-void Frame::MakeMenus() {
-    const auto add = [this](QMenu* pMenu, const QString& text, const QString& shortcut,
-                            auto&& call) {
-        QAction* const pAction = pMenu->addAction(text, QKeySequence(shortcut));
-        connect(pAction, &QAction::triggered, this, call);
-        return pAction;
-    };
-    const auto command = [&](QMenu* pMenu, const MenuCommand& entry) {
-        add(pMenu, tr(entry.text), QString::fromLatin1(entry.shortcut),
-            [this, name = CString(entry.command)] { Run(name); });
-    };
-    QMenu* const pFile = menuBar()->addMenu(tr("&File"));
-    command(pFile, {"&New", "Ctrl+N", L"NEW"});
-    add(pFile, tr("&Open…"), QStringLiteral("Ctrl+O"), [this] { OpenWithDialog(); });
-    command(pFile, {"&Save", "Ctrl+S", L"SAVE"});
-    add(pFile, tr("Save &as…"), QStringLiteral("Ctrl+Shift+S"), [this] { SaveAsWithDialog(); });
-    add(pFile, tr("&Import…"), QStringLiteral("Ctrl+I"), [this] { ImportWithDialog(); });
-    command(pFile, {"&Close", "Ctrl+W", L"CLOSE"});
-    pFile->addSeparator();
-    command(pFile, {"&Quit", "Ctrl+Q", L"QUIT"});
-
-    QMenu* const pEdit = menuBar()->addMenu(tr("&Edit"));
-    command(pEdit, {"&Undo", "Ctrl+Z", L"UNDO"});
-    command(pEdit, {"&Redo", "Ctrl+Shift+Z", L"REDO"});
-
-    QMenu* const pView = menuBar()->addMenu(tr("&View"));
-    add(pView, tr("Zoom &extents"), QStringLiteral("Ctrl+0"), [this] {
-        if (DrawingView* const pDrawing = CurrentView()) {
-            pDrawing->ZoomExtents();
-        }
-    });
-    pView->addSeparator();
-    pView->addAction(m_pCommandDock->toggleViewAction());
-    add(pView, tr("&Bring all windows here"), QStringLiteral("Ctrl+Shift+B"),
-        [this] { BringAllWindowsHere(); });
-    MakeThemeMenu(*pView->addMenu(tr("&Theme")));
-
-    QMenu* const pTools = menuBar()->addMenu(tr("&Tools"));
-    add(pTools, tr("Command &palette…"), QStringLiteral("Ctrl+Shift+P"), [this] { ShowPalette(); });
-    add(pTools, tr("Go to the command &line"), QStringLiteral("Ctrl+L"),
-        [this] { m_pPane->FocusInput(); });
-
-    QMenu* const pHelp = menuBar()->addMenu(tr("&Help"));
-    command(pHelp, {"&Commands", "F1", L"HELP"});
-}
-
-void Frame::MakeThemeMenu(QMenu& menu) {
-    const std::pair<const char*, const wchar_t*> themes[] = {
-        {"As the &system", L""}, {"&Light", L"light"}, {"&Dark", L"dark"}};
-    for (const auto& [text, theme] : themes) {
-        connect(menu.addAction(tr(text)), &QAction::triggered, this,
-                [this, name = CString(theme)] { SetTheme(name); });
-    }
-}
-
-void Frame::SetTheme(const CString& theme) {
-    m_strTheme = theme;
-    ApplyTheme(theme);
-}
-
 void Frame::changeEvent(QEvent* pEvent) {
     if (pEvent->type() == QEvent::PaletteChange) {
         for (const auto& [pDoc, view] : m_views) {
@@ -210,85 +104,40 @@ void Frame::changeEvent(QEvent* pEvent) {
     QMainWindow::changeEvent(pEvent);
 }
 
+bool Frame::eventFilter(QObject* pWatched, QEvent* pEvent) {
+    if (pEvent->type() == QEvent::Enter) {
+        if (auto* const pView = qobject_cast<DrawingView*>(pWatched)) {
+            LeaveKeyboardTo(*pView);
+        }
+    }
+    return QMainWindow::eventFilter(pWatched, pEvent);
+}
+
+void Frame::LeaveKeyboardTo(DrawingView& view) {
+    const std::vector<CDialog*> dialogs = DialogsAround(CWnd::GetFocus());
+    const bool isKept = std::any_of(dialogs.begin(), dialogs.end(), [](CDialog* pDialog) {
+        return pDialog->SendMessage(WM_ACAD_KEEPFOCUS) != 0;
+    });
+    if (!dialogs.empty() && !isKept) {
+        view.activateWindow();
+        view.setFocus(Qt::MouseFocusReason);
+    }
+}
+
 void Frame::keyPressEvent(QKeyEvent* pEvent) {
-    // Whoever types over the drawing means the command line.
+    // Whoever types over the drawing means the command line; a key that a pane has left is
+    // not meant for it.
+    const QWidget* const pFocus = QApplication::focusWidget();
+    const bool isOver = !pFocus || pFocus == this || pFocus == centralWidget() ||
+                        centralWidget()->isAncestorOf(pFocus) ||
+                        m_pCommandDock->isAncestorOf(pFocus);
     const bool isText = !pEvent->text().isEmpty() && pEvent->text()[0].isPrint() &&
                         !(pEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
-    if ((isText || isEnter) && m_pPane->isEnabled()) {
+    if (isOver && (isText || isEnter) && m_pPane->isEnabled()) {
         m_pPane->TypeKey(*pEvent);
     } else {
         QMainWindow::keyPressEvent(pEvent);
-    }
-}
-
-// Where it was.
-
-void Frame::ApplyLayout(const Layout& layout) {
-    m_recent = layout.recent;
-    QStringList history;
-    for (const CString& line : layout.history) {
-        history.append(ToQt(line.View()));
-    }
-    m_pPane->SetHistory(history);
-    SetTheme(layout.theme);
-    if (layout.window.width > 0) {
-        Place(*this, OnScreen(layout.window, WorkAreas()));
-    }
-    // Panes that float belong to a window that is there before them.
-    winId();
-    restoreState(QByteArray::fromStdString(layout.panes), kPaneVersion);
-    if (layout.isMaximized) {
-        setWindowState(windowState() | Qt::WindowMaximized);
-    }
-    // The command line is how everything is reached.
-    m_pCommandDock->show();
-    if (layout.panes.empty()) {
-        resizeDocks({m_pCommandDock}, {kCommandHeight}, Qt::Vertical);
-    }
-}
-
-Layout Frame::CurrentLayout() const {
-    Layout layout;
-    layout.window = RectOf(*this);
-    layout.isMaximized = isMaximized();
-    layout.panes = saveState(kPaneVersion).toStdString();
-    layout.recent = m_recent;
-    for (const QString& line : m_pPane->History()) {
-        layout.history.push_back(FromQt(line));
-    }
-    layout.theme = m_strTheme;
-    return layout;
-}
-
-void Frame::RaiseFloatingPanes() {
-    QApplication::processEvents();
-    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
-        if (pDock->isFloating() && pDock->isVisibleTo(this)) {
-            const ScreenRect rect = OnScreen(RectOf(*pDock), WorkAreas());
-            // Shown anew: a window manager knows only now to whom it belongs.
-            pDock->hide();
-            Place(*pDock, rect);
-            pDock->show();
-            pDock->raise();
-        }
-    }
-}
-
-void Frame::BringAllWindowsHere() {
-    const std::vector<ScreenRect> areas = WorkAreas();
-    Place(*this, OnScreen(RectOf(*this), areas));
-    const ScreenRect here = RectOf(*this);
-    int step = 0;
-    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
-        if (pDock->isFloating() && pDock->isVisible()) {
-            ScreenRect rect = RectOf(*pDock);
-            rect.left = here.left + 40 + 30 * step;
-            rect.top = here.top + 80 + 30 * step;
-            Place(*pDock, OnScreen(rect, areas));
-            pDock->raise();
-            ++step;
-        }
     }
 }
 
@@ -309,9 +158,7 @@ void Frame::OnEntered(const QString& line) {
 
 void Frame::OnEscaped() {
     DrawingView* const pView = CurrentView();
-    if (pView && pView->IsPicking()) {
-        pView->CancelPick();
-    } else if (m_pPort->IsPrompting()) {
+    if (m_pPort->IsPrompting()) {
         m_pPort->Cancel();
     } else if (pView) {
         pView->SetSelection({});
@@ -323,7 +170,7 @@ void Frame::Run(const CString& name) {
         return;
     }
     if (IsRunning()) {
-        m_pPort->Cancel();
+        m_pPort->CancelOpen();
         m_pPort->PostCommand(name.View());
         return;
     }
@@ -338,7 +185,18 @@ void Frame::Run(const CString& name) {
     m_pSession->RunCommand(name);
     --m_nDepth;
     m_pPort->DropAnswers();
-    m_pPane->SetCompleting(true);
+    AfterRunning();
+}
+
+int Frame::RunScript(const CString& path) {
+    ++m_nDepth;
+    const int status = m_pSession->RunScript(path);
+    --m_nDepth;
+    AfterRunning();
+    return status;
+}
+
+void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
@@ -417,13 +275,18 @@ void Frame::ShowText(const QString& text) {
 }
 
 void Frame::BeginPrompt(const QString& prompt) {
+    m_prompts.append(prompt);
     m_pPane->SetPrompt(prompt);
     m_pPane->SetCompleting(false);
-    m_pPane->FocusInput();
 }
 
 void Frame::EndPrompt() {
-    m_pPane->SetPrompt({});
+    m_prompts.removeLast();
+    m_pPane->SetPrompt(m_prompts.isEmpty() ? QString() : m_prompts.last());
+    m_pPane->SetCompleting(m_prompts.isEmpty());
+    if (!IsRunning()) {
+        RunPostedSoon();
+    }
 }
 
 bool Frame::ShowProgress(const QString& what, int percent) {
@@ -439,13 +302,31 @@ bool Frame::ShowProgress(const QString& what, int percent) {
     m_pWork->show();
     m_pProgress->show();
     m_pStop->show();
-    // Only stopping is possible meanwhile: the drawing is being worked on.
-    centralWidget()->setEnabled(false);
-    menuBar()->setEnabled(false);
-    m_pPane->setEnabled(false);
+    if (isFirst) {
+        RestWhileWorking();
+    }
     QApplication::processEvents();
     s_sinceEvents.start();
     return !m_bStopAsked;
+}
+
+void Frame::RestWhileWorking() {
+    // Only stopping is possible meanwhile: the drawing is being worked on.
+    m_focusBefore = QApplication::focusWidget();
+    m_resting = {centralWidget(), menuBar(), m_pPalette};
+    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
+        m_resting.emplace_back(pDock);
+    }
+    for (const HWND handle : Screens().Stacking()) {
+        const CWnd* const pWindow = CWnd::FromHandle(handle);
+        if (pWindow && pWindow != &m_window) {
+            m_resting.emplace_back(static_cast<QWidget*>(NativeWidget(*pWindow)));
+        }
+    }
+    std::erase_if(m_resting, [](const auto& pWidget) { return !pWidget || !pWidget->isEnabled(); });
+    for (const auto& pWidget : m_resting) {
+        pWidget->setEnabled(false);
+    }
 }
 
 void Frame::EndProgress() {
@@ -454,9 +335,14 @@ void Frame::EndProgress() {
           static_cast<QWidget*>(m_pStop)}) {
         pWidget->hide();
     }
-    centralWidget()->setEnabled(true);
-    menuBar()->setEnabled(true);
-    m_pPane->setEnabled(true);
+    for (const auto& pWidget : std::exchange(m_resting, {})) {
+        if (pWidget) {
+            pWidget->setEnabled(true);
+        }
+    }
+    if (m_focusBefore && !QApplication::focusWidget()) {
+        m_focusBefore->setFocus();
+    }
 }
 
 void Frame::closeEvent(QCloseEvent* pEvent) {
@@ -486,10 +372,12 @@ void Frame::documentBecameCurrent(AcApDocument* pDoc) {
         connect(pView, &DrawingView::PositionMoved, this, [this](double x, double y) {
             m_pPosition->setText(QStringLiteral("%1, %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
         });
+        connect(pView, &DrawingView::PositionLeft, m_pPosition, &QLabel::clear);
+        pView->installEventFilter(this);
         auto pWindow = std::make_unique<CWnd>();
         AttachNativeWidget(*pWindow, pView);
         m_views[pDoc] = {pView, std::move(pWindow)};
-        m_pTabs->addTab(pView, ToQt(pDoc->title().View()));
+        m_pTabs->addTab(pView, TabText(*pDoc));
     }
     if (pDoc) {
         m_pTabs->setCurrentWidget(m_views[pDoc].pView);
@@ -530,8 +418,7 @@ void Frame::OnTabChanged(int index) {
 
 void Frame::UpdateTitles() {
     for (const auto& [pDoc, view] : m_views) {
-        const QString title =
-            ToQt(pDoc->title().View()) + (pDoc->isModified() ? QStringLiteral(" *") : QString());
+        const QString title = TabText(*pDoc);
         const int index = m_pTabs->indexOf(view.pView);
         if (m_pTabs->tabText(index) != title) {
             m_pTabs->setTabText(index, title);
@@ -539,7 +426,9 @@ void Frame::UpdateTitles() {
         }
     }
     const AcApDocument* const pDoc = acDocManagerPtr()->curDocument();
-    setWindowTitle(pDoc ? ToQt(pDoc->title().View()) + QStringLiteral("[*] – Tessaly")
+    // Where the mark of changes goes is told by signs that a name can hold as well.
+    setWindowTitle(pDoc ? ToQt(pDoc->title().View()).replace("[*]", "[*][*]") +
+                              QStringLiteral("[*] – Tessaly")
                         : QStringLiteral("Tessaly"));
     setWindowModified(pDoc && pDoc->isModified());
     if (!m_pPalette->isVisible() && !IsRunning()) {

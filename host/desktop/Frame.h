@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "host/Session.h"
 #include "host/desktop/LayoutFile.h"
@@ -22,6 +24,7 @@ class CommandPane;
 class CommandPalette;
 class DesktopPort;
 class DrawingView;
+class SystemTheme;
 
 /// Shows what the document manager has, and runs commands one at a time: what is asked for
 /// while one runs waits for its end.
@@ -41,7 +44,9 @@ public:
     /// Places itself and its panes, as far as the screens allow.
     void ApplyLayout(const Layout& layout);
     Layout CurrentLayout() const;
-    /// Moves the window and all floating panes to where they can be seen.
+    /// "light" or "dark" until the user chooses, and not kept.
+    void SetThemeOfRun(const CString& theme);
+    /// Moves all windows to where they can be seen.
     void BringAllWindowsHere();
     /// Panes that float come to lie behind a window that is shown after them.
     void RaiseFloatingPanes();
@@ -51,7 +56,10 @@ public:
     void Run(const CString& name);
     /// Runs a command whose first prompts are answered already.
     void RunAnswered(const CString& name, const std::vector<CString>& answers);
-    bool IsRunning() const { return m_nDepth > 0; }
+    /// A command runs, or something waits for the user's answer.
+    bool IsRunning() const { return m_nDepth > 0 || !m_prompts.isEmpty(); }
+    /// Runs the commands of a file; see Session::RunScript.
+    int RunScript(const CString& path);
     /// Answers come from a script.
     bool IsScripted() const;
 
@@ -67,6 +75,7 @@ protected:
     void closeEvent(QCloseEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private slots:
     void RunPosted();
@@ -81,6 +90,7 @@ private:
     void MakeThemeMenu(QMenu& menu);
     void OnEntered(const QString& line);
     void OnEscaped();
+    void AfterRunning();
     void ShowPalette();
     void UpdateTitles();
     void UpdateCompletions();
@@ -88,7 +98,14 @@ private:
     void OpenWithDialog();
     void SaveAsWithDialog();
     void ImportWithDialog();
+    void FillPaneMenu(QMenu& menu);
+    /// Moves the keyboard to the drawing, or to a pane, going round all that are seen.
+    void GoToPane(int step);
+    /// Keeps it for later runs, too.
     void SetTheme(const CString& theme);
+    void FollowTheme();
+    void RestWhileWorking();
+    void LeaveKeyboardTo(DrawingView& view);
 
     std::unique_ptr<DesktopPort> m_pPort;
     Session* m_pSession = nullptr;
@@ -108,6 +125,11 @@ private:
     std::map<AcApDocument*, View> m_views;
     std::vector<CString> m_recent; ///< the command used last first
     CString m_strTheme;
+    std::optional<CString> m_themeOfRun;
+    std::unique_ptr<SystemTheme> m_pSystemTheme;
+    std::vector<QPointer<QWidget>> m_resting; ///< while long work goes on
+    QPointer<QWidget> m_focusBefore;          ///< that work
+    QStringList m_prompts; ///< that are open, the innermost last
     int m_nDepth = 0; ///< commands that run, one inside of the other
     bool m_bStopAsked = false;
     bool m_bFollowing = false; ///< the tabs are being made to show what is current

@@ -1,15 +1,30 @@
 #include "host/desktop/FrameDisplay.h"
 
-#include <QEventLoop>
 #include <QPointer>
 
 #include "host/desktop/CommandPane.h"
+#include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/view/DrawingView.h"
 #include "platform/arx/EdPrompt.h"
+#include "platform/mfc/WinApp.h"
 
 namespace Tessaly {
+
+/// One pointing that waits for the user.
+struct FrameDisplay::Pick {
+    QPointer<DrawingView> view;
+    Question question;
+    PickOutcome outcome = PickOutcome::Cancelled;
+
+    void Start() const {
+        if (view) {
+            view->StartPick();
+            view->setFocus();
+        }
+    }
+};
 
 FrameDisplay::FrameDisplay(Frame& frame) : m_frame(frame), m_pBefore(SetDrawingDisplay(this)) {}
 
@@ -28,27 +43,45 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
                : status == RTERROR ? PickOutcome::Missed
                                    : PickOutcome::Cancelled;
     }
-    PickOutcome outcome = PickOutcome::Cancelled;
-    QEventLoop loop;
+    if (!AfxIsDesktopMode()) {
+        return PickOutcome::Cancelled; // nobody sees the drawing
+    }
+    Pick pick;
+    pick.view = pView;
+    pick.question.takesText = false;
     const auto ended = [&](PickEnd how, AcDbObjectId picked, double x, double y) {
-        outcome = how == PickEnd::Picked   ? PickOutcome::Picked
-                  : how == PickEnd::Missed ? PickOutcome::Missed
-                                           : PickOutcome::Cancelled;
-        id = picked;
-        place = {x, y};
-        loop.quit();
+        // A click is for the pick that was asked for last.
+        if (m_picks.back() == &pick) {
+            pick.outcome = how == PickEnd::Picked   ? PickOutcome::Picked
+                           : how == PickEnd::Missed ? PickOutcome::Missed
+                                                    : PickOutcome::Cancelled;
+            id = picked;
+            place = {x, y};
+            pick.question.loop.quit();
+        }
     };
-    const QMetaObject::Connection picks =
-        QObject::connect(pView, &DrawingView::PickEnded, &loop, ended);
-    QObject::connect(pView, &QObject::destroyed, &loop, &QEventLoop::quit);
-    m_frame.BeginPrompt(ToQt(prompt));
-    pView->StartPick();
-    pView->setFocus();
-    loop.exec();
-    QObject::disconnect(picks);
-    m_frame.EndPrompt();
+    QObject::connect(pView, &DrawingView::PickEnded, &pick.question.loop, ended);
+    QObject::connect(pView, &QObject::destroyed, &pick.question.loop, &QEventLoop::quit);
+    m_picks.push_back(&pick);
+    pick.Start();
+    m_frame.Port().Wait(pick.question, ToQt(prompt));
+    std::erase(m_picks, &pick);
+    if (pick.view && pick.view->IsPicking()) {
+        pick.view->CancelPick(); // it was cancelled elsewhere
+    }
+    if (!m_picks.empty()) {
+        m_picks.back()->Start();
+    }
     m_frame.Pane().FocusInput();
-    return outcome;
+    Report(prompt, pick.outcome, id);
+    return pick.outcome;
+}
+
+void FrameDisplay::Report(const wchar_t* prompt, PickOutcome outcome, AcDbObjectId id) {
+    const CString text = outcome == PickOutcome::Picked   ? FormatText(L"%u", id.number())
+                         : outcome == PickOutcome::Missed ? CString(L"*Nothing there*")
+                                                          : CString(L"*Cancel*");
+    m_frame.Port().PrintLine(CString(prompt) + text);
 }
 
 bool FrameDisplay::ZoomTo(std::span<const AcDbObjectId> ids, double factor) {

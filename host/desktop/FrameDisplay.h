@@ -1,6 +1,8 @@
 // The view of the frame, as modules reach it.
 #pragma once
 
+#include <vector>
+
 #include "platform/arx/EdDisplay.h"
 
 namespace Tessaly {
@@ -25,7 +27,11 @@ public:
     void Update() override;
 
 private:
+    struct Pick;
+    void Report(const wchar_t* prompt, PickOutcome outcome, AcDbObjectId id);
+
     Frame& m_frame;
+    std::vector<Pick*> m_picks; ///< the innermost last
     IDrawingDisplay* m_pBefore;
 };
 

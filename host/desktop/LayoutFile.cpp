@@ -1,7 +1,7 @@
 #include "host/desktop/LayoutFile.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
 
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
@@ -61,11 +61,28 @@ bool ReadText(std::string_view value, CString& text) {
     return isText;
 }
 
-bool ReadWindow(const std::string& value, ScreenRect& window) {
-    int used = 0;
-    return std::sscanf(value.c_str(), "%d %d %d %d%n", &window.left, &window.top, &window.width,
-                       &window.height, &used) == 4 &&
-           static_cast<std::size_t>(used) == value.size() && window.width > 0 && window.height > 0;
+/// Numbers that no screens reach are refused, as sums of them could overflow.
+bool ReadNumber(std::string_view& text, int& number) {
+    constexpr int kFarthest = 100'000;
+    const auto [pEnd, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(pEnd - text.data()));
+    return error == std::errc() && number >= -kFarthest && number <= kFarthest;
+}
+
+bool ReadWindow(std::string_view value, ScreenRect& window) {
+    int* const numbers[] = {&window.left, &window.top, &window.width, &window.height};
+    for (int* const pNumber : numbers) {
+        if (pNumber != numbers[0]) {
+            if (!value.starts_with(' ')) {
+                return false;
+            }
+            value.remove_prefix(1);
+        }
+        if (!ReadNumber(value, *pNumber)) {
+            return false;
+        }
+    }
+    return value.empty() && window.width > 0 && window.height > 0;
 }
 
 bool ReadEntry(std::string_view key, const std::string& value, Layout& layout) {

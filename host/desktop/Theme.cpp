@@ -28,6 +28,11 @@ constexpr ThemeColor kColors[] = {
     {QPalette::ButtonText, qRgb(28, 30, 33), qRgb(222, 224, 228)},
     {QPalette::BrightText, qRgb(190, 30, 20), qRgb(255, 120, 110)},
     {QPalette::Link, qRgb(20, 90, 190), qRgb(110, 170, 255)},
+    {QPalette::Light, qRgb(255, 255, 255), qRgb(84, 87, 94)},
+    {QPalette::Midlight, qRgb(224, 227, 231), qRgb(66, 69, 75)},
+    {QPalette::Mid, qRgb(186, 190, 196), qRgb(38, 40, 44)},
+    {QPalette::Dark, qRgb(150, 154, 161), qRgb(26, 27, 30)},
+    {QPalette::Shadow, qRgb(96, 100, 108), qRgb(12, 13, 14)},
     {QPalette::Highlight, qRgb(48, 120, 210), qRgb(53, 110, 190)},
     {QPalette::HighlightedText, qRgb(255, 255, 255), qRgb(255, 255, 255)},
 };
@@ -46,10 +51,12 @@ QPalette MakePalette(bool isDark) {
 
 } // namespace
 
-void ApplyTheme(const CString& theme) {
-    if (theme == L"dark" || theme == L"light") {
+void ApplyTheme(const CString& theme, SystemTheme::Scheme system) {
+    const bool isFixed = theme == L"dark" || theme == L"light";
+    if (isFixed || system != SystemTheme::Scheme::Unknown) {
+        const bool isDark = isFixed ? theme == L"dark" : system == SystemTheme::Scheme::Dark;
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setPalette(MakePalette(theme == L"dark"));
+        QApplication::setPalette(MakePalette(isDark));
     } else {
         // An empty palette is the one that the system asks for.
         QApplication::setPalette(QPalette());

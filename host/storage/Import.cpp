@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <exception>
 #include <map>
 #include <mutex>
@@ -133,6 +134,17 @@ const char* const* Drivers() {
         names.push_back(nullptr);
     });
     return names.data();
+}
+
+/// Readers make an empty point, or no geometry at all, of one whose numbers are none.
+bool LosesGeometry(const OGRFeature& row) {
+    const OGRGeometry* const pGeometry = row.GetGeometryRef();
+    if (pGeometry && wkbFlatten(pGeometry->getGeometryType()) == wkbPoint) {
+        const auto& point = static_cast<const OGRPoint&>(*pGeometry);
+        return std::isnan(point.getX()) != std::isnan(point.getY());
+    }
+    const int text = pGeometry ? -1 : row.GetFieldIndex("WKT");
+    return text >= 0 && *row.GetFieldAsString(text) != '\0';
 }
 
 AcDbImportResult Importer::Import(const wchar_t* path, const AcDbProgress& progress) {
@@ -274,7 +286,9 @@ bool Reading::TakeRow(OGRLayer& layer, const OGRFeature& row) {
     }
     FeatureMaker maker(source.layer.features, source.rows, attributes);
     const OGRGeometry* pGeometry = row.GetGeometryRef();
-    const ShapeResult shapes = pGeometry ? ReadShapes(*pGeometry, maker) : ShapeResult::Empty;
+    const ShapeResult shapes = LosesGeometry(row) ? ShapeResult::NotPlace
+                               : pGeometry        ? ReadShapes(*pGeometry, maker)
+                                                  : ShapeResult::Empty;
     if (shapes == ShapeResult::NotPlace) {
         Refuse(source, L"it has a position that is none");
         return false;

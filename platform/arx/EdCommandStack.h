@@ -53,14 +53,21 @@ enum class CommandOutcome {
 /// why is for the command to print. A script stops at it.
 PLATFORM_API void acedSetCommandFailed();
 
+/// What lists of commands show of one that a source has.
+struct EdSourceCommand {
+    CString name;  ///< as it can be typed
+    CString title; ///< what users call it; may be empty
+    CString description;
+    CString whyNot; ///< why it cannot run now; empty if it can
+};
+
 /// Answers for a whole set of commands that live elsewhere, such as the workspace's.
 class PLATFORM_API IEdCommandSource {
 public:
     virtual ~IEdCommandSource() = default;
     /// \param name as it was typed
     virtual CommandOutcome Run(const wchar_t* name) = 0;
-    /// Names that can be typed, with a description each.
-    virtual std::vector<std::pair<CString, CString>> List() const = 0;
+    virtual std::vector<EdSourceCommand> List() const = 0;
 };
 
 class PLATFORM_API AcEdCommandStack final : public AcRxObject {

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QScreen>
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/HostPort.h"
@@ -20,6 +19,8 @@
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/FrameWidget.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
+#include "platform/win/Screens.h"
 
 class CDialog::QEventLoopOwner {
 public:
@@ -64,15 +65,20 @@ std::unique_ptr<CWnd> MakeControl(enmControlKind kind) {
     return nullptr;
 }
 
+/// In the middle of a window, or of the primary monitor, and in sight.
 void CentreOn(QWidget& dialog, const QWidget* pParent) {
-    const QScreen* const pScreen = dialog.screen();
-    const QRect work = pScreen ? pScreen->availableGeometry() : QRect(0, 0, 800, 600);
-    QRect place = dialog.geometry();
-    place.moveCenter(pParent && pParent->isVisible() ? pParent->window()->geometry().center()
-                                                     : work.center());
-    place.moveLeft(std::max(work.left(), std::min(place.left(), work.right() - place.width())));
-    place.moveTop(std::max(work.top(), std::min(place.top(), work.bottom() - place.height())));
-    ApplyGeometry(&dialog, place);
+    const std::vector<Monitor> monitors = Screens().Monitors();
+    const CRect around = pParent && pParent->isVisible()
+                             ? ToScreenRect(pParent->window()->geometry())
+                             : monitors.front().work;
+    const CRect work = NearestMonitor(monitors, around.CenterPoint()).work;
+    const auto placed = [](int from, int length, int size, int least, int most) {
+        return std::max(least, std::min(from + (length - size) / 2, most - size));
+    };
+    const CPoint place(
+        placed(around.left, around.Width(), dialog.width(), work.left, work.right),
+        placed(around.top, around.Height(), dialog.height(), work.top, work.bottom));
+    ApplyGeometry(&dialog, QRect(FromScreenPoint(place), dialog.size()));
 }
 
 void AppendLinesOf(const WindowCore& core, std::vector<std::wstring>& lines) {

@@ -40,13 +40,13 @@ void CListCtrl::SetImageList(const CImageList& images) {
 
 void CListCtrl::SetTextColor(COLORREF color) {
     if (ListWidget* const pList = ListOf(*this)) {
-        pList->SetTextColors(color, pList->BackColor());
+        pList->SetTextColor(color);
     }
 }
 
 void CListCtrl::SetTextBkColor(COLORREF color) {
     if (ListWidget* const pList = ListOf(*this)) {
-        pList->SetTextColors(pList->TextColor(), color);
+        pList->SetBackColor(color);
     }
 }
 

@@ -4,7 +4,7 @@
 #include <QPointer>
 
 #include "platform/mfc/WinApp.h"
-#include "platform/mfc/toolkit/Convert.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 
 namespace {
@@ -80,7 +80,7 @@ std::optional<UINT> CMenu::TrackPopupMenu(UINT, int x, int y, CWnd* pWnd) const 
     std::optional<UINT> chosen;
     QObject::connect(menu.data(), &QMenu::triggered, menu.data(),
                      [&chosen](const QAction* pAction) { chosen = pAction->data().toUInt(); });
-    menu->exec(QPoint(x, y));
+    menu->exec(FromScreenPoint({x, y}));
     delete menu.data();
     return chosen;
 }

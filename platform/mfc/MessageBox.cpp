@@ -1,5 +1,6 @@
 #include "platform/mfc/MessageBox.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <string>
@@ -16,6 +17,8 @@
 namespace {
 
 constexpr wchar_t kProductTitle[] = L"Halvane";
+/// At a prompt, before what is said instead counts as no answer.
+constexpr int kMostAsked = 5;
 
 struct BoxButton {
     int id;
@@ -73,10 +76,10 @@ int AskAtPrompt(const wchar_t* text, const wchar_t* caption, UINT type) {
         prompt += button.word;
         prompt += &button == &buttons.back() ? L"]: " : L"/";
     }
-    for (;;) {
+    for (int asked = 0; asked < kMostAsked; ++asked) {
         CString answer;
         if (HostPort().GetString(false, prompt, answer) != PromptEnd::Answered) {
-            return buttons.back().id;
+            break;
         }
         for (const BoxButton& button : buttons) {
             if (answer.CompareNoCase(button.word) == 0 ||
@@ -85,6 +88,7 @@ int AskAtPrompt(const wchar_t* text, const wchar_t* caption, UINT type) {
             }
         }
     }
+    return buttons.back().id;
 }
 
 } // namespace
@@ -96,8 +100,12 @@ int ShowMessageBox(CWnd* pParent, const wchar_t* text, const wchar_t* caption, U
         return AskAtPrompt(text, caption, type);
     }
     AfxStartToolkit();
-    QWidget* const pOver =
-        pParent && pParent->Core() ? pParent->Core()->Outer() : QApplication::activeWindow();
+    // What is not over a modal dialog could not be answered before that has gone.
+    QWidget* pOver = QApplication::activeModalWidget();
+    if (!pOver) {
+        pOver =
+            pParent && pParent->Core() ? pParent->Core()->Outer() : QApplication::activeWindow();
+    }
     // Guarded: the parent may go away with all that stands on it while the box waits.
     const QPointer<QMessageBox> box = new QMessageBox(pOver);
     box->setIcon(BoxIcon(type));
@@ -108,7 +116,8 @@ int ShowMessageBox(CWnd* pParent, const wchar_t* text, const wchar_t* caption, U
     for (const BoxButton& button : buttons) {
         box->addButton(button.button);
     }
-    box->setDefaultButton(buttons.front().button);
+    const std::size_t preset = (type & MB_DEFMASK) / MB_DEFBUTTON2;
+    box->setDefaultButton(buttons[std::min(preset, buttons.size() - 1)].button);
     box->setEscapeButton(buttons.back().button);
     const int chosen = box->exec();
     delete box.data();

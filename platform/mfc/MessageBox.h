@@ -16,6 +16,10 @@ inline constexpr UINT MB_ICONQUESTION = 0x20;
 inline constexpr UINT MB_ICONEXCLAMATION = 0x30;
 inline constexpr UINT MB_ICONINFORMATION = 0x40;
 inline constexpr UINT MB_ICONMASK = 0xF0;
+inline constexpr UINT MB_DEFBUTTON1 = 0x000; ///< Enter presses the first button
+inline constexpr UINT MB_DEFBUTTON2 = 0x100;
+inline constexpr UINT MB_DEFBUTTON3 = 0x200; ///< or the last one, if there are fewer
+inline constexpr UINT MB_DEFMASK = 0x300;
 
 /// Shows a text with buttons and waits. Without a desktop it asks at the host's prompt.
 /// \return the id of the button; with no answer the one that changes least: IDCANCEL, or

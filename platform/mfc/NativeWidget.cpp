@@ -1,5 +1,6 @@
 #include "platform/mfc/NativeWidget.h"
 
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 
 void* NativeWidget(const CWnd& wnd) {
@@ -19,4 +20,8 @@ bool AttachNativeWidget(CWnd& wnd, void* pWidget) {
     const UINT style = pNative->isWindow() ? WS_POPUP : WS_CHILD;
     WindowCore::Bind(wnd, pNative, pNative, pAround ? pAround->Object() : nullptr, 0, style);
     return true;
+}
+
+CPoint NativePrimaryCorner() {
+    return ToCPoint(PrimaryCorner());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Api.h"
+#include "platform/win/Rect.h"
 
 class CWnd;
 
@@ -13,3 +14,5 @@ PLATFORM_API void* NativeClient(const CWnd& wnd);
 /// and get messages. The widget stays the host's: it decides about its closing, and destroying
 /// the window hides the widget only.
 PLATFORM_API bool AttachNativeWidget(CWnd& wnd, void* pWidget);
+/// The upper left corner of the primary monitor as the toolkit counts; see IScreens.
+PLATFORM_API CPoint NativePrimaryCorner();

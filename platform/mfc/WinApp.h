@@ -10,12 +10,13 @@
 PLATFORM_API void AfxSetDesktopMode(bool desktop);
 PLATFORM_API bool AfxIsDesktopMode();
 
-/// Whether there is a display on which a desktop could be seen: one that QT_QPA_PLATFORM
-/// names, an X server that answers, or Wayland.
+/// Whether there is a display on which a desktop can be seen: one that QT_QPA_PLATFORM names,
+/// X11, or Wayland if the toolkit can speak it. A server that does not answer within two
+/// seconds is none. Once the toolkit has started, whether it has opened one.
 PLATFORM_API bool AfxHasDisplay();
-/// Brings the toolkit to life. The first window does it by itself. The display is that of
-/// QT_QPA_PLATFORM, an X server that answers, or Wayland, or else memory. Numbers keep their
-/// point in every language.
+/// Brings the toolkit to life. The first window does it by itself. With a desktop it opens
+/// the display that AfxHasDisplay tells of, otherwise, and if it cannot, windows are in memory
+/// only. Numbers keep their point in every language.
 PLATFORM_API void AfxStartToolkit();
 /// Destroys all windows that are left, and the toolkit with them; at the end of the process.
 PLATFORM_API void AfxStopToolkit();

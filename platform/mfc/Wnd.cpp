@@ -9,6 +9,7 @@
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/DroppedFiles.h"
 #include "platform/mfc/toolkit/FrameWidget.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/Stacking.h"
 
 CWnd::CWnd() = default;
@@ -27,7 +28,7 @@ bool CWnd::Create(UINT style, const CRect& rect, CWnd* pParent, UINT id) {
         return false;
     }
     const std::shared_ptr<WindowCore> core = MakeWindow(*this, style, pParent, id);
-    ApplyGeometry(core->Outer(), ToQRect(rect));
+    core->TakeGeometry(ToQRect(rect));
     core->Outer()->setEnabled(!(style & WS_DISABLED));
     if (m_pCore && (style & WS_VISIBLE)) {
         ShowWindow(SW_SHOW);
@@ -88,7 +89,7 @@ CRect CWnd::GetWindowRect() const {
         return {};
     }
     const QWidget& outer = *m_pCore->Outer();
-    return {ToCPoint(outer.isWindow() ? outer.pos() : outer.mapToGlobal(QPoint(0, 0))),
+    return {ToScreenPoint(outer.isWindow() ? outer.pos() : outer.mapToGlobal(QPoint(0, 0))),
             CSize(outer.width(), outer.height())};
 }
 
@@ -99,7 +100,7 @@ CRect CWnd::GetClientRect() const {
 
 CPoint CWnd::ScreenToClient(CPoint point) const {
     const QWidget* const pClient = m_pCore ? m_pCore->Client() : nullptr;
-    return pClient ? ToCPoint(pClient->mapFromGlobal(ToQPoint(point))) : point;
+    return pClient ? ToCPoint(pClient->mapFromGlobal(FromScreenPoint(point))) : point;
 }
 
 CRect CWnd::ScreenToClient(const CRect& rect) const {
@@ -108,7 +109,7 @@ CRect CWnd::ScreenToClient(const CRect& rect) const {
 
 CPoint CWnd::ClientToScreen(CPoint point) const {
     const QWidget* const pClient = m_pCore ? m_pCore->Client() : nullptr;
-    return pClient ? ToCPoint(pClient->mapToGlobal(ToQPoint(point))) : point;
+    return pClient ? ToScreenPoint(pClient->mapToGlobal(ToQPoint(point))) : point;
 }
 
 bool CWnd::SetWindowPos(const CWnd* pInsertAfter, int x, int y, int cx, int cy, UINT flags) {
@@ -140,7 +141,7 @@ bool CWnd::GetWindowPlacement(WINDOWPLACEMENT* pPlacement) const {
         return false;
     }
     pPlacement->showCmd = m_pCore->Outer()->isMinimized() ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
-    pPlacement->rcNormalPosition = ToCRect(m_pCore->Outer()->geometry());
+    pPlacement->rcNormalPosition = ToCRect(m_pCore->GeometryNow());
     return true;
 }
 
@@ -246,6 +247,12 @@ void CWnd::ReleaseCapture() {
 
 CWnd* CWnd::GetParent() const {
     return m_pCore ? m_pCore->Parent() : nullptr;
+}
+
+void CWnd::SetParent(CWnd* pParent) {
+    if (m_pCore) {
+        m_pCore->MoveTo(pParent ? pParent->m_pCore : nullptr);
+    }
 }
 
 CWnd* CWnd::GetDlgItem(UINT id) const {

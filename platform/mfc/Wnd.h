@@ -70,6 +70,9 @@ public:
     static void ReleaseCapture();
 
     CWnd* GetParent() const;
+    /// From now on the window goes with another one, and a child stands on it. Null takes it
+    /// from its parent. Nothing happens for a window that would come to stand on itself.
+    void SetParent(CWnd* pParent);
     CWnd* GetDlgItem(UINT id) const;
     UINT GetDlgCtrlID() const;
     UINT GetStyle() const;

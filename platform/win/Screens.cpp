@@ -39,3 +39,36 @@ CRect TaskBarOf(const Monitor& monitor) {
         });
     return thickness(thickest) > 0 ? thickest : CRect();
 }
+
+CRect WorkAreaOf(const CRect& monitor, const CRect& all, std::span<const EdgeStrut> struts) {
+    CRect work = monitor;
+    for (const EdgeStrut& strut : struts) {
+        const bool isBeside = strut.edge == enmEdge::Left || strut.edge == enmEdge::Right;
+        const int begin = isBeside ? monitor.top : monitor.left;
+        const int end = isBeside ? monitor.bottom : monitor.right;
+        const int inner = strut.edge == enmEdge::Left    ? all.left + strut.thickness
+                          : strut.edge == enmEdge::Right ? all.right - strut.thickness
+                          : strut.edge == enmEdge::Top   ? all.top + strut.thickness
+                                                         : all.bottom - strut.thickness;
+        const bool endsHere = isBeside ? inner > monitor.left && inner < monitor.right
+                                       : inner > monitor.top && inner < monitor.bottom;
+        if (strut.thickness <= 0 || strut.from >= end || strut.to < begin || !endsHere) {
+            continue;
+        }
+        switch (strut.edge) {
+        case enmEdge::Left:
+            work.left = std::max(work.left, inner);
+            break;
+        case enmEdge::Right:
+            work.right = std::min(work.right, inner);
+            break;
+        case enmEdge::Top:
+            work.top = std::max(work.top, inner);
+            break;
+        case enmEdge::Bottom:
+            work.bottom = std::min(work.bottom, inner);
+            break;
+        }
+    }
+    return work.IsRectEmpty() ? monitor : work;
+}

@@ -1,6 +1,7 @@
 // What the desktop looks like: monitors, cursor, work area, stacking of windows.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "platform/Api.h"
@@ -12,6 +13,10 @@ struct Monitor {
 };
 
 /// The desktop as it is now; every call asks anew. Main thread.
+///
+/// Places on the screen count from the upper left corner of the primary monitor, here and in
+/// everything that windows tell and are told: monitors to its left or above have negative
+/// places.
 class PLATFORM_API IScreens {
 public:
     virtual ~IScreens() = default;
@@ -35,3 +40,19 @@ PLATFORM_API Monitor NearestMonitor(const std::vector<Monitor>& monitors, CPoint
 /// The strip along one edge that the work area leaves out, the thickest one if there are
 /// several; empty without one.
 PLATFORM_API CRect TaskBarOf(const Monitor& monitor);
+
+enum class enmEdge { Left, Right, Top, Bottom };
+
+/// Room that a panel asks for at an edge of all monitors together.
+struct EdgeStrut {
+    enmEdge edge;
+    int thickness; ///< from that edge, also where a monitor does not reach it
+    int from;      ///< along the edge, both ends included
+    int to;
+};
+
+/// What the struts leave of a monitor. A strut counts for the monitor in which it ends; one
+/// that reaches beyond it stands on another.
+/// \param all the rectangle around all monitors
+PLATFORM_API CRect WorkAreaOf(const CRect& monitor, const CRect& all,
+                              std::span<const EdgeStrut> struts);

@@ -38,6 +38,7 @@ void CXTPDockingPane::Attach(CWnd* pWnd) {
     }
     m_pImpl->child = pWnd->GetSafeHwnd();
     pWidget->setWindowFlags(Qt::Widget);
+    pWnd->SetParent(CWnd::FromHandle(m_pImpl->frame));
     m_pImpl->dock->setWidget(pWidget);
     pWidget->show();
 }

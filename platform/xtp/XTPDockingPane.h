@@ -5,8 +5,6 @@
 
 #include "platform/mfc/Wnd.h"
 
-class QDockWidget;
-
 /// Made and owned by its manager; lives as long as that. A pane that the user closes is only
 /// hidden. Operations on a pane whose frame has gone do nothing.
 class PLATFORM_API CXTPDockingPane {
@@ -18,8 +16,9 @@ public:
     int GetID() const { return m_nId; }
     void SetTitle(const wchar_t* title);
     CString GetTitle() const;
-    /// Shows a window in the pane, which follows the pane's size from now on and shows and
-    /// hides with it. Not owned; it takes itself off when it is destroyed.
+    /// Shows a window in the pane, which follows the pane's size from now on, shows and hides
+    /// with it, and goes with the frame, whoever was its parent before. Not owned; it takes
+    /// itself off when it is destroyed.
     void Attach(CWnd* pWnd);
     /// Null once it was destroyed.
     CWnd* GetChild() const;

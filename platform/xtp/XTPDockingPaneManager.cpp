@@ -54,6 +54,7 @@ CXTPDockingPaneManager::~CXTPDockingPaneManager() = default;
 int CXTPDockingPaneManager::InstallDockingPanes(CWnd* pFrame, int) {
     auto* const pWidget = pFrame ? static_cast<QWidget*>(NativeWidget(*pFrame)) : nullptr;
     m_pImpl->frame = qobject_cast<QMainWindow*>(pWidget);
+    m_pImpl->frameWindow = pFrame ? pFrame->GetSafeHwnd() : nullptr;
     FollowLook();
     return m_pImpl->frame ? 1 : 0;
 }
@@ -106,6 +107,7 @@ CXTPDockingPane* CXTPDockingPaneManager::CreatePane(int id, const CRect& rect,
     }
     auto pImpl = std::make_unique<CXTPDockingPane::Impl>();
     pImpl->dock = pDock;
+    pImpl->frame = m_pImpl->frameWindow;
     m_panes.emplace_back(new CXTPDockingPane(id, std::move(pImpl)));
     return m_panes.back().get();
 }

@@ -1,5 +1,6 @@
 // The module that brings the workspace to life: loaded last, it makes the first call of
 // the manager, and from then on stands between the GIS core, the host and the workspace.
+#include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostReactor.h"
@@ -81,11 +82,16 @@ public:
         const auto result = commands.Execute(id, nullptr, nullptr);
         return result && result->m_nStatus ? CommandOutcome::Done : CommandOutcome::Failed;
     }
-    std::vector<std::pair<CString, CString>> List() const override {
-        std::vector<std::pair<CString, CString>> list;
+    std::vector<EdSourceCommand> List() const override {
+        const bool hasDrawing = acDocManagerPtr()->curDocument() != nullptr;
+        std::vector<EdSourceCommand> list;
         for (const auto& command :
              *CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandVector()) {
-            list.emplace_back(command->GetId(), command->GetDescription());
+            const wchar_t* const whyNot = !command->GetCmdExecutor() ? L"No module carries it out"
+                                          : hasDrawing               ? L""
+                                                                     : L"No drawing is open";
+            list.push_back(
+                {command->GetId(), command->GetName(), command->GetDescription(), whyNot});
         }
         return list;
     }

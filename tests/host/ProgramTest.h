@@ -12,11 +12,16 @@ namespace Tessaly {
 class ProgramTest : public testing::Test {
 protected:
     int Run(const std::string& arguments, const std::string& input = "") {
+        return RunIn("", "--console " + arguments, input);
+    }
+    /// \param environment as in front of a command of the shell
+    int RunIn(const std::string& environment, const std::string& arguments,
+              const std::string& input = "") {
         m_folder.Write("input", input);
-        const std::string command = std::string(TESSALY_STAGE_DIR "/tessaly --console --support ") +
-                                    m_folder.Native("support") + " " + arguments + " < " +
-                                    m_folder.Native("input") + " > " + m_folder.Native("output") +
-                                    " 2>&1";
+        const std::string command =
+            environment + " " TESSALY_STAGE_DIR "/tessaly --support " + m_folder.Native("support") +
+            " " + arguments + " < " + m_folder.Native("input") + " > " + m_folder.Native("output") +
+            " 2>&1";
         const int status = std::system(command.c_str());
         m_output = m_folder.Read("output");
         return WEXITSTATUS(status);

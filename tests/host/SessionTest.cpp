@@ -119,6 +119,28 @@ TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
     EXPECT_TRUE(Printed("APPLOAD")) << m_output;
 }
 
+TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {
+    // Servers that are not there.
+    for (const char* const environment :
+         {"QT_QPA_PLATFORM= DISPLAY=:4711 WAYLAND_DISPLAY=",
+          "QT_QPA_PLATFORM=xcb DISPLAY=:4711",
+          "QT_QPA_PLATFORM= DISPLAY= WAYLAND_DISPLAY=/tmp/nobody-listens-here"}) {
+        EXPECT_EQ(RunIn(environment, "", "DRAWINGS\n"), 0) << environment;
+        EXPECT_TRUE(Printed("There is no display")) << environment << m_output;
+        EXPECT_TRUE(Printed("Drawing1")) << environment << m_output;
+    }
+}
+
+TEST_F(ProgramTest, APictureIsDrawnThoughAScriptLeavesPromptsOpen) {
+    m_folder.Write("open.scr", "NEW\nNETWORK_IMPORT\n");
+    const std::string picture = m_folder.Native("desktop.png");
+    EXPECT_EQ(RunIn("QT_QPA_PLATFORM= DISPLAY=:4711 timeout 60",
+                    "--snapshot " + picture + " --first " + m_folder.Native("open.scr")),
+              0)
+        << m_output;
+    EXPECT_GT(m_folder.Read("desktop.png").size(), 1000u);
+}
+
 TEST(Options, AreReadOrRefused) {
     const struct {
         std::vector<std::string> arguments;
@@ -132,6 +154,8 @@ TEST(Options, AreReadOrRefused) {
         {{"--console", "plan.gpkg", "--trace", "t"}, L""},
         {{"plan.gpkg", "b.gpkg"}, L"b.gpkg: only one drawing can be named"},
         {{""}, L": no such option"},
+        {{"--theme", "dark"}, L""},
+        {{"--theme", "pink"}, L"--theme pink: it can be light or dark"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(ReadOptions(row.arguments).error, row.error);

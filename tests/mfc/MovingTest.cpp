@@ -1,6 +1,8 @@
 // Where windows go: proposed places, captions, placement, screens, stacking.
 #include "tests/mfc/WindowTest.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QToolButton>
 
 #include "platform/mfc/CustomBitmapButton.h"
@@ -239,6 +241,87 @@ TEST_F(MovingTest, TheDesktopInMemoryHasAScreen) {
     ASSERT_FALSE(monitors.empty());
     EXPECT_FALSE(monitors.front().full.IsRectEmpty());
     EXPECT_TRUE(monitors.front().full.PtInRect(monitors.front().work.TopLeft()));
+}
+
+TEST_F(MovingTest, APanelTakesRoomFromTheMonitorAtWhoseEdgeItStands) {
+    const CRect all(0, 0, 1600, 900);
+    const CRect left(0, 0, 800, 800);
+    const CRect right(800, 0, 1600, 900);
+    const struct {
+        const char* what;
+        EdgeStrut strut;
+        CRect leftWork;
+        CRect rightWork;
+    } cases[] = {
+        {"below the right one", {enmEdge::Bottom, 40, 800, 1599}, left, {800, 0, 1600, 860}},
+        {"below the lower left one", {enmEdge::Bottom, 140, 0, 799}, {0, 0, 800, 760}, right},
+        {"above both", {enmEdge::Top, 30, 0, 1599}, {0, 30, 800, 800}, {800, 30, 1600, 900}},
+        {"between them, of the right one", {enmEdge::Left, 860, 0, 899}, left, {860, 0, 1600, 900}},
+        {"none", {enmEdge::Right, 0, 0, 0}, left, right},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(WorkAreaOf(left, all, {&c.strut, 1}), c.leftWork) << c.what;
+        EXPECT_EQ(WorkAreaOf(right, all, {&c.strut, 1}), c.rightWork) << c.what;
+    }
+}
+
+/// The primary monitor is not the leftmost one.
+class PrimaryOnTheRightTest : public WindowTest {
+protected:
+    QByteArray Platform() const override {
+        QFile file(m_folder.filePath("screens.json"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(R"({"windowFrameMargins": false, "screens": [
+            {"name": "0-MAIN", "x": 1280, "y": 100, "width": 1920, "height": 1080,
+             "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
+            {"name": "1-LEFT", "x": 0, "y": 0, "width": 1280, "height": 1024,
+             "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        return "offscreen:configfile=" + file.fileName().toUtf8();
+    }
+    QTemporaryDir m_folder;
+};
+
+TEST_F(PrimaryOnTheRightTest, PlacesCountFromItsCorner) {
+    const std::vector<Monitor> monitors = Screens().Monitors();
+    ASSERT_EQ(monitors.size(), 2U);
+    EXPECT_EQ(monitors[0].full, CRect(0, 0, 1920, 1080));
+    EXPECT_EQ(monitors[1].full, CRect(-1280, -100, 0, 924));
+    TestDialog dialog;
+    dialog.Create();
+    dialog.SetWindowPos(nullptr, -200, 50, 0, 0, SWP_NOSIZE);
+    dialog.ShowWindow(SW_SHOW);
+    AfxPumpMessages();
+    EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(-200, 50));
+    EXPECT_EQ(FrameOf(dialog)->pos(), QPoint(1080, 150)) << "as the toolkit counts";
+    EXPECT_EQ(dialog.ScreenToClient(dialog.ClientToScreen({3, 4})), CPoint(3, 4));
+    EXPECT_EQ(dialog.ClientToScreen({0, 0}).x, -200 + GetSystemMetrics(SM_CXFIXEDFRAME));
+    WINDOWPLACEMENT placement;
+    dialog.GetWindowPlacement(&placement);
+    EXPECT_EQ(placement.rcNormalPosition.TopLeft(), CPoint(-200, 50));
+    // A drag begins at the place where the window is.
+    QTest::mousePress(FrameOf(dialog), Qt::LeftButton, {}, {60, 8});
+    QTest::mouseMove(FrameOf(dialog), {100, 8});
+    EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(-160, 50));
+    QTest::mouseRelease(FrameOf(dialog), Qt::LeftButton, {}, {60, 8});
+    CPoint clicked;
+    dialog.onPreTranslate = [&clicked](const MSG* pMsg) {
+        clicked = pMsg->message == WM_LBUTTONUP ? pMsg->pt : clicked;
+        return false;
+    };
+    QTest::mouseClick(WidgetOf(dialog), Qt::LeftButton, {}, {10, 10});
+    EXPECT_EQ(clicked, dialog.ClientToScreen({10, 10}));
+}
+
+TEST_F(PrimaryOnTheRightTest, AModalDialogComesInItsMiddle) {
+    TestDialog dialog;
+    CRect place;
+    Later([&] {
+        place = dialog.GetWindowRect();
+        dialog.EndDialog(IDOK);
+    });
+    dialog.DoModal();
+    EXPECT_EQ(place.left, (1920 - place.Width()) / 2);
+    EXPECT_EQ(place.top, (1080 - place.Height()) / 2);
 }
 
 } // namespace

@@ -18,12 +18,14 @@
 class WindowTest : public testing::Test {
 protected:
     void SetUp() override {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", Platform());
         AfxSetDesktopMode(true);
         AfxStartToolkit(); // may warn of the folders that this machine lacks
         Warnings().clear();
         qInstallMessageHandler(&NoteWarning);
     }
+
+    virtual QByteArray Platform() const { return "offscreen"; }
 
     void TearDown() override {
         AfxPumpMessages();

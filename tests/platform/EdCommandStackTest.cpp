@@ -35,7 +35,7 @@ public:
         s_work();
         return CommandOutcome::Done;
     }
-    std::vector<std::pair<CString, CString>> List() const override { return {}; }
+    std::vector<EdSourceCommand> List() const override { return {}; }
 };
 
 class CommandsTest : public testing::Test {

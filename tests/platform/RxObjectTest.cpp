@@ -66,7 +66,7 @@ public:
         m_asked.emplace_back(name);
         return CString(name) == L"BAD" ? CommandOutcome::Failed : CommandOutcome::Unknown;
     }
-    std::vector<std::pair<CString, CString>> List() const override { return {}; }
+    std::vector<EdSourceCommand> List() const override { return {}; }
     std::vector<CString> m_asked;
 };
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <clocale>
-#include <cstdlib>
 #include <iterator>
 
 #include <QCursor>
@@ -11,11 +10,12 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QUrl>
-#include <xcb/xcb.h>
 
 #include "platform/mfc/WaitCursor.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
+#include "platform/mfc/toolkit/Displays.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 
 namespace {
@@ -23,35 +23,6 @@ namespace {
 bool g_desktop = false;
 /// Left alone at the end of the process, where the order of destruction is nobody's.
 Application* g_pApplication = nullptr;
-
-/// An empty variable says nothing.
-bool IsSet(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value && *value;
-}
-
-bool XServerAnswers() {
-    if (!IsSet("DISPLAY")) {
-        return false;
-    }
-    xcb_connection_t* const pConnection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(pConnection) == 0;
-    xcb_disconnect(pConnection);
-    return answers;
-}
-
-/// The toolkit ends the process if it cannot open a display, so it is asked for one only
-/// where there is one. A Wayland client can neither read nor set its place, so X11 comes
-/// first there, too.
-const char* ChosenDisplay() {
-    if (!g_desktop) {
-        return "offscreen";
-    }
-    if (XServerAnswers()) {
-        return "xcb;offscreen";
-    }
-    return IsSet("WAYLAND_DISPLAY") ? "wayland;offscreen" : "offscreen";
-}
 
 bool IsTranslated(QEvent::Type type) {
     switch (type) {
@@ -67,7 +38,7 @@ bool IsTranslated(QEvent::Type type) {
 
 CPoint PointOf(const QEvent* pEvent) {
     const auto* const pMouse = dynamic_cast<const QMouseEvent*>(pEvent);
-    return ToCPoint(pMouse ? pMouse->globalPosition().toPoint() : QCursor::pos());
+    return ToScreenPoint(pMouse ? pMouse->globalPosition().toPoint() : QCursor::pos());
 }
 
 MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEvent) {
@@ -207,7 +178,7 @@ Qt::KeyboardModifiers Application::ModifiersInHand() const {
 }
 
 CPoint Application::PointInHand() const {
-    return m_inputs.empty() ? ToCPoint(QCursor::pos()) : m_inputs.back()->point;
+    return m_inputs.empty() ? ToScreenPoint(QCursor::pos()) : m_inputs.back()->point;
 }
 
 void AfxSetDesktopMode(bool desktop) {
@@ -219,20 +190,29 @@ bool AfxIsDesktopMode() {
 }
 
 bool AfxHasDisplay() {
-    return IsSet("QT_QPA_PLATFORM") || XServerAnswers() || IsSet("WAYLAND_DISPLAY");
+    // The toolkit may have found that it cannot open what answers.
+    const std::string visible = VisibleDisplays();
+    return !visible.empty() && (!QCoreApplication::instance() ||
+                                visible.find(QGuiApplication::platformName().toStdString()) !=
+                                    std::string::npos);
 }
 
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
     }
-    if (!IsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", ChosenDisplay());
-    }
+    // Only for the start: programs that are started from here find their own.
+    const QByteArray named = qgetenv("QT_QPA_PLATFORM");
+    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(DisplaysToStartWith(g_desktop)));
     static int argc = 1;
     static char name[] = "tessaly";
     static char* argv[] = {name, nullptr};
     g_pApplication = new Application(argc, argv);
+    if (named.isEmpty()) {
+        qunsetenv("QT_QPA_PLATFORM");
+    } else {
+        qputenv("QT_QPA_PLATFORM", named);
+    }
     // It takes the user's language for everything, and "3,14" is no number in our files.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include "platform/mfc/WinApp.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 
 namespace {
 
@@ -187,8 +188,8 @@ void FrameWidget::DragTo(const QPoint& onScreen) {
         }
     }
     WINDOWPOS place;
-    place.x = wanted.x();
-    place.y = wanted.y();
+    place.x = ToScreenPoint(wanted.topLeft()).x;
+    place.y = ToScreenPoint(wanted.topLeft()).y;
     place.cx = wanted.width();
     place.cy = wanted.height();
     place.flags = SWP_NOZORDER | (m_edges ? 0 : SWP_NOSIZE | SWP_USERMOVE);
@@ -209,8 +210,8 @@ void FrameWidget::Settle() {
         return;
     }
     WINDOWPOS place;
-    place.x = from.x();
-    place.y = from.y();
+    place.x = ToScreenPoint(from).x;
+    place.y = ToScreenPoint(from).y;
     place.flags = SWP_NOSIZE | SWP_NOZORDER;
     pCore->Place(place, nullptr);
     m_lastCorrection = {from, pos()};

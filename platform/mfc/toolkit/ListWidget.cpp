@@ -41,8 +41,8 @@ public:
         m_draw.pDC = &m_dc;
         m_draw.iItem = row;
         m_draw.lItemlParam = static_cast<LPARAM>(list.m_model.Row(row).data);
-        m_draw.clrText = list.m_textColor;
-        m_draw.clrTextBk = list.m_backColor;
+        m_draw.clrText = list.TextColor();
+        m_draw.clrTextBk = list.BackColor();
         m_draw.rc = ToCRect(option.rect);
     }
 
@@ -132,8 +132,7 @@ private:
 };
 
 ListWidget::ListWidget(QWidget* pParent, UINT style)
-    : HookedArea(pParent), m_style(style), m_textColor(GetSysColor(COLOR_WINDOWTEXT)),
-      m_backColor(GetSysColor(COLOR_WINDOW)) {
+    : HookedArea(pParent), m_style(style) {
     setModel(&m_model);
     setItemDelegate(new RowHeights(this, m_imageSize));
     setUniformRowHeights(true);
@@ -168,9 +167,13 @@ void ListWidget::SetImages(const CImageList& images) {
     scheduleDelayedItemsLayout();
 }
 
-void ListWidget::SetTextColors(COLORREF text, COLORREF back) {
-    m_textColor = text;
-    m_backColor = back;
+void ListWidget::SetTextColor(COLORREF color) {
+    m_textColor = color;
+    viewport()->update();
+}
+
+void ListWidget::SetBackColor(COLORREF color) {
+    m_backColor = color;
     viewport()->update();
 }
 

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 
 #include <QAbstractItemModel>
 #include <QTreeView>
@@ -62,9 +63,11 @@ public:
     const ListModel& Rows() const { return m_model; }
     void SetExtendedStyle(UINT style);
     void SetImages(const CImageList& images);
-    void SetTextColors(COLORREF text, COLORREF back);
-    COLORREF TextColor() const { return m_textColor; }
-    COLORREF BackColor() const { return m_backColor; }
+    /// Colours that are not set are those of the theme.
+    void SetTextColor(COLORREF color);
+    void SetBackColor(COLORREF color);
+    COLORREF TextColor() const { return m_textColor.value_or(GetSysColor(COLOR_WINDOWTEXT)); }
+    COLORREF BackColor() const { return m_backColor.value_or(GetSysColor(COLOR_WINDOW)); }
     int ContentWidth(int column) const;
     int HeaderWidth(int column) const;
     void SetState(int row, UINT state, UINT mask);
@@ -100,8 +103,8 @@ private:
     UINT m_extendedStyle = 0;
     std::vector<QPixmap> m_images;
     QSize m_imageSize;
-    COLORREF m_textColor;
-    COLORREF m_backColor;
+    std::optional<COLORREF> m_textColor;
+    std::optional<COLORREF> m_backColor;
     bool m_pressed = false;
     bool m_quiet = false;
     bool m_painting = false;

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <span>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -12,7 +14,7 @@
 #include <xcb/xcb.h>
 
 #include "platform/mfc/WinApp.h"
-#include "platform/mfc/toolkit/Convert.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/Stacking.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 #include "platform/win/Screens.h"
@@ -77,8 +79,94 @@ void RefineByServer(std::vector<const QWidget*>& windows) {
         [&placeOf](const QWidget* pA, const QWidget* pB) { return placeOf[pA] > placeOf[pB]; });
 }
 
+using Property = Owned<xcb_get_property_reply_t>;
+
+Property TakeProperty(xcb_connection_t* pConnection, xcb_get_property_cookie_t cookie) {
+    return {xcb_get_property_reply(pConnection, cookie, nullptr), &std::free};
+}
+
+std::span<const std::uint32_t> Numbers(const Property& property) {
+    if (!property || property->format != 32) {
+        return {};
+    }
+    return {static_cast<const std::uint32_t*>(xcb_get_property_value(property.get())),
+            static_cast<std::size_t>(xcb_get_property_value_length(property.get())) / 4};
+}
+
+/// What a panel asks for: the four thicknesses, then where each begins and ends.
+void AppendStruts(std::span<const std::uint32_t> numbers, std::vector<EdgeStrut>& struts) {
+    constexpr std::size_t kEdges = 4;
+    if (numbers.size() < 3 * kEdges) {
+        return;
+    }
+    for (std::size_t edge = 0; edge < kEdges; ++edge) {
+        struts.push_back({static_cast<enmEdge>(edge), static_cast<int>(numbers[edge]),
+                          static_cast<int>(numbers[kEdges + 2 * edge]),
+                          static_cast<int>(numbers[kEdges + 2 * edge + 1])});
+    }
+}
+
+/// The panels that the window manager knows; nothing without one.
+std::vector<EdgeStrut> StrutsOnServer(xcb_connection_t* pConnection) {
+    constexpr std::uint32_t kMost = 4096;
+    const auto atom = [pConnection](std::string_view name) {
+        const Owned<xcb_intern_atom_reply_t> reply(
+            xcb_intern_atom_reply(pConnection,
+                                  xcb_intern_atom(pConnection, 1,
+                                                  static_cast<std::uint16_t>(name.size()),
+                                                  name.data()),
+                                  nullptr),
+            &std::free);
+        return reply ? reply->atom : xcb_atom_t{XCB_NONE};
+    };
+    const auto ask = [&](xcb_window_t window, xcb_atom_t property) {
+        return xcb_get_property(pConnection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0,
+                                kMost);
+    };
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(pConnection)).data->root;
+    const Property list = TakeProperty(pConnection, ask(root, atom("_NET_CLIENT_LIST")));
+    const xcb_atom_t partial = atom("_NET_WM_STRUT_PARTIAL");
+    // All are asked before the first answer is awaited.
+    std::vector<xcb_get_property_cookie_t> cookies;
+    for (const xcb_window_t window : Numbers(list)) {
+        cookies.push_back(ask(window, partial));
+    }
+    std::vector<EdgeStrut> struts;
+    for (const xcb_get_property_cookie_t cookie : cookies) {
+        AppendStruts(Numbers(TakeProperty(pConnection, cookie)), struts);
+    }
+    return struts;
+}
+
+/// In pixels of the server: the toolkit keeps corners and scales sizes.
+CRect NativeRect(const QScreen& screen) {
+    return ToCRect({screen.geometry().topLeft(), screen.size() * screen.devicePixelRatio()});
+}
+
+/// The toolkit knows one work area for all monitors together, so that a panel of one would
+/// take its room from the others, too.
+QRect WorkAreaOfScreen(const QScreen& screen) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    xcb_connection_t* const pConnection = Connection();
+    if (!pConnection || screens.size() < 2) {
+        return screen.availableGeometry();
+    }
+    CRect all;
+    for (const QScreen* const pScreen : screens) {
+        const CRect rect = NativeRect(*pScreen);
+        all = {0, 0, std::max(all.right, rect.right), std::max(all.bottom, rect.bottom)};
+    }
+    const CRect full = NativeRect(screen);
+    const CRect work = WorkAreaOf(full, all, StrutsOnServer(pConnection));
+    const double ratio = screen.devicePixelRatio();
+    const auto scaled = [ratio](int length) { return static_cast<int>(length / ratio); };
+    return {screen.geometry().left() + scaled(work.left - full.left),
+            screen.geometry().top() + scaled(work.top - full.top), scaled(work.Width()),
+            scaled(work.Height())};
+}
+
 Monitor MonitorOf(const QScreen& screen) {
-    return {ToCRect(screen.geometry()), ToCRect(screen.availableGeometry())};
+    return {ToScreenRect(screen.geometry()), ToScreenRect(WorkAreaOfScreen(screen))};
 }
 
 class ToolkitScreens final : public IScreens {
@@ -104,7 +192,7 @@ public:
 
     CPoint Cursor() const override {
         AfxStartToolkit();
-        return ToCPoint(QCursor::pos());
+        return ToScreenPoint(QCursor::pos());
     }
 
     std::vector<HWND> Stacking() const override {
@@ -128,6 +216,11 @@ public:
 IScreens* g_pScreens = nullptr;
 
 } // namespace
+
+QPoint PrimaryCorner() {
+    const QScreen* const pPrimary = QGuiApplication::primaryScreen();
+    return pPrimary ? pPrimary->geometry().topLeft() : QPoint();
+}
 
 IScreens& Screens() {
     static ToolkitScreens screens;

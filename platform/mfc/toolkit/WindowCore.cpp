@@ -14,6 +14,7 @@
 #include "platform/mfc/toolkit/Application.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/DroppedFiles.h"
+#include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/Stacking.h"
 
 namespace {
@@ -137,6 +138,26 @@ void WindowCore::HandOver(CWnd& wnd) {
     m_pOwned.reset();
 }
 
+void WindowCore::MoveTo(WindowCore* pParent) {
+    for (const WindowCore* pAbove = pParent; pAbove; pAbove = Find(pAbove->m_parent)) {
+        if (pAbove == this) {
+            return;
+        }
+    }
+    if (WindowCore* const pBefore = Find(m_parent)) {
+        std::erase(pBefore->m_children, m_handle);
+    }
+    m_parent = pParent ? pParent->m_handle : nullptr;
+    if (pParent) {
+        pParent->m_children.push_back(m_handle);
+    }
+    if (m_outer && !m_outer->isWindow()) {
+        const bool isShown = !m_outer->isHidden();
+        m_outer->setParent(pParent ? pParent->m_client : nullptr);
+        m_outer->setVisible(isShown && pParent);
+    }
+}
+
 void WindowCore::Destroy() {
     if (m_destroying) {
         return;
@@ -190,7 +211,10 @@ void WindowCore::Detach() {
 }
 
 void WindowCore::WidgetGone() {
-    m_destroying = true;
+    const std::shared_ptr<WindowCore> keep = shared_from_this();
+    if (!m_destroying) {
+        TellDestroyed();
+    }
     Detach();
 }
 
@@ -266,7 +290,7 @@ bool WindowCore::Translate(enmWidgetPart part, QEvent* pEvent, MSG& msg) const {
         const auto* const pMouse = static_cast<QMouseEvent*>(pEvent);
         const QPoint point = pMouse->position().toPoint();
         msg.lParam = PackInts(point.x(), point.y());
-        msg.pt = ToCPoint(pMouse->globalPosition().toPoint());
+        msg.pt = ToScreenPoint(pMouse->globalPosition().toPoint());
         msg.message = pEvent->type() == QEvent::MouseMove  ? WM_MOUSEMOVE
                       : pMouse->button() == Qt::LeftButton ? WM_LBUTTONUP
                                                            : WM_RBUTTONUP;
@@ -390,7 +414,15 @@ void WindowCore::timerEvent(QTimerEvent* pEvent) {
 }
 
 QRect WindowCore::GeometryNow() const {
-    return m_outer ? m_outer->geometry() : QRect();
+    if (!m_outer) {
+        return {};
+    }
+    const QRect now = m_outer->geometry();
+    return m_outer->isWindow() ? now.translated(-PrimaryCorner()) : now;
+}
+
+void WindowCore::TakeGeometry(const QRect& rect) {
+    ApplyGeometry(m_outer, m_outer->isWindow() ? rect.translated(PrimaryCorner()) : rect);
 }
 
 void WindowCore::Place(WINDOWPOS place, const WindowCore* pInsertAfter) {
@@ -417,7 +449,7 @@ void WindowCore::Place(WINDOWPOS place, const WindowCore* pInsertAfter) {
     if (!(place.flags & SWP_NOSIZE)) {
         wanted.setSize(QSize(std::max(place.cx, 0), std::max(place.cy, 0)));
     }
-    ApplyGeometry(m_outer, wanted);
+    TakeGeometry(wanted);
     if (!(place.flags & SWP_NOZORDER) && m_outer) {
         const WindowCore* const pAfter = Find(place.hwndInsertAfter);
         if (pAfter && pAfter->m_outer && pAfter->m_outer->parent() == m_outer->parent()) {

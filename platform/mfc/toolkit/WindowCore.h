@@ -68,6 +68,8 @@ public:
 
     /// Has another object stand for the window; the one before is left without.
     void HandOver(CWnd& wnd);
+    /// Has the window go with another parent; null: with none.
+    void MoveTo(WindowCore* pParent);
     /// An object that goes with the window: a control that nobody took over.
     void Own(std::unique_ptr<CWnd> pWnd) { m_pOwned = std::move(pWnd); }
     void Destroy();
@@ -90,6 +92,9 @@ public:
     void StartTimerOf(DWORD_PTR id, UINT milliseconds);
     bool StopTimerOf(DWORD_PTR id);
 
+    /// Of a child in its parent, of others on the screen as modules count.
+    QRect GeometryNow() const;
+    void TakeGeometry(const QRect& rect);
     /// Asks the handlers about a place, then takes it.
     void Place(WINDOWPOS place, const WindowCore* pInsertAfter);
 
@@ -105,7 +110,6 @@ private:
     void Register(QWidget* pWidget);
     void TellDestroyed();
     void Detach();
-    QRect GeometryNow() const;
 
     HWND m_handle = nullptr;
     HWND m_parent = nullptr;

@@ -9,10 +9,12 @@
 
 struct CXTPDockingPane::Impl {
     QPointer<QDockWidget> dock;
+    HWND frame = nullptr;
     HWND child = nullptr;
 };
 
 struct CXTPDockingPaneManager::Impl {
     QPointer<QMainWindow> frame;
+    HWND frameWindow = nullptr;
     bool isGentle = false;
 };

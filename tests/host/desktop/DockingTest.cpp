@@ -78,6 +78,29 @@ TEST_F(DockingTest, AWindowFollowsItsPaneAndMayGoFirst) {
     m_panes.ShowPane(1, 1);
 }
 
+TEST_F(DockingTest, AnAttachedWindowGoesWithTheFrame) {
+    struct Noting : CWnd {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_DESTROY) {
+                destroyed = GetSafeHwnd() != nullptr;
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+        bool destroyed = false;
+    };
+    auto pView = std::make_unique<CWnd>();
+    pView->Create(WS_CHILD, {0, 0, 50, 50}, &m_frame);
+    Noting window;
+    window.Create(WS_CHILD, {0, 0, 50, 50}, pView.get());
+    Pane(1).Attach(&window);
+    EXPECT_EQ(window.GetParent(), &m_frame);
+    pView.reset();
+    EXPECT_TRUE(window.GetSafeHwnd()) << "it went with the view that it was made for";
+    m_pFrame.reset();
+    EXPECT_TRUE(window.destroyed) << "told while it still had its window";
+    EXPECT_FALSE(window.GetSafeHwnd());
+}
+
 TEST_F(DockingTest, APaneComesWhereTheUserLeftIt) {
     Pane(7, xtpPaneDockRight);
     const QByteArray state = m_pFrame->saveState(1);

@@ -46,6 +46,8 @@ TEST(LayoutFile, APartOfALayoutIsNoLayout) {
         {"layout 1", "layout 2"},
         {"-1200 30 1000", "-1200 30 0"},
         {"-1200 30 1000 700", "1 2 3 4 5"},
+        {"-1200 30 1000 700", "2147483647 0 2147483647 500"},
+        {"-1200 30 1000 700", "99999999999 0 10 10"},
         {"maximized=1", "maximized"},
         {"panes=", "panes=0"},
         {"recent=", "recent=xy"},

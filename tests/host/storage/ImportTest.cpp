@@ -150,13 +150,17 @@ TEST_F(ImportTest, AnImpossiblePositionRefusesTheFileAndNamesTheRow) {
                             R"({"type":"LineString","coordinates":[[0,0],[0,-1e16]]})",
                             R"({"type":"Polygon","coordinates":[[[0,0],[9,0],[9,1e20],[0,0]]]})",
                             R"({"type":"MultiPoint","coordinates":[[0,0],[1e16,0]]})",
-                            R"({"type":"Point","coordinates":[0,0,1e99]})"}) {
+                            R"({"type":"Point","coordinates":[0,0,1e99]})",
+                            R"({"type":"Point","coordinates":[NaN,2]})",
+                            R"({"type":"LineString","coordinates":[[0,0],[NaN,2]]})"}) {
         m_folder.Write("bad.geojson", Collection(good + "," + good + "," + Row(bad) + "," + good));
         EXPECT_NE(
             WhyNot("bad.geojson").find("layer \"bad\", row 3: it has a position that is none"),
             std::string::npos)
             << bad;
     }
+    m_folder.Write("bad.csv", "WKT,NAME\nPOINT(1 2),a\nPOINT EMPTY,b\nPOINT(nan 3),c\n");
+    EXPECT_NE(WhyNot("bad.csv").find("row 3: it has a position that is none"), std::string::npos);
 }
 
 TEST_F(ImportTest, BrokenFilesAreRefused) {

@@ -1,0 +1,316 @@
+// What the window consists of: menus, panes, themes, and where all of it stands.
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <algorithm>
+
+#include "host/desktop/CommandPane.h"
+#include "host/desktop/Frame.h"
+#include "host/desktop/QtTexts.h"
+#include "host/desktop/Theme.h"
+#include "host/desktop/view/DrawingView.h"
+#include "platform/mfc/NativeWidget.h"
+#include "platform/win/Screens.h"
+
+namespace Tessaly {
+
+namespace {
+
+/// Of the saved pane states; another number makes old ones unreadable.
+constexpr int kPaneVersion = 1;
+constexpr int kCommandHeight = 150; // at first
+
+/// All of it as modules count; see IScreens.
+std::vector<ScreenRect> WorkAreas() {
+    std::vector<ScreenRect> areas;
+    for (const Monitor& monitor : Screens().Monitors()) {
+        const CRect& work = monitor.work;
+        areas.push_back({work.left, work.top, work.Width(), work.Height()});
+    }
+    return areas;
+}
+
+/// With its title bar as far as the place goes: that is what has to be on a screen.
+ScreenRect RectOf(const QWidget& window) {
+    const QRect rect =
+        window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
+    const CPoint corner = NativePrimaryCorner();
+    return {rect.x() - corner.x, rect.y() - corner.y, rect.width(), rect.height()};
+}
+
+void Place(QWidget& window, const ScreenRect& rect) {
+    const CPoint corner = NativePrimaryCorner();
+    window.resize(rect.width, rect.height);
+    window.move(rect.left + corner.x, rect.top + corner.y);
+}
+
+/// The next place beside a window for one more of those that are brought to it.
+ScreenRect Beside(const ScreenRect& window, ScreenRect moved, int step) {
+    moved.left = window.left + 40 + 30 * step;
+    moved.top = window.top + 80 + 30 * step;
+    return moved;
+}
+
+/// Gives the keyboard to what a pane shows.
+void FocusInside(QWidget& pane) {
+    pane.window()->activateWindow();
+    QWidget* pTarget = pane.focusWidget() ? pane.focusWidget() : &pane;
+    for (QWidget* pNext = pane.nextInFocusChain();
+         !(pTarget->focusPolicy() & Qt::TabFocus) && pane.isAncestorOf(pNext);
+         pNext = pNext->nextInFocusChain()) {
+        if (pNext->isVisible() && pNext->isEnabled()) {
+            pTarget = pNext;
+        }
+    }
+    pTarget->setFocus(Qt::ShortcutFocusReason);
+}
+
+/// What a menu entry does: a command of the host.
+struct MenuCommand {
+    const char* text;
+    const char* shortcut;
+    const wchar_t* command;
+};
+
+} // namespace
+
+void Frame::MakePanes() {
+    m_pPane = new CommandPane;
+    m_pCommandDock = new QDockWidget(tr("Command line"), this);
+    m_pCommandDock->setObjectName(QStringLiteral("CommandLine"));
+    m_pCommandDock->setWidget(m_pPane);
+    m_pCommandDock->setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
+    addDockWidget(Qt::BottomDockWidgetArea, m_pCommandDock);
+    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    connect(m_pPane, &CommandPane::entered, this, &Frame::OnEntered);
+    connect(m_pPane, &CommandPane::escaped, this, &Frame::OnEscaped);
+}
+
+void Frame::MakeStatusBar() {
+    m_pPosition = new QLabel;
+    m_pPosition->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0")) * 36);
+    m_pWork = new QLabel;
+    m_pProgress = new QProgressBar;
+    m_pProgress->setRange(0, 100);
+    m_pProgress->setMaximumWidth(240);
+    m_pStop = new QPushButton(tr("Stop"));
+    for (QWidget* const pWidget :
+         {static_cast<QWidget*>(m_pWork), static_cast<QWidget*>(m_pProgress),
+          static_cast<QWidget*>(m_pStop)}) {
+        statusBar()->addPermanentWidget(pWidget);
+        pWidget->hide();
+    }
+    statusBar()->addWidget(m_pPosition);
+    connect(m_pStop, &QPushButton::clicked, this, [this] { m_bStopAsked = true; });
+}
+
+void Frame::MakeMenus() {
+    const auto add = [this](QMenu* pMenu, const QString& text, const QString& shortcut,
+                            auto&& call) {
+        QAction* const pAction = pMenu->addAction(text, QKeySequence(shortcut));
+        connect(pAction, &QAction::triggered, this, call);
+        return pAction;
+    };
+    const auto command = [&](QMenu* pMenu, const MenuCommand& entry) {
+        add(pMenu, tr(entry.text), QString::fromLatin1(entry.shortcut),
+            [this, name = CString(entry.command)] { Run(name); });
+    };
+    QMenu* const pFile = menuBar()->addMenu(tr("&File"));
+    command(pFile, {"&New", "Ctrl+N", L"NEW"});
+    add(pFile, tr("&Open…"), QStringLiteral("Ctrl+O"), [this] { OpenWithDialog(); });
+    command(pFile, {"&Save", "Ctrl+S", L"SAVE"});
+    add(pFile, tr("Save &as…"), QStringLiteral("Ctrl+Shift+S"), [this] { SaveAsWithDialog(); });
+    add(pFile, tr("&Import…"), QStringLiteral("Ctrl+I"), [this] { ImportWithDialog(); });
+    command(pFile, {"&Close", "Ctrl+W", L"CLOSE"});
+    pFile->addSeparator();
+    command(pFile, {"&Quit", "Ctrl+Q", L"QUIT"});
+
+    QMenu* const pEdit = menuBar()->addMenu(tr("&Edit"));
+    command(pEdit, {"&Undo", "Ctrl+Z", L"UNDO"});
+    command(pEdit, {"&Redo", "Ctrl+Shift+Z", L"REDO"});
+
+    QMenu* const pView = menuBar()->addMenu(tr("&View"));
+    add(pView, tr("Zoom &extents"), QStringLiteral("Ctrl+0"), [this] {
+        if (DrawingView* const pDrawing = CurrentView()) {
+            pDrawing->ZoomExtents();
+        }
+    });
+    pView->addSeparator();
+    QMenu* const pPanes = pView->addMenu(tr("&Panes"));
+    connect(pPanes, &QMenu::aboutToShow, this, [this, pPanes] { FillPaneMenu(*pPanes); });
+    // Floating panes are windows of their own, and are left by the same keys.
+    add(pView, tr("Ne&xt pane"), QStringLiteral("F6"), [this] { GoToPane(1); })
+        ->setShortcutContext(Qt::ApplicationShortcut);
+    add(pView, tr("P&revious pane"), QStringLiteral("Shift+F6"), [this] { GoToPane(-1); })
+        ->setShortcutContext(Qt::ApplicationShortcut);
+    add(pView, tr("&Bring all windows here"), QStringLiteral("Ctrl+Shift+B"),
+        [this] { BringAllWindowsHere(); });
+    MakeThemeMenu(*pView->addMenu(tr("&Theme")));
+
+    QMenu* const pTools = menuBar()->addMenu(tr("&Tools"));
+    add(pTools, tr("Command &palette…"), QStringLiteral("Ctrl+Shift+P"), [this] { ShowPalette(); });
+    add(pTools, tr("Go to the command &line"), QStringLiteral("Ctrl+L"),
+        [this] { m_pPane->FocusInput(); });
+
+    QMenu* const pHelp = menuBar()->addMenu(tr("&Help"));
+    command(pHelp, {"&Commands", "F1", L"HELP"});
+}
+
+void Frame::MakeThemeMenu(QMenu& menu) {
+    const std::pair<const char*, const wchar_t*> themes[] = {
+        {"As the &system", L""}, {"&Light", L"light"}, {"&Dark", L"dark"}};
+    for (const auto& [text, theme] : themes) {
+        connect(menu.addAction(tr(text)), &QAction::triggered, this,
+                [this, name = CString(theme)] { SetTheme(name); });
+    }
+}
+
+void Frame::FillPaneMenu(QMenu& menu) {
+    menu.clear();
+    const QList<QDockWidget*> docks = findChildren<QDockWidget*>();
+    for (QDockWidget* const pDock : docks) {
+        menu.addAction(pDock->toggleViewAction());
+    }
+    menu.addSeparator();
+    for (QDockWidget* const pDock : docks) {
+        if (pDock->isVisibleTo(this)) {
+            const QString text = pDock->isFloating() ? tr("Dock %1") : tr("Float %1");
+            connect(menu.addAction(text.arg(pDock->windowTitle())), &QAction::triggered, pDock,
+                    [pDock] { pDock->setFloating(!pDock->isFloating()); });
+        }
+    }
+}
+
+void Frame::GoToPane(int step) {
+    std::vector<QWidget*> places;
+    if (DrawingView* const pView = CurrentView()) {
+        places.push_back(pView);
+    }
+    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
+        if (pDock->isVisibleTo(this) && pDock->widget()) {
+            places.push_back(pDock->widget());
+        }
+    }
+    if (places.empty()) {
+        return;
+    }
+    const QWidget* const pFocus = QApplication::focusWidget();
+    const auto here = std::find_if(places.begin(), places.end(), [&](const QWidget* pPlace) {
+        return pPlace == pFocus || pPlace->isAncestorOf(pFocus);
+    });
+    const auto count = static_cast<std::ptrdiff_t>(places.size());
+    const std::ptrdiff_t from = here == places.end() ? 0 : here - places.begin();
+    QWidget& next = *places[static_cast<std::size_t>((from + step + count) % count)];
+    if (QDockWidget* const pDock = qobject_cast<QDockWidget*>(next.parentWidget())) {
+        pDock->raise(); // of those that share a place only one is seen
+    }
+    if (&next == m_pPane) {
+        m_pPane->window()->activateWindow();
+        m_pPane->FocusInput();
+    } else {
+        FocusInside(next);
+    }
+}
+
+void Frame::SetTheme(const CString& theme) {
+    m_strTheme = theme;
+    m_themeOfRun.reset();
+    FollowTheme();
+}
+
+void Frame::SetThemeOfRun(const CString& theme) {
+    m_themeOfRun = theme;
+    FollowTheme();
+}
+
+void Frame::FollowTheme() {
+    ApplyTheme(m_themeOfRun.value_or(m_strTheme), m_pSystemTheme->Current());
+}
+
+// Where it was.
+
+void Frame::ApplyLayout(const Layout& layout) {
+    m_recent = layout.recent;
+    QStringList history;
+    for (const CString& line : layout.history) {
+        history.append(ToQt(line.View()));
+    }
+    m_pPane->SetHistory(history);
+    SetTheme(layout.theme);
+    if (layout.window.width > 0) {
+        Place(*this, OnScreen(layout.window, WorkAreas()));
+    }
+    // Panes that float belong to a window that is there before them.
+    winId();
+    restoreState(QByteArray::fromStdString(layout.panes), kPaneVersion);
+    if (layout.isMaximized) {
+        setWindowState(windowState() | Qt::WindowMaximized);
+    }
+    // The command line is how everything is reached.
+    m_pCommandDock->show();
+    if (layout.panes.empty()) {
+        resizeDocks({m_pCommandDock}, {kCommandHeight}, Qt::Vertical);
+    }
+}
+
+Layout Frame::CurrentLayout() const {
+    Layout layout;
+    layout.window = RectOf(*this);
+    layout.isMaximized = isMaximized();
+    layout.panes = saveState(kPaneVersion).toStdString();
+    layout.recent = m_recent;
+    for (const QString& line : m_pPane->History()) {
+        layout.history.push_back(FromQt(line));
+    }
+    layout.theme = m_strTheme;
+    return layout;
+}
+
+void Frame::RaiseFloatingPanes() {
+    QApplication::processEvents();
+    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
+        if (pDock->isFloating() && pDock->isVisibleTo(this)) {
+            const ScreenRect rect = OnScreen(RectOf(*pDock), WorkAreas());
+            // Shown anew: a window manager knows only now to whom it belongs.
+            pDock->hide();
+            Place(*pDock, rect);
+            pDock->show();
+            pDock->raise();
+        }
+    }
+}
+
+void Frame::BringAllWindowsHere() {
+    const std::vector<ScreenRect> areas = WorkAreas();
+    if (isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+    Place(*this, OnScreen(RectOf(*this), areas));
+    const ScreenRect here = RectOf(*this);
+    int step = 0;
+    for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
+        if (pDock->isFloating() && pDock->isVisible()) {
+            Place(*pDock, OnScreen(Beside(here, RectOf(*pDock), step++), areas));
+            pDock->raise();
+        }
+    }
+    for (const HWND handle : Screens().Stacking()) {
+        CWnd* const pWindow = CWnd::FromHandle(handle);
+        if (pWindow && pWindow != &m_window) {
+            const CRect now = pWindow->GetWindowRect();
+            const ScreenRect rect = OnScreen(
+                Beside(here, {now.left, now.top, now.Width(), now.Height()}, step++), areas);
+            pWindow->SetWindowPos(nullptr, rect.left, rect.top, 0, 0, SWP_NOSIZE);
+        }
+    }
+}
+
+} // namespace Tessaly

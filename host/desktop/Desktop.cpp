@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFontDatabase>
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
@@ -109,6 +110,9 @@ int Run(const Options& options, Frame& frame, Session& session) {
 
 int RunDesktop(const Options& options) {
     AfxStartToolkit();
+    if (QFontDatabase::families().isEmpty()) {
+        Complain("there is no font, so that letters are boxes (Debian: fonts-dejavu-core)");
+    }
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
     Frame frame;
     IHostPort* const pBefore = SetHostPort(&frame.Port());

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -57,8 +58,7 @@ private:
 
 void ShowDesktop(const CString& folder, bool withWorkspace) {
     SetHostOption(kHostOptionSupport, folder);
-    SetHostOption(kHostOptionInstall,
-                  withWorkspace ? L"" TESSALY_STAGE_DIR "/" : L"/nowhere/");
+    SetHostOption(kHostOptionInstall, withWorkspace ? L"" TESSALY_STAGE_DIR "/" : L"/nowhere/");
     AfxSetDesktopMode(true);
     AfxStartToolkit();
     // Left to the end of the process, as in the product.
@@ -95,6 +95,8 @@ double Start(const char* program, const char* kind, const std::string& folder) {
     const pid_t child = fork();
     if (child == 0) {
         dup2(ends[1], STDOUT_FILENO);
+        // What the display in memory lacks is told there again and again.
+        dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
         execl(program, program, kind, folder.c_str(), nullptr);
         _exit(127);
     }

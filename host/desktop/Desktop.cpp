@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFontDatabase>
 #include <QPixmap>
+#include <QRawFont>
 #include <QTimer>
 #include <cstdio>
 
@@ -110,7 +110,7 @@ int Run(const Options& options, Frame& frame, Session& session) {
 
 int RunDesktop(const Options& options) {
     AfxStartToolkit();
-    if (QFontDatabase::families().isEmpty()) {
+    if (QRawFont::fromFont(QApplication::font()).fontTable("head").isEmpty()) {
         Complain("there is no font, so that letters are boxes (Debian: fonts-dejavu-core)");
     }
     QApplication::setApplicationName(QStringLiteral("Tessaly"));

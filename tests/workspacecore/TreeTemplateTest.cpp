@@ -25,8 +25,8 @@ protected:
     }
     void TearDown() override {
         for (const auto& data : {kWater, kSewer, kParcels}) {
-            TakeApart(m_list.GetSystemTreeTemplate(data.GetTopologyType(),
-                                                   data.GetTopologyFunction()));
+            TakeApart(
+                m_list.GetSystemTreeTemplate(data.GetTopologyType(), data.GetTopologyFunction()));
         }
         TakeApart(m_list.GetDiskTreeTemplate());
         TakeApart(m_list.GetNetTreeTemplate());

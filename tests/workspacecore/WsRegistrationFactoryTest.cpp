@@ -46,11 +46,11 @@ protected:
         CWsManager::Instance()->RegisterBaseExecutor(&m_base);
     }
     void Register(const Request& request) {
-        Factory::RegisterRepositoryItem(
-            request.tag, L"Name", nullptr, request.entityTypes, &m_executor, request.topologies,
-            request.target, request.entitySpecific, request.commandsPerEntity, 1, 1, 1,
-            request.hasRename, 1, 1, 1, 1, 1, request.hasSendToSystem,
-            request.hasSendToRepository, request.doubleClickNotEdit);
+        Factory::RegisterRepositoryItem(request.tag, L"Name", nullptr, request.entityTypes,
+                                        &m_executor, request.topologies, request.target,
+                                        request.entitySpecific, request.commandsPerEntity, 1, 1, 1,
+                                        request.hasRename, 1, 1, 1, 1, 1, request.hasSendToSystem,
+                                        request.hasSendToRepository, request.doubleClickNotEdit);
     }
     static const auto& Definitions() {
         return *CWsManager::Instance()
@@ -74,11 +74,10 @@ protected:
         std::vector<std::string> lines;
         for (std::size_t i = from; i < Definitions().size(); ++i) {
             CWsTreeItemDefinition& definition = *Definitions()[i];
-            lines.push_back(Narrow(definition.GetId()) + " " +
-                            std::to_string(definition.GetWsItemType()) + "<" +
-                            std::to_string(definition.GetWsParentItemType()) + " " +
-                            std::to_string(definition.GetEntityType()) + ":" +
-                            Topologies(definition));
+            lines.push_back(
+                Narrow(definition.GetId()) + " " + std::to_string(definition.GetWsItemType()) +
+                "<" + std::to_string(definition.GetWsParentItemType()) + " " +
+                std::to_string(definition.GetEntityType()) + ":" + Topologies(definition));
         }
         return lines;
     }
@@ -122,10 +121,10 @@ TEST_F(WsRegistrationFactory, ASystemBringsItsCommandsAndAToolGroupOfEachKindFor
     EXPECT_EQ((Lines{lines[1], lines[2], lines[3], lines[4]}),
               (Lines{"SYSTEM_TOOLDRAW_1_10 4096<2 0: 1:10", "SYSTEM_TOOLDRAW_1_11 4096<2 0: 1:11",
                      "SYSTEM_TOOLDRAW_2_0 4096<2 0: 2:0", "SYSTEM_TOOLEDIT_1_10 8192<2 0: 1:10"}));
-    EXPECT_EQ((Lines{lines[7], lines[10], lines[13], lines[16]}),
-              (Lines{"SYSTEM_TOOLSETDATA_1_10 16384<2 0: 1:10",
-                     "SYSTEM_TOOLMANAGER_1_10 32768<2 0: 1:10",
-                     "SYSTEM_TOOLFASTCMD_1_10 65536<2 0: 1:10", "SYSTEM_TOOL_1_10 1024<2 0: 1:10"}));
+    EXPECT_EQ(
+        (Lines{lines[7], lines[10], lines[13], lines[16]}),
+        (Lines{"SYSTEM_TOOLSETDATA_1_10 16384<2 0: 1:10", "SYSTEM_TOOLMANAGER_1_10 32768<2 0: 1:10",
+               "SYSTEM_TOOLFASTCMD_1_10 65536<2 0: 1:10", "SYSTEM_TOOL_1_10 1024<2 0: 1:10"}));
     EXPECT_EQ(system, Definitions()[0]);
     EXPECT_EQ(system->GetCmdIdDoubleClick(), L"SYSTEM_DBLCLICK");
     EXPECT_EQ(system->GetCmdIdRename(), L"SYSTEM_REN");
@@ -167,15 +166,24 @@ TEST_F(WsRegistrationFactory, DefinitionsOfAFamilyByTargetAndEntities) {
         Factory::TopologyDataVector* topologies;
         Lines expected;
     } cases[] = {
-        {Factory::TargetSystem, 0, 3, nullptr,
+        {Factory::TargetSystem,
+         0,
+         3,
+         nullptr,
          {"X 4<2 0: 1:10 1:11 2:0", "X 16<4 0: 1:10 1:11 2:0"}},
         {Factory::TargetRepository, 0, 3, &water, {"X 64<32 0: 1:10 2:0", "X 256<64 0: 1:10 2:0"}},
-        {Factory::TargetBoth, 1, 1 | 4 | 16 | 64, &water,
+        {Factory::TargetBoth,
+         1,
+         1 | 4 | 16 | 64,
+         &water,
          {"X 4<2 0: 1:10 2:0", "X:ws8:et1 8<4 1: 1:10", "X:ws8:et16 8<4 16: 2:0",
           "X:ws8:et64 8<4 64:", "X 16<8 1: 1:10", "X 16<8 16: 2:0", "X 16<8 64:",
           "X 64<32 0: 1:10 2:0", "X:ws128:et1 128<64 1: 1:10", "X:ws128:et16 128<64 16: 2:0",
           "X:ws128:et64 128<64 64:", "X 256<128 1: 1:10", "X 256<128 16: 2:0", "X 256<128 64:"}},
-        {Factory::TargetSystem, 1, 2, nullptr,
+        {Factory::TargetSystem,
+         1,
+         2,
+         nullptr,
          {"X 4<2 0: 1:10 1:11 2:0", "X:ws8:et2 8<4 2: 1:10 1:11", "X 16<8 2: 1:10 1:11"}},
     };
     for (const auto& row : cases) {
@@ -262,9 +270,9 @@ TEST_F(WsRegistrationFactory, AFamilyOfTheRepositoryTreesAlone) {
     request.target = Factory::TargetRepository;
     request.hasSendToSystem = 0;
     Register(request);
-    EXPECT_EQ(CommandLines(), (Lines{" base 5 0 16 0", "DEL_X base 4 2 256 0",
-                                     "REN_X base 2 7 256 0", "COPY_X base 2 0 0 0",
-                                     "RPODROP_X own 7 1 0 0"}))
+    EXPECT_EQ(CommandLines(),
+              (Lines{" base 5 0 16 0", "DEL_X base 4 2 256 0", "REN_X base 2 7 256 0",
+                     "COPY_X base 2 0 0 0", "RPODROP_X own 7 1 0 0"}))
         << "the command of the empty id included; sending needs the flag of the system tree";
     request.tag = L"Y";
     Register(request);

@@ -99,8 +99,7 @@ TEST(WsTreeItemDefinitionList, WhatIsReadStandsInTheVectorAlone) {
     EXPECT_EQ(read.GetXML(), list.GetXML());
     EXPECT_EQ(Answers(back), "000 DBLCLICK_THEME_1 QRYDROP_THEME_1  ");
     EXPECT_EQ(back.GetWsTopologyDataVector()->size(), 1U);
-    EXPECT_FALSE(
-        back.DoesTopologyDataExist(definition->GetWsTopologyDataVector()->front().get()));
+    EXPECT_FALSE(back.DoesTopologyDataExist(definition->GetWsTopologyDataVector()->front().get()));
     // The system item is found where it stands, in the vector; nothing hangs below it.
     const TestHost host;
     read.InitializeSystemTreeTemplate();

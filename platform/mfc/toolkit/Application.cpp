@@ -194,9 +194,9 @@ bool AfxIsDesktopMode() {
 bool AfxHasDisplay() {
     // The toolkit may have found that it cannot open what answers.
     const std::string visible = VisibleDisplays();
-    return !visible.empty() && (!QCoreApplication::instance() ||
-                                visible.find(QGuiApplication::platformName().toStdString()) !=
-                                    std::string::npos);
+    return !visible.empty() &&
+           (!QCoreApplication::instance() ||
+            visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
 
 void AfxStartToolkit() {

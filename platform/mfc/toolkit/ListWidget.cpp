@@ -115,8 +115,7 @@ private:
     NMLVCUSTOMDRAW m_draw;
 };
 
-ListWidget::ListWidget(QWidget* pParent, UINT style)
-    : HookedArea(pParent), m_style(style) {
+ListWidget::ListWidget(QWidget* pParent, UINT style) : HookedArea(pParent), m_style(style) {
     setModel(&m_model);
     setUniformRowHeights(true);
     setRootIsDecorated(false);

@@ -35,7 +35,7 @@ SystemTheme::SystemTheme() {
         return;
     }
     bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
-                SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
+                SLOT(OnSettingChanged(QDBusMessage)));
     QDBusMessage question =
         QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
     question << kGroup << kKey;
@@ -49,17 +49,19 @@ SystemTheme::SystemTheme() {
     });
 }
 
-void SystemTheme::OnSettingChanged(const QString& group, const QString& key,
-                                   const QDBusVariant& value) {
-    if (group == kGroup && key == kKey) {
-        Take(value.variant());
+void SystemTheme::OnSettingChanged(const QDBusMessage& message) {
+    const QVariantList arguments = message.arguments();
+    if (arguments.value(0) == kGroup && arguments.value(1) == kKey) {
+        Take(arguments.value(2));
     }
 }
 
 void SystemTheme::Take(const QVariant& value) {
-    // Some services wrap the number once more.
-    const QVariant inner =
-        value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    // Wrapped once, by some services twice.
+    QVariant inner = value;
+    while (inner.canConvert<QDBusVariant>()) {
+        inner = inner.value<QDBusVariant>().variant();
+    }
     const uint number = inner.toUInt();
     const Scheme scheme = number == 1   ? Scheme::Dark
                           : number == 2 ? Scheme::Light

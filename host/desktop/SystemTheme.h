@@ -1,7 +1,7 @@
 // Whether the user's desktop is dark or light.
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 
 namespace Tessaly {
@@ -20,7 +20,7 @@ signals:
     void changed();
 
 private slots:
-    void OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void OnSettingChanged(const QDBusMessage& message);
 
 private:
     void Take(const QVariant& value);

@@ -65,10 +65,10 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
     m_picks.push_back(&pick);
     pick.Start();
     m_frame.Port().Wait(pick.question, ToQt(prompt));
-    std::erase(m_picks, &pick);
     if (pick.view && pick.view->IsPicking()) {
-        pick.view->CancelPick(); // it was cancelled elsewhere
+        pick.view->CancelPick(); // it was cancelled elsewhere; still the last one, so it alone ends
     }
+    std::erase(m_picks, &pick);
     if (!m_picks.empty()) {
         m_picks.back()->Start();
     }

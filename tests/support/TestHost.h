@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "platform/arx/HostOptions.h"

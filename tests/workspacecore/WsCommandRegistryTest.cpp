@@ -183,6 +183,18 @@ TEST(WsCommand, TopologyDataStandTwiceInTheVectorAndOnceInTheMap) {
     EXPECT_EQ(target.GetWsTopologyDataVector()->size(), 1U) << "a target keeps its own";
 }
 
+TEST(WsCommandRegistry, NothingIsPassedOver) {
+    CWsCommandRegistry registry;
+    EXPECT_EQ(registry.AddWsCommand(nullptr), 0);
+    registry.RemoveWsCommand(nullptr);
+    const auto command = Command(L"X");
+    EXPECT_EQ(registry.AddWsCommand(command), 1);
+    command->AddWsTopologyData(nullptr);
+    command->RemoveWsTopologyData(nullptr);
+    EXPECT_EQ(command->DoesTopologyDataExist(nullptr), 0);
+    EXPECT_TRUE(command->GetWsTopologyDataVector()->empty());
+}
+
 TEST(WsCommandRegistryXml, WritesTheFixedForm) {
     CWsCommandRegistry registry;
     EXPECT_EQ(registry.GetXML(), L"<wsCommandRegistry ></wsCommandRegistry>");

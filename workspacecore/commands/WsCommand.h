@@ -62,7 +62,7 @@ public:
     /// Takes the record out of the vector, by pointer, and its key out of the map.
     void RemoveWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Remove(data); }
     int DoesTopologyDataExist(const CWsTopologyData* data) const {
-        return m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;
+        return data && m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;
     }
     TopologyDataVector* GetWsTopologyDataVector() { return &m_wsTopologyData.vector; }
     TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyData.map; }

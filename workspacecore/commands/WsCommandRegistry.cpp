@@ -35,7 +35,7 @@ CWsCommandRegistry& CWsCommandRegistry::operator=(const CWsCommandRegistry& othe
 }
 
 int CWsCommandRegistry::AddWsCommand(CommandPtr command) {
-    if (!m_wsCommandMapById.emplace(command->GetId(), command).second) {
+    if (!command || !m_wsCommandMapById.emplace(command->GetId(), command).second) {
         return 0;
     }
     command->m_nMenuCmdId = GetNextCmdId();
@@ -46,6 +46,9 @@ int CWsCommandRegistry::AddWsCommand(CommandPtr command) {
 }
 
 void CWsCommandRegistry::RemoveWsCommand(const CommandPtr& command) {
+    if (!command) {
+        return;
+    }
     // A copy: the argument may be the very element that is erased.
     const CString id = command->GetId();
     const auto hit = std::find(m_wsCommandVector.begin(), m_wsCommandVector.end(), command);

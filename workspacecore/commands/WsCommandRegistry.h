@@ -19,7 +19,8 @@ public:
     virtual ~CWsCommandRegistry() = default;
 
     /// Takes a command and gives it the next menu id. 0, and no change at all, if there is
-    /// a command of that id; case counts, and an empty id is an id like any other.
+    /// a command of that id; case counts, and an empty id is an id like any other. Null is passed
+    /// over.
     int AddWsCommand(CommandPtr command);
     /// Takes the record out of the vector, by pointer, and its id out of the look-up by id.
     /// By menu id and by group it is still found, so that menus on the screen keep working.

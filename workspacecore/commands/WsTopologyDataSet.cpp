@@ -12,6 +12,9 @@ void CWsTopologyDataSet::Add(const Ptr& data) {
 }
 
 void CWsTopologyDataSet::Remove(const Ptr& data) {
+    if (!data) {
+        return;
+    }
     const auto hit = std::find(vector.begin(), vector.end(), data);
     // Before the record goes, which may live in the vector alone.
     const CString key = data->GetMapKey();

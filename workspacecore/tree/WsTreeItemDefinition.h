@@ -81,7 +81,7 @@ public:
     void AddWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Add(data); }
     void RemoveWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Remove(data); }
     int DoesTopologyDataExist(const CWsTopologyData* data) const {
-        return m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;
+        return data && m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;
     }
     TopologyDataVector* GetWsTopologyDataVector() { return &m_wsTopologyData.vector; }
     TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyData.map; }

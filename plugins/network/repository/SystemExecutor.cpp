@@ -165,6 +165,7 @@ constexpr struct {
 } kCommands[] = {
     {L"SYSTEM_ADD", Otherwise::Nothing, AddSystem},
     {L"SYSTEM_EDIT", Otherwise::Ask, RenameSystem},
+    {L"SYSTEM_REN", Otherwise::Ask, RenameSystem},
     {L"SYSTEM_DEL", Otherwise::Ask, DeleteAskedSystem},
     {L"SILENT_SYSTEM_DEL", Otherwise::Active, DeleteSystem},
     {L"SYSTEM_DBLCLICK", Otherwise::Ask, ActivateSystem},

@@ -5,7 +5,7 @@
 
 namespace Orvane::Network {
 
-/// SYSTEM_ADD, SYSTEM_EDIT, SYSTEM_DEL, SILENT_SYSTEM_DEL, SYSTEM_DBLCLICK (makes
+/// SYSTEM_ADD, SYSTEM_EDIT, SYSTEM_REN, SYSTEM_DEL, SILENT_SYSTEM_DEL, SYSTEM_DBLCLICK (makes
 /// it the active one), SYSTEM_DROPITEM and SYSTEM_TOGGLEVISIBILITY. They work on the system
 /// of the node; without one, on the system whose name the user gives, the active one to
 /// fall back on. SILENT_SYSTEM_DEL asks for nothing and takes the active one. What is dropped

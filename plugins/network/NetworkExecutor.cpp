@@ -1,13 +1,13 @@
 #include "plugins/network/NetworkExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/network/CommandScope.h"
+#include "plugins/common/CommandScope.h"
+#include "plugins/common/Prompts.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkReport.h"
 #include "plugins/network/NetworkStatistics.h"
-#include "plugins/network/Prompts.h"
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/GisSystems.h"
 #include "siblings/giscore/ModuleConfiguration.h"
@@ -16,6 +16,12 @@
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {
+
+using Plugins::Ask;
+using Plugins::CommandScope;
+using Plugins::OwnCommandId;
+using Plugins::PrintLine;
+using Plugins::Refuse;
 
 namespace {
 

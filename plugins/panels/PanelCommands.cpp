@@ -1,6 +1,6 @@
 #include "plugins/panels/PanelCommands.h"
 
-#include "plugins/network/CommandScope.h"
+#include "plugins/common/CommandScope.h"
 #include "plugins/panels/PanelTexts.h"
 #include "workspacecore/core/WsManager.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 template <class Call>
 void ForEachCommand(Call call) {
-    for (const auto commands : {TreeCommands(), DialogCommands()}) {
+    for (const auto commands : {TreeCommands()}) {
         for (const PanelCommand& command : commands) {
             call(command);
         }
@@ -23,10 +23,10 @@ boost::shared_ptr<Workspace::CExecutorReturnValue>
 CPanelExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*,
                         Workspace::CWsTreeItemData*) {
     auto result = Workspace::NeutralReturnValue();
-    const CString id = Network::OwnCommandId(lpszCommandId);
+    const CString id = Plugins::OwnCommandId(lpszCommandId);
     ForEachCommand([&](const PanelCommand& command) {
         if (id == command.id) {
-            const Network::CommandScope scope(command.id);
+            const Plugins::CommandScope scope(command.id);
             result->m_nStatus = command.run() ? 1 : 0;
         }
     });

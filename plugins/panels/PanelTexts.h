@@ -16,11 +16,11 @@ enum class Msg : int {
     NoNetFolder = 900516,
     // The console's views of the trees.
     AskPath = 900520,
-    NoSuchNode = 900521,  // with what was asked for, and where it was looked for
-    ThereIs = 900522,     // with the names of nodes
-    NoChildren = 900523,  // with a node
-    EmptyMenu = 900524,   // with a node
-    PlaceToAdd = 900525,  // with the kind of configurations
+    NoSuchNode = 900521, // with what was asked for, and where it was looked for
+    ThereIs = 900522,    // with the names of nodes
+    NoChildren = 900523, // with a node
+    EmptyMenu = 900524,  // with a node
+    PlaceToAdd = 900525, // with the kind of configurations
     NoTemplate = 900526,
     SystemTemplate = 900527, // with topology and function
     // Dialogs.

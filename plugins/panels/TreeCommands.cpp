@@ -43,8 +43,8 @@ bool PrintMenuOf(const TreeNode& node) {
         return false;
     }
     const auto& registry = *Workspace::CWsManager::Instance()->CmdMgr()->GetCommandRegistry();
-    const auto entries = Workspace::TreeMenuEntries(
-        registry, Workspace::MenuTopology(node.pSystem), *node.definition);
+    const auto entries = Workspace::TreeMenuEntries(registry, Workspace::MenuTopology(node.pSystem),
+                                                    *node.definition);
     acutPrintf(L"%s\n", entries.empty() ? Text(Msg::EmptyMenu, node.text) : node.text);
     return Print(MenuLines(entries), L"  ");
 }
@@ -62,8 +62,7 @@ bool PrintMenu() {
         trees += (trees.IsEmpty() ? L"" : L", ") + CString(tree.word);
         if (first.CompareNoCase(tree.word) == 0) {
             const TreeNode root = TreeContent(tree.kind);
-            const PathResult result =
-                FollowPath(root, slash < 0 ? CString() : path.Mid(slash + 1));
+            const PathResult result = FollowPath(root, slash < 0 ? CString() : path.Mid(slash + 1));
             if (result.rest.IsEmpty()) {
                 return PrintMenuOf(*result.pNode);
             }

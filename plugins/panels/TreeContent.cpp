@@ -1,5 +1,7 @@
 #include "plugins/panels/TreeContent.h"
 
+#include <algorithm>
+
 #include "plugins/panels/PanelTexts.h"
 #include "siblings/giscore/RepositoryFactory.h"
 #include "siblings/giscore/RepositoryManager.h"
@@ -54,14 +56,24 @@ void AddConfigurations(TreeNode& folder, const CWsTreeTemplate& slot, const Plac
         TreeNode node = MakeNode(definition, place);
         node.name = item->GetName();
         node.guid = item->GetGuid();
-        node.text = !standard.IsEmpty() && node.guid == standard
-                        ? Text(Msg::DefaultMark, node.name)
-                        : node.name;
+        node.text = !standard.IsEmpty() && node.guid == standard ? Text(Msg::DefaultMark, node.name)
+                                                                 : node.name;
         folder.children.push_back(std::move(node));
     }
 }
 
+/// Templates of disk and net have an entity folder once for each topology with such entities;
+/// all of them would show the same configurations.
+bool HasChildOf(const TreeNode& parent, const TreeNode::DefinitionPtr& definition) {
+    return std::any_of(parent.children.begin(), parent.children.end(), [&](const TreeNode& child) {
+        return definition && child.definition == definition;
+    });
+}
+
 void AddTemplate(TreeNode& parent, const CWsTreeTemplate& slot, const Place& place) {
+    if (HasChildOf(parent, slot.GetItemDefinition())) {
+        return;
+    }
     TreeNode node = MakeNode(slot.GetItemDefinition(), place);
     for (const auto& child : *slot.GetChildren()) {
         AddTemplate(node, *child, place);
@@ -105,8 +117,8 @@ void AddSystem(TreeNode& root, System::CGisSystem& system) {
                           ->GetTreeItemDefinitionList()
                           ->GetSystemTreeTemplate(&system);
     const Place place{TreeKind::Systems, &system, !system.GetVisibility()};
-    TreeNode node = MakeNode(
-        tree ? tree->GetItemDefinition() : FindDefinition(Workspace::WsItemSystem), place);
+    TreeNode node =
+        MakeNode(tree ? tree->GetItemDefinition() : FindDefinition(Workspace::WsItemSystem), place);
     node.name = system.GetSystemName();
     node.text = SystemText(system);
     node.guid = system.GetGuid();

@@ -1,5 +1,6 @@
 #include "plugins/panels/TreePanel.h"
 
+#include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/mfc/DataExchange.h"
 #include "platform/mfc/Menu.h"
@@ -11,6 +12,7 @@
 #include "siblings/giscore/RepositoryFactory.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/RepositoryStore.h"
+#include "siblings/giscore/SystemManager.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Panels {
@@ -40,9 +42,8 @@ TreePlace PlaceAt(CPoint screen) {
          {trees.GetTreeControl(), trees.GetDiskTreeControl(), trees.GetNetTreeControl()}) {
         if (pTree && pTree->IsWindowVisible()) {
             const CPoint point = pTree->ScreenToClient(screen);
-            if (HTREEITEM const item = pTree->GetClientRect().PtInRect(point)
-                                           ? pTree->HitTest(point)
-                                           : nullptr) {
+            if (HTREEITEM const item =
+                    pTree->GetClientRect().PtInRect(point) ? pTree->HitTest(point) : nullptr) {
                 return {pTree, item};
             }
         }
@@ -51,10 +52,9 @@ TreePlace PlaceAt(CPoint screen) {
 }
 
 CWsTreeItemData* DataAt(const TreePlace& place) {
-    return place.pTree && place.item
-               ? PointerOf<CWsTreeItemData>(
-                     static_cast<LPARAM>(place.pTree->GetItemData(place.item)))
-               : nullptr;
+    return place.pTree && place.item ? PointerOf<CWsTreeItemData>(static_cast<LPARAM>(
+                                           place.pTree->GetItemData(place.item)))
+                                     : nullptr;
 }
 
 void MarkDropTarget(const TreePlace& place) {
@@ -228,10 +228,8 @@ void CTreePanel::Insert(const TreeNode& node, HTREEITEM parent) {
 void CTreePanel::OpenAtFirst() {
     HTREEITEM const root = m_tree.GetRootItem();
     m_tree.Expand(root, TVE_EXPAND);
-    const System::CGisSystem* const pActive =
-        System::CSystemManager::Instance()->GetActiveSystem();
-    for (HTREEITEM item = m_tree.GetChildItem(root); item;
-         item = m_tree.GetNextSiblingItem(item)) {
+    const System::CGisSystem* const pActive = System::CSystemManager::Instance()->GetActiveSystem();
+    for (HTREEITEM item = m_tree.GetChildItem(root); item; item = m_tree.GetNextSiblingItem(item)) {
         if (pActive && ItemOf(item)->GetSystem() == pActive) {
             m_tree.Expand(item, TVE_EXPAND);
         }
@@ -240,8 +238,8 @@ void CTreePanel::OpenAtFirst() {
 
 PanelItem* CTreePanel::ItemOf(HTREEITEM item) const {
     // Every node of this tree was made by Insert.
-    return item ? static_cast<PanelItem*>(PointerOf<CWsTreeItemData>(
-                      static_cast<LPARAM>(m_tree.GetItemData(item))))
+    return item ? static_cast<PanelItem*>(
+                      PointerOf<CWsTreeItemData>(static_cast<LPARAM>(m_tree.GetItemData(item))))
                 : nullptr;
 }
 

@@ -25,8 +25,8 @@ bool IsObject(const CWsTreeItemData& node) {
 CString DoubleClickCommand(const CWsTreeItemData& node) {
     // Folders of a family have the command of its items, which would ask for one.
     const auto& definition = node.GetPtrItemDefinition();
-    const bool isFolder = definition && !definition->GetRepositoryTag().IsEmpty() &&
-                          node.GetGuid().IsEmpty();
+    const bool isFolder =
+        definition && !definition->GetRepositoryTag().IsEmpty() && node.GetGuid().IsEmpty();
     return definition && !isFolder ? definition->GetCmdIdDoubleClick() : CString();
 }
 
@@ -41,9 +41,8 @@ CString DeleteCommand(const CWsTreeItemData& node) {
         return {};
     }
     const auto& registry = *Workspace::CWsManager::Instance()->CmdMgr()->GetCommandRegistry();
-    for (const auto& command :
-         Workspace::TreeMenuEntries(registry, Workspace::MenuTopology(node.GetSystem()),
-                                    *node.GetPtrItemDefinition())) {
+    for (const auto& command : Workspace::TreeMenuEntries(
+             registry, Workspace::MenuTopology(node.GetSystem()), *node.GetPtrItemDefinition())) {
         if (command && command->GetCmdGroup() == Workspace::CommandGroupDelete) {
             return command->GetId();
         }

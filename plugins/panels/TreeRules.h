@@ -22,7 +22,7 @@ bool CanDrag(const Workspace::CWsTreeItemData& node);
 
 /// What a drop of one node on another does.
 struct DropPlan {
-    CString commandId; ///< empty: the target does not take it
+    CString commandId;    ///< empty: the target does not take it
     bool isQuery = false; ///< the query itself is handed over, to be run; else the item is copied
 };
 DropPlan PlanDrop(const Workspace::CWsTreeItemData& dragged,

@@ -984,5 +984,105 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
         <translation>Netz</translation>
     </message>
+    <message id="900510">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Systeme</translation>
+    </message>
+    <message id="900511">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Plattenablage</translation>
+    </message>
+    <message id="900512">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Netzablage</translation>
+    </message>
+    <message id="900513">
+        <source></source>
+        <extracomment>In a tree; with the name of the default configuration</extracomment>
+        <translation>%s (Standard)</translation>
+    </message>
+    <message id="900514">
+        <source></source>
+        <extracomment>In a tree; with the name of the active system</extracomment>
+        <translation>%s (aktiv)</translation>
+    </message>
+    <message id="900515">
+        <source></source>
+        <extracomment>In a tree; with the name of a system</extracomment>
+        <translation>%s (ausgeblendet)</translation>
+    </message>
+    <message id="900520">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Pfad (wie system/NAME/..., disk/..., net/...): </translation>
+    </message>
+    <message id="900521">
+        <source></source>
+        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <translation>Es gibt kein &quot;%s&quot; in &quot;%s&quot;.</translation>
+    </message>
+    <message id="900522">
+        <source></source>
+        <extracomment>With the names of nodes</extracomment>
+        <translation>Es gibt: %s</translation>
+    </message>
+    <message id="900523">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Darunter liegt nichts.</translation>
+    </message>
+    <message id="900524">
+        <source></source>
+        <extracomment>With a node of a tree</extracomment>
+        <translation>&quot;%s&quot; hat keine Befehle.</translation>
+    </message>
+    <message id="900525">
+        <source></source>
+        <extracomment>In a list of templates; with the kind of configurations</extracomment>
+        <translation>&lt;- Konfigurationen [%s]</translation>
+    </message>
+    <message id="900526">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Dafür gibt es keine Vorlage.</translation>
+    </message>
+    <message id="900527">
+        <source></source>
+        <extracomment>In a list of templates; with topology and function</extracomment>
+        <translation>System: %s, %s</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baumvorlagen</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baummenü</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Bäume</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
+    </message>
 </context>
 </TS>

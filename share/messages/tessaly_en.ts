@@ -984,5 +984,105 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
         <translation>Net</translation>
     </message>
+    <message id="900510">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Systems</translation>
+    </message>
+    <message id="900511">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Disk repository</translation>
+    </message>
+    <message id="900512">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Net repository</translation>
+    </message>
+    <message id="900513">
+        <source></source>
+        <extracomment>In a tree; with the name of the default configuration</extracomment>
+        <translation>%s (default)</translation>
+    </message>
+    <message id="900514">
+        <source></source>
+        <extracomment>In a tree; with the name of the active system</extracomment>
+        <translation>%s (active)</translation>
+    </message>
+    <message id="900515">
+        <source></source>
+        <extracomment>In a tree; with the name of a system</extracomment>
+        <translation>%s (hidden)</translation>
+    </message>
+    <message id="900520">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Path (as system/NAME/..., disk/..., net/...): </translation>
+    </message>
+    <message id="900521">
+        <source></source>
+        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <translation>There is no &quot;%s&quot; in &quot;%s&quot;.</translation>
+    </message>
+    <message id="900522">
+        <source></source>
+        <extracomment>With the names of nodes</extracomment>
+        <translation>There is: %s</translation>
+    </message>
+    <message id="900523">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>It has nothing below it.</translation>
+    </message>
+    <message id="900524">
+        <source></source>
+        <extracomment>With a node of a tree</extracomment>
+        <translation>&quot;%s&quot; has no commands.</translation>
+    </message>
+    <message id="900525">
+        <source></source>
+        <extracomment>In a list of templates; with the kind of configurations</extracomment>
+        <translation>&lt;- configurations [%s]</translation>
+    </message>
+    <message id="900526">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>There is no template for this.</translation>
+    </message>
+    <message id="900527">
+        <source></source>
+        <extracomment>In a list of templates; with topology and function</extracomment>
+        <translation>System: %s, %s</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree templates</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the templates of the system, disk and net trees</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree menu</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the menu of a node of a tree, given by its path</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Trees</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints what the system, disk and net trees show</translation>
+    </message>
 </context>
 </TS>

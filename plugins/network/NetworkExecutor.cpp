@@ -3,6 +3,7 @@
 #include "platform/arx/EdPrompt.h"
 #include "plugins/common/CommandScope.h"
 #include "plugins/common/Prompts.h"
+#include "plugins/common/SystemTexts.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkDrawing.h"
@@ -19,6 +20,7 @@ namespace Orvane::Network {
 
 using Plugins::Ask;
 using Plugins::CommandScope;
+using Plugins::FunctionName;
 using Plugins::OwnCommandId;
 using Plugins::PrintLine;
 using Plugins::Refuse;
@@ -43,17 +45,6 @@ bool ForEachNetwork(Call call) {
         }
     }
     return count > 0 || Refuse(L"The drawing has no networks. NETWORK_IMPORT brings one in.");
-}
-
-CString FunctionName(const System::CGisSystem& system) {
-    const CTopology* const pTopology =
-        CModuleConfiguration::Instance()->GetTopology(system.GetTopologyType());
-    if (!pTopology) {
-        return {};
-    }
-    const CTopologyFunction* const pFunction =
-        pTopology->GetTopologyFunctionById(system.GetSystemFunction());
-    return pFunction ? pFunction->GetName() : pTopology->GetNameUI();
 }
 
 /// Count and extents of a system of polygons.

@@ -10,7 +10,7 @@ namespace {
 
 template <class Call>
 void ForEachCommand(Call call) {
-    for (const auto commands : {TreeCommands()}) {
+    for (const auto commands : {TreeCommands(), DialogCommands()}) {
         for (const PanelCommand& command : commands) {
             call(command);
         }

@@ -13,7 +13,6 @@ enum class Msg : int {
     DefaultMark = 900513, // with the name of the default configuration
     ActiveMark = 900514,  // with the name of the active system
     HiddenMark = 900515,  // with the name of a system
-    NoNetFolder = 900516,
     // The console's views of the trees.
     AskPath = 900520,
     NoSuchNode = 900521, // with what was asked for, and where it was looked for
@@ -23,46 +22,68 @@ enum class Msg : int {
     PlaceToAdd = 900525, // with the kind of configurations
     NoTemplate = 900526,
     SystemTemplate = 900527, // with topology and function
-    // Dialogs.
+    // Words that the workspace has as well.
+    ColumnProperty = 464,
+    Function = 1216,
+    ColumnSystem = 1253,
+    ColumnValue = 1257,
+    // Find.
     Find = 900540,
-    FindWhat = 900541,
+    FindWhat = 900541, // labels, with the letter that leads to their control
     FindIn = 900542,
     FindWhere = 900543,
-    AllSystems = 900544,
-    Everywhere = 900545,
-    Name = 900546,
-    Kind = 900547,
-    Attributes = 900548,
-    Found = 900549,        // with the count
-    FoundMore = 900550,    // with how many are shown
-    NothingFound = 900551, // with the text
-    ColumnEntity = 900552,
-    ColumnSystem = 900553,
+    FindNow = 900544,
+    AllSystems = 900545,
+    Everywhere = 900546,
+    Name = 900547,
+    Kind = 900548,
+    Attributes = 900549,
+    Found = 900550,     // with the count
+    FoundMore = 900551, // with the count, and how many are shown
+    NothingFound = 900552,
+    ColumnEntity = 900553,
     ColumnFoundIn = 900554,
     Show = 900555,
-    Properties = 900556,
-    ColumnProperty = 900560,
-    ColumnValue = 900561,
-    Pick = 900562,
-    SetValue = 900563,
-    AskEntity = 900564,
-    NoEntity = 900565,
-    NotEditable = 900566, // with the property
-    ValueSet = 900567,    // with property and value
-    NotSet = 900568,      // with the property
-    Statistics = 900570,
-    NoActiveSystem = 900571,
-    Legend = 900572,
-    ColumnLayer = 900573,
-    ColumnCount = 900574,
-    ColumnColor = 900575,
-    EntityOf = 900576, // kind of entity and name
-    Close = 900577,
-    NoDrawing = 900578,
-    AskSearch = 900579,
-    Type = 900580,
-    Length = 900581,
-    Texts = 900582,
+    ShowProperties = 900556,
+    NotThere = 900557, // what was found
+    AskFindWhat = 900558,
+    AskFindIn = 900559,
+    AskFindWhere = 900560, // with the choices
+    FoundLine = 900561,    // kind, name, system, where
+    NoSuchSystem = 900562, // with the name
+    NoSuchPlace = 900563,  // with what was typed
+    // Properties.
+    Properties = 900570,
+    Pick = 900571,
+    SetValue = 900572,
+    AskEntity = 900573,
+    NoEntity = 900574,
+    NotEditable = 900575, // with the property
+    ValueSet = 900576,    // with property and value
+    NotSet = 900577,      // with the property
+    NoNumber = 900578,    // with what was typed, and the property
+    NoName = 900579,
+    NothingPicked = 900580,
+    AskProperty = 900581,
+    AskValue = 900582,   // with the value now
+    NoProperty = 900583, // with what was typed
+    Type = 900584,
+    Position = 900585,
+    StartNode = 900586,
+    EndNode = 900587,
+    Length = 900588,
+    Area = 900589,
+    // Reports.
+    Statistics = 900610,
+    NoActiveSystem = 900611,
+    FiguresOf = 900612, // with the system
+    Legend = 900613,
+    ColumnLayer = 900614,
+    ColumnCount = 900615,
+    Close = 900616,
+    NoDrawing = 900617,
+    LegendLine = 900618, // layer, colour, count
+    EmptyLegend = 900619,
 };
 
 template <class... Args>

@@ -88,9 +88,12 @@ void RemoveSystem(CWsTreeItemData& item, const System::CGisSystem* pSystem) {
 
 } // namespace
 
+const wchar_t* PanelIdOf(TreeKind kind) {
+    return kDialogIds[static_cast<int>(kind)];
+}
+
 CTreePanel::CTreePanel(TreeKind kind, CWnd* parent)
-    : CWsPanelDialog(kTreePanelDialog, kDialogIds[static_cast<int>(kind)], parent, nullptr),
-      m_kind(kind) {
+    : CWsPanelDialog(kTreePanelDialog, PanelIdOf(kind), parent, nullptr), m_kind(kind) {
     AddPanelTemplates();
     CWsManager& workspace = *CWsManager::Instance();
     workspace.GetRefreshTreePbl()->RegisterSubscriber(this);

@@ -11,6 +11,9 @@
 
 namespace Orvane::Panels {
 
+/// The id of a panel, under which the factory makes it.
+const wchar_t* PanelIdOf(TreeKind kind);
+
 /// What hangs on a node of a panel's tree.
 struct PanelItem : Workspace::CWsTreeItemData {
     CString name; ///< for editing, without the marks of the text

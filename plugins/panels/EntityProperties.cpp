@@ -96,12 +96,16 @@ Properties PropertiesOf(const Topology::CEntity& entity) {
 }
 
 const EntityProperty* FindProperty(const Properties& properties, const CString& label) {
+    const EntityProperty* pAlike = nullptr;
     for (const EntityProperty& property : properties) {
-        if (property.label.CompareNoCase(label) == 0) {
+        if (property.label == label) {
             return &property;
         }
+        if (!pAlike && property.label.CompareNoCase(label) == 0) {
+            pAlike = &property;
+        }
     }
-    return nullptr;
+    return pAlike;
 }
 
 CString SetProperty(const Topology::CEntity& entity, const EntityProperty& property,

@@ -21,7 +21,7 @@ struct EntityProperty {
 /// The name first, then what it is, where it lies, and its attributes. None for no entity.
 std::vector<EntityProperty> PropertiesOf(const Topology::CEntity& entity);
 
-/// By label, without regard to case; null if there is none.
+/// By label; without regard to case if none is written so. Null if there is none.
 const EntityProperty* FindProperty(const std::vector<EntityProperty>& properties,
                                    const CString& label);
 

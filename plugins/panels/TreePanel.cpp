@@ -201,7 +201,7 @@ void CTreePanel::Refresh() {
         Insert(root, TVI_ROOT);
     }
     m_tree.SetImageList(TreePictures::Instance().List());
-    if (m_isFirstFill && m_tree.GetCount() > 0) {
+    if (m_isFirstFill && m_tree.ItemHasChildren(m_tree.GetRootItem())) {
         m_isFirstFill = false;
         OpenAtFirst();
     }

@@ -1297,7 +1297,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900588">
         <source></source>
         <extracomment>Property</extracomment>
-        <translation>Länge</translation>
+        <translation>Gezeichnete Länge</translation>
     </message>
     <message id="900589">
         <source></source>

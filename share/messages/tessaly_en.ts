@@ -1297,7 +1297,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="900588">
         <source></source>
         <extracomment>Property</extracomment>
-        <translation>Length</translation>
+        <translation>Drawn length</translation>
     </message>
     <message id="900589">
         <source></source>

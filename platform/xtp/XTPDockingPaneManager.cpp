@@ -93,7 +93,8 @@ CXTPDockingPane* CXTPDockingPaneManager::CreatePane(int id, const CRect& rect,
     auto* const pDock = new QDockWidget(pFrame);
     pDock->setObjectName(QStringLiteral("Pane%1").arg(id));
     // One that stood somewhere in an earlier run comes there again, whatever is asked now.
-    if (!pFrame->restoreDockWidget(pDock)) {
+    const bool isRestored = pFrame->restoreDockWidget(pDock);
+    if (!isRestored) {
         QDockWidget* const pBeside =
             pNeighbour ? static_cast<QDockWidget*>(pNeighbour->m_pImpl->dock) : nullptr;
         pFrame->addDockWidget(AreaOf(direction), pDock);
@@ -107,9 +108,18 @@ CXTPDockingPane* CXTPDockingPaneManager::CreatePane(int id, const CRect& rect,
     }
     auto pImpl = std::make_unique<CXTPDockingPane::Impl>();
     pImpl->dock = pDock;
+    pImpl->isRestored = isRestored;
     pImpl->frame = m_pImpl->frameWindow;
     m_panes.emplace_back(new CXTPDockingPane(id, std::move(pImpl)));
     return m_panes.back().get();
+}
+
+void CXTPDockingPaneManager::AttachPane(CXTPDockingPane* pPane, CXTPDockingPane* pNeighbour) {
+    QMainWindow* const pFrame = m_pImpl->frame;
+    if (pFrame && pPane && pNeighbour && pPane->m_pImpl->dock && pNeighbour->m_pImpl->dock &&
+        !pPane->m_pImpl->isRestored) {
+        pFrame->tabifyDockWidget(pNeighbour->m_pImpl->dock, pPane->m_pImpl->dock);
+    }
 }
 
 CXTPDockingPane* CXTPDockingPaneManager::FindPane(int id) const {

@@ -42,6 +42,9 @@ public:
     /// \param pNeighbour stands beside this one; null: at the side of the frame
     CXTPDockingPane* CreatePane(int id, const CRect& rect, XTPDockingPaneDirection direction,
                                 CXTPDockingPane* pNeighbour = nullptr);
+    /// Puts a pane into the place of another one, behind which it stands as a tab; a pane that
+    /// the user left somewhere else stays there.
+    void AttachPane(CXTPDockingPane* pPane, CXTPDockingPane* pNeighbour);
     /// Null if there is none.
     CXTPDockingPane* FindPane(int id) const;
     /// Shows a pane in front of those it shares a place with. Nothing happens for an unknown

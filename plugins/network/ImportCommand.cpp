@@ -8,16 +8,20 @@
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
 #include "platform/win/Number.h"
+#include "plugins/common/Prompts.h"
 #include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkLayers.h"
-#include "plugins/network/Prompts.h"
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/giscore/Topology.h"
 
 namespace Orvane::Network {
+
+using Plugins::Ask;
+using Plugins::PrintLine;
+using Plugins::Refuse;
 
 namespace {
 

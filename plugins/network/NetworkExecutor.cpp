@@ -1,13 +1,14 @@
 #include "plugins/network/NetworkExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/network/CommandScope.h"
+#include "plugins/common/CommandScope.h"
+#include "plugins/common/Prompts.h"
+#include "plugins/common/SystemTexts.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkReport.h"
 #include "plugins/network/NetworkStatistics.h"
-#include "plugins/network/Prompts.h"
 #include "siblings/giscore/GisSystem.h"
 #include "siblings/giscore/GisSystems.h"
 #include "siblings/giscore/ModuleConfiguration.h"
@@ -16,6 +17,13 @@
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {
+
+using Plugins::Ask;
+using Plugins::CommandScope;
+using Plugins::FunctionName;
+using Plugins::OwnCommandId;
+using Plugins::PrintLine;
+using Plugins::Refuse;
 
 namespace {
 
@@ -37,17 +45,6 @@ bool ForEachNetwork(Call call) {
         }
     }
     return count > 0 || Refuse(L"The drawing has no networks. NETWORK_IMPORT brings one in.");
-}
-
-CString FunctionName(const System::CGisSystem& system) {
-    const CTopology* const pTopology =
-        CModuleConfiguration::Instance()->GetTopology(system.GetTopologyType());
-    if (!pTopology) {
-        return {};
-    }
-    const CTopologyFunction* const pFunction =
-        pTopology->GetTopologyFunctionById(system.GetSystemFunction());
-    return pFunction ? pFunction->GetName() : pTopology->GetNameUI();
 }
 
 /// Count and extents of a system of polygons.

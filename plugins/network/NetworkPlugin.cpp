@@ -33,7 +33,7 @@ public:
     /// The trees.
     void PluginHook2() override {
         CWsRegistrationFactory::RegisterBasicItems();
-        CWsRegistrationFactory::RegisterSystemItem(&m_systemExecutor, nullptr, 1, 1);
+        RegisterSystems();
         Orvane::Network::RegisterFamilies();
     }
     void PluginHook3() override {}
@@ -42,6 +42,20 @@ public:
     void PluginHook7() override {}
 
 private:
+    /// The standard registration names a command for renaming, which is left to whoever knows
+    /// how to: here it is, and systems are renamed in the tree.
+    void RegisterSystems() {
+        CWsRegistrationFactory::RegisterSystemItem(&m_systemExecutor, nullptr, 1, 1)
+            ->SetAllowRename(1);
+        boost::shared_ptr<CWsCommand> command(new CWsCommand);
+        command->SetId(L"SYSTEM_REN");
+        command->SetName(Orvane::CModuleConfiguration::Instance()->GetMsg(1379));
+        command->SetCmdGroup(CommandGroupHidden);
+        command->SetTreeCmdBehavior(TreeBehaviorEdit);
+        command->SetCmdExecutor(&m_systemExecutor);
+        CWsManager::Instance()->RegisterWsCommand(command);
+    }
+
     Orvane::Network::CNetworkExecutor m_executor;
     Orvane::Network::CBaseExecutor m_baseExecutor;
     Orvane::Network::CSystemExecutor m_systemExecutor;

@@ -984,5 +984,415 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
         <translation>Netz</translation>
     </message>
+    <message id="900510">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Systeme</translation>
+    </message>
+    <message id="900511">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Plattenablage</translation>
+    </message>
+    <message id="900512">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Netzablage</translation>
+    </message>
+    <message id="900513">
+        <source></source>
+        <extracomment>In a tree; with the name of the default configuration</extracomment>
+        <translation>%s (Standard)</translation>
+    </message>
+    <message id="900514">
+        <source></source>
+        <extracomment>In a tree; with the name of the active system</extracomment>
+        <translation>%s (aktiv)</translation>
+    </message>
+    <message id="900515">
+        <source></source>
+        <extracomment>In a tree; with the name of a system</extracomment>
+        <translation>%s (ausgeblendet)</translation>
+    </message>
+    <message id="900520">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Pfad (wie system/NAME/..., disk/..., net/...): </translation>
+    </message>
+    <message id="900521">
+        <source></source>
+        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <translation>Es gibt kein &quot;%s&quot; in &quot;%s&quot;.</translation>
+    </message>
+    <message id="900522">
+        <source></source>
+        <extracomment>With the names of nodes</extracomment>
+        <translation>Es gibt: %s</translation>
+    </message>
+    <message id="900523">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Darunter liegt nichts.</translation>
+    </message>
+    <message id="900524">
+        <source></source>
+        <extracomment>With a node of a tree</extracomment>
+        <translation>&quot;%s&quot; hat keine Befehle.</translation>
+    </message>
+    <message id="900525">
+        <source></source>
+        <extracomment>In a list of templates; with the kind of configurations</extracomment>
+        <translation>&lt;- Konfigurationen [%s]</translation>
+    </message>
+    <message id="900526">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Dafür gibt es keine Vorlage.</translation>
+    </message>
+    <message id="900527">
+        <source></source>
+        <extracomment>In a list of templates; with topology and function</extracomment>
+        <translation>System: %s, %s</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baumvorlagen</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baummenü</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Bäume</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
+    </message>
+    <message id="900540">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Suchen</translation>
+    </message>
+    <message id="900541">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>Suche &amp;nach:</translation>
+    </message>
+    <message id="900542">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>&amp;System:</translation>
+    </message>
+    <message id="900543">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>&amp;Wo:</translation>
+    </message>
+    <message id="900544">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message id="900545">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>Alle Systeme</translation>
+    </message>
+    <message id="900546">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>Überall</translation>
+    </message>
+    <message id="900547">
+        <source></source>
+        <extracomment>Choice in the find dialog; a property</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="900548">
+        <source></source>
+        <extracomment>Choice in the find dialog; a property</extracomment>
+        <translation>Art</translation>
+    </message>
+    <message id="900549">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>Attribute</translation>
+    </message>
+    <message id="900550">
+        <source></source>
+        <extracomment>Result; with a count</extracomment>
+        <translation>%d gefunden</translation>
+    </message>
+    <message id="900551">
+        <source></source>
+        <extracomment>Result; with a count, and how many of them are shown</extracomment>
+        <translation>%d gefunden, %d gezeigt</translation>
+    </message>
+    <message id="900552">
+        <source></source>
+        <extracomment>Result</extracomment>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message id="900553">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Objekt</translation>
+    </message>
+    <message id="900554">
+        <source></source>
+        <extracomment>Column: the text that was met</extracomment>
+        <translation>Gefunden in</translation>
+    </message>
+    <message id="900555">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message id="900556">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>&amp;Eigenschaften</translation>
+    </message>
+    <message id="900557">
+        <source></source>
+        <extracomment>Result</extracomment>
+        <translation>Es ist nicht mehr da</translation>
+    </message>
+    <message id="900558">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Suche nach: </translation>
+    </message>
+    <message id="900559">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>System (alle): </translation>
+    </message>
+    <message id="900560">
+        <source></source>
+        <extracomment>Prompt; with the choices</extracomment>
+        <translation>Wo (%s): </translation>
+    </message>
+    <message id="900561">
+        <source></source>
+        <extracomment>Line of a result: kind, name, system, where</extracomment>
+        <translation>%s %s (%s): %s</translation>
+    </message>
+    <message id="900562">
+        <source></source>
+        <extracomment>Reason; with a name</extracomment>
+        <translation>Es gibt kein System &quot;%s&quot;.</translation>
+    </message>
+    <message id="900563">
+        <source></source>
+        <extracomment>Reason; with what was typed and the choices</extracomment>
+        <translation>&quot;%s&quot; ist nichts von: %s</translation>
+    </message>
+    <message id="900570">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message id="900571">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>&amp;Wählen ...</translation>
+    </message>
+    <message id="900572">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>&amp;Setzen</translation>
+    </message>
+    <message id="900573">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Auf ein Objekt zeigen: </translation>
+    </message>
+    <message id="900574">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Das ist kein Objekt eines Systems.</translation>
+    </message>
+    <message id="900575">
+        <source></source>
+        <extracomment>Reason; with the property</extracomment>
+        <translation>&quot;%s&quot; kann nicht geändert werden.</translation>
+    </message>
+    <message id="900576">
+        <source></source>
+        <extracomment>Done: property and value</extracomment>
+        <translation>%s: %s</translation>
+    </message>
+    <message id="900577">
+        <source></source>
+        <extracomment>Reason; with the property</extracomment>
+        <translation>&quot;%s&quot; konnte nicht geändert werden.</translation>
+    </message>
+    <message id="900578">
+        <source></source>
+        <extracomment>Reason; with what was typed, and the property</extracomment>
+        <translation>&quot;%s&quot; ist keine Zahl, und &quot;%s&quot; muss eine sein.</translation>
+    </message>
+    <message id="900579">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Ein Name wird gebraucht.</translation>
+    </message>
+    <message id="900580">
+        <source></source>
+        <extracomment>In the properties dialog, as long as it shows nothing</extracomment>
+        <translation>Kein Objekt ist gewählt.</translation>
+    </message>
+    <message id="900581">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Zu ändernde Eigenschaft (keine): </translation>
+    </message>
+    <message id="900582">
+        <source></source>
+        <extracomment>Prompt; with the value now</extracomment>
+        <translation>Wert &lt;%s&gt;: </translation>
+    </message>
+    <message id="900583">
+        <source></source>
+        <extracomment>Reason; with what was typed</extracomment>
+        <translation>Es gibt keine Eigenschaft &quot;%s&quot;.</translation>
+    </message>
+    <message id="900584">
+        <source></source>
+        <extracomment>Property: node, section or polygon</extracomment>
+        <translation>Typ</translation>
+    </message>
+    <message id="900585">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Lage</translation>
+    </message>
+    <message id="900586">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Von Knoten</translation>
+    </message>
+    <message id="900587">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Bis Knoten</translation>
+    </message>
+    <message id="900588">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Gezeichnete Länge</translation>
+    </message>
+    <message id="900589">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Fläche</translation>
+    </message>
+    <message id="900610">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Statistik</translation>
+    </message>
+    <message id="900611">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Es gibt kein aktives System.</translation>
+    </message>
+    <message id="900612">
+        <source></source>
+        <extracomment>Headline of a report; with the system</extracomment>
+        <translation>Kennzahlen von %s</translation>
+    </message>
+    <message id="900613">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Legende</translation>
+    </message>
+    <message id="900614">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="900615">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Objekte</translation>
+    </message>
+    <message id="900616">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message id="900617">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Keine Zeichnung ist offen.</translation>
+    </message>
+    <message id="900618">
+        <source></source>
+        <extracomment>Line of the legend: layer, colour, count</extracomment>
+        <translation>%s, Farbe %d: %d</translation>
+    </message>
+    <message id="900619">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>Die Zeichnung zeigt nichts.</translation>
+    </message>
+    <message id="900630">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Objekte suchen</translation>
+    </message>
+    <message id="900631">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>findet Knoten, Abschnitte und Polygone nach dem, was in ihnen steht, und zeigt sie</translation>
+    </message>
+    <message id="900632">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Objekteigenschaften</translation>
+    </message>
+    <message id="900633">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>zeigt, was von einem Objekt bekannt ist, und ändert es</translation>
+    </message>
+    <message id="900634">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Systemstatistik</translation>
+    </message>
+    <message id="900635">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>zeigt die Kennzahlen des aktiven Systems</translation>
+    </message>
+    <message id="900636">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Legende</translation>
+    </message>
+    <message id="900637">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>zeigt, wofür die Farben der Zeichnung stehen</translation>
+    </message>
 </context>
 </TS>

@@ -984,5 +984,415 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
         <translation>Net</translation>
     </message>
+    <message id="900510">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Systems</translation>
+    </message>
+    <message id="900511">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Disk repository</translation>
+    </message>
+    <message id="900512">
+        <source></source>
+        <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
+        <translation>Net repository</translation>
+    </message>
+    <message id="900513">
+        <source></source>
+        <extracomment>In a tree; with the name of the default configuration</extracomment>
+        <translation>%s (default)</translation>
+    </message>
+    <message id="900514">
+        <source></source>
+        <extracomment>In a tree; with the name of the active system</extracomment>
+        <translation>%s (active)</translation>
+    </message>
+    <message id="900515">
+        <source></source>
+        <extracomment>In a tree; with the name of a system</extracomment>
+        <translation>%s (hidden)</translation>
+    </message>
+    <message id="900520">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Path (as system/NAME/..., disk/..., net/...): </translation>
+    </message>
+    <message id="900521">
+        <source></source>
+        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <translation>There is no &quot;%s&quot; in &quot;%s&quot;.</translation>
+    </message>
+    <message id="900522">
+        <source></source>
+        <extracomment>With the names of nodes</extracomment>
+        <translation>There is: %s</translation>
+    </message>
+    <message id="900523">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>It has nothing below it.</translation>
+    </message>
+    <message id="900524">
+        <source></source>
+        <extracomment>With a node of a tree</extracomment>
+        <translation>&quot;%s&quot; has no commands.</translation>
+    </message>
+    <message id="900525">
+        <source></source>
+        <extracomment>In a list of templates; with the kind of configurations</extracomment>
+        <translation>&lt;- configurations [%s]</translation>
+    </message>
+    <message id="900526">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>There is no template for this.</translation>
+    </message>
+    <message id="900527">
+        <source></source>
+        <extracomment>In a list of templates; with topology and function</extracomment>
+        <translation>System: %s, %s</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree templates</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the templates of the system, disk and net trees</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree menu</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the menu of a node of a tree, given by its path</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Trees</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints what the system, disk and net trees show</translation>
+    </message>
+    <message id="900540">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Find</translation>
+    </message>
+    <message id="900541">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>Fi&amp;nd what:</translation>
+    </message>
+    <message id="900542">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>&amp;System:</translation>
+    </message>
+    <message id="900543">
+        <source></source>
+        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <translation>&amp;Where:</translation>
+    </message>
+    <message id="900544">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>&amp;Find</translation>
+    </message>
+    <message id="900545">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>All systems</translation>
+    </message>
+    <message id="900546">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>Everywhere</translation>
+    </message>
+    <message id="900547">
+        <source></source>
+        <extracomment>Choice in the find dialog; a property</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="900548">
+        <source></source>
+        <extracomment>Choice in the find dialog; a property</extracomment>
+        <translation>Kind</translation>
+    </message>
+    <message id="900549">
+        <source></source>
+        <extracomment>Choice in the find dialog</extracomment>
+        <translation>Attributes</translation>
+    </message>
+    <message id="900550">
+        <source></source>
+        <extracomment>Result; with a count</extracomment>
+        <translation>%d found</translation>
+    </message>
+    <message id="900551">
+        <source></source>
+        <extracomment>Result; with a count, and how many of them are shown</extracomment>
+        <translation>%d found, %d shown</translation>
+    </message>
+    <message id="900552">
+        <source></source>
+        <extracomment>Result</extracomment>
+        <translation>Nothing found</translation>
+    </message>
+    <message id="900553">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Entity</translation>
+    </message>
+    <message id="900554">
+        <source></source>
+        <extracomment>Column: the text that was met</extracomment>
+        <translation>Found in</translation>
+    </message>
+    <message id="900555">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>Sho&amp;w</translation>
+    </message>
+    <message id="900556">
+        <source></source>
+        <extracomment>Button of the find dialog</extracomment>
+        <translation>&amp;Properties</translation>
+    </message>
+    <message id="900557">
+        <source></source>
+        <extracomment>Result</extracomment>
+        <translation>It is not there any more</translation>
+    </message>
+    <message id="900558">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Find what: </translation>
+    </message>
+    <message id="900559">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>System (all): </translation>
+    </message>
+    <message id="900560">
+        <source></source>
+        <extracomment>Prompt; with the choices</extracomment>
+        <translation>Where (%s): </translation>
+    </message>
+    <message id="900561">
+        <source></source>
+        <extracomment>Line of a result: kind, name, system, where</extracomment>
+        <translation>%s %s (%s): %s</translation>
+    </message>
+    <message id="900562">
+        <source></source>
+        <extracomment>Reason; with a name</extracomment>
+        <translation>There is no system &quot;%s&quot;.</translation>
+    </message>
+    <message id="900563">
+        <source></source>
+        <extracomment>Reason; with what was typed and the choices</extracomment>
+        <translation>&quot;%s&quot; is none of: %s</translation>
+    </message>
+    <message id="900570">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Properties</translation>
+    </message>
+    <message id="900571">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>&amp;Pick...</translation>
+    </message>
+    <message id="900572">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>&amp;Set</translation>
+    </message>
+    <message id="900573">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Point at an entity: </translation>
+    </message>
+    <message id="900574">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>This is no entity of a system.</translation>
+    </message>
+    <message id="900575">
+        <source></source>
+        <extracomment>Reason; with the property</extracomment>
+        <translation>&quot;%s&quot; cannot be changed.</translation>
+    </message>
+    <message id="900576">
+        <source></source>
+        <extracomment>Done: property and value</extracomment>
+        <translation>%s: %s</translation>
+    </message>
+    <message id="900577">
+        <source></source>
+        <extracomment>Reason; with the property</extracomment>
+        <translation>&quot;%s&quot; could not be changed.</translation>
+    </message>
+    <message id="900578">
+        <source></source>
+        <extracomment>Reason; with what was typed, and the property</extracomment>
+        <translation>&quot;%s&quot; is no number, and &quot;%s&quot; has to be one.</translation>
+    </message>
+    <message id="900579">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>A name is needed.</translation>
+    </message>
+    <message id="900580">
+        <source></source>
+        <extracomment>In the properties dialog, as long as it shows nothing</extracomment>
+        <translation>No entity is chosen.</translation>
+    </message>
+    <message id="900581">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Property to change (none): </translation>
+    </message>
+    <message id="900582">
+        <source></source>
+        <extracomment>Prompt; with the value now</extracomment>
+        <translation>Value &lt;%s&gt;: </translation>
+    </message>
+    <message id="900583">
+        <source></source>
+        <extracomment>Reason; with what was typed</extracomment>
+        <translation>There is no property &quot;%s&quot;.</translation>
+    </message>
+    <message id="900584">
+        <source></source>
+        <extracomment>Property: node, section or polygon</extracomment>
+        <translation>Type</translation>
+    </message>
+    <message id="900585">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Position</translation>
+    </message>
+    <message id="900586">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>From node</translation>
+    </message>
+    <message id="900587">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>To node</translation>
+    </message>
+    <message id="900588">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Drawn length</translation>
+    </message>
+    <message id="900589">
+        <source></source>
+        <extracomment>Property</extracomment>
+        <translation>Area</translation>
+    </message>
+    <message id="900610">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Statistics</translation>
+    </message>
+    <message id="900611">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>There is no active system.</translation>
+    </message>
+    <message id="900612">
+        <source></source>
+        <extracomment>Headline of a report; with the system</extracomment>
+        <translation>Figures of %s</translation>
+    </message>
+    <message id="900613">
+        <source></source>
+        <extracomment>Title of a dialog; command</extracomment>
+        <translation>Legend</translation>
+    </message>
+    <message id="900614">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Layer</translation>
+    </message>
+    <message id="900615">
+        <source></source>
+        <extracomment>Column</extracomment>
+        <translation>Entities</translation>
+    </message>
+    <message id="900616">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="900617">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>No drawing is open.</translation>
+    </message>
+    <message id="900618">
+        <source></source>
+        <extracomment>Line of the legend: layer, colour, count</extracomment>
+        <translation>%s, colour %d: %d</translation>
+    </message>
+    <message id="900619">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>The drawing shows nothing.</translation>
+    </message>
+    <message id="900630">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Find entities</translation>
+    </message>
+    <message id="900631">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>finds nodes, sections and polygons by what is written in them, and shows them</translation>
+    </message>
+    <message id="900632">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Entity properties</translation>
+    </message>
+    <message id="900633">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>shows what is known of an entity, and changes it</translation>
+    </message>
+    <message id="900634">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>System statistics</translation>
+    </message>
+    <message id="900635">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>shows the figures of the active system</translation>
+    </message>
+    <message id="900636">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Legend</translation>
+    </message>
+    <message id="900637">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>shows what the colours of the drawing stand for</translation>
+    </message>
 </context>
 </TS>

@@ -211,6 +211,19 @@ TEST_F(TreeCtrlTest, LabelsAreAskedForAndCanBeRefused) {
     }
 }
 
+TEST_F(TreeCtrlTest, AClickOnASelectedLabelThatIsRefusedEndsQuietly) {
+    const HTREEITEM item = Add(L"fixed");
+    Tree().SelectItem(item);
+    m_refuseEdit = true;
+    AfxPumpMessages();
+    const CRect label = Tree().GetItemRect(item, true);
+    QTest::mouseClick(WidgetOf(Tree()), Qt::LeftButton, {}, QPoint(label.left + 4, label.top + 4));
+    m_log.clear();
+    // The toolkit waits whether it becomes a double click.
+    QTest::qWait(2 * QApplication::doubleClickInterval());
+    EXPECT_EQ(m_log, std::vector<std::string>{"edit fixed"});
+}
+
 TEST_F(TreeCtrlTest, ADragBeginsOnceTheMouseHasGoneFarEnough) {
     const HTREEITEM a = Add(L"a");
     Add(L"b");

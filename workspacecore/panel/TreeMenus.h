@@ -16,7 +16,7 @@ namespace Orvane::Workspace {
 class CWsTreeItemDefinition;
 
 /// The topology and the function for which commands are asked for; by default no system's.
-struct MenuTopology {
+struct WORKSPACE_API MenuTopology {
     MenuTopology() = default;
     /// Those of a system; of none if null.
     explicit MenuTopology(System::CGisSystem* pSystem);

@@ -92,7 +92,7 @@ bool TreeWidget::EditLabel(HTREEITEM item) {
     const bool before = std::exchange(m_model.editable, true);
     const bool started = edit(m_model.IndexOf(item), AllEditTriggers, nullptr);
     m_model.editable = before;
-    return started;
+    return started && m_edited;
 }
 
 QRect TreeWidget::LabelRect(const QModelIndex& index) const {
@@ -116,7 +116,8 @@ bool TreeWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* pEv
     }
     const HTREEITEM item = m_model.ItemOf(index);
     if (TellLabel(TVN_BEGINLABELEDIT, item, nullptr) != 0) {
-        return false;
+        // The toolkit would complain: it has waited for this since the click.
+        return true;
     }
     m_edited = item;
     const bool started = HookedArea::edit(index, trigger, pEvent);

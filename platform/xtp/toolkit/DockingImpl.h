@@ -11,6 +11,7 @@ struct CXTPDockingPane::Impl {
     QPointer<QDockWidget> dock;
     HWND frame = nullptr;
     HWND child = nullptr;
+    bool isRestored = false; ///< it came to where the user had left it
 };
 
 struct CXTPDockingPaneManager::Impl {

@@ -2,8 +2,8 @@
 
 #include <boost/make_shared.hpp>
 
-#include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdPrompt.h"
+#include "plugins/common/Marks.h"
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTexts.h"
 #include "plugins/network/repository/SystemEntities.h"
@@ -76,16 +76,6 @@ bool AskConditions(CQueryDefinition& query, const System::CGisSystem* pSystem) {
     return true;
 }
 
-void Show(const std::vector<AcDbObjectId>& ids) {
-    if (IDrawingDisplay* const pDisplay = DrawingDisplay()) {
-        int color = 4;
-        CModuleConfiguration::Instance()->GetGSValueInt(L"PT_MARK_COLOR", color);
-        pDisplay->Redraw();
-        pDisplay->Highlight(ids, color);
-        pDisplay->Update();
-    }
-}
-
 void TellSelection(const System::CGisSystem& system, const std::vector<AcDbObjectId>& ids) {
     Selection::CSelectionSet selection;
     for (const AcDbObjectId id : ids) {
@@ -112,7 +102,7 @@ std::optional<int> QueryFamily::Run(const CRepositoryItem& item, System::CGisSys
                                     const CQueryDefinition* /*pOnly*/) {
     const auto& query = static_cast<const CQueryDefinition&>(item);
     const std::vector<AcDbObjectId> ids = EntitiesOf(system, EntityNone, &query);
-    Show(ids);
+    Plugins::MarkEntities(ids);
     TellSelection(system, ids);
     acutPrintf(L"%s\n", Text(Msg::Selected, item.GetName(), ids.size(), system.GetSystemName()));
     return static_cast<int>(ids.size());

@@ -1,7 +1,7 @@
 #include "plugins/network/repository/RepositoryExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/network/CommandScope.h"
+#include "plugins/common/CommandScope.h"
 #include "plugins/network/repository/RepositoryFamilies.h"
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTarget.h"
@@ -12,6 +12,9 @@
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {
+
+using Plugins::CommandScope;
+using Plugins::OwnCommandId;
 
 namespace {
 

@@ -5,9 +5,12 @@
 #include <vector>
 
 #include "platform/win/String.h"
-#include "plugins/network/Prompts.h"
+#include "plugins/common/Prompts.h"
 
 namespace Orvane::Network {
+
+using Plugins::PrintLine;
+using Plugins::Refuse;
 
 /// "label <current>: ". An empty answer is the current text; nothing if it was cancelled.
 std::optional<CString> AskText(const CString& label, const CString& current);

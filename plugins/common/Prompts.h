@@ -5,7 +5,7 @@
 
 #include "platform/win/String.h"
 
-namespace Orvane::Network {
+namespace Orvane::Plugins {
 
 void PrintLine(const std::string& line);
 /// The answer of a prompt without blanks around it; empty if it was cancelled.
@@ -13,4 +13,4 @@ CString Ask(const wchar_t* prompt);
 /// Tells why a command is not carried out. Always false.
 bool Refuse(const CString& reason);
 
-} // namespace Orvane::Network
+} // namespace Orvane::Plugins

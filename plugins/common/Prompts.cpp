@@ -1,8 +1,8 @@
-#include "plugins/network/Prompts.h"
+#include "plugins/common/Prompts.h"
 
 #include "platform/arx/EdPrompt.h"
 
-namespace Orvane::Network {
+namespace Orvane::Plugins {
 
 void PrintLine(const std::string& line) {
     acutPrintf(L"%s\n", line);
@@ -21,4 +21,4 @@ bool Refuse(const CString& reason) {
     return false;
 }
 
-} // namespace Orvane::Network
+} // namespace Orvane::Plugins

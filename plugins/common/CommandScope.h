@@ -1,4 +1,4 @@
-// What stands around each command of the plug-in.
+// What stands around each command of a plug-in.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 #include "siblings/cadwrapper/DocLock.h"
 #include "workspacecore/core/WsManager.h"
 
-namespace Orvane::Network {
+namespace Orvane::Plugins {
 
 /// Tells the listeners that a command runs, and that it has ended, however it does. In
 /// between the drawing is locked, and what changes in it is one step of its history, also
@@ -44,4 +44,4 @@ inline CString OwnCommandId(const wchar_t* id) {
     return command ? command->GetId() : CString(id);
 }
 
-} // namespace Orvane::Network
+} // namespace Orvane::Plugins

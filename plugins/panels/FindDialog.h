@@ -1,0 +1,51 @@
+// Finds entities and shows where they are.
+#pragma once
+
+#include "platform/mfc/ComboBox.h"
+#include "platform/mfc/Edit.h"
+#include "plugins/panels/EntitySearch.h"
+#include "plugins/panels/ModuleDialog.h"
+
+namespace Orvane::Panels {
+
+inline constexpr const wchar_t* kFindDialogId = L"DLG_FIND_ENTITY";
+
+/// What was looked for and where comes back in the next run. Results go with the drawing.
+class CFindDialog final : public CModuleDialog {
+public:
+    explicit CFindDialog(CWnd* pParent);
+
+    bool PreTranslateMessage(MSG* pMsg) override;
+
+    void OnAcadDocumentBecomeCurrent(AcApDocument* pDoc) override;
+    void OnAcadDocumentToBeDestroyed(AcApDocument* pDoc) override;
+
+protected:
+    const MessageMap* GetMessageMap() const override;
+    void DoDataExchange(CDataExchange* pExchange) override;
+    bool OnInitDialog() override;
+    void RefreshContent() override;
+    void Remember() override;
+
+private:
+    void OnFind();
+    void OnShow();
+    void OnProperties();
+    void OnActivate(NMHDR* pHeader, LRESULT* pResult);
+    void OnSelection(NMHDR* pHeader, LRESULT* pResult);
+
+    void FillPlaces();
+    void FillSystems(int chosen);
+    int ChosenSystem() const;
+    void ShowResult(SearchResult result);
+    void ForgetResult();
+    void EnableButtons() const;
+    std::vector<AcDbObjectId> Selected() const;
+
+    CEdit m_text;
+    CComboBox m_systems; ///< with the systems' numbers; 0 for all
+    CComboBox m_where;   ///< in the order of SearchIn
+    std::vector<FoundEntity> m_found; ///< as the list has them
+};
+
+} // namespace Orvane::Panels

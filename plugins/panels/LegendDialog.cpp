@@ -1,0 +1,84 @@
+#include "plugins/panels/LegendDialog.h"
+
+#include "platform/arx/AciColors.h"
+#include "platform/arx/DbDatabase.h"
+#include "platform/xtp/XTPDockingPaneManager.h"
+#include "plugins/panels/DrawingReports.h"
+#include "plugins/panels/PanelPanes.h"
+#include "plugins/panels/PanelTexts.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Panels {
+
+namespace {
+
+constexpr int kSwatch = 16;
+constexpr int kMargin = 2;
+constexpr CRect kPaneSize(0, 0, 240, 200);
+constexpr CSize kSmallest(120, 80);
+/// Gray edges are seen on light and dark.
+constexpr std::uint32_t kEdge = 0xFF808080;
+
+CImage SwatchOf(int colorIndex) {
+    const std::uint32_t color = Tessaly::AciColor(colorIndex, Tessaly::Background::Dark);
+    std::vector<std::uint32_t> pixels(kSwatch * kSwatch, 0);
+    for (int y = kMargin; y < kSwatch - kMargin; ++y) {
+        for (int x = kMargin; x < kSwatch - kMargin; ++x) {
+            const bool isEdge = x == kMargin || y == kMargin || x == kSwatch - kMargin - 1 ||
+                                y == kSwatch - kMargin - 1;
+            pixels[static_cast<std::size_t>(y * kSwatch + x)] = isEdge ? kEdge : color;
+        }
+    }
+    return {kSwatch, kSwatch, pixels};
+}
+
+} // namespace
+
+CLegendDialog::CLegendDialog(CWnd* pParent)
+    : CModuleDialog(kLegendDialogId, Workspace::enmDialogSizableHosted, pParent) {
+    Create(kLegendDialog, pParent);
+}
+
+bool CLegendDialog::OnInitDialog() {
+    CModuleDialog::OnInitDialog();
+    MakeColumns({{Text(Msg::ColumnLayer), 100}, {Text(Msg::ColumnCount), 45, LVCFMT_RIGHT}});
+    m_resize.SetResize(kList, 0, 0, 1, 1);
+    return true;
+}
+
+void CLegendDialog::RefreshContent() {
+    if (!IsWindowVisible()) {
+        return;
+    }
+    const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    const std::vector<LegendRow> rows = pDrawing ? LegendOf(*pDrawing) : std::vector<LegendRow>();
+    CImageList swatches(CSize(kSwatch, kSwatch));
+    m_list.DeleteAllItems();
+    for (const LegendRow& row : rows) {
+        const int place = m_list.InsertItem(m_list.GetItemCount(), row.layer,
+                                            swatches.Add(SwatchOf(row.colorIndex)));
+        m_list.SetItemText(place, 1, std::to_wstring(row.count).c_str());
+    }
+    m_list.SetImageList(swatches);
+}
+
+bool ShowLegend() {
+    CXTPDockingPaneManager* const pPanes = DockingPanes();
+    auto* const pDialog = pPanes ? dynamic_cast<CLegendDialog*>(
+                                       Workspace::CWsManager::Instance()->GetDlgById(kLegendDialogId))
+                                 : nullptr;
+    if (!pDialog) {
+        return false;
+    }
+    if (CXTPDockingPane* const pPane =
+            pPanes->CreatePane(kLegendPane, kPaneSize, xtpPaneDockRight)) {
+        pPane->SetTitle(Text(Msg::Legend));
+        pPane->SetMinTrackSize(kSmallest);
+        pPane->Attach(pDialog);
+    }
+    pPanes->ShowPane(kLegendPane, 0);
+    pDialog->RefreshContent();
+    return true;
+}
+
+} // namespace Orvane::Panels

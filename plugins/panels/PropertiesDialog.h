@@ -1,0 +1,51 @@
+// Shows what is known of an entity, and changes it.
+#pragma once
+
+#include "platform/mfc/Edit.h"
+#include "plugins/panels/EntityProperties.h"
+#include "plugins/panels/ModuleDialog.h"
+
+namespace Orvane::Panels {
+
+inline constexpr const wchar_t* kPropertiesDialogId = L"DLG_ENTITY_PROPERTIES";
+
+/// The property that was chosen last is chosen again for the next entity, and in the next run.
+class CPropertiesDialog final : public CModuleDialog {
+public:
+    explicit CPropertiesDialog(CWnd* pParent);
+
+    bool PreTranslateMessage(MSG* pMsg) override;
+    /// Null, and an id that belongs to no system: nothing is shown.
+    void ShowEntity(AcDbObjectId id);
+
+    void OnAcadDocumentBecomeCurrent(AcApDocument*) override { ShowEntity({}); }
+    void OnAcadDocumentToBeDestroyed(AcApDocument* pDoc) override;
+
+protected:
+    const MessageMap* GetMessageMap() const override;
+    void DoDataExchange(CDataExchange* pExchange) override;
+    bool OnInitDialog() override;
+    void RefreshContent() override;
+    void Remember() override;
+
+private:
+    void OnPick();
+    void OnSet();
+    void OnSelection(NMHDR* pHeader, LRESULT* pResult);
+    void OnActivate(NMHDR* pHeader, LRESULT* pResult);
+
+    void FillList();
+    void SelectProperty();
+    void FollowSelection();
+    const EntityProperty* Chosen() const;
+
+    CEdit m_value;
+    AcDbObjectId m_id;
+    std::vector<EntityProperty> m_properties; ///< as the list has them
+    CString m_strChosen;                      ///< label of the property that was chosen last
+};
+
+/// Brings the dialog up for an entity. Nothing happens without a desktop.
+void ShowProperties(AcDbObjectId id);
+
+} // namespace Orvane::Panels

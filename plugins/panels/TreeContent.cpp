@@ -1,0 +1,175 @@
+#include "plugins/panels/TreeContent.h"
+
+#include <algorithm>
+
+#include "plugins/panels/PanelTexts.h"
+#include "siblings/giscore/RepositoryFactory.h"
+#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/RepositoryStore.h"
+#include "siblings/giscore/SystemManager.h"
+#include "workspacecore/core/WsManager.h"
+
+namespace Orvane::Panels {
+
+namespace {
+
+using Workspace::CWsTreeItemDefinition;
+using Workspace::CWsTreeTemplate;
+
+/// A tree whose nodes are being made.
+struct Place {
+    TreeKind kind;
+    System::CGisSystem* pSystem = nullptr;
+    bool isGray = false;
+};
+
+TreeNode MakeNode(const TreeNode::DefinitionPtr& definition, const Place& place) {
+    TreeNode node;
+    node.definition = definition;
+    node.name = definition ? definition->GetName() : CString();
+    node.text = node.name;
+    node.pSystem = place.pSystem;
+    node.isTargetNet = place.kind == TreeKind::Net;
+    node.isGray = place.isGray;
+    return node;
+}
+
+CRepositoryFactory::StorePtr StoreOf(const CString& tag, const Place& place) {
+    CRepositoryFactory* const pFactory = CRepositoryManager::Instance()->GetRepositoryfactory(tag);
+    if (!pFactory) {
+        return {};
+    }
+    return place.kind == TreeKind::Systems ? pFactory->GetSystemStore(place.pSystem)
+           : place.kind == TreeKind::Net   ? pFactory->GetNetStore()
+                                           : pFactory->GetDiskStore();
+}
+
+void AddConfigurations(TreeNode& folder, const CWsTreeTemplate& slot, const Place& place) {
+    const auto& definition = slot.GetConfigurationDefinition();
+    const auto store = definition ? StoreOf(definition->GetRepositoryTag(), place) : nullptr;
+    if (!store) {
+        return;
+    }
+    const enmEntityType type = slot.GetConfigurationEntityType();
+    const CString standard = store->GetDefault(type);
+    for (const auto& item : store->GetItems(type)) {
+        TreeNode node = MakeNode(definition, place);
+        node.name = item->GetName();
+        node.guid = item->GetGuid();
+        node.text = !standard.IsEmpty() && node.guid == standard ? Text(Msg::DefaultMark, node.name)
+                                                                 : node.name;
+        folder.children.push_back(std::move(node));
+    }
+}
+
+/// Templates of disk and net have an entity folder once for each topology with such entities;
+/// all of them would show the same configurations.
+bool HasChildOf(const TreeNode& parent, const TreeNode::DefinitionPtr& definition) {
+    return std::any_of(parent.children.begin(), parent.children.end(), [&](const TreeNode& child) {
+        return definition && child.definition == definition;
+    });
+}
+
+void AddTemplate(TreeNode& parent, const CWsTreeTemplate& slot, const Place& place) {
+    if (HasChildOf(parent, slot.GetItemDefinition())) {
+        return;
+    }
+    TreeNode node = MakeNode(slot.GetItemDefinition(), place);
+    for (const auto& child : *slot.GetChildren()) {
+        AddTemplate(node, *child, place);
+    }
+    if (slot.IsPlaceToAddConfiguration()) {
+        AddConfigurations(node, slot, place);
+    }
+    parent.children.push_back(std::move(node));
+}
+
+void AddChildren(TreeNode& parent, const CWsTreeTemplate::Ptr& tree, const Place& place) {
+    Workspace::CWsManager::Instance()->TreeMgr()->SortTreeTemplate(tree);
+    for (const auto& child : *tree->GetChildren()) {
+        AddTemplate(parent, *child, place);
+    }
+}
+
+TreeNode::DefinitionPtr FindDefinition(Workspace::enmWSTreeItemType type) {
+    for (const auto& definition : *Workspace::CWsManager::Instance()
+                                       ->TreeMgr()
+                                       ->GetTreeItemDefinitionList()
+                                       ->GetWsTreeItemDefinitionVector()) {
+        if (definition->GetWsItemType() == type) {
+            return definition;
+        }
+    }
+    return {};
+}
+
+CString SystemText(const System::CGisSystem& system) {
+    CString text = system.GetSystemName();
+    if (!system.GetVisibility()) {
+        text = Text(Msg::HiddenMark, text);
+    }
+    return system.GetActive() ? Text(Msg::ActiveMark, text) : text;
+}
+
+void AddSystem(TreeNode& root, System::CGisSystem& system) {
+    const auto tree = Workspace::CWsManager::Instance()
+                          ->TreeMgr()
+                          ->GetTreeItemDefinitionList()
+                          ->GetSystemTreeTemplate(&system);
+    const Place place{TreeKind::Systems, &system, !system.GetVisibility()};
+    TreeNode node =
+        MakeNode(tree ? tree->GetItemDefinition() : FindDefinition(Workspace::WsItemSystem), place);
+    node.name = system.GetSystemName();
+    node.text = SystemText(system);
+    node.guid = system.GetGuid();
+    if (tree) {
+        AddChildren(node, tree, place);
+    }
+    root.children.push_back(std::move(node));
+}
+
+TreeNode SystemContent() {
+    TreeNode root = MakeNode(FindDefinition(Workspace::WsItemSystemManager), {TreeKind::Systems});
+    System::CGisSystems* const pSystems = System::CSystemManager::Instance()->GetSystems();
+    if (root.definition && pSystems) {
+        for (System::CGisSystem* const pSystem : pSystems->GetSystemList()) {
+            AddSystem(root, *pSystem);
+        }
+    }
+    return root;
+}
+
+TreeNode RepositoryContent(TreeKind kind) {
+    const Workspace::CWsTreeItemDefinitionList& definitions =
+        *Workspace::CWsManager::Instance()->TreeMgr()->GetTreeItemDefinitionList();
+    const auto tree = kind == TreeKind::Net ? definitions.GetNetTreeTemplate()
+                                            : definitions.GetDiskTreeTemplate();
+    const Place place{kind};
+    TreeNode root = MakeNode(tree ? tree->GetItemDefinition() : nullptr, place);
+    // The two trees share the definition of their root, and with it its name.
+    if (root.definition && kind == TreeKind::Net) {
+        root.name = root.text = Text(Msg::NetRepository);
+    }
+    if (root.definition) {
+        AddChildren(root, tree, place);
+    }
+    return root;
+}
+
+} // namespace
+
+TreeNode TreeContent(TreeKind kind) {
+    return kind == TreeKind::Systems ? SystemContent() : RepositoryContent(kind);
+}
+
+CString KeyOf(const CWsTreeItemDefinition& definition, const CString& guid) {
+    // A family's folder and its configurations have the same id.
+    return FormatText(L"%s:%d:%d:%s", definition.GetId(), definition.GetWsItemType(),
+                      definition.GetEntityType(), guid);
+}
+
+CString KeyOf(const TreeNode& node) {
+    return node.definition ? KeyOf(*node.definition, node.guid) : CString(node.guid);
+}
+
+} // namespace Orvane::Panels

@@ -1,0 +1,117 @@
+// A panel with one of the three trees.
+#pragma once
+
+#include <deque>
+
+#include "platform/mfc/TreeCtrl.h"
+#include "platform/xtp/XTPResize.h"
+#include "plugins/panels/CommandOrder.h"
+#include "plugins/panels/TreeContent.h"
+#include "workspacecore/dialogs/WsPanelDialog.h"
+
+namespace Orvane::Panels {
+
+/// The id of a panel, under which the factory makes it.
+const wchar_t* PanelIdOf(TreeKind kind);
+
+/// What hangs on a node of a panel's tree.
+struct PanelItem : Workspace::CWsTreeItemData {
+    CString name; ///< for editing, without the marks of the text
+    CString text;
+    CString key; ///< KeyOf
+};
+
+/// Fills its tree from TreeContent, anew after everything that changes what the tree shows;
+/// what was open and selected stays so. Changes that come while a message is handled are
+/// shown once it has been, and not while a label is edited or a node dragged.
+///
+/// A command that is asked for while another one runs cancels that and runs after it.
+class CTreePanel final : public Workspace::CWsPanelDialog {
+public:
+    CTreePanel(TreeKind kind, CWnd* parent);
+    ~CTreePanel() override;
+
+    void Update(Notification::CPublisher*, void*, void*) override { RequestRefresh(); }
+    bool PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    const MessageMap* GetMessageMap() const override;
+    void DoDataExchange(CDataExchange* pExchange) override;
+    bool OnInitDialog() override;
+    void OnOK() override {}
+    void OnCancel() override {}
+
+private:
+    // Messages.
+    void OnSize(UINT type, int cx, int cy);
+    void OnRightClick(NMHDR* pHeader, LRESULT* pResult);
+    void OnDoubleClick(NMHDR* pHeader, LRESULT* pResult);
+    void OnBeginLabelEdit(NMHDR* pHeader, LRESULT* pResult);
+    void OnEndLabelEdit(NMHDR* pHeader, LRESULT* pResult);
+    void OnBeginDrag(NMHDR* pHeader, LRESULT* pResult);
+    void OnMouseMove(UINT flags, CPoint point);
+    void OnLButtonUp(UINT flags, CPoint point);
+    LRESULT OnRefresh(WPARAM wParam, LPARAM lParam);
+    LRESULT OnRunOrder(WPARAM wParam, LPARAM lParam);
+    LRESULT OnKeepFocus(WPARAM wParam, LPARAM lParam);
+
+    // Events.
+    void OnAcadDocumentBecomeCurrent(AcApDocument*) override { RequestRefresh(); }
+    void OnAcadDocumentToBeDestroyed(AcApDocument* pDoc) override;
+    void OnSystemChanged(System::CGisSystem*) override { RequestRefresh(); }
+    void OnSystemBecomeActive(System::CGisSystem*) override { RequestRefresh(); }
+    void OnSystemBecomeInactive(System::CGisSystem*) override { RequestRefresh(); }
+    void OnSystemBecomeHidden(System::CGisSystem*) override { RequestRefresh(); }
+    void OnSystemBecomeShown(System::CGisSystem*) override { RequestRefresh(); }
+    void OnBeforeSystemDelete(System::CGisSystem* pSystem) override { ForgetSystem(pSystem); }
+    void OnAfterSystemDelete() override { RequestRefresh(); }
+    void OnNewSystemCreated(System::CGisSystem*) override { RequestRefresh(); }
+    void OnNewConfigDefinitionAdded(System::CGisSystem*, const wchar_t*, const wchar_t*) override {
+        RequestRefresh();
+    }
+    void OnBeforeConfigDefinitionDeleted(System::CGisSystem*, const wchar_t*,
+                                         const wchar_t*) override {
+        RequestRefresh();
+    }
+    void OnConfigDefinitionChanged(System::CGisSystem*, const wchar_t*, const wchar_t*) override {
+        RequestRefresh();
+    }
+    void OnConfigBecomeDefault(System::CGisSystem*, const wchar_t*, const wchar_t*) override {
+        RequestRefresh();
+    }
+    void OnAfterGeneralSettingsChanged() override { RequestRefresh(); }
+    void OnBeforeCommandActivated(const wchar_t*) override { ++m_nRunning; }
+    void OnAfterCommandCompleted(const wchar_t*) override;
+
+    void RegisterTree(CTreeCtrl* pTree) const;
+    void RequestRefresh();
+    void Refresh();
+    void Insert(const TreeNode& node, HTREEITEM parent);
+    void OpenAtFirst();
+    /// Of the tree, and of what is lent: all systems of the drawing if null.
+    void ForgetSystem(const System::CGisSystem* pSystem);
+    PanelItem* ItemOf(HTREEITEM item) const;
+    PanelItem* SelectedItem() const { return ItemOf(m_tree.GetSelectedItem()); }
+    HTREEITEM HitNode() const;
+
+    bool OnKey(int key);
+    void ShowMenu(const PanelItem& item, CPoint place);
+    /// Gives a command that has an id; a node without one does nothing.
+    void GiveCommand(const CString& commandId, const PanelItem& item);
+    void Give(CommandOrder order);
+    void EndDrag();
+
+    TreeKind m_kind;
+    CTreeCtrl m_tree;
+    CXTPResize m_resize{this};
+    std::deque<PanelItem> m_items; ///< of the nodes, which have their addresses
+    bool m_isFirstFill = true; ///< nothing was below the root as yet
+    bool m_isRefreshPosted = false;
+    bool m_isRefreshWanted = false; ///< once nothing is edited or dragged
+    bool m_isEditing = false;
+    LentItem m_dragged;
+    int m_nRunning = 0; ///< commands, nested ones included
+    std::optional<CommandOrder> m_order;
+};
+
+} // namespace Orvane::Panels

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -89,6 +90,7 @@ void ConsolePort::DropEscapes() {
 }
 
 std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
+    AfxPumpMessages(); // timers and posted messages go on here, too
     std::optional<CString> line = TakePosted();
     const bool posted = line.has_value();
     // A script is looked at first: at its end no prompt is left behind.

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
@@ -13,14 +14,28 @@ namespace Tessaly {
 
 namespace {
 
+/// Lines come when somebody types or sends them.
+bool IsAwaited(std::FILE* stream) {
+    struct stat info {};
+    return fstat(fileno(stream), &info) == 0 && !S_ISREG(info.st_mode);
+}
+
 class LinesOfStream : public IInputLines {
 public:
-    explicit LinesOfStream(std::FILE* stream) : m_stream(stream) {}
+    explicit LinesOfStream(std::FILE* stream) : m_stream(stream), m_isAwaited(IsAwaited(stream)) {
+        if (m_isAwaited) {
+            // What waits in a buffer could not be seen from outside.
+            std::setvbuf(stream, nullptr, _IONBF, 0);
+        }
+    }
     ~LinesOfStream() override { std::free(m_line); }
     LinesOfStream(const LinesOfStream&) = delete;
     LinesOfStream& operator=(const LinesOfStream&) = delete;
 
     std::optional<CString> Next() override {
+        if (m_isAwaited) {
+            AfxWaitForInput(fileno(m_stream));
+        }
         ssize_t length = getline(&m_line, &m_capacity, m_stream);
         if (length < 0) {
             return std::nullopt;
@@ -42,6 +57,7 @@ public:
 
 private:
     std::FILE* m_stream;
+    bool m_isAwaited;
     char* m_line = nullptr;
     std::size_t m_capacity = 0;
     int m_nLine = 0;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPixmap>
+#include <QRawFont>
 #include <QTimer>
 #include <cstdio>
 
@@ -109,6 +110,9 @@ int Run(const Options& options, Frame& frame, Session& session) {
 
 int RunDesktop(const Options& options) {
     AfxStartToolkit();
+    if (QRawFont::fromFont(QApplication::font()).fontTable("head").isEmpty()) {
+        Complain("there is no font, so that letters are boxes (Debian: fonts-dejavu-core)");
+    }
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
     Frame frame;
     IHostPort* const pBefore = SetHostPort(&frame.Port());

@@ -88,9 +88,9 @@ std::optional<CString> DesktopPort::TakePosted() {
 PromptEnd DesktopPort::AskInBox(const CString& prompt, CString& answer) {
     const bool canCancel = prompt.Find(L"/Cancel") >= 0;
     const CString question = prompt.Left(prompt.Find(L'[')).Trim();
-    const int pressed =
-        ShowMessageBox(Over(), question, kTitle,
-                       MB_ICONQUESTION | (canCancel ? MB_YESNOCANCEL : MB_YESNO) | DefaultOf(prompt));
+    const int pressed = ShowMessageBox(Over(), question, kTitle,
+                                       MB_ICONQUESTION | (canCancel ? MB_YESNOCANCEL : MB_YESNO) |
+                                           DefaultOf(prompt));
     answer = pressed == IDYES ? L"Yes" : pressed == IDNO ? L"No" : L"";
     return answer.IsEmpty() ? PromptEnd::Cancelled : PromptEnd::Answered;
 }

@@ -129,8 +129,8 @@ private:
     std::unique_ptr<SystemTheme> m_pSystemTheme;
     std::vector<QPointer<QWidget>> m_resting; ///< while long work goes on
     QPointer<QWidget> m_focusBefore;          ///< that work
-    QStringList m_prompts; ///< that are open, the innermost last
-    int m_nDepth = 0; ///< commands that run, one inside of the other
+    QStringList m_prompts;                    ///< that are open, the innermost last
+    int m_nDepth = 0;                         ///< commands that run, one inside of the other
     bool m_bStopAsked = false;
     bool m_bFollowing = false; ///< the tabs are being made to show what is current
 };

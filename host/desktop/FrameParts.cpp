@@ -147,10 +147,12 @@ void Frame::MakeMenus() {
     QMenu* const pPanes = pView->addMenu(tr("&Panes"));
     connect(pPanes, &QMenu::aboutToShow, this, [this, pPanes] { FillPaneMenu(*pPanes); });
     // Floating panes are windows of their own, and are left by the same keys.
-    add(pView, tr("Ne&xt pane"), QStringLiteral("F6"), [this] { GoToPane(1); })
-        ->setShortcutContext(Qt::ApplicationShortcut);
-    add(pView, tr("P&revious pane"), QStringLiteral("Shift+F6"), [this] { GoToPane(-1); })
-        ->setShortcutContext(Qt::ApplicationShortcut);
+    add(pView, tr("Ne&xt pane"), QStringLiteral("F6"), [this] {
+        GoToPane(1);
+    })->setShortcutContext(Qt::ApplicationShortcut);
+    add(pView, tr("P&revious pane"), QStringLiteral("Shift+F6"), [this] {
+        GoToPane(-1);
+    })->setShortcutContext(Qt::ApplicationShortcut);
     add(pView, tr("&Bring all windows here"), QStringLiteral("Ctrl+Shift+B"),
         [this] { BringAllWindowsHere(); });
     MakeThemeMenu(*pView->addMenu(tr("&Theme")));

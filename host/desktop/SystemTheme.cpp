@@ -58,9 +58,8 @@ void SystemTheme::OnSettingChanged(const QString& group, const QString& key,
 
 void SystemTheme::Take(const QVariant& value) {
     // Some services wrap the number once more.
-    const QVariant inner = value.canConvert<QDBusVariant>()
-                               ? value.value<QDBusVariant>().variant()
-                               : value;
+    const QVariant inner =
+        value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
     const uint number = inner.toUInt();
     const Scheme scheme = number == 1   ? Scheme::Dark
                           : number == 2 ? Scheme::Light

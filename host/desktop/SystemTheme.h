@@ -1,10 +1,8 @@
 // Whether the user's desktop is dark or light.
 #pragma once
 
+#include <QDBusVariant>
 #include <QObject>
-
-class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 namespace Tessaly {
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/arx/DbUndoScopes.h"
+#include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdEditor.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
@@ -49,6 +50,16 @@ CString acdbDrawingPath(const wchar_t* path) {
         whole += kExtension;
     }
     return Utf8ToWide(whole.string());
+}
+
+void AcTransactionManager::flushGraphics() {
+    acedUpdateDisplay();
+}
+
+void AcApDocument::refreshView() {
+    if (acDocManagerPtr()->curDocument() == this) {
+        m_transactions.flushGraphics();
+    }
 }
 
 void AcApDocument::setPath(const CString& path) {

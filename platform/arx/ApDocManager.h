@@ -9,6 +9,14 @@
 #include "platform/arx/DbStorage.h"
 #include "platform/win/Types.h"
 
+/// What stands between the changes of a drawing and its picture.
+class PLATFORM_API AcTransactionManager {
+public:
+    /// Has the view of the current drawing show at once what has changed; see
+    /// IDrawingDisplay::Update.
+    void flushGraphics();
+};
+
 /// One open drawing. Owned by the document manager.
 class PLATFORM_API AcApDocument : public AcRxObject {
 public:
@@ -24,6 +32,10 @@ public:
     /// The file name without its folder, or the name of a new drawing.
     const CString& title() const { return m_strTitle; }
     AcDbDatabase* database() const { return m_pDatabase.get(); }
+    AcTransactionManager* transactionManager() { return &m_transactions; }
+    /// Shows at once what has changed, if the drawing is the current one. Others are shown
+    /// as they are when they become current.
+    void refreshView();
     /// It has changes that are not in its file.
     bool isModified() const { return m_pDatabase->isModified(); }
 
@@ -37,6 +49,7 @@ private:
     void setPath(const CString& path);
 
     int m_nLocks = 0;
+    AcTransactionManager m_transactions;
     CString m_strPath;
     CString m_strTitle;
     std::unique_ptr<AcDbDatabase> m_pDatabase;

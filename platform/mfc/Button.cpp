@@ -1,5 +1,7 @@
 #include "platform/mfc/Button.h"
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -16,11 +18,15 @@ PushButtonWidget::PushButtonWidget(QWidget* pParent, UINT style)
 }
 
 void PushButtonWidget::paintEvent(QPaintEvent* pEvent) {
-    if (!m_ownerDrawn) {
+    if (!m_ownerDrawn && !m_flat && m_gap == 0) {
         QPushButton::paintEvent(pEvent);
         return;
     }
     QPainter painter(this);
+    if (!m_ownerDrawn) {
+        PaintWithGap(painter);
+        return;
+    }
     QStyleOptionButton option;
     initStyleOption(&option);
     style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
@@ -29,6 +35,36 @@ void PushButtonWidget::paintEvent(QPaintEvent* pEvent) {
     if (face && !face->IsHollow()) {
         painter.fillRect(rect().adjusted(3, 3, -3, -3), ToQColor(face->Color()));
     }
+}
+
+void PushButtonWidget::PaintWithGap(QPainter& painter) const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const bool isRaised = isEnabled() && (underMouse() || isDown() || isChecked());
+    if (!m_flat || isRaised) {
+        style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
+    }
+    const QRect inside = rect().adjusted(m_gap, m_gap, -m_gap, -m_gap);
+    option.rect = inside;
+    option.iconSize = option.iconSize.boundedTo(inside.size());
+    style()->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = rect().adjusted(2, 2, -2, -2);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}
+
+void PushButtonWidget::SetFlat(bool flat) {
+    m_flat = flat;
+    setAttribute(Qt::WA_Hover);
+    update();
+}
+
+void PushButtonWidget::SetGap(int pixels) {
+    m_gap = std::max(pixels, 0);
+    update();
 }
 
 bool CButton::Create(const wchar_t* text, UINT style, const CRect& rect, CWnd* pParent, UINT id) {
@@ -56,6 +92,18 @@ void CButton::SetImage(const CImage& image) {
     if (auto* const pButton = WidgetOf<QAbstractButton>(*this)) {
         pButton->setIcon(ToPixmap(image));
         pButton->setIconSize(QSize(image.Size().cx, image.Size().cy));
+    }
+}
+
+void CButton::SetFlat(bool flat) {
+    if (auto* const pButton = WidgetOf<PushButtonWidget>(*this)) {
+        pButton->SetFlat(flat);
+    }
+}
+
+void CButton::SetGap(int pixels) {
+    if (auto* const pButton = WidgetOf<PushButtonWidget>(*this)) {
+        pButton->SetGap(pixels);
     }
 }
 

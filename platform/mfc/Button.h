@@ -17,6 +17,11 @@ public:
     void SetIcon(HICON icon, CSize size);
     void SetImage(const CImage& image);
     void SetTooltip(const wchar_t* text);
+    /// The edge shows only under the cursor and while it is pressed or checked. For push
+    /// buttons and check boxes that look like one.
+    void SetFlat(bool flat);
+    /// Pixels between the edge and what stands inside; a picture is made smaller for it.
+    void SetGap(int pixels);
     /// As if the user had clicked.
     void Click();
 };

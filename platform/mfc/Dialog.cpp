@@ -75,9 +75,8 @@ void CentreOn(QWidget& dialog, const QWidget* pParent) {
     const auto placed = [](int from, int length, int size, int least, int most) {
         return std::max(least, std::min(from + (length - size) / 2, most - size));
     };
-    const CPoint place(
-        placed(around.left, around.Width(), dialog.width(), work.left, work.right),
-        placed(around.top, around.Height(), dialog.height(), work.top, work.bottom));
+    const CPoint place(placed(around.left, around.Width(), dialog.width(), work.left, work.right),
+                       placed(around.top, around.Height(), dialog.height(), work.top, work.bottom));
     ApplyGeometry(&dialog, QRect(FromScreenPoint(place), dialog.size()));
 }
 

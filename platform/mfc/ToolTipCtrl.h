@@ -11,3 +11,6 @@ public:
     void UpdateTipText(const wchar_t* text, CWnd* pWnd) { AddTool(pWnd, text); }
     CString GetText(const CWnd* pWnd) const;
 };
+
+/// The name under which panels have it.
+using CMyToolTipCtrl = CToolTipCtrl;

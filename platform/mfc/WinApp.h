@@ -23,5 +23,9 @@ PLATFORM_API void AfxStopToolkit();
 
 /// Runs what waits: posted messages, timers that are due, painting. Does not wait itself.
 PLATFORM_API void AfxPumpMessages();
+/// Runs what comes until a file (a terminal, a pipe) has something to read, so that timers
+/// and posted messages go on in a console. Does nothing before the toolkit is alive, nor
+/// within itself.
+PLATFORM_API void AfxWaitForInput(int file);
 /// Opens an address ("https:", "file:") in the program that the desktop has for it.
 PLATFORM_API bool AfxOpenAddress(const wchar_t* address);

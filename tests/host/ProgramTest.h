@@ -18,10 +18,10 @@ protected:
     int RunIn(const std::string& environment, const std::string& arguments,
               const std::string& input = "") {
         m_folder.Write("input", input);
-        const std::string command =
-            environment + " " TESSALY_STAGE_DIR "/tessaly --support " + m_folder.Native("support") +
-            " " + arguments + " < " + m_folder.Native("input") + " > " + m_folder.Native("output") +
-            " 2>&1";
+        const std::string command = environment + " " TESSALY_STAGE_DIR "/tessaly --support " +
+                                    m_folder.Native("support") + " " + arguments + " < " +
+                                    m_folder.Native("input") + " > " + m_folder.Native("output") +
+                                    " 2>&1";
         const int status = std::system(command.c_str());
         m_output = m_folder.Read("output");
         return WEXITSTATUS(status);

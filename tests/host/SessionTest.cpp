@@ -122,8 +122,7 @@ TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
 TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {
     // Servers that are not there.
     for (const char* const environment :
-         {"QT_QPA_PLATFORM= DISPLAY=:4711 WAYLAND_DISPLAY=",
-          "QT_QPA_PLATFORM=xcb DISPLAY=:4711",
+         {"QT_QPA_PLATFORM= DISPLAY=:4711 WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=xcb DISPLAY=:4711",
           "QT_QPA_PLATFORM= DISPLAY= WAYLAND_DISPLAY=/tmp/nobody-listens-here"}) {
         EXPECT_EQ(RunIn(environment, "", "DRAWINGS\n"), 0) << environment;
         EXPECT_TRUE(Printed("There is no display")) << environment << m_output;

@@ -10,12 +10,14 @@
 
 #include "platform/mfc/Button.h"
 #include "platform/mfc/Clipboard.h"
+#include "platform/mfc/ColorDialog.h"
 #include "platform/mfc/ComboBox.h"
 #include "platform/mfc/DC.h"
 #include "platform/mfc/IIconSource.h"
 #include "platform/mfc/ListBox.h"
 #include "platform/mfc/Static.h"
 #include "platform/mfc/ToolTipCtrl.h"
+#include "platform/xtp/XTButton.h"
 #include "tests/mfc/TestDialog.h"
 #include "tests/support/TestHost.h"
 
@@ -127,6 +129,60 @@ TEST_F(ControlsTest, IconsAndHintsDressAButton) {
     EXPECT_FALSE(tips.AddTool(nullptr, L""));
     EXPECT_TRUE(CImage(4, 4, std::vector<std::uint32_t>(15)).IsNull()) << "a pixel short";
     EXPECT_TRUE(CImage::FromFile(L"/nowhere/picture.png").IsNull());
+}
+
+TEST_F(ControlsTest, AFlatButtonShowsItsEdgeWhileCheckedAndAGapMakesThePictureSmaller) {
+    CXTButton button;
+    ASSERT_TRUE(button.Create(L"", BS_AUTOCHECKBOX | BS_PUSHLIKE | WS_VISIBLE, {10, 10, 40, 40},
+                              m_pDialog.get(), 500));
+    const auto looks = [&] { return FrameOf(button)->grab().toImage(); };
+    const auto count = [&](QColor color) {
+        const QImage picture = looks();
+        int pixels = 0;
+        for (int at = 0; at < picture.width() * picture.height(); ++at) {
+            pixels += picture.pixelColor(at % picture.width(), at / picture.width()) == color;
+        }
+        return pixels;
+    };
+    const auto hasEdge = [&] { return count(looks().pixelColor(0, 0)) < 30 * 30; };
+    EXPECT_TRUE(hasEdge());
+    button.SetXButtonStyle(BS_XT_FLAT);
+    EXPECT_FALSE(hasEdge());
+    button.SetCheck(1);
+    EXPECT_TRUE(hasEdge());
+    const std::vector<std::uint32_t> pixels(24 * 24, 0xFFFF0000U);
+    button.SetImage(CImage(24, 24, pixels));
+    EXPECT_EQ(count(Qt::red), 24 * 24);
+    button.SetBorderGap(8);
+    EXPECT_EQ(count(Qt::red), 14 * 14);
+}
+
+TEST_F(ControlsTest, AColourIsChosenInATableOrAtThePrompt) {
+    int color = 20;
+    const auto press = [](QList<Qt::Key> keys) {
+        Later([keys] {
+            QWidget* const pDialog = QApplication::activeModalWidget();
+            auto* const pTable = pDialog->findChild<QWidget*>("Colours");
+            for (const Qt::Key key : keys) {
+                QTest::keyClick(key == Qt::Key_Escape ? pDialog : pTable, key);
+            }
+            QMetaObject::invokeMethod(pDialog, keys.last() == Qt::Key_Escape ? "reject" : "accept");
+        });
+    };
+    press({Qt::Key_Right, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up});
+    EXPECT_TRUE(acedSetColorDialog(color, false, 0));
+    EXPECT_EQ(color, 5);
+    press({Qt::Key_Right, Qt::Key_Escape});
+    EXPECT_FALSE(acedSetColorDialog(color, false, 0));
+    EXPECT_EQ(color, 5);
+    AfxSetDesktopMode(false);
+    TestHost host;
+    host.Answer({L"255"});
+    EXPECT_TRUE(acedSetColorDialog(color, false, 0));
+    EXPECT_EQ(color, 255);
+    host.Answer({L"256"});
+    EXPECT_FALSE(acedSetColorDialog(color, false, 0));
+    EXPECT_EQ(color, 255);
 }
 
 TEST_F(ControlsTest, AnImageOfAComboComesFromItsList) {

@@ -6,9 +6,11 @@
 
 #include <QCursor>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSocketNotifier>
 #include <QUrl>
 
 #include "platform/mfc/WaitCursor.h"
@@ -192,9 +194,9 @@ bool AfxIsDesktopMode() {
 bool AfxHasDisplay() {
     // The toolkit may have found that it cannot open what answers.
     const std::string visible = VisibleDisplays();
-    return !visible.empty() && (!QCoreApplication::instance() ||
-                                visible.find(QGuiApplication::platformName().toStdString()) !=
-                                    std::string::npos);
+    return !visible.empty() &&
+           (!QCoreApplication::instance() ||
+            visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
 
 void AfxStartToolkit() {
@@ -235,6 +237,20 @@ void AfxPumpMessages() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void AfxWaitForInput(int file) {
+    static bool s_waiting = false;
+    if (!QCoreApplication::instance() || s_waiting) {
+        return;
+    }
+    s_waiting = true;
+    AfxPumpMessages();
+    QEventLoop loop;
+    const QSocketNotifier notifier(file, QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &loop, &QEventLoop::quit);
+    loop.exec();
+    s_waiting = false;
 }
 
 bool AfxOpenAddress(const wchar_t* address) {

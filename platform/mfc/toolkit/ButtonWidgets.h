@@ -44,12 +44,18 @@ private:
 class PushButtonWidget final : public ButtonBase<QPushButton> {
 public:
     PushButtonWidget(QWidget* pParent, UINT style);
+    void SetFlat(bool flat);
+    void SetGap(int pixels);
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:
+    void PaintWithGap(QPainter& painter) const;
+
     bool m_ownerDrawn;
+    bool m_flat = false;
+    int m_gap = 0;
 };
 
 using CheckBoxWidget = ButtonBase<QCheckBox>;

@@ -68,9 +68,8 @@ bool AnswersSync(int socket) {
 
 bool WaylandAnswers() {
     const std::string name = Variable("WAYLAND_DISPLAY");
-    const std::string path = name.empty() || name.front() == '/'
-                                 ? name
-                                 : Variable("XDG_RUNTIME_DIR") + "/" + name;
+    const std::string path =
+        name.empty() || name.front() == '/' ? name : Variable("XDG_RUNTIME_DIR") + "/" + name;
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     if (path.empty() || path.size() >= sizeof address.sun_path || !HasWaylandPlugin()) {

@@ -131,8 +131,7 @@ private:
     NMLVCUSTOMDRAW m_draw;
 };
 
-ListWidget::ListWidget(QWidget* pParent, UINT style)
-    : HookedArea(pParent), m_style(style) {
+ListWidget::ListWidget(QWidget* pParent, UINT style) : HookedArea(pParent), m_style(style) {
     setModel(&m_model);
     setItemDelegate(new RowHeights(this, m_imageSize));
     setUniformRowHeights(true);

@@ -113,8 +113,7 @@ TEST(DialogPlaces, AnEdgeStartsFromWhatTheOneBeforeMade) {
     EXPECT_EQ(AtScreen({10, 10}, {1980, 1140}, {}), CPoint(0, 0)) << "larger than the screen";
 }
 
-CPoint AtDialogs(CPoint place, CSize size, const std::vector<CRect>& others,
-                 CSize reach = kReach) {
+CPoint AtDialogs(CPoint place, CSize size, const std::vector<CRect>& others, CSize reach = kReach) {
     SnapStep step(place, size, reach);
     for (const CRect& other : others) {
         step.ToDialog(other);
@@ -168,8 +167,7 @@ TEST(DialogPlaces, ALowOneIsDrawnOnFromTopToBottomAndAside) {
     EXPECT_EQ(AtDialogs({610, 395}, {200, 10}, {low}), CPoint(600, 420))
         << "above it first, and from there below";
     constexpr CRect narrow(600, 400, 620, 420);
-    EXPECT_EQ(AtDialogs({610, 395}, {10, 10}, {narrow}), CPoint(620, 400))
-        << "from below beside";
+    EXPECT_EQ(AtDialogs({610, 395}, {10, 10}, {narrow}), CPoint(620, 400)) << "from below beside";
 }
 
 TEST(DialogPlaces, ALaterDialogOverrulesAnEarlierOne) {
@@ -228,10 +226,21 @@ TEST(DialogPlaces, TheCascadeFillsColumnsFromTheRight) {
     DialogCascade cascade{0, 1920};
     const CSize size(400, 300);
     const CPoint expected[] = {
-        {1520, 0}, {1520, 301}, {1520, 602}, {1120, 0}, {1120, 301}, {1120, 602},
-        {720, 0},  {720, 301},  {720, 602},  {320, 0},  {320, 301},  {320, 602},
+        {1520, 0},
+        {1520, 301},
+        {1520, 602},
+        {1120, 0},
+        {1120, 301},
+        {1120, 602},
+        {720, 0},
+        {720, 301},
+        {720, 602},
+        {320, 0},
+        {320, 301},
+        {320, 602},
         // No room for another column: the last one is taken from the right again.
-        {1520, 0}, {1520, 301},
+        {1520, 0},
+        {1520, 301},
     };
     for (const CPoint& place : expected) {
         EXPECT_EQ(cascade.Next(size, kScreen, 1920), place);

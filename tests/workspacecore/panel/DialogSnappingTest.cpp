@@ -24,10 +24,19 @@ protected:
 
 TEST_F(DialogSnapping, EveryStepIsWhereTheMouseIsOrAtTheEdge) {
     Drag drag(*m_pDialog);
-    for (const auto& [mouse, x] :
-         std::vector<std::pair<int, int>>{{200, 200}, {32, 32}, {31, 31}, {30, 0}, {12, 0},
-                                          {0, 0}, {-30, 0}, {-31, -31}, {-60, -60}, {-30, 0},
-                                          {30, 0}, {31, 31}, {200, 200}}) {
+    for (const auto& [mouse, x] : std::vector<std::pair<int, int>>{{200, 200},
+                                                                   {32, 32},
+                                                                   {31, 31},
+                                                                   {30, 0},
+                                                                   {12, 0},
+                                                                   {0, 0},
+                                                                   {-30, 0},
+                                                                   {-31, -31},
+                                                                   {-60, -60},
+                                                                   {-30, 0},
+                                                                   {30, 0},
+                                                                   {31, 31},
+                                                                   {200, 200}}) {
         drag.To({mouse, 400});
         EXPECT_EQ(Corner(), CPoint(x, 400)) << mouse;
     }
@@ -70,9 +79,9 @@ TEST_F(DialogSnapping, WhichDialogsAttractOthers) {
         enmDialogType type;
         bool attracts;
     } cases[] = {
-        {enmDialogFixed, false},          {enmDialogSizable, false},
-        {enmDialogFixedCascaded, true},   {enmDialogSizableCascaded, true},
-        {enmDialogFixedHosted, false},    {enmDialogSizableHosted, false},
+        {enmDialogFixed, false},        {enmDialogSizable, false},
+        {enmDialogFixedCascaded, true}, {enmDialogSizableCascaded, true},
+        {enmDialogFixedHosted, false},  {enmDialogSizableHosted, false},
     };
     for (const auto& row : cases) {
         WsTestDialog other(L"OTHER", row.type);

@@ -8,6 +8,7 @@
 #include "platform/mfc/Edit.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 #include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/Publisher.h"
 
 namespace Orvane::Workspace {
 namespace {
@@ -157,8 +158,8 @@ TEST_F(WsBaseDialogTest, TheCloseBoxRemembersThePlaceAndHides) {
 TEST_F(WsBaseDialogTest, ARememberedPlaceIsMeasuredByTheMonitorUnderTheCursor) {
     const std::vector<Monitor> one = {{{0, 0, 1280, 1024}, {0, 0, 1280, 984}}};
     const std::vector<Monitor> right = {one[0], {{1280, -200, 3200, 880}, {}}};
-    const std::vector<Monitor> left = {one[0], {{-1920, 0, 0, 1080}, {}},
-                                       {{1280, 0, 2080, 600}, {}}};
+    const std::vector<Monitor> left = {
+        one[0], {{-1920, 0, 0, 1080}, {}}, {{1280, 0, 2080, 600}, {}}};
     const struct {
         const char* what;
         const std::vector<Monitor>& monitors;
@@ -188,8 +189,7 @@ TEST_F(WsBaseDialogTest, ARememberedPlaceIsMeasuredByTheMonitorUnderTheCursor) {
         m_desktop.monitors = row.monitors;
         m_desktop.cursor = row.cursor;
         EXPECT_EQ(dialog.LoadWindowPosition(), row.restored) << row.what;
-        EXPECT_EQ(dialog.GetWindowRect(),
-                  row.restored ? CRect(row.place, CSize(300, 200)) : before)
+        EXPECT_EQ(dialog.GetWindowRect(), row.restored ? CRect(row.place, CSize(300, 200)) : before)
             << row.what;
     }
 }
@@ -260,7 +260,8 @@ TEST_F(WsBaseDialogTest, ADialogRollsUpToItsCaptionAndDownAgain) {
 }
 
 TEST_F(WsBaseDialogTest, LowOnTheScreenADialogRollsDownAtOnce) {
-    for (const auto& [top, atOnce] : std::vector<std::pair<int, bool>>{{900, true}, {-500, false}}) {
+    for (const auto& [top, atOnce] :
+         std::vector<std::pair<int, bool>>{{900, true}, {-500, false}}) {
         WsTestDialog dialog(L"D");
         dialog.Show({10, top, 310, top + 200});
         dialog.ExpandCollapse();

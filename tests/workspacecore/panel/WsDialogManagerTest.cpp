@@ -7,6 +7,7 @@
 #include "platform/arx/DbUndo.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/Publisher.h"
 
 namespace Orvane::Workspace {
 namespace {
@@ -18,7 +19,7 @@ protected:
     static Ids Registered() {
         Ids ids;
         for (const auto& [id, pDialog] : *Manager().GetDialogRegistryMap()) {
-            ids.push_back(WideToUtf8(id) + (pDialog ? "" : "=null"));
+            ids.push_back(WideToUtf8(id.View()) + (pDialog ? "" : "=null"));
         }
         return ids;
     }
@@ -38,7 +39,9 @@ TEST_F(WsDialogManagerTest, ADialogIsMadeByTheFirstFactoryThatKnowsIt) {
     EXPECT_EQ(manager.GetDlgById(L"A"), pA);
     EXPECT_EQ(first->asked, Ids{"A"}) << "it is asked once";
     EXPECT_EQ(second->asked, Ids{});
-    EXPECT_EQ(manager.GetDlgById(L"B"), second->dialogs[L"B"].get());
+    CWsBaseDialog* const pB = manager.GetDlgById(L"B");
+    ASSERT_NE(pB, nullptr);
+    EXPECT_EQ(pB, second->dialogs[L"B"].get());
     EXPECT_EQ(manager.GetDlgById(L"a"), nullptr) << "case counts";
     EXPECT_EQ(second->asked, (Ids{"B", "a"}));
     EXPECT_EQ(manager.GetDlgById(L"a"), nullptr);
@@ -56,7 +59,9 @@ TEST_F(WsDialogManagerTest, ANullEntryAsksTheFactoriesEachTime) {
     const auto factory = AddFactory({L"A"});
     (*Manager().GetDialogRegistryMap())[L"A"] = nullptr;
     EXPECT_TRUE(Manager().IsDialogCreated(L"A")) << "there is an entry";
-    EXPECT_EQ(Manager().GetDlgById(L"A"), factory->dialogs[L"A"].get());
+    CWsBaseDialog* const pDialog = Manager().GetDlgById(L"A");
+    ASSERT_NE(pDialog, nullptr);
+    EXPECT_EQ(pDialog, factory->dialogs[L"A"].get());
     EXPECT_EQ(Registered(), Ids{"A=null"}) << "no entry is replaced";
     Manager().GetDlgById(L"A");
     EXPECT_EQ(factory->asked, (Ids{"A", "A"}));
@@ -181,9 +186,9 @@ TEST_F(WsDialogManagerTest, ADialogMayBeDeletedInItsOwnHandler) {
 
 TEST_F(WsDialogManagerTest, TheLastResortKeepsTenDialogs) {
     const std::vector<CString> kept = {
-        L"DLG_LOGVIEWER",       L"DLG_ORVUTIL",      L"DLG_ORV_TOOLBAR",    L"DLG_ORV_UNDO",
-        L"DLG_PANELSEARCH",     L"DLG_PREVIEW_PANEL", L"DLG_SINGLE_PREVIEW", L"DLG_SMALLDATAWRITER",
-        L"SINGLE_INPUT",        L"WS_SYSMAN_PANELPLUGIN"};
+        L"DLG_LOGVIEWER",   L"DLG_ORVUTIL",          L"DLG_ORV_TOOLBAR",    L"DLG_ORV_UNDO",
+        L"DLG_PANELSEARCH", L"DLG_PREVIEW_PANEL",    L"DLG_SINGLE_PREVIEW", L"DLG_SMALLDATAWRITER",
+        L"SINGLE_INPUT",    L"WS_SYSMAN_PANELPLUGIN"};
     std::vector<CString> all = kept;
     all.insert(all.end(), {L"dlg_logviewer", L"DLG_LOGVIEWER2", L"ANY", L""});
     const auto factory = AddFactory(all);
@@ -193,7 +198,7 @@ TEST_F(WsDialogManagerTest, TheLastResortKeepsTenDialogs) {
     Manager().DeleteAllModelessDialogs();
     Ids expected;
     for (const CString& id : kept) {
-        expected.push_back(WideToUtf8(id));
+        expected.push_back(WideToUtf8(id.View()));
     }
     EXPECT_EQ(Registered(), expected);
     EXPECT_EQ(factory->dialogs.size(), kept.size());
@@ -315,6 +320,7 @@ TEST_F(WsDialogManagerTest, DialogsMayGoWhileAllAreReset) {
     Manager().ResetDialogPositions();
     EXPECT_EQ(Registered(), Ids{"C"});
     EXPECT_EQ(factory->dialogs[L"C"]->GetWindowRect().TopLeft(), CPoint());
+    factory->dialogs.clear();
 }
 
 // The cascade.
@@ -348,8 +354,8 @@ TEST_F(Cascade, ColumnsFillFromTheRight) {
 }
 
 TEST_F(Cascade, OnlyCascadedTypesTakePart) {
-    for (const auto type : {enmDialogFixed, enmDialogSizable, enmDialogFixedHosted,
-                            enmDialogSizableHosted}) {
+    for (const auto type :
+         {enmDialogFixed, enmDialogSizable, enmDialogFixedHosted, enmDialogSizableHosted}) {
         EXPECT_EQ(Place({400, 300}, type, {50, 60}), CPoint(50, 60)) << type;
     }
     EXPECT_EQ(Place({400, 300}), CPoint(1520, 0)) << "the others took no room";
@@ -372,21 +378,31 @@ TEST_F(Cascade, OnlyWithTheCursorOnThePrimaryMonitor) {
         CPoint cursor;
         CPoint expected;
     } cases[] = {
-        {"primary one, another to the left", {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
-         {0, 500}, {1520, 0}},
-        {"one to the left", {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
-         {-1, 500}, {70, 80}},
+        {"primary one, another to the left",
+         {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
+         {0, 500},
+         {1520, 0}},
+        {"one to the left",
+         {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
+         {-1, 500},
+         {70, 80}},
         {"one above", {{{0, 0, 1920, 1080}, {}}, {{200, -900, 1800, 0}, {}}}, {500, -5}, {70, 80}},
-        {"one of the same size", {{{0, 0, 1920, 1080}, {}}, {{1920, 0, 3840, 1080}, {}}},
-         {1920, 5}, {70, 80}},
-        {"the third one", {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}},
-                           {{1920, -300, 3120, 1620}, {}}}, {3000, 1600}, {70, 80}},
+        {"one of the same size",
+         {{{0, 0, 1920, 1080}, {}}, {{1920, 0, 3840, 1080}, {}}},
+         {1920, 5},
+         {70, 80}},
+        {"the third one",
+         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, -300, 3120, 1620}, {}}},
+         {3000, 1600},
+         {70, 80}},
         {"beyond all, nearest to the primary one",
          {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 0, 2720, 600}, {}}},
-         {1500, 9000}, {1520, 301}},
+         {1500, 9000},
+         {1520, 301}},
         {"beyond all, nearest to another",
          {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 0, 2720, 600}, {}}},
-         {9000, 300}, {70, 80}},
+         {9000, 300},
+         {70, 80}},
     };
     for (const auto& row : cases) {
         m_desktop.monitors = row.monitors;

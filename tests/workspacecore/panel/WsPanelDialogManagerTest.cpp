@@ -1,6 +1,7 @@
 // The column of panels: who gets a place, how gaps close, and when dialogs are made.
 #include "tests/workspacecore/panel/WsTestDialog.h"
 
+#include "siblings/giscore/Publisher.h"
 #include "workspacecore/dialogs/WsPanelDialog.h"
 
 namespace Orvane::Workspace {
@@ -46,7 +47,7 @@ protected:
         for (int place = 0; place < 10; ++place) {
             const auto metadata = panels.GetWsPanelMetadata(At(place));
             EXPECT_EQ(panels.IsButtonFree(At(place)), metadata ? 0 : 1) << place;
-            column += metadata ? WideToUtf8(metadata->GetDialogId()) : "-";
+            column += metadata ? WideToUtf8(metadata->GetDialogId().View()) : "-";
         }
         return column;
     }
@@ -74,7 +75,8 @@ TEST_F(WsPanelDialogManagerTest, GapsCloseUpward) {
         {"by place, not by time", {{L"a", 5}, {L"b", 2}}, "--b--a----", "ba--------"},
         {"a full column",
          {{L"h", 7}, {L"a", 0}, {L"b", 1}, {L"c", 2}, {L"d", 3}, {L"e", 4}, {L"f", 5}, {L"g", 6}},
-         "abcdefgh--", "abcdefgh--"},
+         "abcdefgh--",
+         "abcdefgh--"},
         {"beyond the column", {{L"a", 9}, {L"b", 8}, {L"c", 7}}, "-------cba", "c---------"},
         {"before the column", {{L"a", -1}, {L"b", 1}}, "-b--------", "b---------"},
     };
@@ -119,7 +121,9 @@ TEST_F(WsPanelDialogManagerTest, FactoriesAreAskedUntilOneKnowsTheDialog) {
         EXPECT_EQ(factory->asked, std::vector<std::string>(round, "a"));
     }
     factory->known = L"a";
-    EXPECT_EQ(Panels().GetWsPanelDialogByPosition(At(0)), factory->panel.get());
+    CWsPanelDialog* const pDialog = Panels().GetWsPanelDialogByPosition(At(0));
+    ASSERT_NE(pDialog, nullptr);
+    EXPECT_EQ(pDialog, factory->panel.get());
 }
 
 TEST_F(WsPanelDialogManagerTest, AnIdIsFoundInAnyCaseAmongFreePlaces) {
@@ -152,7 +156,9 @@ TEST_F(WsPanelDialogManagerTest, AnotherOneMayStandAtThePlaceThatWasAskedFor) {
     Panels().RegisterWsPanelDialog(Describe(L"a", 1));
     Panels().RegisterWsPanelDialog(Describe(L"b", 2));
     Panels().StackRegisteredPanelButtons();
-    EXPECT_EQ(Panels().GetWsPanelDialogById(L"a"), factory->panel.get());
+    CWsPanelDialog* const pDialog = Panels().GetWsPanelDialogById(L"a");
+    ASSERT_NE(pDialog, nullptr);
+    EXPECT_EQ(pDialog, factory->panel.get());
     EXPECT_EQ(factory->asked, std::vector<std::string>{"b"});
 }
 

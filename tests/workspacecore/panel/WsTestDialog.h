@@ -111,9 +111,7 @@ public:
         dialogs[id] = std::make_unique<WsTestDialog>(id, type);
         return dialogs[id].get();
     }
-    int DeleteWsDialog(const wchar_t* id) override {
-        return static_cast<int>(dialogs.erase(id));
-    }
+    int DeleteWsDialog(const wchar_t* id) override { return static_cast<int>(dialogs.erase(id)); }
     void GetAllDialogIds(std::vector<CString>& ids) override {
         ids.insert(ids.end(), m_ids.begin(), m_ids.end());
     }
@@ -139,7 +137,7 @@ protected:
     static std::string RememberedIds() {
         std::string ids;
         for (const auto& [id, state] : *Manager().GetDialogStates()->GetDialogStateMapById()) {
-            ids += WideToUtf8(id) + " ";
+            ids += WideToUtf8(id.View()) + " ";
         }
         return ids;
     }

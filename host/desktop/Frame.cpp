@@ -200,7 +200,10 @@ void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
-        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
+        // The loop is left as it is: the toolkit's own way would ask every window to close
+        // first, and a dialog that stays open would keep the program.
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     }
     RunPostedSoon();
 }

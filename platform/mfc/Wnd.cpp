@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QPointer>
 
 #include "platform/mfc/DataExchange.h"
 #include "platform/mfc/MessageBox.h"
@@ -11,6 +12,22 @@
 #include "platform/mfc/toolkit/FrameWidget.h"
 #include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/Stacking.h"
+
+namespace {
+
+/// The window that was last asked to become the active one. The window manager takes its
+/// time: until it has answered, the window that is active now is no longer meant to stay so.
+QPointer<QWidget>& AskedToBeActive() {
+    static auto& asked = *new QPointer<QWidget>;
+    return asked;
+}
+
+void Activate(QWidget& window) {
+    AskedToBeActive() = &window;
+    window.activateWindow();
+}
+
+} // namespace
 
 CWnd::CWnd() = default;
 
@@ -158,7 +175,7 @@ void CWnd::BringWindowToTop() {
     if (m_pCore && m_pCore->Outer()) {
         RaiseWidget(m_pCore->Outer());
         if (m_pCore->Outer()->isWindow()) {
-            m_pCore->Outer()->activateWindow();
+            Activate(*m_pCore->Outer());
         }
     }
 }
@@ -189,7 +206,7 @@ bool CWnd::ShowWindow(int command) {
         }
         if (widget.isWindow() && command != SW_SHOWNOACTIVATE) {
             RaiseWidget(&widget);
-            widget.activateWindow();
+            Activate(widget);
         }
     }
     return before;
@@ -216,8 +233,9 @@ void CWnd::SetFocus() {
         return;
     }
     QWidget& widget = *m_pCore->Client();
-    if (!widget.isActiveWindow()) {
-        widget.window()->activateWindow();
+    QWidget& window = *widget.window();
+    if (!window.isActiveWindow() || (AskedToBeActive() && AskedToBeActive() != &window)) {
+        Activate(window);
     }
     if (widget.focusPolicy() == Qt::NoFocus) {
         widget.setFocusPolicy(Qt::ClickFocus);

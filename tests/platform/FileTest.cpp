@@ -36,6 +36,20 @@ TEST(File, AFailedReadSaysWhy) {
     EXPECT_FALSE(ReadFileBytes(nullptr));
 }
 
+TEST(File, AFailureAtTheVeryEndOfTheProcessIsNone) {
+    EXPECT_EXIT(
+        {
+            // Modules save what they keep when they go, after the main thread's own objects.
+            SetLastErrorText(CString(L'x', 5000));
+            std::atexit([] {
+                ReadFileBytes(L"/none");
+                std::_Exit(LastErrorText().IsEmpty() ? 7 : 8);
+            });
+            std::exit(0);
+        },
+        testing::ExitedWithCode(7), "");
+}
+
 TEST(File, AnEmptyFileIsNoFailure) {
     const TempFolder folder;
     folder.Write("empty", "");

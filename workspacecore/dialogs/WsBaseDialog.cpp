@@ -213,9 +213,9 @@ void CWsBaseDialog::OnDestroy() {
 // The caption strip.
 
 bool CWsBaseDialog::OnInitDialog() {
-    const bool result = CAdUiBaseDialog::OnInitDialog();
-    if (!m_captionButtons || (!m_hasSettingsButton && !m_hasHelpButton && !m_hasExpandButton)) {
-        return result;
+    CAdUiBaseDialog::OnInitDialog();
+    if (!m_hasSettingsButton && !m_hasHelpButton && !m_hasExpandButton) {
+        return true;
     }
     const ModuleResources resources;
     m_captionButtons->Attach(this);
@@ -275,11 +275,15 @@ void CWsBaseDialog::ExpandWindow() {
     }
 }
 
-void CWsBaseDialog::SetHeight(int height) {
+bool CWsBaseDialog::SetHeight(int height) {
+    const HWND self = GetSafeHwnd();
     CRect place = GetWindowRect();
     place.bottom = place.top + height;
     MoveWindow(place);
-    UpdateWindow();
+    if (IsWindow(self)) {
+        UpdateWindow();
+    }
+    return IsWindow(self);
 }
 
 void CWsBaseDialog::ExpandCollapse() {
@@ -292,7 +296,9 @@ void CWsBaseDialog::ExpandCollapse() {
     for (const int height : m_isCollapsed
                                 ? ExpandHeights(caption, place.top, m_expandedRect.Height())
                                 : CollapseHeights(place.Height(), caption)) {
-        SetHeight(height);
+        if (!SetHeight(height)) {
+            return;
+        }
     }
     m_isCollapsed = !m_isCollapsed;
     if (m_isCollapsed) {

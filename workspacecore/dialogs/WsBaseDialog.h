@@ -107,7 +107,8 @@ private:
     void SnapToDialogs(class SnapStep& step) const;
     void DressCaptionButton(int number, unsigned int image, int tooltipMessage);
     void OnCaptionButton(int number);
-    void SetHeight(int height);
+    /// False if the window has gone over it, and the dialog perhaps with it.
+    bool SetHeight(int height);
 
     int m_yOffset = 30;
     int m_xOffset = 30;

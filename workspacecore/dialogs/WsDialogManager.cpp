@@ -101,34 +101,36 @@ void CWsDialogManager::DeleteAllModelessDialogs() {
     }
 }
 
-void CWsDialogManager::HideAll() {
-    for (const auto& [id, pDialog] : m_dialogRegistry) {
-        if (pDialog) {
-            pDialog->ShowWindow(SW_HIDE);
+template <class Action>
+void CWsDialogManager::ForEachDialog(Action action) {
+    for (auto next = m_dialogRegistry.begin(); next != m_dialogRegistry.end();) {
+        const CString id = next->first;
+        if (next->second) {
+            action(*next->second);
         }
+        // Handlers of the dialog may have deleted it, or others.
+        next = m_dialogRegistry.upper_bound(id);
     }
 }
 
+void CWsDialogManager::HideAll() {
+    ForEachDialog([](CWsBaseDialog& dialog) { dialog.ShowWindow(SW_HIDE); });
+}
+
 void CWsDialogManager::CloseAll() {
-    for (const auto& [id, pDialog] : m_dialogRegistry) {
-        if (pDialog) {
-            pDialog->CloseWindow();
-        }
-    }
+    ForEachDialog([](CWsBaseDialog& dialog) { dialog.CloseWindow(); });
 }
 
 void CWsDialogManager::ResetDialogPositions() {
     const CORVCDocLock lock;
-    for (const auto& [id, pDialog] : m_dialogRegistry) {
-        if (!pDialog) {
-            continue;
-        }
-        pDialog->MoveWindow(CRect(CPoint(), pDialog->GetWindowRect().Size()));
+    ForEachDialog([](CWsBaseDialog& dialog) {
+        const HWND window = dialog.GetSafeHwnd();
+        dialog.MoveWindow(CRect(CPoint(), dialog.GetWindowRect().Size()));
         WINDOWPLACEMENT placement;
-        if (pDialog->GetWindowPlacement(&placement)) {
+        if (IsWindow(window) && dialog.GetWindowPlacement(&placement)) {
             ForgetPlacesInDrawing();
         }
-    }
+    });
 }
 
 void CWsDialogManager::SetNewWindowPosition(CWsBaseDialog* pDialog) {

@@ -66,6 +66,9 @@ private:
     /// Takes the entry of the dialog's id out, whoever stands there.
     void UnregisterWsDialog(CWsBaseDialog* pDialog);
 
+    template <class Action>
+    void ForEachDialog(Action action);
+
     DialogMap m_dialogRegistry; ///< not owned
     FactoryVector m_dlgFactories;
     std::optional<DialogCascade> m_cascade; ///< starts with the first dialog, never anew

@@ -15,6 +15,11 @@ namespace {
 /// A window manager tells of a move when it is over, and again if it sets the window right.
 constexpr int kSettleMilliseconds = 150;
 
+/// Only of a dialog does the window manager learn that it belongs to its parent's window.
+Qt::WindowFlags WindowKind(const QWidget* pOwner) {
+    return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
+}
+
 } // namespace
 
 bool PlainWidget::event(QEvent* pEvent) {
@@ -35,7 +40,7 @@ FrameWidget::FrameWidget(QWidget* pParent, UINT style)
     : Hooked(pParent, enmWidgetPart::Frame),
       m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
       m_hasCaption((style & WS_CAPTION) == WS_CAPTION), m_sizable((style & WS_THICKFRAME) != 0) {
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setWindowFlags(WindowKind(pParent));
     setMouseTracking(m_sizable);
     m_settle.setSingleShot(true);
     m_settle.setInterval(kSettleMilliseconds);
@@ -231,6 +236,6 @@ std::shared_ptr<WindowCore> MakeWindow(CWnd& wnd, UINT style, CWnd* pParent, UIN
         return WindowCore::Bind(wnd, pFrame, pFrame->Client(), pParent, id, style);
     }
     auto* const pWidget = new PlainWidget(pOwner);
-    pWidget->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    pWidget->setWindowFlags(WindowKind(pOwner));
     return WindowCore::Bind(wnd, pWidget, pWidget, pParent, id, style);
 }

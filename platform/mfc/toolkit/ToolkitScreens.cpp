@@ -190,6 +190,12 @@ public:
         return monitors;
     }
 
+    Monitor Primary() const override {
+        AfxStartToolkit();
+        const QScreen* const pPrimary = QGuiApplication::primaryScreen();
+        return pPrimary ? MonitorOf(*pPrimary) : IScreens::Primary();
+    }
+
     CPoint Cursor() const override {
         AfxStartToolkit();
         return ToScreenPoint(QCursor::pos());

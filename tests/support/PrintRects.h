@@ -1,0 +1,15 @@
+// How failed expectations show points and rectangles.
+#pragma once
+
+#include <ostream>
+
+#include "platform/win/Rect.h"
+
+inline void PrintTo(const CPoint& point, std::ostream* pOut) {
+    *pOut << "(" << point.x << ", " << point.y << ")";
+}
+
+inline void PrintTo(const CRect& rect, std::ostream* pOut) {
+    *pOut << "(" << rect.left << ", " << rect.top << ") to (" << rect.right << ", " << rect.bottom
+          << ")";
+}

@@ -31,11 +31,20 @@ bool PlainWidget::event(QEvent* pEvent) {
     }
 }
 
+namespace {
+
+/// Only of a dialog does the toolkit tell the window manager above which window it stays.
+Qt::WindowFlags OwnWindow(const QWidget* pOwner) {
+    return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
+}
+
+} // namespace
+
 FrameWidget::FrameWidget(QWidget* pParent, UINT style)
     : Hooked(pParent, enmWidgetPart::Frame),
       m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
       m_hasCaption((style & WS_CAPTION) == WS_CAPTION), m_sizable((style & WS_THICKFRAME) != 0) {
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setWindowFlags(OwnWindow(pParent));
     setMouseTracking(m_sizable);
     m_settle.setSingleShot(true);
     m_settle.setInterval(kSettleMilliseconds);
@@ -231,6 +240,6 @@ std::shared_ptr<WindowCore> MakeWindow(CWnd& wnd, UINT style, CWnd* pParent, UIN
         return WindowCore::Bind(wnd, pFrame, pFrame->Client(), pParent, id, style);
     }
     auto* const pWidget = new PlainWidget(pOwner);
-    pWidget->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    pWidget->setWindowFlags(OwnWindow(pOwner));
     return WindowCore::Bind(wnd, pWidget, pWidget, pParent, id, style);
 }

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QImageReader>
+#include <QPainter>
 #include <QtMath>
 
 #include "platform/mfc/IIconSource.h"
@@ -92,6 +93,29 @@ QPixmap ToPixmap(const CImage& image) {
     QPixmap pixmap = QPixmap::fromImage(view.copy());
     pixmap.setDevicePixelRatio(image.Density());
     return pixmap;
+}
+
+QIcon ToRowIcon(const CImage& image) {
+    const QPixmap picture = ToPixmap(image);
+    QIcon icon(picture);
+    if (!picture.isNull()) {
+        constexpr int kPlate = 215;
+        constexpr double kCorner = 2;
+        QPixmap selected(picture.size());
+        selected.setDevicePixelRatio(picture.devicePixelRatio());
+        selected.fill(Qt::transparent);
+        QPainter painter(&selected);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(255, 255, 255, kPlate));
+        painter.drawRoundedRect(QRectF(QPointF(), picture.deviceIndependentSize()), kCorner,
+                                kCorner);
+        painter.drawPixmap(0, 0, picture);
+        painter.end();
+        icon.addPixmap(selected, QIcon::Selected, QIcon::Off);
+        icon.addPixmap(selected, QIcon::Selected, QIcon::On);
+    }
+    return icon;
 }
 
 IIconSource* SetIconSource(IIconSource* pSource) {

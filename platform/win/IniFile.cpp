@@ -77,3 +77,44 @@ const CString* IniFile::Find(const wchar_t* section, const wchar_t* key) const {
     const Entry* entry = found ? found->Find(key) : nullptr;
     return entry ? &entry->value : nullptr;
 }
+
+namespace {
+
+/// Where a line begins, counted from 1; behind the end for one that is not there.
+std::size_t StartOfLine(std::string_view text, int line) {
+    std::size_t place = 0;
+    for (int number = 1; number < line; ++number) {
+        const std::size_t end = text.find('\n', place);
+        if (end == std::string_view::npos) {
+            return text.size();
+        }
+        place = end + 1;
+    }
+    return place;
+}
+
+} // namespace
+
+std::string WithIniValue(std::string_view utf8, const wchar_t* section, const wchar_t* key,
+                         const CString& value) {
+    IniFile file;
+    file.Parse(utf8, L"");
+    const std::string_view lineEnd = utf8.find("\r\n") == std::string_view::npos ? "\n" : "\r\n";
+    const IniFile::Section* const pSection = file.FindSection(section);
+    const IniFile::Entry* const pEntry = pSection ? pSection->Find(key) : nullptr;
+    std::string line = WideToUtf8((pEntry ? pEntry->key : CString(key)).View()) + "=" +
+                       WideToUtf8(value.View()) + std::string(lineEnd);
+    std::string text(utf8);
+    if (!text.empty() && text.back() != '\n') {
+        text += lineEnd;
+    }
+    if (pEntry) {
+        const std::size_t start = StartOfLine(text, pEntry->line);
+        return text.replace(start, StartOfLine(text, pEntry->line + 1) - start, line);
+    }
+    if (pSection) {
+        const int last = pSection->entries.empty() ? pSection->line : pSection->entries.back().line;
+        return text.insert(StartOfLine(text, last + 1), line);
+    }
+    return text + "[" + WideToUtf8(section) + "]" + std::string(lineEnd) + line;
+}

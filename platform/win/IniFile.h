@@ -41,3 +41,8 @@ private:
     std::vector<Section> m_sections;
     std::vector<CString> m_problems;
 };
+
+/// The content of a settings file with one value changed, or added behind the others of its
+/// section. Everything else stays as it was written, comments included.
+PLATFORM_API std::string WithIniValue(std::string_view utf8, const wchar_t* section,
+                                      const wchar_t* key, const CString& value);

@@ -86,8 +86,8 @@ bool SearchAtPrompt() {
     search.where = *where;
     const SearchResult result = SearchDrawing(search, kMostPrinted);
     for (const FoundEntity& entity : result.entities) {
-        acutPrintf(L"%s\n", Text(Msg::FoundLine, entity.kind, entity.name, entity.system,
-                                 entity.foundIn));
+        acutPrintf(L"%s\n",
+                   Text(Msg::FoundLine, entity.kind, entity.name, entity.system, entity.foundIn));
     }
     acutPrintf(L"%s\n", result.count == 0 ? Text(Msg::NothingFound)
                         : result.count > result.entities.size()
@@ -97,8 +97,8 @@ bool SearchAtPrompt() {
 }
 
 bool SearchEntity() {
-    return HasDrawing() && (AfxIsDesktopMode() ? ShowDialog(kFindDialogId) != nullptr
-                                               : SearchAtPrompt());
+    return HasDrawing() &&
+           (AfxIsDesktopMode() ? ShowDialog(kFindDialogId) != nullptr : SearchAtPrompt());
 }
 
 /// Prints the properties, and lets the user change one.
@@ -178,11 +178,17 @@ bool Legend() {
     return HasDrawing() && (AfxIsDesktopMode() ? ShowLegend() : PrintLegend());
 }
 
+bool ShowSettings() {
+    CModuleConfiguration::Instance()->ShowGSDialog(L"");
+    return true;
+}
+
 constexpr PanelCommand kCommands[] = {
     {L"SEARCH_ENTITY", 900630, 900631, SearchEntity},
     {L"ENTITY_PROPERTIES", 900632, 900633, EntityPropertiesCommand},
     {L"SYSTEM_STATISTICS", 900634, 900635, SystemStatistics},
     {L"LEGEND", 900636, 900637, Legend},
+    {L"GENERAL_SETTINGS", 900638, 900639, ShowSettings},
 };
 
 } // namespace

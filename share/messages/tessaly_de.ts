@@ -1394,5 +1394,70 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Command</extracomment>
         <translation>zeigt, wofür die Farben der Zeichnung stehen</translation>
     </message>
+    <message id="900331">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message id="900332">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Minuten zwischen Sicherungen (0: aus):</translation>
+    </message>
+    <message id="900333">
+        <source></source>
+        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <translation>Abf&amp;rage beim Ablegen ausführen</translation>
+    </message>
+    <message id="900334">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Farbe der Markierung:</translation>
+    </message>
+    <message id="900335">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Dezimalen gleicher Lagen:</translation>
+    </message>
+    <message id="900336">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Netzablage (Ordner):</translation>
+    </message>
+    <message id="900340">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="900341">
+        <source></source>
+        <extracomment>Button: chooses a colour</extracomment>
+        <translation>&amp;Wahl</translation>
+    </message>
+    <message id="900345">
+        <source></source>
+        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
+        <translation>&quot;%s&quot; ist eine ganze Zahl von %d bis %d.</translation>
+    </message>
+    <message id="900346">
+        <source></source>
+        <extracomment>Reason; with a setting</extracomment>
+        <translation>&quot;%s&quot; ist eine Zeile Text.</translation>
+    </message>
+    <message id="900347">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Einstellungen konnten nicht geschrieben werden: %s</translation>
+    </message>
+    <message id="900638">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Allgemeine Einstellungen</translation>
+    </message>
+    <message id="900639">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
+    </message>
 </context>
 </TS>

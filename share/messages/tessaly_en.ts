@@ -1394,5 +1394,70 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Command</extracomment>
         <translation>shows what the colours of the drawing stand for</translation>
     </message>
+    <message id="900331">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message id="900332">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Minutes between autosaves (0: off):</translation>
+    </message>
+    <message id="900333">
+        <source></source>
+        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <translation>&amp;Run a query that is dropped on a dialog</translation>
+    </message>
+    <message id="900334">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>C&amp;olour of marks:</translation>
+    </message>
+    <message id="900335">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Decimals of equal positions:</translation>
+    </message>
+    <message id="900336">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Net repository (folder):</translation>
+    </message>
+    <message id="900340">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="900341">
+        <source></source>
+        <extracomment>Button: chooses a colour</extracomment>
+        <translation>&amp;Choose</translation>
+    </message>
+    <message id="900345">
+        <source></source>
+        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
+        <translation>&quot;%s&quot; is a whole number from %d to %d.</translation>
+    </message>
+    <message id="900346">
+        <source></source>
+        <extracomment>Reason; with a setting</extracomment>
+        <translation>&quot;%s&quot; is one line of text.</translation>
+    </message>
+    <message id="900347">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>The settings could not be written: %s</translation>
+    </message>
+    <message id="900638">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>General settings</translation>
+    </message>
+    <message id="900639">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>shows and changes language, colours, folders and the like</translation>
+    </message>
 </context>
 </TS>

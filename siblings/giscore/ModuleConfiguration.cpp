@@ -2,8 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
+#include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
+#include "siblings/giscore/GeneralSettings.h"
+#include "siblings/giscore/GeneralSettingsDialog.h"
 #include "siblings/giscore/GisEvents.h"
 #include "siblings/giscore/IconStore.h"
 #include "siblings/giscore/MessageCatalogue.h"
@@ -16,6 +20,8 @@ namespace Orvane {
 namespace {
 
 constexpr const wchar_t* kGeneral = L"General";
+constexpr const wchar_t* kSettingsFile = L"Settings.ini";
+constexpr int kMsgNotWritten = 900347; // with the reason
 constexpr const wchar_t* kPrecisionKey = L"NODE_INDEX_PRECISION";
 constexpr int kDefaultPrecision = 3;
 
@@ -46,7 +52,7 @@ CModuleConfiguration::CModuleConfiguration() : m_pIcons(std::make_unique<CIconSt
 }
 
 void CModuleConfiguration::ReadSettings() {
-    const CString path = GetPath(L"support") + L"Settings.ini";
+    const CString path = GetPath(L"support") + kSettingsFile;
     std::vector<CString> problems = LoadSupportFile(m_settings, path);
     const IniFile::Section* const pGeneral = m_settings.FindSection(kGeneral);
     for (const wchar_t* key : kNumberKeys) {
@@ -57,7 +63,7 @@ void CModuleConfiguration::ReadSettings() {
             problems.push_back(problem);
         }
     }
-    SetProblems(L"Settings.ini", std::move(problems));
+    SetProblems(kSettingsFile, std::move(problems));
     ChooseLanguage();
 }
 
@@ -123,7 +129,24 @@ void CModuleConfiguration::ReloadGeneralSettings() {
     System::CGisEvents::Instance()->Raise(&System::ISystemEvents::OnAfterGeneralSettingsChanged);
 }
 
-void CModuleConfiguration::ShowGSDialog(const wchar_t* /*dialogId*/) {}
+void CModuleConfiguration::ShowGSDialog(const wchar_t* /*dialogId*/) {
+    GeneralSettings settings;
+    for (const GeneralSetting& setting : GeneralSettingList()) {
+        CString& value = settings[CString(setting.key)];
+        value = setting.usual;
+        GetGSValueText(setting.key, value);
+    }
+    const GeneralSettings before = settings;
+    CGeneralSettingsDialog dialog(settings);
+    if (dialog.DoModal() != IDOK || settings == before) {
+        return;
+    }
+    if (WriteGeneralSettings(GetPath(L"support") + kSettingsFile, before, settings)) {
+        ReloadGeneralSettings();
+    } else {
+        acedAlert(FormatText(GetMsg(kMsgNotWritten).View(), LastErrorText()).c_str());
+    }
+}
 
 int CModuleConfiguration::GetNodeIndexCoorPrecision() const {
     int precision = kDefaultPrecision;

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QPixmap>
 #include <QPoint>
 #include <QRect>
@@ -39,3 +40,6 @@ inline COLORREF ToColorRef(const QColor& color) {
 QFont ToQFont(const LOGFONT& font);
 LOGFONT ToLogFont(const QFont& font);
 QPixmap ToPixmap(const CImage& image);
+/// For rows: on a selected one, where the toolkit would tint the picture till it cannot be told
+/// from the ground, it stands on a light plate.
+QIcon ToRowIcon(const CImage& image);

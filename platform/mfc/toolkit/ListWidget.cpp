@@ -159,7 +159,7 @@ void ListWidget::SetExtendedStyle(UINT style) {
 void ListWidget::SetImages(const CImageList& images) {
     m_images.clear();
     for (int index = 0; index < images.GetImageCount(); ++index) {
-        m_images.push_back(ToPixmap(images.GetImage(index)));
+        m_images.push_back(ToRowIcon(images.GetImage(index)));
     }
     m_imageSize = QSize(images.ImageSize().cx, images.ImageSize().cy);
     setIconSize(m_imageSize);

@@ -101,7 +101,7 @@ private:
     ListModel m_model;
     UINT m_style;
     UINT m_extendedStyle = 0;
-    std::vector<QPixmap> m_images;
+    std::vector<QIcon> m_images;
     QSize m_imageSize;
     std::optional<COLORREF> m_textColor;
     std::optional<COLORREF> m_backColor;

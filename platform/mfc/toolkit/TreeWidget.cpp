@@ -54,7 +54,7 @@ TreeWidget::TreeWidget(QWidget* pParent, UINT style) : HookedArea(pParent) {
 void TreeWidget::SetImages(const CImageList& images) {
     m_model.images.clear();
     for (int index = 0; index < images.GetImageCount(); ++index) {
-        m_model.images.push_back(ToPixmap(images.GetImage(index)));
+        m_model.images.push_back(ToRowIcon(images.GetImage(index)));
     }
     setIconSize(QSize(images.ImageSize().cx, images.ImageSize().cy));
     viewport()->update();

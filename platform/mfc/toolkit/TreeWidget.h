@@ -51,7 +51,7 @@ public:
     std::size_t Count() const { return m_count; }
 
     bool editable = false;
-    std::vector<QPixmap> images;
+    std::vector<QIcon> images;
     HTREEITEM selected = nullptr;
     HTREEITEM dropTarget = nullptr;
     /// Asked whether a label that the user wrote shall stand.

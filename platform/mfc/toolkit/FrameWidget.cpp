@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/ScreenPlace.h"
@@ -19,6 +21,32 @@ constexpr int kSettleMilliseconds = 150;
 Qt::WindowFlags WindowKind(const QWidget* pOwner) {
     return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
 }
+
+/// A button on the caption. Of its icon the shape alone counts: it is drawn in the colour of
+/// the caption's text, which depends on whether the window is the active one.
+class CaptionButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        // Under the mouse it has a background of its own.
+        const bool isFlat = !(option.state & (QStyle::State_MouseOver | QStyle::State_Sunken));
+        QPixmap shape = icon().pixmap(iconSize(), devicePixelRatio());
+        if (!shape.isNull()) {
+            QPainter painter(&shape);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(shape.rect(),
+                             palette().color(!isFlat            ? QPalette::ButtonText
+                                             : isActiveWindow() ? QPalette::HighlightedText
+                                                                : QPalette::WindowText));
+        }
+        option.icon = QIcon(shape);
+        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+    }
+};
 
 } // namespace
 
@@ -66,7 +94,7 @@ void FrameWidget::SetCaption(const QString& text) {
 }
 
 QToolButton* FrameWidget::AddCaptionButton() {
-    auto* const pButton = new QToolButton(this);
+    auto* const pButton = new CaptionButton(this);
     pButton->setAutoRaise(true);
     pButton->setFocusPolicy(Qt::NoFocus);
     pButton->setVisible(true);

@@ -17,6 +17,9 @@ namespace {
 /// A window manager tells of a move when it is over, and again if it sets the window right.
 constexpr int kSettleMilliseconds = 150;
 
+/// What of a window's width is always left to take it by.
+constexpr int kLeastWidth = 60;
+
 /// Only of a dialog does the window manager learn that it belongs to its parent's window.
 Qt::WindowFlags WindowKind(const QWidget* pOwner) {
     return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
@@ -69,6 +72,8 @@ FrameWidget::FrameWidget(QWidget* pParent, UINT style)
       m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
       m_hasCaption((style & WS_CAPTION) == WS_CAPTION), m_sizable((style & WS_THICKFRAME) != 0) {
     setWindowFlags(WindowKind(pParent));
+    setMinimumSize(Surplus().width() + kLeastWidth,
+                   EdgeWidth() + (m_hasCaption ? CaptionHeight() : 0));
     setMouseTracking(m_sizable);
     m_settle.setSingleShot(true);
     m_settle.setInterval(kSettleMilliseconds);
@@ -206,7 +211,7 @@ void FrameWidget::DragTo(const QPoint& onScreen) {
     if (!m_edges) {
         wanted.translate(way);
     } else {
-        const QSize least(Surplus().width() + 60, Surplus().height());
+        const QSize least(minimumWidth(), Surplus().height());
         if (m_edges & Qt::LeftEdge) {
             wanted.setLeft(std::min(wanted.left() + way.x(), wanted.right() - least.width()));
         }

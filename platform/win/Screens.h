@@ -22,7 +22,8 @@ public:
     virtual ~IScreens() = default;
     /// The primary one first; never empty.
     virtual std::vector<Monitor> Monitors() const = 0;
-    /// The first of them, for whoever asks at every step of the mouse.
+    /// The first of them, for whoever asks at every step of the mouse: its work area may be a
+    /// quarter of a second old.
     virtual Monitor Primary() const { return Monitors().front(); }
     virtual CPoint Cursor() const = 0;
     /// The visible top-level windows of this process, from the front to the back.

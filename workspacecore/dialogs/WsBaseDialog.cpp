@@ -40,6 +40,13 @@ CUiStates::DialogStatePtr NeedState(const wchar_t* dialogId) {
     return state;
 }
 
+/// A minimised window counts as a visible one, but there is nothing at its place.
+bool IsInSight(const CWnd& window) {
+    WINDOWPLACEMENT placement;
+    return window.IsWindowVisible() && window.GetWindowPlacement(&placement) &&
+           placement.showCmd != SW_SHOWMINIMIZED;
+}
+
 } // namespace
 
 CWsBaseDialog::CWsBaseDialog(unsigned int, const wchar_t* dialogId, enmDialogType type,
@@ -193,7 +200,7 @@ void CWsBaseDialog::OnWindowPosChanging(tagWINDOWPOS* pPlace) {
 
 void CWsBaseDialog::SnapToDialogs(SnapStep& step) const {
     for (const auto& [id, pDialog] : *Dialogs().GetDialogRegistryMap()) {
-        if (pDialog && IsCascaded(pDialog->m_dialogType) && pDialog->IsWindowVisible() &&
+        if (pDialog && IsCascaded(pDialog->m_dialogType) && IsInSight(*pDialog) &&
             pDialog->m_dialogId != m_dialogId) {
             step.ToDialog(pDialog->GetWindowRect());
         }

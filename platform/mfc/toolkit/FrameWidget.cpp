@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/ScreenPlace.h"
@@ -15,10 +17,39 @@ namespace {
 /// A window manager tells of a move when it is over, and again if it sets the window right.
 constexpr int kSettleMilliseconds = 150;
 
+/// What of a window's width is always left to take it by.
+constexpr int kLeastWidth = 60;
+
 /// Only of a dialog does the window manager learn that it belongs to its parent's window.
 Qt::WindowFlags WindowKind(const QWidget* pOwner) {
     return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
 }
+
+/// A button on the caption. Of its icon the shape alone counts: it is drawn in the colour of
+/// the caption's text, which depends on whether the window is the active one.
+class CaptionButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        // Under the mouse it has a background of its own.
+        const bool isFlat = !(option.state & (QStyle::State_MouseOver | QStyle::State_Sunken));
+        QPixmap shape = icon().pixmap(iconSize(), devicePixelRatio());
+        if (!shape.isNull()) {
+            QPainter painter(&shape);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(shape.rect(),
+                             palette().color(!isFlat            ? QPalette::ButtonText
+                                             : isActiveWindow() ? QPalette::HighlightedText
+                                                                : QPalette::WindowText));
+        }
+        option.icon = QIcon(shape);
+        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+    }
+};
 
 } // namespace
 
@@ -41,6 +72,8 @@ FrameWidget::FrameWidget(QWidget* pParent, UINT style)
       m_pClient(new PlainWidget(this, enmWidgetPart::Client)),
       m_hasCaption((style & WS_CAPTION) == WS_CAPTION), m_sizable((style & WS_THICKFRAME) != 0) {
     setWindowFlags(WindowKind(pParent));
+    setMinimumSize(Surplus().width() + kLeastWidth,
+                   EdgeWidth() + (m_hasCaption ? CaptionHeight() : 0));
     setMouseTracking(m_sizable);
     m_settle.setSingleShot(true);
     m_settle.setInterval(kSettleMilliseconds);
@@ -66,7 +99,7 @@ void FrameWidget::SetCaption(const QString& text) {
 }
 
 QToolButton* FrameWidget::AddCaptionButton() {
-    auto* const pButton = new QToolButton(this);
+    auto* const pButton = new CaptionButton(this);
     pButton->setAutoRaise(true);
     pButton->setFocusPolicy(Qt::NoFocus);
     pButton->setVisible(true);
@@ -178,7 +211,7 @@ void FrameWidget::DragTo(const QPoint& onScreen) {
     if (!m_edges) {
         wanted.translate(way);
     } else {
-        const QSize least(Surplus().width() + 60, Surplus().height());
+        const QSize least(minimumWidth(), Surplus().height());
         if (m_edges & Qt::LeftEdge) {
             wanted.setLeft(std::min(wanted.left() + way.x(), wanted.right() - least.width()));
         }

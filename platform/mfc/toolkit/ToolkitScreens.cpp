@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <QCursor>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
@@ -193,7 +194,17 @@ public:
     Monitor Primary() const override {
         AfxStartToolkit();
         const QScreen* const pPrimary = QGuiApplication::primaryScreen();
-        return pPrimary ? MonitorOf(*pPrimary) : IScreens::Primary();
+        if (!pPrimary) {
+            return IScreens::Primary();
+        }
+        // With several monitors the server is asked about all panels: too long for each step.
+        const CRect full = ToScreenRect(pPrimary->geometry());
+        if (!m_primaryAge.isValid() || m_primaryAge.hasExpired(kPrimaryMilliseconds) ||
+            m_primary.full != full || QGuiApplication::screens().size() < 2) {
+            m_primary = MonitorOf(*pPrimary);
+            m_primaryAge.start();
+        }
+        return m_primary;
     }
 
     CPoint Cursor() const override {
@@ -217,6 +228,12 @@ public:
         }
         return handles;
     }
+
+private:
+    static constexpr qint64 kPrimaryMilliseconds = 250;
+
+    mutable Monitor m_primary;
+    mutable QElapsedTimer m_primaryAge;
 };
 
 IScreens* g_pScreens = nullptr;

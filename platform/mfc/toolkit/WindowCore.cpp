@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QUrl>
 
 #include "platform/mfc/toolkit/Application.h"
@@ -36,6 +37,23 @@ HWND NextHandle() {
 }
 
 const QEvent::Type kPostedMessage = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// Places come from files, too. No display has more pixels than this, and with numbers that a
+/// display cannot carry the toolkit would reckon beyond its own.
+constexpr int kFarthest = 32767;
+constexpr int kLargest = 8192;
+
+QPoint OnAnyDisplay(QPoint point) {
+    return {std::clamp(point.x(), -kFarthest, kFarthest),
+            std::clamp(point.y(), -kFarthest, kFarthest)};
+}
+
+QSize OfAnyDisplay(QSize size) {
+    const QSize all = QGuiApplication::primaryScreen()
+                          ? QGuiApplication::primaryScreen()->virtualSize()
+                          : QSize();
+    return size.boundedTo(all.expandedTo(QSize(kLargest, kLargest))).expandedTo(QSize(0, 0));
+}
 
 struct PostedMessage final : QEvent {
     PostedMessage(UINT m, WPARAM w, LPARAM l)
@@ -444,10 +462,10 @@ void WindowCore::Place(WINDOWPOS place, const WindowCore* pInsertAfter) {
     }
     QRect wanted = now;
     if (!(place.flags & SWP_NOMOVE)) {
-        wanted.moveTo(place.x, place.y);
+        wanted.moveTo(OnAnyDisplay({place.x, place.y}));
     }
     if (!(place.flags & SWP_NOSIZE)) {
-        wanted.setSize(QSize(std::max(place.cx, 0), std::max(place.cy, 0)));
+        wanted.setSize(OfAnyDisplay({place.cx, place.cy}));
     }
     TakeGeometry(wanted);
     if (!(place.flags & SWP_NOZORDER) && m_outer) {

@@ -117,6 +117,10 @@ TEST_F(DialogSnapping, OnlyVisibleOthersOfAnotherIdAttract) {
     drag.To({885, 470});
     EXPECT_EQ(Corner(), CPoint(900, 450));
 
+    hidden.CloseWindow();
+    drag.To({885, 470});
+    EXPECT_EQ(Corner(), CPoint(885, 470)) << "minimised";
+
     WsTestDialog sameInOtherCase(L"moved");
     sameInOtherCase.Show({1300, 300, 1500, 450});
     drag.To({1290, 440});

@@ -210,6 +210,29 @@ TEST_F(WsBaseDialogTest, TheSizeComesBackIfTheStateSaysSo) {
     }
 }
 
+TEST_F(WsBaseDialogTest, NumbersBeyondAllDisplaysLeaveADialogThatWorks) {
+    m_host.Support().Write(
+        "uiStates.xml",
+        "<uiStates><dialogState id='FAR' left='-9999999999' top='-9999999999' width='9999999999' "
+        "height='9999999999' resizable='1'/><dialogState id='LESS' left='5' top='6' width='-7' "
+        "height='-9999999999' resizable='-3'/></uiStates>");
+    for (const wchar_t* id : {L"FAR", L"LESS"}) {
+        WsTestDialog dialog(id, enmDialogSizable);
+        dialog.Create(kWsSizable);
+        EXPECT_EQ(dialog.LoadWindowPosition(), 1);
+        dialog.ShowWindow(SW_SHOW);
+        AfxPumpMessages();
+        const CRect place = dialog.GetWindowRect();
+        EXPECT_LE(place.Width(), 8192) << id;
+        EXPECT_LE(place.Height(), 8192) << id;
+        // What is left of it can be taken by its caption.
+        dialog.MoveWindow({700, 500, 700, 500});
+        Drag drag(dialog);
+        drag.To({300, 200});
+        EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(300, 200)) << id;
+    }
+}
+
 TEST_F(WsBaseDialogTest, RestoringLeavesTheOrderOfWindows) {
     WsTestDialog behind(L"BEHIND");
     WsTestDialog front(L"FRONT");

@@ -202,8 +202,7 @@ void Frame::AfterRunning() {
         // Behind what is still open, so that nothing is left in a loop of its own.
         // The loop is left as it is: the toolkit's own way would ask every window to close
         // first, and a dialog that stays open would keep the program.
-        QMetaObject::invokeMethod(
-            qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
     }
     RunPostedSoon();
 }

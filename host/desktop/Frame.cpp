@@ -200,12 +200,15 @@ void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
-        // The loop is left as it is: the toolkit's own way would ask every window to close
-        // first, and a dialog that stays open would keep the program.
-        QMetaObject::invokeMethod(
-            qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "LeaveLoop", Qt::QueuedConnection);
     }
     RunPostedSoon();
+}
+
+void Frame::LeaveLoop() {
+    // Not by quit(): that would ask every window to close first, and a dialog that stays open
+    // would keep the program.
+    QCoreApplication::exit();
 }
 
 void Frame::RunAnswered(const CString& name, const std::vector<CString>& answers) {

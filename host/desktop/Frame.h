@@ -79,6 +79,7 @@ protected:
 
 private slots:
     void RunPosted();
+    void LeaveLoop();
 
 private:
     void documentBecameCurrent(AcApDocument* pDoc) override;

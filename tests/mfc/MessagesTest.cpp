@@ -186,7 +186,7 @@ TEST_F(MessagesTest, AWindowMayGoInItsOwnHandlers) {
     pWnd = make();
     pWnd->onTimer = [pWnd](DWORD_PTR) { pWnd->DestroyWindow(); };
     pWnd->SetTimer(1, 1);
-    QTest::qWait(20);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_log.size() == 3; }));
     EXPECT_EQ(m_log, (Log{"w timer 1", "w destroy 50", "w gone"})) << "in its timer";
 
     pWnd = make();

@@ -198,10 +198,11 @@ public:
             return IScreens::Primary();
         }
         // With several monitors the server is asked about all panels: too long for each step.
-        const CRect full = ToScreenRect(pPrimary->geometry());
+        const QRect geometry = pPrimary->geometry();
         if (!m_primaryAge.isValid() || m_primaryAge.hasExpired(kPrimaryMilliseconds) ||
-            m_primary.full != full || QGuiApplication::screens().size() < 2) {
+            m_primaryGeometry != geometry || QGuiApplication::screens().size() < 2) {
             m_primary = MonitorOf(*pPrimary);
+            m_primaryGeometry = geometry;
             m_primaryAge.start();
         }
         return m_primary;
@@ -233,6 +234,7 @@ private:
     static constexpr qint64 kPrimaryMilliseconds = 250;
 
     mutable Monitor m_primary;
+    mutable QRect m_primaryGeometry;
     mutable QElapsedTimer m_primaryAge;
 };
 

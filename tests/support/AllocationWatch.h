@@ -31,9 +31,13 @@ private:
     std::function<void()> m_onAllocation;
 };
 
-void* operator new(std::size_t size) {
+// Single objects alone, in every form, so that a checker of memory finds its own pairs.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     AllocationWatch::Tell();
-    if (void* const memory = std::malloc(size ? size : 1)) {
+    return std::malloc(size ? size : 1);
+}
+void* operator new(std::size_t size) {
+    if (void* const memory = operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();
@@ -42,5 +46,8 @@ void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
     std::free(memory);
 }

@@ -13,15 +13,23 @@
 #include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
 #include "siblings/giscore/ModuleConfiguration.h"
+#include "workspacecore/core/WsManager.h"
 #include "workspacecore/panel/TreeMenus.h"
-#include "workspacecore/panel/WsTreeManager.h"
 
 namespace {
 
 using namespace Orvane;
 using namespace Orvane::Workspace;
 
-constexpr int kFunctions = 8;
+/// All that a configuration can have, each with two functions.
+constexpr struct {
+    enmTopologyType type;
+    const char* section;
+} kTopologies[] = {{TopologyLine, "line"},
+                   {TopologyPolygon, "polygon"},
+                   {TopologyPoint, "point"},
+                   {TopologyScheme, "scheme"}};
+constexpr int kFunctions[] = {1, 2};
 constexpr enmEntityType kEntityTypes[] = {EntityNode, EntitySection, EntityPolygon,
                                           EntityPolygonNode, EntityLongitudinalSection};
 
@@ -32,6 +40,15 @@ double Milliseconds(auto&& work) {
         .count();
 }
 
+template <class Record>
+void AddTopologies(Record& record) {
+    for (const auto& topology : kTopologies) {
+        for (const int function : kFunctions) {
+            record.AddWsTopologyData(boost::make_shared<CWsTopologyData>(topology.type, function));
+        }
+    }
+}
+
 /// Families of a folder, five entity folders and five configurations in each tree.
 void AddFamilies(CWsTreeItemDefinitionList& list, int definitions) {
     const auto add = [&](enmWSTreeItemType type, const CString& tag, enmEntityType entityType) {
@@ -40,10 +57,7 @@ void AddFamilies(CWsTreeItemDefinitionList& list, int definitions) {
         definition->SetRepositoryTag(tag);
         definition->SetWsItemType(type);
         definition->SetEntityType(entityType);
-        for (int function = 1; function <= kFunctions; ++function) {
-            definition->AddWsTopologyData(
-                boost::make_shared<CWsTopologyData>(TopologyLine, function));
-        }
+        AddTopologies(*definition);
         list.AddWsTreeItemDefinition(definition);
     };
     add(WsItemSystem, L"SYSTEM", EntityNone);
@@ -79,15 +93,20 @@ void Templates() {
             list.InitializeNetTreeTemplate();
         });
         std::size_t nodes = Nodes(*list.GetDiskTreeTemplate()) + Nodes(*list.GetNetTreeTemplate());
-        for (int function = 1; function <= kFunctions; ++function) {
-            nodes += Nodes(*list.GetSystemTreeTemplate(TopologyLine, function));
-        }
-        const double bare = Milliseconds([&] {
-            std::vector<CWsTreeTemplate::Ptr> made;
-            for (std::size_t i = 0; i < nodes; ++i) {
-                made.push_back(CWsTreeTemplate::Ptr(new CWsTreeTemplate));
+        for (const auto& topology : kTopologies) {
+            for (const int function : kFunctions) {
+                nodes += Nodes(*list.GetSystemTreeTemplate(topology.type, function));
             }
-        });
+        }
+        double bare = 1e9;
+        for (int run = 0; run < 10; ++run) {
+            bare = std::min(bare, Milliseconds([&] {
+                                std::vector<CWsTreeTemplate::Ptr> made;
+                                for (std::size_t i = 0; i < nodes; ++i) {
+                                    made.push_back(CWsTreeTemplate::Ptr(new CWsTreeTemplate));
+                                }
+                            }));
+        }
         std::cout << "templates of " << definitions << " definitions: " << all << " ms for "
                   << nodes << " nodes, " << all / bare << " times making as many bare nodes\n";
     }
@@ -104,17 +123,15 @@ void Menus() {
         command->SetRepositoryTag(i % 100 == 0 ? L"QUERY" : L"OTHER");
         command->SetCmdGroup(static_cast<enmCommandGroup>(1 + i % 23));
         command->SetWsItemTypes(WsItemSystemConfiguration);
-        for (int function = 1; function <= kFunctions; ++function) {
-            command->AddWsTopologyData(boost::make_shared<CWsTopologyData>(TopologyLine, function));
-        }
+        AddTopologies(*command);
         registry.AddWsCommand(command);
     }
     CWsTreeItemDefinition definition;
     definition.SetWsItemType(WsItemSystemConfiguration);
     definition.SetRepositoryTag(L"QUERY");
     MenuTopology topology;
-    topology.type = TopologyLine;
-    topology.function = 5;
+    topology.type = TopologyPoint;
+    topology.function = 1;
     double best = 1e9;
     std::size_t entries = 0;
     for (int run = 0; run < 50; ++run) {
@@ -142,7 +159,11 @@ void Menus() {
 
 constexpr DialogTemplate kDialog[] = {{900, 250, 115, L"Trees", WS_POPUP | WS_CAPTION, {}}};
 
+/// Nodes of a branch, itself included.
+constexpr std::size_t kBranch = 10;
+
 void Views() {
+    CWsManager& manager = *CWsManager::Instance();
     AddDialogTemplates(nullptr, kDialog);
     CDialog dialog(900, nullptr);
     dialog.Create(900, nullptr);
@@ -150,26 +171,32 @@ void Views() {
     for (const int count : {25'000, 50'000, 100'000, 200'000}) {
         CTreeCtrl view;
         view.Create(WS_VISIBLE, CRect(0, 0, 300, 400), &dialog, 1);
+        manager.RegisterTreeControl(&view);
         std::vector<CWsTreeItemData> data(static_cast<std::size_t>(count));
         HTREEITEM root = nullptr;
         const double fill = Milliseconds([&] {
             root = view.InsertItem(L"root");
-            for (CWsTreeItemData& record : data) {
-                record.SetTreeItem(view.InsertItem(L"node", -1, -1, root));
-                view.SetItemData(record.GetTreeItem(), reinterpret_cast<DWORD_PTR>(&record));
+            HTREEITEM branch = root;
+            for (std::size_t i = 0; i < data.size(); ++i) {
+                const bool begins = i % kBranch == 0;
+                const HTREEITEM node = view.InsertItem(L"node", -1, -1, begins ? root : branch);
+                branch = begins ? node : branch;
+                data[i].SetTreeItem(node);
+                view.SetItemData(node, reinterpret_cast<DWORD_PTR>(&data[i]));
             }
             view.Expand(root, TVE_EXPAND);
             AfxPumpMessages();
         });
         const double remove = Milliseconds([&] {
-            // As the tree manager does it, from the first child on.
-            while (const HTREEITEM child = view.GetChildItem(root)) {
-                view.DeleteItem(child);
-            }
+            manager.TreeMgr()->DeleteTreeItem(root);
             AfxPumpMessages();
         });
+        if (view.GetCount() != 1) {
+            std::cout << view.GetCount() << " nodes left where one should be\n";
+        }
         std::cout << "tree of " << count << " nodes: filled in " << fill << " ms, emptied in "
                   << remove << " ms\n";
+        manager.RegisterTreeControl(nullptr);
         view.DestroyWindow();
     }
     dialog.DestroyWindow();
@@ -183,12 +210,14 @@ int main() {
         return 1;
     }
     std::ofstream file(std::string(folder) + "/TopologyConfiguration.ini");
-    file << "[line]\n";
-    for (const enmEntityType type : kEntityTypes) {
-        file << "entity." << type << "=E" << type << "\n";
-    }
-    for (int function = 1; function <= kFunctions; ++function) {
-        file << "function." << function << "=F" << function << "\n";
+    for (const auto& topology : kTopologies) {
+        file << "[" << topology.section << "]\n";
+        for (const enmEntityType type : kEntityTypes) {
+            file << "entity." << type << "=E" << type << "\n";
+        }
+        for (const int function : kFunctions) {
+            file << "function." << function << "=F" << function << "\n";
+        }
     }
     file.close();
     SetHostOption(kHostOptionSupport, Utf8ToWide(folder).c_str());

@@ -14,7 +14,7 @@ inline std::string Narrow(const CString& text) {
 }
 
 /// "id" at its depth; then "+" for a place to add, with the kind of configuration, and "e"
-/// with the entity type where it belongs to one.
+/// with the entity type where it belongs to one; "?" where the way up is not the way down.
 inline std::string Outline(const CWsTreeTemplate& node, int depth = 0) {
     std::string line(static_cast<std::size_t>(depth) * 2, ' ');
     line += node.GetItemDefinition() ? Narrow(node.GetItemDefinition()->GetId()) : "(none)";
@@ -29,7 +29,7 @@ inline std::string Outline(const CWsTreeTemplate& node, int depth = 0) {
     }
     line += "\n";
     for (const auto& child : *node.GetChildren()) {
-        line += Outline(*child, depth + 1);
+        line += (child->GetParentItem().get() == &node ? "" : "?") + Outline(*child, depth + 1);
     }
     return line;
 }

@@ -1,7 +1,10 @@
 // What menus contain, and finding a command by what was chosen.
+#include <algorithm>
 #include <gtest/gtest.h>
 
+#include "platform/arx/ApDocManager.h"
 #include "platform/mfc/Menu.h"
+#include "siblings/giscore/SystemManager.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 #include "workspacecore/panel/TreeMenus.h"
@@ -12,13 +15,15 @@ namespace {
 constexpr auto kOtherGroup = static_cast<enmCommandGroup>(3);
 constexpr auto kFarGroup = static_cast<enmCommandGroup>(23);
 
-/// A command of a tree item of the kind WsItemSystem.
+/// A command, of a tree item of the kind WsItemSystem unless it says otherwise.
 struct Entry {
     const wchar_t* id;
     enmCommandGroup group;
     enmEntityType entityType = EntityNone;
     enmTreeCommandBehavior behavior = TreeBehaviorNone;
     const wchar_t* tag = L"";
+    unsigned long itemTypes = WsItemSystem;
+    std::vector<CWsTopologyData> topologies = {};
 };
 
 void Fill(CWsCommandRegistry& registry, std::initializer_list<Entry> entries) {
@@ -30,7 +35,10 @@ void Fill(CWsCommandRegistry& registry, std::initializer_list<Entry> entries) {
         command->SetEntityType(entry.entityType);
         command->SetTreeCmdBehavior(entry.behavior);
         command->SetRepositoryTag(entry.tag);
-        command->SetWsItemTypes(WsItemSystem);
+        command->SetWsItemTypes(entry.itemTypes);
+        for (const CWsTopologyData& data : entry.topologies) {
+            command->AddWsTopologyData(boost::make_shared<CWsTopologyData>(data));
+        }
         registry.AddWsCommand(command);
     }
 }
@@ -41,6 +49,16 @@ std::string Names(const MenuEntries& entries) {
         names += (entry ? Narrow(entry->GetId()) : "-") + " ";
     }
     return names;
+}
+
+/// "text:id" of the items.
+std::string Shown(const CMenu& menu) {
+    std::string shown;
+    for (UINT place = 0; place < menu.GetMenuItemCount(); ++place) {
+        shown += Narrow(menu.GetMenuString(place)) + ":" +
+                 std::to_string(menu.GetMenuItemID(place)) + " ";
+    }
+    return shown;
 }
 
 CWsTreeItemDefinition Item(enmEntityType entityType, const wchar_t* tag = L"") {
@@ -100,6 +118,59 @@ TEST(TreeMenus, SectionsAreFilteredByEntityAndDividedForTheSakeOfWhatFollows) {
     }
 }
 
+TEST(TreeMenus, CommandsAreAskedForByFamilyKindAndTopology) {
+    const TestHost host;
+    acDocManagerPtr()->newDocument(L"a.dwg");
+    auto& systems = *System::CSystemManager::Instance();
+    System::CGisSystem* const pWater = systems.CreateSystem(L"W", TopologyLine, 1);
+    System::CGisSystem* const pSewer = systems.CreateSystem(L"S", TopologyLine, 2);
+    System::CGisSystem* const pArea = systems.CreateSystem(L"A", TopologyPolygon, 0);
+    const auto entry = [](const wchar_t* id, const wchar_t* tag, unsigned long itemTypes,
+                          std::vector<CWsTopologyData> topologies) {
+        return Entry{id,  CommandGroupAdd, EntityNone,           TreeBehaviorAdd,
+                     tag, itemTypes,       std::move(topologies)};
+    };
+    CWsCommandRegistry& registry = *CWsManager::Instance()->CmdMgr()->GetCommandRegistry();
+    Fill(registry, {entry(L"water", L"Q", WsItemSystem, {{TopologyLine, 1}}),
+                    entry(L"line", L"Q", WsItemSystem, {{TopologyLine, 1}, {TopologyLine, 2}}),
+                    entry(L"area", L"Q", WsItemSystem, {{TopologyPolygon, 0}}),
+                    entry(L"nowhere", L"Q", WsItemSystem, {}),
+                    entry(L"theme", L"THEME", WsItemSystem, {{TopologyLine, 1}}),
+                    entry(L"every", L"0", WsItemSystem | WsItemRepository, {{TopologyLine, 1}}),
+                    entry(L"folder", L"Q", WsItemRepository, {{TopologyLine, 1}})});
+    const struct {
+        System::CGisSystem* pSystem;
+        const wchar_t* tag;
+        enmWSTreeItemType itemType;
+        const char* expected;
+    } cases[] = {
+        {pWater, L"Q", WsItemSystem, "water line every "},
+        {pSewer, L"Q", WsItemSystem, "line "},
+        {pArea, L"Q", WsItemSystem, "area "},
+        {nullptr, L"Q", WsItemSystem, "water line area nowhere every "},
+        {pWater, L"THEME", WsItemSystem, "theme every "},
+        {pWater, L"", WsItemSystem, "water line theme every "},
+        {pWater, L"Q", WsItemRepository, "every folder "},
+        {pWater, L"Q", WsItemSystemManager, ""},
+    };
+    for (const auto& row : cases) {
+        CWsTreeItemDefinition definition = Item(EntityNone, row.tag);
+        definition.SetWsItemType(row.itemType);
+        const MenuTopology topology(row.pSystem);
+        EXPECT_EQ(Names(TreeMenuEntries(registry, topology, definition)), row.expected);
+        const std::string added = Names(AddMenuEntries(registry, topology, &definition));
+        EXPECT_EQ(added, row.expected + std::string(*row.expected ? "- " : ""));
+        CWsTreeItemData data;
+        data.SetPtrItemDefinition(boost::make_shared<CWsTreeItemDefinition>(definition));
+        CMenu menu;
+        menu.CreatePopupMenu();
+        CWsManager::Instance()->TreeMgr()->GetMenuBar(menu, &data, row.pSystem);
+        const std::string expected = row.expected;
+        EXPECT_EQ(menu.GetMenuItemCount(), std::count(expected.begin(), expected.end(), ' '))
+            << "its entries alone, in one section";
+    }
+}
+
 TEST(TreeMenus, TheAddMenuHasThreeBlocks) {
     const std::initializer_list<Entry> entries = {
         {L"ADD_Q", CommandGroupAdd, EntityNone, TreeBehaviorAdd, L"Q"},
@@ -141,12 +212,7 @@ TEST(TreeMenus, GetMenuBarAppendsAndAChosenIdLeadsBackToItsCommand) {
     data.SetPtrItemDefinition(boost::make_shared<CWsTreeItemDefinition>(Item(EntityNone)));
     menu.AppendMenu(MF_STRING, 1, L"before");
     EXPECT_EQ(manager.TreeMgr()->GetMenuBar(menu, &data, nullptr), 1);
-    std::string shown;
-    for (UINT place = 0; place < menu.GetMenuItemCount(); ++place) {
-        shown += Narrow(menu.GetMenuString(place)) + ":" +
-                 std::to_string(menu.GetMenuItemID(place)) + " ";
-    }
-    EXPECT_EQ(shown, "before:1 a:2 :0 b:1 ");
+    EXPECT_EQ(Shown(menu), "before:1 a:2 :0 b:1 ");
     EXPECT_EQ(manager.TreeMgr()->GetMenuCommand(2)->GetId(), L"a");
     EXPECT_EQ(manager.TreeMgr()->GetMenuCommand(99), nullptr);
 }

@@ -1,6 +1,8 @@
 // Templates: what stands where.
 #include <gtest/gtest.h>
 
+#include "platform/arx/ApDocManager.h"
+#include "siblings/giscore/SystemManager.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 
@@ -72,6 +74,11 @@ TEST_F(TreeTemplate, AFunctionIsOfNoAccountWhereThereAreNone) {
     EXPECT_FALSE(m_list.GetSystemTreeTemplate(TopologyLine, 12));
     EXPECT_FALSE(m_list.GetSystemTreeTemplate(static_cast<enmTopologyType>(3), 0));
     EXPECT_FALSE(m_list.GetSystemTreeTemplate(static_cast<System::CGisSystem*>(nullptr)));
+    acDocManagerPtr()->newDocument(L"a.dwg");
+    auto& systems = *System::CSystemManager::Instance();
+    EXPECT_EQ(m_list.GetSystemTreeTemplate(systems.CreateSystem(L"Sewer", TopologyLine, 11)),
+              m_list.GetSystemTreeTemplate(TopologyLine, 11));
+    EXPECT_TRUE(m_list.GetSystemTreeTemplate(systems.CreateSystem(L"Area", TopologyPolygon, 0)));
 }
 
 TEST_F(TreeTemplate, ToolGroupsStandInTheirOwnOrderThenFoldersAsRegistered) {
@@ -91,7 +98,6 @@ TEST_F(TreeTemplate, ToolGroupsStandInTheirOwnOrderThenFoldersAsRegistered) {
     EXPECT_EQ(SystemTree(kSewer), "SYSTEM\n  draw2\n");
     EXPECT_EQ(SystemTree(kParcels), "SYSTEM\n  FOLDER +-\n");
     const auto root = m_list.GetSystemTreeTemplate(TopologyLine, 10);
-    EXPECT_EQ(root->GetChildren()->front()->GetParentItem(), root);
     EXPECT_NE(root->GetChildren()->back(),
               m_list.GetSystemTreeTemplate(TopologyPolygon, 0)->GetChildren()->front());
 }

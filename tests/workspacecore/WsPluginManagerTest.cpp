@@ -5,6 +5,7 @@
 #include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
+#include "tests/support/TreeOutline.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/plugins/LoadSteps.h"
 
@@ -92,6 +93,14 @@ TEST_F(PluginManagerTest, HooksRunInTheOrderOfTheStart) {
                           "GOOD_PANELS GOOD_EXTENDERS ");
     EXPECT_EQ(States(), "on,loaded,handle ");
     EXPECT_EQ(m_host.Output(), "\nGoodPlugin.arx");
+}
+
+TEST_F(PluginManagerTest, TemplatesAreBuiltOfWhatTheHooksRegistered) {
+    WriteRegistry({{"BringsTreeItems.arx"}});
+    const auto& list = *CWsManager::Instance()->TreeMgr()->GetTreeItemDefinitionList();
+    EXPECT_EQ(Outline(list.GetSystemTreeTemplate(TopologyPolygon, 0)), "SYSTEM\n");
+    EXPECT_EQ(Outline(list.GetDiskTreeTemplate()), "DISKREPO\n");
+    EXPECT_EQ(Outline(list.GetNetTreeTemplate()), "DISKREPO\n");
 }
 
 TEST_F(PluginManagerTest, OneModuleThatFailsStopsNothing) {

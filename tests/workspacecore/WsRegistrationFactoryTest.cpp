@@ -1,6 +1,8 @@
 // The standard registrations, row by row.
 #include <gtest/gtest.h>
 
+#include "siblings/giscore/Icon.h"
+#include "siblings/giscore/ModuleConfiguration.h"
 #include "siblings/giscore/RepositoryFactory.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
@@ -10,6 +12,10 @@ namespace Orvane::Workspace {
 namespace {
 
 using Factory = CWsRegistrationFactory;
+
+CString IconName(HICON icon) {
+    return icon ? static_cast<const CIcon*>(icon)->m_strName : CString(L"none");
+}
 
 class Executor : public IWsCommandExecutor {
     boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t*, Query::CQueryDefinition*,
@@ -23,19 +29,33 @@ class WithDefaultItem : public CRepositoryFactory {
     int SupportsDefaultItem() const override { return 1; }
 };
 
-/// What RegisterRepositoryItem is asked for, all switched on.
+/// What RegisterRepositoryItem is asked for; nothing at first.
 struct Request {
-    const wchar_t* tag = L"X";
     unsigned int entityTypes = 0;
     Factory::TopologyDataVector* topologies = nullptr;
     Factory::enmRegistrationTarget target = Factory::TargetBoth;
     int entitySpecific = 0;
     int commandsPerEntity = 0;
-    int hasRename = 1;
-    int hasSendToSystem = 1;
-    int hasSendToRepository = 1;
-    int doubleClickNotEdit = 1;
+    int hasAdd = 0;
+    int hasEdit = 0;
+    int hasDelete = 0;
+    int hasRename = 0;
+    int hasRun = 0;
+    int hasDoubleClick = 0;
+    int hasQueryDrop = 0;
+    int hasRepositoryDrop = 0;
+    int hasCopy = 0;
+    int hasSendToSystem = 0;
+    int hasSendToRepository = 0;
+    int doubleClickNotEdit = 0;
 };
+Request Everything() {
+    Request r;
+    r.hasAdd = r.hasEdit = r.hasDelete = r.hasRename = r.hasRun = r.hasDoubleClick = 1;
+    r.hasQueryDrop = r.hasRepositoryDrop = r.hasCopy = 1;
+    r.hasSendToSystem = r.hasSendToRepository = r.doubleClickNotEdit = 1;
+    return r;
+}
 
 class WsRegistrationFactory : public testing::Test {
 protected:
@@ -45,21 +65,20 @@ protected:
                                "function.11=S\n[polygon]\nentity.16=Area\nentity.32=Corner\n");
         CWsManager::Instance()->RegisterBaseExecutor(&m_base);
     }
-    void Register(const Request& request) {
-        Factory::RegisterRepositoryItem(request.tag, L"Name", nullptr, request.entityTypes,
-                                        &m_executor, request.topologies, request.target,
-                                        request.entitySpecific, request.commandsPerEntity, 1, 1, 1,
-                                        request.hasRename, 1, 1, 1, 1, 1, request.hasSendToSystem,
-                                        request.hasSendToRepository, request.doubleClickNotEdit);
+    void Register(const Request& r) {
+        Factory::RegisterRepositoryItem(
+            L"X", L"Name", CModuleConfiguration::Instance()->GetIcon(L"IDI_THEME"), r.entityTypes,
+            &m_executor, r.topologies, r.target, r.entitySpecific, r.commandsPerEntity, r.hasAdd,
+            r.hasEdit, r.hasDelete, r.hasRename, r.hasRun, r.hasDoubleClick, r.hasQueryDrop,
+            r.hasRepositoryDrop, r.hasCopy, r.hasSendToSystem, r.hasSendToRepository,
+            r.doubleClickNotEdit);
     }
-    static const auto& Definitions() {
-        return *CWsManager::Instance()
-                    ->TreeMgr()
-                    ->GetTreeItemDefinitionList()
-                    ->GetWsTreeItemDefinitionVector();
-    }
-    static const auto& Commands() {
-        return *CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandVector();
+    static const auto& Definitions() { return *List().GetWsTreeItemDefinitionVector(); }
+    static const auto& Commands() { return *Registry().GetWsCommandVector(); }
+    /// For the next row of a table.
+    static void Forget() {
+        List().Clear();
+        Registry().Clear();
     }
     template <class Record>
     static std::string Topologies(Record& record) {
@@ -69,30 +88,67 @@ protected:
         }
         return keys;
     }
-    /// "id type<parent entity: topologies" of the definitions from one on.
-    static std::vector<std::string> DefinitionLines(std::size_t from = 0) {
+    /// "id name icon tag type<parent entity entitySpecific: topologies" of the definitions.
+    static std::vector<std::string> DefinitionLines() {
         std::vector<std::string> lines;
-        for (std::size_t i = from; i < Definitions().size(); ++i) {
-            CWsTreeItemDefinition& definition = *Definitions()[i];
-            lines.push_back(
-                Narrow(definition.GetId()) + " " + std::to_string(definition.GetWsItemType()) +
-                "<" + std::to_string(definition.GetWsParentItemType()) + " " +
-                std::to_string(definition.GetEntityType()) + ":" + Topologies(definition));
+        for (const auto& definition : Definitions()) {
+            lines.push_back(Narrow(definition->GetId() + L" " + definition->GetName() + L" " +
+                                   IconName(definition->GetIcon()) + L" " +
+                                   definition->GetRepositoryTag() + L" ") +
+                            std::to_string(definition->GetWsItemType()) + "<" +
+                            std::to_string(definition->GetWsParentItemType()) + " " +
+                            std::to_string(definition->GetEntityType()) + " " +
+                            std::to_string(definition->GetIsEntitySpecific()) + ":" +
+                            Topologies(*definition));
         }
         return lines;
     }
-    /// "id executor group behaviour types entity" of the commands.
+    /// "query item drag rename edit: double click, query drop, rename, item drop" of each
+    /// definition: what it accepts and allows, and the commands that answer.
+    static std::vector<std::string> AnswerLines() {
+        std::vector<std::string> lines;
+        for (const auto& definition : Definitions()) {
+            lines.push_back(std::to_string(definition->GetAcceptQueryDrop()) +
+                            std::to_string(definition->GetAcceptRepositoryItemDrop()) +
+                            std::to_string(definition->GetAllowDragBegin()) +
+                            std::to_string(definition->GetAllowRename()) +
+                            std::to_string(definition->GetIsDoubleClickActionEdit()) +
+                            Narrow(L": " + definition->GetCmdIdDoubleClick() + L"," +
+                                   definition->GetCmdIdQueryDrop() + L"," +
+                                   definition->GetCmdIdRename() + L"," +
+                                   definition->GetCmdIdRepositoryItemDrop()));
+        }
+        return lines;
+    }
+    /// "id name executor group behaviour types entity tag" of the commands.
     std::vector<std::string> CommandLines() const {
         std::vector<std::string> lines;
         for (const auto& command : Commands()) {
-            lines.push_back(Narrow(command->GetId()) +
+            lines.push_back(Narrow(command->GetId() + L" " + command->GetName()) +
                             (command->GetCmdExecutor() == &m_base ? " base " : " own ") +
                             std::to_string(command->GetCmdGroup()) + " " +
                             std::to_string(command->GetTreeCmdBehavior()) + " " +
                             std::to_string(command->GetWsItemTypes()) + " " +
-                            std::to_string(command->GetEntityType()));
+                            std::to_string(command->GetEntityType()) + " " +
+                            Narrow(command->GetRepositoryTag()));
         }
         return lines;
+    }
+    /// "id:types:entity" of the commands.
+    static std::string Reach() {
+        std::string lines;
+        for (const auto& command : Commands()) {
+            lines += Narrow(command->GetId()) + ":" + std::to_string(command->GetWsItemTypes()) +
+                     ":" + std::to_string(command->GetEntityType()) + " ";
+        }
+        return lines;
+    }
+
+    static CWsTreeItemDefinitionList& List() {
+        return *CWsManager::Instance()->TreeMgr()->GetTreeItemDefinitionList();
+    }
+    static CWsCommandRegistry& Registry() {
+        return *CWsManager::Instance()->CmdMgr()->GetCommandRegistry();
     }
 
     TestHost m_host;
@@ -104,55 +160,59 @@ using Lines = std::vector<std::string>;
 
 TEST_F(WsRegistrationFactory, BasicItemsAreTheTwoRoots) {
     Factory::RegisterBasicItems();
-    EXPECT_EQ(DefinitionLines(), (Lines{"SYSTEMMANAGER 1<0 0:", "DISKREPO 32<0 0:"}));
-    EXPECT_EQ(Definitions()[0]->GetAcceptRepositoryItemDrop(), 0);
-    EXPECT_EQ(Definitions()[1]->GetAcceptRepositoryItemDrop(), 1);
-    for (const auto& definition : Definitions()) {
-        EXPECT_NE(definition->GetIcon(), nullptr) << Narrow(definition->GetId());
-        EXPECT_FALSE(definition->GetName().IsEmpty());
-    }
+    EXPECT_EQ(DefinitionLines(), (Lines{"SYSTEMMANAGER Systems ORV_SYSTEM_MANAGER  1<0 0 1:",
+                                        "DISKREPO Repository IDI_DISKDATA  32<0 0 1:"}));
+    EXPECT_EQ(AnswerLines(), (Lines{"00000: ,,,", "01000: ,,,"}));
 }
 
-TEST_F(WsRegistrationFactory, ASystemBringsItsCommandsAndAToolGroupOfEachKindForEachTopology) {
-    const auto system = Factory::RegisterSystemItem(&m_executor, nullptr, 1, 1);
-    Lines lines = DefinitionLines();
-    ASSERT_EQ(lines.size(), 19U);
-    EXPECT_EQ(lines[0], "SYSTEM 2<1 0: 1:10 1:11 2:0");
-    EXPECT_EQ((Lines{lines[1], lines[2], lines[3], lines[4]}),
-              (Lines{"SYSTEM_TOOLDRAW_1_10 4096<2 0: 1:10", "SYSTEM_TOOLDRAW_1_11 4096<2 0: 1:11",
-                     "SYSTEM_TOOLDRAW_2_0 4096<2 0: 2:0", "SYSTEM_TOOLEDIT_1_10 8192<2 0: 1:10"}));
-    EXPECT_EQ(
-        (Lines{lines[7], lines[10], lines[13], lines[16]}),
-        (Lines{"SYSTEM_TOOLSETDATA_1_10 16384<2 0: 1:10", "SYSTEM_TOOLMANAGER_1_10 32768<2 0: 1:10",
-               "SYSTEM_TOOLFASTCMD_1_10 65536<2 0: 1:10", "SYSTEM_TOOL_1_10 1024<2 0: 1:10"}));
-    EXPECT_EQ(system, Definitions()[0]);
-    EXPECT_EQ(system->GetCmdIdDoubleClick(), L"SYSTEM_DBLCLICK");
-    EXPECT_EQ(system->GetCmdIdRename(), L"SYSTEM_REN");
-    EXPECT_EQ(system->GetCmdIdRepositoryItemDrop(), L"SYSTEM_DROPITEM");
+TEST_F(WsRegistrationFactory, ASystemBringsItsCommandsAndToolGroups) {
+    Factory::TopologyDataVector topologies = {boost::make_shared<CWsTopologyData>(TopologyPoint, 5),
+                                              nullptr};
+    const auto system = Factory::RegisterSystemItem(&m_executor, &topologies, 1, 1);
+    EXPECT_EQ(DefinitionLines(),
+              (Lines{"SYSTEM  ORV_SYSTEM  2<1 0 1: 4:5",
+                     "SYSTEM_TOOLDRAW_4_5 Draw IDI_PENCIL  4096<2 0 1: 4:5",
+                     "SYSTEM_TOOLEDIT_4_5 Edit IDI_WINDOW_EDIT  8192<2 0 1: 4:5",
+                     "SYSTEM_TOOLSETDATA_4_5 Set data IDI_DATA_EDIT  16384<2 0 1: 4:5",
+                     "SYSTEM_TOOLMANAGER_4_5 Managers ORV_ID_MANAGER  32768<2 0 1: 4:5",
+                     "SYSTEM_TOOLFASTCMD_4_5 Fast commands IDI_FLASH  65536<2 0 1: 4:5",
+                     "SYSTEM_TOOL_4_5 Tools ORV_IDI_TOOLBOX  1024<2 0 1: 4:5"}));
+    Lines answers(7, "00000: ,,,");
+    answers[0] = "01000: SYSTEM_DBLCLICK,,SYSTEM_REN,SYSTEM_DROPITEM";
+    EXPECT_EQ(AnswerLines(), answers);
     EXPECT_EQ(CommandLines(),
-              (Lines{"SYSTEM_ADD own 1 5 3 0", "SYSTEM_EDIT own 2 7 2 0", "SYSTEM_DEL own 4 6 2 0",
-                     "SILENT_SYSTEM_DEL own 7 6 2 0", "SYSTEM_DBLCLICK own 7 0 2 0",
-                     "SYSTEM_DROPITEM own 7 0 2 0", "SYSTEM_TOGGLEVISIBILITY own 7 0 2 0"}));
+              (Lines{"SYSTEM_ADD Add system own 1 5 3 0 ", "SYSTEM_EDIT Edit own 2 7 2 0 ",
+                     "SYSTEM_DEL Delete system own 4 6 2 0 ",
+                     "SILENT_SYSTEM_DEL Delete system own 7 6 2 0 ",
+                     "SYSTEM_DBLCLICK Delete system own 7 0 2 0 ",
+                     "SYSTEM_DROPITEM Delete system own 7 0 2 0 ",
+                     "SYSTEM_TOGGLEVISIBILITY Show or hide system own 7 0 2 0 "}));
+    EXPECT_EQ(system, Definitions()[0]);
     for (const auto& command : Commands()) {
-        EXPECT_EQ(*command->GetWsTopologyDataVector(), *system->GetWsTopologyDataVector())
+        EXPECT_EQ(*command->GetWsTopologyDataVector(), Factory::TopologyDataVector{topologies[0]})
             << Narrow(command->GetId());
     }
 }
 
-TEST_F(WsRegistrationFactory, ASystemOfGivenTopologiesWithoutCommandsAndTools) {
-    Factory::TopologyDataVector topologies = {boost::make_shared<CWsTopologyData>(TopologyPoint, 5),
-                                              nullptr};
-    const auto system = Factory::RegisterSystemItem(nullptr, &topologies, 0, 0);
-    EXPECT_EQ(DefinitionLines(), (Lines{"SYSTEM 2<1 0: 4:5"}));
-    EXPECT_EQ(system->GetWsTopologyDataVector()->front(), topologies[0]);
-    EXPECT_EQ(system->GetCmdIdDoubleClick(), L"");
+TEST_F(WsRegistrationFactory, ASystemOfEveryTopologyWithoutCommands) {
+    Factory::RegisterSystemItem(nullptr, nullptr, 0, 1);
+    std::string ids;
+    for (const auto& definition : Definitions()) {
+        ids += Narrow(definition->GetId().Mid(6)) + " ";
+    }
+    EXPECT_EQ(ids.substr(0, ids.find("_TOOLSETDATA")),
+              " _TOOLDRAW_1_10 _TOOLDRAW_1_11 _TOOLDRAW_2_0 _TOOLEDIT_1_10 _TOOLEDIT_1_11 "
+              "_TOOLEDIT_2_0 ");
+    EXPECT_EQ(Definitions().size(), 19U);
+    EXPECT_EQ(AnswerLines()[0], "01000: ,,,");
     EXPECT_TRUE(Commands().empty());
-    // A second module finds the ids taken.
+    // A second module finds the ids of the first one's commands taken.
     Factory::RegisterSystemItem(&m_executor, nullptr, 1, 0);
     Factory::RegisterSystemItem(&m_base, nullptr, 1, 0);
     EXPECT_EQ(Commands().size(), 7U);
+    EXPECT_EQ(Commands()[0]->GetCmdExecutor(), &m_executor);
     EXPECT_EQ(Topologies(*Commands()[0]), " 1:10 1:11 2:0");
-    EXPECT_EQ(Definitions().size(), 3U);
+    EXPECT_EQ(Definitions().size(), 21U);
 }
 
 TEST_F(WsRegistrationFactory, DefinitionsOfAFamilyByTargetAndEntities) {
@@ -170,127 +230,169 @@ TEST_F(WsRegistrationFactory, DefinitionsOfAFamilyByTargetAndEntities) {
          0,
          3,
          nullptr,
-         {"X 4<2 0: 1:10 1:11 2:0", "X 16<4 0: 1:10 1:11 2:0"}},
-        {Factory::TargetRepository, 0, 3, &water, {"X 64<32 0: 1:10 2:0", "X 256<64 0: 1:10 2:0"}},
-        {Factory::TargetBoth,
-         1,
-         1 | 4 | 16 | 64,
+         {"X Name IDI_THEME X 4<2 0 0: 1:10 1:11 2:0",
+          "X Name IDI_THEME X 16<4 0 0: 1:10 1:11 2:0"}},
+        {Factory::TargetRepository,
+         0,
+         3,
          &water,
-         {"X 4<2 0: 1:10 2:0", "X:ws8:et1 8<4 1: 1:10", "X:ws8:et16 8<4 16: 2:0",
-          "X:ws8:et64 8<4 64:", "X 16<8 1: 1:10", "X 16<8 16: 2:0", "X 16<8 64:",
-          "X 64<32 0: 1:10 2:0", "X:ws128:et1 128<64 1: 1:10", "X:ws128:et16 128<64 16: 2:0",
-          "X:ws128:et64 128<64 64:", "X 256<128 1: 1:10", "X 256<128 16: 2:0", "X 256<128 64:"}},
+         {"X Name IDI_THEME X 64<32 0 0: 1:10 2:0", "X Name IDI_THEME X 256<64 0 0: 1:10 2:0"}},
         {Factory::TargetSystem,
          1,
-         2,
+         ~0U,
+         &water,
+         {"X Name IDI_THEME X 4<2 0 1: 1:10 2:0", "X:ws8:et1 Node IDI_NODE X 8<4 1 1: 1:10",
+          "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10",
+          "X:ws8:et16 Area ORV_IDI_POLYGON_16X16 X 8<4 16 1: 2:0",
+          "X:ws8:et32 Corner ORV_IDI_POLYGONNODE_16X16 X 8<4 32 1: 2:0",
+          "X:ws8:et64  ORV_IDI_UNKNOWNENTITY X 8<4 64 1:", "X Name IDI_THEME X 16<8 1 1: 1:10",
+          "X Name IDI_THEME X 16<8 2 1: 1:10", "X Name IDI_THEME X 16<8 16 1: 2:0",
+          "X Name IDI_THEME X 16<8 32 1: 2:0", "X Name IDI_THEME X 16<8 64 1:"}},
+        {Factory::TargetBoth,
+         1,
+         4 | 2,
          nullptr,
-         {"X 4<2 0: 1:10 1:11 2:0", "X:ws8:et2 8<4 2: 1:10 1:11", "X 16<8 2: 1:10 1:11"}},
+         {"X Name IDI_THEME X 4<2 0 1: 1:10 1:11 2:0",
+          "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10 1:11",
+          "X Name IDI_THEME X 16<8 2 1: 1:10 1:11", "X Name IDI_THEME X 64<32 0 1: 1:10 1:11 2:0",
+          "X:ws128:et2 Pipe IDI_SECTION X 128<64 2 1: 1:10 1:11",
+          "X Name IDI_THEME X 256<128 2 1: 1:10 1:11"}},
     };
     for (const auto& row : cases) {
-        const std::size_t before = Definitions().size();
+        Forget();
         request.target = row.target;
         request.entitySpecific = row.entitySpecific;
         request.entityTypes = row.entityTypes;
         request.topologies = row.topologies;
         Register(request);
-        EXPECT_EQ(DefinitionLines(before), row.expected);
+        EXPECT_EQ(DefinitionLines(), row.expected);
     }
 }
 
-TEST_F(WsRegistrationFactory, WhatNodesOfAFamilyAnswerTo) {
-    Request request;
-    request.entitySpecific = 1;
+TEST_F(WsRegistrationFactory, EachFlagAloneBringsItsOwnCommandAndAnswers) {
+    CWsManager::Instance()->RegisterRepositoryFactory(L"x", &m_factory);
+    const struct {
+        int Request::*flag;
+        std::string command;
+        const char* folder = "00000: ,,,";
+        const char* systemItem = "00101: ,,,";
+        const char* repositoryItem = "00100: ,,,";
+    } cases[] = {
+        {&Request::hasAdd, "ADD_X Add base 1 1 28 0 X"},
+        {&Request::hasEdit, "EDIT_X Edit base 2 7 16 0 X"},
+        {&Request::hasDelete, "DEL_X Delete base 4 2 272 0 X"},
+        {&Request::hasRename, "REN_X Rename base 2 7 272 0 X", "00000: ,,REN_X,", "00111: ,,REN_X,",
+         "00110: ,,REN_X,"},
+        {&Request::hasRun, "RUN_X Run own 5 0 16 0 X"},
+        {&Request::hasDoubleClick, "DBLCLICK_X Run own 7 0 16 0 X", "00000: DBLCLICK_X,,,",
+         "00101: DBLCLICK_X,,,", "00100: DBLCLICK_X,,,"},
+        {&Request::hasQueryDrop, "QRYDROP_X Run own 7 0 16 0 X", "00000: ,QRYDROP_X,,",
+         "10101: ,QRYDROP_X,,", "10100: ,QRYDROP_X,,"},
+        {&Request::hasRepositoryDrop, "RPODROP_X Run base 7 1 24 0 X", "01000: ,,,RPODROP_X",
+         "01101: ,,,RPODROP_X", "01100: ,,,RPODROP_X"},
+        {&Request::hasCopy, "COPY_X Copy base 2 0 16 0 X"},
+        {&Request::hasSendToSystem, "SENDTO_X Send to ... base 7 1 16 0 X"},
+        {&Request::hasSendToRepository, ""},
+        {&Request::doubleClickNotEdit, "", "00000: ,,,", "00100: ,,,"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(&row - cases);
+        Forget();
+        Request request;
+        request.*row.flag = 1;
+        Register(request);
+        const bool send = row.flag == &Request::hasSendToSystem;
+        Lines commands = {std::string(send ? "SETASDEFAULT_X" : "") +
+                          " Set as default base 5 0 16 0 X"};
+        if (!row.command.empty()) {
+            commands.push_back(row.command);
+        }
+        EXPECT_EQ(CommandLines(), commands);
+        EXPECT_EQ(AnswerLines(),
+                  (Lines{row.folder, row.systemItem, row.folder, row.repositoryItem}));
+        for (const auto& command : Commands()) {
+            EXPECT_EQ(Topologies(*command), " 1:10 1:11 2:0") << Narrow(command->GetId());
+        }
+    }
+}
+
+TEST_F(WsRegistrationFactory, WhereTheCommandsOfAFamilyApply) {
+    CWsManager::Instance()->RegisterRepositoryFactory(L"x", &m_factory);
+    const struct {
+        const char* what;
+        Factory::enmRegistrationTarget target;
+        int entitySpecific;
+        int commandsPerEntity;
+        unsigned int entityTypes;
+        int hasSendToSystem;
+        int hasSendToRepository;
+        const char* expected; ///< "id:types:entity" of each command
+    } cases[] = {
+        {"one set", Factory::TargetBoth, 0, 0, EntityNode, 1, 1,
+         "SETASDEFAULT_X:16:0 ADD_X:28:0 EDIT_X:16:0 RUN_X:16:0 DBLCLICK_X:16:0 QRYDROP_X:16:0 "
+         "DEL_X:272:0 REN_X:272:0 COPY_X:16:0 SENDTO_X:272:0 RPODROP_X:24:0 "},
+        {"no kind of entity, no command", Factory::TargetSystem, 1, 1, 0, 1, 1, ""},
+        {"a set for each kind of entity; sending has the reach of deleting", Factory::TargetSystem,
+         1, 1, EntitySection | EntityPolygon, 1, 0,
+         "SETASDEFAULT_X_2:16:0 ADD_X_2:24:2 EDIT_X_2:16:2 RUN_X_2:16:2 DBLCLICK_X_2:16:2 "
+         "QRYDROP_X_2:16:2 DEL_X_2:16:2 REN_X_2:16:2 COPY_X_2:16:2 SENDTO_X_2:16:2 "
+         "RPODROP_X_2:24:2 "
+         "SETASDEFAULT_X_16:16:0 ADD_X_16:24:16 EDIT_X_16:16:16 RUN_X_16:16:16 "
+         "DBLCLICK_X_16:16:16 QRYDROP_X_16:16:16 DEL_X_16:16:16 REN_X_16:16:16 COPY_X_16:16:16 "
+         "SENDTO_X_16:16:16 RPODROP_X_16:24:16 "},
+        {"the same without entity folders", Factory::TargetBoth, 0, 1, EntityPolygonNode, 1, 0,
+         "SETASDEFAULT_X_32:16:0 ADD_X_32:28:32 EDIT_X_32:16:32 RUN_X_32:16:32 "
+         "DBLCLICK_X_32:16:32 QRYDROP_X_32:16:32 DEL_X_32:272:32 REN_X_32:272:32 COPY_X_32:16:32 "
+         "SENDTO_X_32:272:32 RPODROP_X_32:24:32 "},
+        {"the command of the empty id included; sending needs the flag of the system tree",
+         Factory::TargetRepository, 0, 0, 0, 0, 1,
+         ":16:0 DEL_X:256:0 REN_X:256:0 COPY_X:0:0 RPODROP_X:0:0 "},
+        {"an id for sending, but nothing it applies to", Factory::TargetRepository, 0, 0, 0, 1, 0,
+         "SETASDEFAULT_X:16:0 DEL_X:256:0 REN_X:256:0 COPY_X:0:0 SENDTO_X:0:0 RPODROP_X:0:0 "},
+    };
+    for (const auto& row : cases) {
+        Forget();
+        Request request = Everything();
+        request.target = row.target;
+        request.entitySpecific = row.entitySpecific;
+        request.commandsPerEntity = row.commandsPerEntity;
+        request.entityTypes = row.entityTypes;
+        request.hasSendToSystem = row.hasSendToSystem;
+        request.hasSendToRepository = row.hasSendToRepository;
+        Register(request);
+        EXPECT_EQ(Reach(), row.expected) << row.what;
+    }
+    const std::size_t count = Commands().size();
+    Register(Everything());
+    EXPECT_EQ(Commands().size(), count + 5) << "the other ids are taken";
+}
+
+TEST_F(WsRegistrationFactory, NodesAnswerForTheirKindOfEntityAndFoldersForNone) {
+    Request request = Everything();
     request.commandsPerEntity = 1;
     request.entityTypes = EntityNode;
-    request.hasRename = 0;
-    request.doubleClickNotEdit = 0;
-    Register(request);
-    Lines lines;
-    for (const auto& definition : Definitions()) {
-        lines.push_back(
-            std::to_string(definition->GetAcceptQueryDrop()) +
-            std::to_string(definition->GetAcceptRepositoryItemDrop()) +
-            std::to_string(definition->GetAllowDragBegin()) +
-            std::to_string(definition->GetAllowRename()) +
-            std::to_string(definition->GetIsDoubleClickActionEdit()) +
-            Narrow(L" " + definition->GetCmdIdDoubleClick() + L" " +
-                   definition->GetCmdIdQueryDrop() + L" " + definition->GetCmdIdRename() + L" " +
-                   definition->GetCmdIdRepositoryItemDrop() + L" " + definition->GetName()));
-    }
-    EXPECT_EQ(lines, (Lines{"01000 DBLCLICK_X_0 QRYDROP_X_0  RPODROP_X_0 Name",
-                            "01000 DBLCLICK_X_1 QRYDROP_X_1  RPODROP_X_1 Node",
-                            "11101 DBLCLICK_X_1 QRYDROP_X_1  RPODROP_X_1 Name",
-                            "01000 DBLCLICK_X_0 QRYDROP_X_0  RPODROP_X_0 Name",
-                            "01000 DBLCLICK_X_1 QRYDROP_X_1  RPODROP_X_1 Node",
-                            "11100 DBLCLICK_X_1 QRYDROP_X_1  RPODROP_X_1 Name"}));
-}
-
-TEST_F(WsRegistrationFactory, CommandsOfAFamilyInBothTrees) {
-    CWsManager::Instance()->RegisterRepositoryFactory(L"x", &m_factory);
-    Register(Request());
-    EXPECT_EQ(CommandLines(),
-              (Lines{"SETASDEFAULT_X base 5 0 16 0", "ADD_X base 1 1 28 0", "EDIT_X base 2 7 16 0",
-                     "RUN_X own 5 0 16 0", "DBLCLICK_X own 7 0 16 0", "QRYDROP_X own 7 0 16 0",
-                     "DEL_X base 4 2 272 0", "REN_X base 2 7 272 0", "COPY_X base 2 0 16 0",
-                     "SENDTO_X base 7 1 272 0", "RPODROP_X base 7 1 24 0"}));
-    for (const auto& command : Commands()) {
-        EXPECT_EQ(command->GetRepositoryTag(), L"X");
-        EXPECT_EQ(Topologies(*command), " 1:10 1:11 2:0") << Narrow(command->GetId());
-    }
-    Register(Request());
-    EXPECT_EQ(Commands().size(), 11U) << "the ids are taken";
-}
-
-TEST_F(WsRegistrationFactory, ACommandSetForEachKindOfEntity) {
-    CWsManager::Instance()->RegisterRepositoryFactory(L"X", &m_factory);
-    Request request;
-    request.entitySpecific = 1;
-    request.commandsPerEntity = 1;
     request.target = Factory::TargetSystem;
-    request.hasSendToRepository = 0;
     Register(request);
-    EXPECT_EQ(CommandLines(), Lines()) << "no kind of entity, no command";
-    request.entityTypes = EntitySection | EntityPolygon;
+    request.entitySpecific = 1;
     Register(request);
-    const Lines lines = CommandLines();
-    ASSERT_EQ(lines.size(), 22U);
-    EXPECT_EQ(
-        Lines(lines.begin() + 11, lines.end()),
-        (Lines{"SETASDEFAULT_X_16 base 5 0 16 0", "ADD_X_16 base 1 1 24 16",
-               "EDIT_X_16 base 2 7 16 16", "RUN_X_16 own 5 0 16 16", "DBLCLICK_X_16 own 7 0 16 16",
-               "QRYDROP_X_16 own 7 0 16 16", "DEL_X_16 base 4 2 16 16", "REN_X_16 base 2 7 16 16",
-               "COPY_X_16 base 2 0 16 16", "SENDTO_X_16 base 7 1 16 16",
-               "RPODROP_X_16 base 7 1 24 16"}));
+    const std::string none = "DBLCLICK_X_0,QRYDROP_X_0,REN_X_0,RPODROP_X_0";
+    const std::string node = "DBLCLICK_X_1,QRYDROP_X_1,REN_X_1,RPODROP_X_1";
+    EXPECT_EQ(AnswerLines(), (Lines{"01000: " + none, "11110: " + none, "01000: " + none,
+                                    "01000: " + node, "11110: " + node}));
 }
 
-TEST_F(WsRegistrationFactory, AFamilyOfTheRepositoryTreesAlone) {
-    CWsManager::Instance()->RegisterRepositoryFactory(L"X", &m_factory);
+TEST_F(WsRegistrationFactory, NullNamesGiveEmptyOnesAndTheEmptyIdIsTakenOnce) {
+    CWsManager::Instance()->RegisterRepositoryFactory(L"", &m_factory);
     CWsManager::Instance()->RegisterRepositoryFactory(L"Y", &m_factory);
-    Request request;
-    request.target = Factory::TargetRepository;
-    request.hasSendToSystem = 0;
-    Register(request);
-    EXPECT_EQ(CommandLines(),
-              (Lines{" base 5 0 16 0", "DEL_X base 4 2 256 0", "REN_X base 2 7 256 0",
-                     "COPY_X base 2 0 0 0", "RPODROP_X base 7 1 0 0"}))
-        << "the command of the empty id included; sending needs the flag of the system tree";
-    request.tag = L"Y";
-    Register(request);
-    EXPECT_EQ(Commands().size(), 9U) << "the empty id is taken";
-    request.tag = L"Z";
-    request.hasSendToSystem = 1;
-    request.hasSendToRepository = 0;
-    Register(request);
-    EXPECT_EQ(CommandLines()[12], "SENDTO_Z base 7 1 0 0") << "an id, but nothing it applies to";
-}
-
-TEST_F(WsRegistrationFactory, NullNamesGiveEmptyOnes) {
-    Factory::RegisterRepositoryItem(nullptr, nullptr, nullptr, ~0U, nullptr, nullptr,
-                                    Factory::TargetBoth, 1, 0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0);
-    EXPECT_EQ(Definitions().size(), 22U);
-    EXPECT_EQ(Commands().front()->GetId(), L"ADD_");
+    for (const wchar_t* tag : {static_cast<const wchar_t*>(nullptr), L"Y"}) {
+        Factory::RegisterRepositoryItem(tag, nullptr, nullptr, ~0U, nullptr, nullptr,
+                                        Factory::TargetBoth, 1, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+                                        0);
+    }
+    EXPECT_EQ(DefinitionLines()[0], "  none  4<2 0 1: 1:10 1:11 2:0");
+    EXPECT_EQ(Reach(), ":16:0 ADD_:24:0 ADD_Y:24:0 ");
     CWsManager::Instance()->RegisterWsTreeItem(nullptr);
-    EXPECT_EQ(Definitions().size(), 22U);
+    EXPECT_EQ(Definitions().size(), 44U);
 }
 
 } // namespace

@@ -9,9 +9,13 @@ namespace {
 
 using DefinitionPtr = CWsTreeItemDefinitionList::DefinitionPtr;
 
+/// Of which the text has the lower half.
+const HICON kIcon = reinterpret_cast<HICON>(0x50000002AULL); // NOLINT(performance-no-int-to-ptr)
+
 DefinitionPtr FullDefinition() {
     DefinitionPtr definition(new CWsTreeItemDefinition);
     definition->SetId(L"THEME");
+    definition->SetIcon(kIcon);
     definition->SetName(L"Themes <&\"");
     definition->SetDescription(L"d\u00e9");
     definition->SetWsItemType(WsItemSystemConfiguration);
@@ -44,42 +48,66 @@ std::string Answers(const CWsTreeItemDefinition& definition) {
                   definition.GetCmdIdRename());
 }
 
-TEST(WsTreeItemDefinition, CopiesDoNotCarryWhatANodeAnswersTo) {
-    const DefinitionPtr source = FullDefinition();
-    const CWsTreeItemDefinition copy(*source);
-    EXPECT_EQ(Answers(copy), "000    ");
-    EXPECT_EQ(copy.GetAcceptQueryDrop(), 1);
-    EXPECT_EQ(copy.GetIsDoubleClickActionEdit(), 1);
-    EXPECT_EQ(copy.GetIsEntitySpecific(), 0);
-    EXPECT_EQ(copy.GetEntityType(), EntityNode);
-    EXPECT_EQ(copy.GetGrayIconIndex(), 4);
-
-    CWsTreeItemDefinition assigned;
-    assigned.SetCmdIdRename(L"MINE");
-    assigned.SetAllowRename(7);
-    assigned = *source;
-    EXPECT_EQ(Answers(assigned), "007    MINE");
-    EXPECT_EQ(assigned.GetWsTopologyDataVector()->front(),
-              source->GetWsTopologyDataVector()->front());
-    EXPECT_TRUE(assigned.DoesTopologyDataExist(source->GetWsTopologyDataVector()->front().get()));
+/// All that they do, topologies apart.
+std::string Values(const CWsTreeItemDefinition& definition) {
+    std::string numbers;
+    for (const auto number :
+         {static_cast<int>(definition.GetWsItemType()),
+          static_cast<int>(definition.GetWsParentItemType()), definition.GetAcceptQueryDrop(),
+          definition.GetIsEntitySpecific(), definition.GetIsDoubleClickActionEdit(),
+          static_cast<int>(definition.GetEntityType()), definition.GetIconIndex(),
+          definition.GetGrayIconIndex()}) {
+        numbers += " " + std::to_string(number);
+    }
+    return Narrow(definition.GetId() + L"|" + definition.GetName() + L"|" +
+                  definition.GetDescription() + L"|" + definition.GetRepositoryTag()) +
+           (definition.GetIcon() == kIcon ? numbers : " another icon");
 }
 
-TEST(WsTreeItemDefinition, ADeepCopyHasTopologiesOfItsOwnBesideWhatTheMapHeld) {
+TEST(WsTreeItemDefinition, CopiesDoNotCarryWhatANodeAnswersTo) {
     const DefinitionPtr source = FullDefinition();
-    CWsTreeItemDefinition target;
-    target.AddWsTopologyData(boost::make_shared<CWsTopologyData>(TopologyPolygon, 0));
-    source->MakeDeepCopy(target);
-    ASSERT_EQ(target.GetWsTopologyDataVector()->size(), 1U);
-    EXPECT_NE(target.GetWsTopologyDataVector()->front(),
-              source->GetWsTopologyDataVector()->front());
-    EXPECT_EQ(target.GetWsTopologyDataMap()->size(), 2U);
-    EXPECT_EQ(Answers(target), "000    ");
+    const auto own = boost::make_shared<CWsTopologyData>(TopologyPolygon, 0);
+    CWsTreeItemDefinition assigned;
+    CWsTreeItemDefinition deep;
+    for (CWsTreeItemDefinition* const target : {&assigned, &deep}) {
+        target->SetAllowRename(7);
+        target->SetCmdIdDoubleClick(L"D");
+        target->SetCmdIdQueryDrop(L"Q");
+        target->SetCmdIdRepositoryItemDrop(L"I");
+        target->SetCmdIdRename(L"R");
+        target->AddWsTopologyData(own);
+    }
+    assigned = *source;
+    source->MakeDeepCopy(deep);
+    CWsTreeItemDefinition copy(*source);
+    CWsTreeItemDefinition fresh;
+    source->MakeDeepCopy(fresh);
+    const struct {
+        const char* way;
+        CWsTreeItemDefinition& made;
+        const char* answers;
+        bool sharesTopologies;
+        std::size_t keys; ///< of the map, which a deep copy adds to
+    } cases[] = {{"constructor", copy, "000    ", true, 1},
+                 {"assignment", assigned, "007 D Q I R", true, 1},
+                 {"deep copy", deep, "007 D Q I R", false, 2},
+                 {"deep copy of nothing of its own", fresh, "000    ", false, 1}};
+    const auto& topology = source->GetWsTopologyDataVector()->front();
+    for (const auto& row : cases) {
+        EXPECT_EQ(Values(row.made), "THEME|Themes <&\"|d\u00e9|THEME 16 8 1 0 1 1 3 4") << row.way;
+        EXPECT_EQ(Answers(row.made), row.answers) << row.way;
+        ASSERT_EQ(row.made.GetWsTopologyDataVector()->size(), 1U) << row.way;
+        EXPECT_EQ(row.made.GetWsTopologyDataVector()->front() == topology, row.sharesTopologies)
+            << row.way;
+        EXPECT_TRUE(row.made.DoesTopologyDataExist(topology.get())) << row.way;
+        EXPECT_EQ(row.made.GetWsTopologyDataMap()->size(), row.keys) << row.way;
+    }
 }
 
 TEST(WsTreeItemDefinition, ItsTextHoldsWhatTheFormatHas) {
     const DefinitionPtr definition = FullDefinition();
     EXPECT_EQ(Narrow(definition->GetXML()),
-              "<wsTreeItemDefinition id=\"THEME\" icon=\"0\" name=\"Themes &lt;&amp;&quot;\" "
+              "<wsTreeItemDefinition id=\"THEME\" icon=\"42\" name=\"Themes &lt;&amp;&quot;\" "
               "description=\"d=EF=BF=A9\" wsItemType=\"16\" wsParentItemType=\"8\" "
               "repositoryTag=\"THEME\" acceptQueryDrop=\"1\" "
               "cmdIdDoubleClick=\"DBLCLICK_THEME_1\" cmdIdQueryDrop=\"QRYDROP_THEME_1\" "
@@ -96,6 +124,8 @@ TEST(WsTreeItemDefinitionList, WhatIsReadStandsInTheVectorAlone) {
     ASSERT_EQ(read.ParseXML(list.GetXML()), 1);
     ASSERT_EQ(read.GetWsTreeItemDefinitionVector()->size(), 1U);
     CWsTreeItemDefinition& back = *read.GetWsTreeItemDefinitionVector()->front();
+    EXPECT_EQ(back.GetIcon(), nullptr) << "a handle does not outlive its process";
+    back.SetIcon(kIcon);
     EXPECT_EQ(read.GetXML(), list.GetXML());
     EXPECT_EQ(Answers(back), "000 DBLCLICK_THEME_1 QRYDROP_THEME_1  ");
     EXPECT_EQ(back.GetWsTopologyDataVector()->size(), 1U);
@@ -104,6 +134,32 @@ TEST(WsTreeItemDefinitionList, WhatIsReadStandsInTheVectorAlone) {
     const TestHost host;
     read.InitializeSystemTreeTemplate();
     EXPECT_EQ(Outline(read.GetSystemTreeTemplate(TopologyPolygon, 0)), "THEME\n");
+}
+
+TEST(WsTreeItemDefinitionList, ADeepCopyFillsTheVectorOfItsTargetAlone) {
+    const TestHost host;
+    CWsTreeItemDefinitionList source;
+    for (const wchar_t* id : {L"FIRST", L"SECOND"}) {
+        source.AddWsTreeItemDefinition(FullDefinition());
+        source.GetWsTreeItemDefinitionVector()->back()->SetId(id);
+    }
+    CWsTreeItemDefinitionList target;
+    const DefinitionPtr before = FullDefinition();
+    before->SetId(L"BEFORE");
+    before->SetWsItemType(WsItemRepositoryRoot);
+    target.AddWsTreeItemDefinition(before);
+    source.MakeDeepCopy(target);
+    const auto& made = *target.GetWsTreeItemDefinitionVector();
+    ASSERT_EQ(made.size(), 2U);
+    for (std::size_t i = 0; i < made.size(); ++i) {
+        const DefinitionPtr& original = (*source.GetWsTreeItemDefinitionVector())[i];
+        EXPECT_NE(made[i], original);
+        EXPECT_EQ(Values(*made[i]), Values(*original));
+        EXPECT_EQ(*made[i]->GetWsTopologyDataVector(), *original->GetWsTopologyDataVector());
+        EXPECT_EQ(Answers(*made[i]), "000    ");
+    }
+    target.InitializeDiskTreeTemplate();
+    EXPECT_EQ(Outline(target.GetDiskTreeTemplate()), "BEFORE\n") << "found by type as ever";
 }
 
 TEST(WsTreeItemDefinitionList, FamiliesWithoutEntityFoldersAreKnownByTheirTag) {

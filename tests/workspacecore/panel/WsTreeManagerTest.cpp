@@ -3,13 +3,18 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <cwchar>
+#include <functional>
 
+#include "platform/arx/ApDocManager.h"
+#include "platform/mfc/Menu.h"
 #include "platform/mfc/TreeCtrl.h"
+#include "siblings/giscore/Icon.h"
+#include "siblings/giscore/SystemManager.h"
 #include "tests/mfc/TestDialog.h"
+#include "tests/support/AllocationWatch.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
-#include "workspacecore/resources/Icons.h"
 
 namespace Orvane::Workspace {
 namespace {
@@ -18,9 +23,11 @@ class WsTreeManagerTest : public DialogOnScreenTest {
 protected:
     void SetUp() override {
         DialogOnScreenTest::SetUp();
-        for (std::size_t i = 0; i < m_views.size(); ++i) {
-            m_views[i].Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 80), m_pDialog.get(),
-                              100 + static_cast<UINT>(i));
+        // Nothing of one is at the height of another.
+        for (int i = 0; i < 3; ++i) {
+            m_views[static_cast<std::size_t>(i)].Create(
+                WS_CHILD | WS_VISIBLE, CRect(0, 60 * i, 100, 60 * i + 50), m_pDialog.get(),
+                100 + static_cast<UINT>(i));
         }
     }
     void TearDown() override {
@@ -69,23 +76,60 @@ TEST_F(WsTreeManagerTest, EachTreeAnswersForItself) {
 
 TEST_F(WsTreeManagerTest, TheNodeUnderTheCursorOfTheMessageInHand) {
     RegisterViews();
-    const HTREEITEM first = m_views[0].InsertItem(L"first");
-    const HTREEITEM second = m_views[0].InsertItem(L"second");
-    AfxPumpMessages();
-    CWsTreeManager& trees = *CWsManager::Instance()->TreeMgr();
-    std::vector<HTREEITEM> met;
+    const CWsTreeManager& trees = *CWsManager::Instance()->TreeMgr();
+    using Nodes = std::vector<HTREEITEM>;
+    Nodes met;
     m_pDialog->onNotify = [&](NMHDR* header) -> LRESULT {
         if (header->code == NM_RCLICK) {
-            met.push_back(trees.GetItemByPosition());
+            met = {trees.GetItemByPosition(), trees.GetItemByPositionDisk(),
+                   trees.GetItemByPositionNet()};
         }
         return 0;
     };
-    for (const HTREEITEM item : {second, first}) {
-        const CRect line = m_views[0].GetItemRect(item, true);
-        QTest::mouseClick(WidgetOf(m_views[0]), Qt::RightButton, {},
-                          QPoint(line.left + 2, line.top + 2));
+    for (std::size_t i = 0; i < m_views.size(); ++i) {
+        CTreeCtrl& view = m_views[i];
+        const HTREEITEM first = view.InsertItem(L"first");
+        const HTREEITEM second = view.InsertItem(L"second");
+        AfxPumpMessages();
+        for (const HTREEITEM item : {second, first}) {
+            const CRect line = view.GetItemRect(item, true);
+            QTest::mouseClick(WidgetOf(view), Qt::RightButton, {},
+                              QPoint(line.left + 2, line.top + 2));
+            Nodes expected(3);
+            expected[i] = item;
+            EXPECT_EQ(met, expected) << "tree " << i;
+        }
     }
-    EXPECT_EQ(met, (std::vector<HTREEITEM>{second, first}));
+}
+
+TEST_F(WsTreeManagerTest, AMenuWithoutANodeIsThatOfTheSelectedSystemNode) {
+    RegisterViews();
+    CWsManager& manager = *CWsManager::Instance();
+    std::array<CWsTreeItemData, 2> data;
+    for (const int i : {0, 1}) {
+        const auto type = i ? WsItemRepository : WsItemSystem;
+        auto definition = boost::make_shared<CWsTreeItemDefinition>();
+        definition->SetWsItemType(type);
+        data[i].SetPtrItemDefinition(definition);
+        auto command = boost::make_shared<CWsCommand>();
+        command->SetId(std::to_wstring(i).c_str());
+        command->SetName(i ? L"of the disk" : L"of the systems");
+        command->SetWsItemTypes(type);
+        manager.RegisterWsCommand(command);
+        CTreeCtrl& view = m_views[static_cast<std::size_t>(i)];
+        const HTREEITEM node = view.InsertItem(L"node");
+        view.SetItemData(node, reinterpret_cast<DWORD_PTR>(&data[i]));
+        view.SelectItem(node);
+    }
+    for (const auto& [pData, expected] :
+         {std::pair<CWsTreeItemData*, const wchar_t*>(nullptr, L"of the systems"),
+          std::pair<CWsTreeItemData*, const wchar_t*>(&data[1], L"of the disk")}) {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        EXPECT_EQ(manager.TreeMgr()->GetMenuBar(menu, pData, nullptr), 1);
+        ASSERT_EQ(menu.GetMenuItemCount(), 1U);
+        EXPECT_EQ(menu.GetMenuString(0), expected);
+    }
 }
 
 TEST_F(WsTreeManagerTest, DeletingANodeWithChildrenTakesTwoCalls) {
@@ -105,34 +149,73 @@ TEST_F(WsTreeManagerTest, DeletingANodeWithChildrenTakesTwoCalls) {
 
 TEST_F(WsTreeManagerTest, IconsAreFoundByTheirKind) {
     CWsTreeManager& trees = *CWsManager::Instance()->TreeMgr();
-    const HICON system = ModuleIcon(IconSystem);
-    ASSERT_NE(system, nullptr);
-    EXPECT_EQ(trees.GetSystemIcon(), system);
-    for (const enmTopologyType type : {TopologyLine, TopologyPolygon, TopologyPoint}) {
-        EXPECT_EQ(trees.GetSystemIcon(type), system);
+    const struct {
+        HICON icon;
+        const wchar_t* name;
+    } cases[] = {
+        {trees.GetSystemManagerIcon(), L"ORV_SYSTEM_MANAGER"},
+        {trees.GetSystemIcon(), L"ORV_SYSTEM"},
+        {trees.GetSystemIcon(TopologyLine), L"ORV_SYSTEM"},
+        {trees.GetSystemIcon(TopologyPolygon), L"ORV_SYSTEM"},
+        {trees.GetSystemIcon(TopologyPoint), L"ORV_SYSTEM"},
+        {trees.GetDiskRepositoryIcon(), L"IDI_DISKDATA"},
+        {trees.GetSystemToolIcon(), L"ORV_IDI_TOOLBOX"},
+        {trees.GetSystemTool_DrawIcon(), L"IDI_PENCIL"},
+        {trees.GetSystemTool_SetDataIcon(), L"IDI_DATA_EDIT"},
+        {trees.GetSystemTool_EditIcon(), L"IDI_WINDOW_EDIT"},
+        {trees.GetSystemTool_ManagerIcon(), L"ORV_ID_MANAGER"},
+        {trees.GetFastCommandIcon(), L"IDI_FLASH"},
+        {trees.GetEntityTypeIcon(EntityNode), L"IDI_NODE"},
+        {trees.GetEntityTypeIcon(EntitySection), L"IDI_SECTION"},
+        {trees.GetEntityTypeIcon(EntityPolygon), L"ORV_IDI_POLYGON_16X16"},
+        {trees.GetEntityTypeIcon(EntityPolygonNode), L"ORV_IDI_POLYGONNODE_16X16"},
+        {trees.GetEntityTypeIcon(static_cast<enmEntityType>(64)), L"ORV_IDI_UNKNOWNENTITY"},
+        {trees.GetEntityTypeIcon(EntityLongitudinalSection), L"ORV_IDI_UNKNOWNENTITY"},
+    };
+    for (const auto& row : cases) {
+        ASSERT_NE(row.icon, nullptr) << Narrow(row.name);
+        EXPECT_EQ(static_cast<const CIcon*>(row.icon)->m_strName, row.name);
     }
-    EXPECT_EQ(trees.GetSystemIcon(TopologyScheme), nullptr);
-    EXPECT_EQ(trees.GetSystemManagerIcon(), ModuleIcon(IconSystemManager));
-    const HICON unknown = trees.GetEntityTypeIcon(static_cast<enmEntityType>(64));
-    ASSERT_NE(unknown, nullptr);
-    EXPECT_EQ(trees.GetEntityTypeIcon(EntityLongitudinalSection), unknown);
-    std::set<HICON> icons = {unknown,
-                             trees.GetDiskRepositoryIcon(),
-                             trees.GetSystemToolIcon(),
-                             trees.GetSystemTool_DrawIcon(),
-                             trees.GetSystemTool_SetDataIcon(),
-                             trees.GetSystemTool_EditIcon(),
-                             trees.GetSystemTool_ManagerIcon(),
-                             trees.GetFastCommandIcon()};
-    for (const enmEntityType type : {EntityNode, EntitySection, EntityPolygon, EntityPolygonNode}) {
-        icons.insert(trees.GetEntityTypeIcon(type));
+    for (const enmTopologyType type : {TopologyScheme, TopologyNone}) {
+        EXPECT_EQ(trees.GetSystemIcon(type), nullptr);
     }
-    EXPECT_EQ(icons.size(), 12U) << "each its own";
-    EXPECT_FALSE(icons.contains(nullptr));
+    EXPECT_EQ(trees.GetEntityTypeIcon(EntityNode), cases[12].icon) << "the same each time";
 }
 
-/// A system's template with its children in the given order; "tool" is a tool group, all
-/// others are families. Sorted by the file, if there is one, and told by number.
+TEST_F(WsTreeManagerTest, TheResourcesOfTheModuleAreCurrentWhileAnIconIsLookedFor) {
+    const std::function<HICON(CWsTreeManager&)> lookUps[] = {
+        [](CWsTreeManager& trees) { return trees.GetSystemIcon(TopologyLine); },
+        [](CWsTreeManager& trees) { return trees.GetEntityTypeIcon(EntityNode); }};
+    for (const auto& lookUp : lookUps) {
+        CWsTreeManager trees;
+        bool current = false;
+        {
+            const AllocationWatch watch(
+                [&] { current |= acDocManagerPtr()->resourceHandle() != nullptr; });
+            EXPECT_NE(lookUp(trees), nullptr);
+        }
+        EXPECT_TRUE(current);
+        EXPECT_EQ(acDocManagerPtr()->resourceHandle(), nullptr);
+    }
+}
+
+TEST_F(WsTreeManagerTest, EntitiesAreNamedAsTheActiveSystemDoes) {
+    m_host.Support().Write("TopologyConfiguration.ini",
+                           "[line]\nentity.1=Node\nfunction.1=W\n[point]\nentity.1=Tree\n");
+    const CWsTreeManager& trees = *CWsManager::Instance()->TreeMgr();
+    EXPECT_EQ(trees.GetEntityTypeName(EntityNode), L"Node") << "no drawing";
+    acDocManagerPtr()->newDocument(L"a.dwg");
+    auto& systems = *System::CSystemManager::Instance();
+    systems.CreateSystem(L"Water", TopologyLine, 1);
+    System::CGisSystem* const pTrees = systems.CreateSystem(L"Trees", TopologyPoint, 0);
+    EXPECT_EQ(trees.GetEntityTypeName(EntityNode), L"Node") << "no active system";
+    systems.SetSystemActive(pTrees);
+    EXPECT_EQ(trees.GetEntityTypeName(EntityNode), L"Tree");
+    EXPECT_EQ(trees.GetEntityTypeName(EntityPolygon), L"");
+}
+
+/// A system's template with its children in the given order; numbers are kinds of tool
+/// groups, all others are families. Sorted by the file, if there is one, and told by place.
 std::string Sorted(const TestHost& host, const char* file, std::vector<const wchar_t*> tags) {
     if (file) {
         host.Support().Write("workspaceRepositoryOrder.xml", file);
@@ -149,8 +232,8 @@ std::string Sorted(const TestHost& host, const char* file, std::vector<const wch
     };
     add(WsItemSystem, L"", L"system");
     for (std::size_t i = 0; i < tags.size(); ++i) {
-        const bool tool = CString(tags[i]) == L"tool";
-        add(tool ? WsItemSystemToolFastCommand : WsItemSystemRepository, tags[i],
+        const long tool = std::wcstol(tags[i], nullptr, 10);
+        add(tool ? static_cast<enmWSTreeItemType>(tool) : WsItemSystemRepository, tags[i],
             std::to_wstring(i));
     }
     list.InitializeSystemTreeTemplate();
@@ -176,10 +259,13 @@ TEST_F(WsTreeManagerTest, TheUsersOrderOfFamilies) {
         std::vector<const wchar_t*> tags;
         const char* expected;
     } cases[] = {
-        {"no file", nullptr, {L"A", L"tool", L"B", L"tool"}, "1302"},
+        {"no file: tool groups first, as they stood",
+         nullptr,
+         {L"A", L"65536", L"1024", L"B", L"32768", L"16384", L"4096", L"8192"},
+         "12456703"},
         {"in the order of the file, without regard to case",
          R"(<sortOrder><r tag="b"/><r tag="C"/><r tag="a"/></sortOrder>)",
-         {L"A", L"B", L"tool", L"D", L"c"},
+         {L"A", L"B", L"4096", L"D", L"c"},
          "21403"},
         {"a tag once takes one, twice two",
          R"(<sortOrder><r tag="B"/><r tag="B"/><r tag="A"/></sortOrder>)",

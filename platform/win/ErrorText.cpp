@@ -5,17 +5,41 @@
 #include "platform/win/CodePage.h"
 
 namespace {
-thread_local CString t_strLastError;
+
+/// Modules go after the thread's own objects have, and still save what they hold; from then on
+/// nobody asks for reasons any more.
+thread_local bool t_isGone = false;
+
+struct LastError {
+    CString text;
+    LastError() = default;
+    LastError(const LastError&) = delete;
+    LastError& operator=(const LastError&) = delete;
+    ~LastError() { t_isGone = true; }
+};
+
+/// Null once it has gone.
+CString* Last() {
+    if (t_isGone) {
+        return nullptr;
+    }
+    thread_local LastError last;
+    return &last.text;
 }
 
+} // namespace
+
 CString LastErrorText() {
-    return t_strLastError;
+    const CString* const pText = Last();
+    return pText ? *pText : CString();
 }
 
 void SetLastErrorText(CString text) {
-    t_strLastError = std::move(text);
+    if (CString* const pText = Last()) {
+        *pText = std::move(text);
+    }
 }
 
 void SetLastErrorNumber(int number) {
-    t_strLastError = Utf8ToWide(std::generic_category().message(number));
+    SetLastErrorText(Utf8ToWide(std::generic_category().message(number)));
 }

@@ -24,7 +24,7 @@ protected:
     }
     static Workspace::CWsBaseDialog& Open(const wchar_t* command, const wchar_t* id) {
         PanelsOnDesktop::Workspace().CmdMgr()->Execute(command, nullptr, nullptr);
-        AfxPumpMessages();
+        Settle();
         return Dialog(id);
     }
     template <class Control>
@@ -33,7 +33,7 @@ protected:
     }
     static void Click(CWnd& dialog, UINT id) {
         Item<CButton>(dialog, id).Click();
-        AfxPumpMessages();
+        Settle();
     }
     /// The first cells of all rows.
     static std::string Rows(CWnd& dialog) {
@@ -54,7 +54,7 @@ protected:
     }
     static void Select(CWnd& dialog, int row) {
         Item<CListCtrl>(dialog, kList).SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
-        AfxPumpMessages();
+        Settle();
     }
     static constexpr const wchar_t* kFindId = L"DLG_FIND_ENTITY";
     static constexpr const wchar_t* kPropertiesId = L"DLG_ENTITY_PROPERTIES";
@@ -89,7 +89,7 @@ TEST_F(Dialogs, WhatWasFoundGoesWithItsDrawing) {
     EXPECT_EQ(Rows(find), "Section Main;");
     Click(find, kProperties);
     acDocManagerPtr()->newDocument(L"b.dwg");
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Rows(find), "");
     EXPECT_EQ(Rows(Dialog(kPropertiesId)), "");
     EXPECT_EQ(Item<CComboBox>(find, kSystem).GetCount(), 1) << "all systems";
@@ -148,7 +148,7 @@ TEST_F(Dialogs, StatisticsFollowTheActiveSystem) {
     CWnd& dialog = Open(L"SYSTEM_STATISTICS", L"DLG_SYSTEM_STATISTICS");
     EXPECT_EQ(Rows(dialog), "");
     Systems().SetSystemActive(m_pSystem);
-    AfxPumpMessages();
+    Settle();
     const auto& list = Item<CListCtrl>(dialog, kList);
     EXPECT_EQ(Narrow(list.GetItemText(RowOf(dialog, L"Nodes"), 1)), "3");
     EXPECT_EQ(Narrow(list.GetItemText(RowOf(dialog, L"Total length"), 1)), "10.00");

@@ -23,9 +23,13 @@ protected:
 <module msgName="900001" on="1" fileName="ORVZNetwork.arx" ></module>
 <module msgName="900002" on="1" fileName="ORVZPanels.arx" ></module>
 </moduleRegistry>)");
+        // The configurations that come with the program.
+        const std::filesystem::path from = TESSALY_STAGE_DIR "/share/support/repository";
+        std::filesystem::copy(from, m_host.Support() / "repository",
+                              std::filesystem::copy_options::recursive);
         acDocManagerPtr()->newDocument(L"a.dwg");
-        ASSERT_TRUE(acrxDynamicLinker()->loadModule(
-            CString(L"" TESSALY_STAGE_DIR "/ORVZApplication.arx")));
+        ASSERT_TRUE(
+            acrxDynamicLinker()->loadModule(CString(L"" TESSALY_STAGE_DIR "/ORVZApplication.arx")));
         m_frame.Create(WS_POPUP, CRect(0, 0, 600, 700), nullptr);
         m_frame.ShowWindow(SW_SHOW);
         MakeNetwork();
@@ -46,6 +50,13 @@ protected:
         }
         m_frame.DestroyWindow();
         WindowTest::TearDown();
+    }
+
+    /// A click becomes a command, and that a refresh; each is a message of its own.
+    static void Settle() {
+        for (int round = 0; round < 4; ++round) {
+            AfxPumpMessages();
+        }
     }
 
     static constexpr const wchar_t* kPanels[] = {L"DLG_TREE_SYSTEMS", L"DLG_TREE_DISK",
@@ -70,7 +81,7 @@ protected:
             Factories().front()->CreateWsPanelDialog(&m_frame, id);
         pPanel->MoveWindow(CRect(0, top, 300, top + 340));
         pPanel->ShowWindow(SW_SHOW);
-        AfxPumpMessages();
+        Settle();
         return *pPanel;
     }
 
@@ -94,13 +105,13 @@ protected:
     }
     static QPoint PlaceOf(CTreeCtrl& tree, HTREEITEM item) {
         tree.EnsureVisible(item);
-        AfxPumpMessages();
+        Settle();
         const CRect label = tree.GetItemRect(item, true);
         return {label.left + 4, label.top + label.Height() / 2};
     }
     static void Press(CWnd& window, Qt::Key key, Qt::KeyboardModifiers with = {}) {
         QTest::keyClick(WidgetOf(window), key, with);
-        AfxPumpMessages();
+        Settle();
     }
 
     TestHost m_host;

@@ -22,6 +22,12 @@ protected:
     }
     static CTreeCtrl& Tree() { return *Workspace().TreeMgr()->GetTreeControl(); }
     static CTreeCtrl& Disk() { return *Workspace().TreeMgr()->GetDiskTreeControl(); }
+    static void DoubleClick(HTREEITEM item) {
+        const QPoint place = PlaceOf(Tree(), item);
+        QTest::mouseClick(WidgetOf(Tree()), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(WidgetOf(Tree()), Qt::LeftButton, {}, place);
+        Settle();
+    }
     HTREEITEM Town() { return Find(Tree(), {L"Systems", L"Town"}); }
 
     CRepositoryFactory::StorePtr Queries() {
@@ -34,7 +40,7 @@ protected:
         ASSERT_NE(pEditor, nullptr);
         pEditor->setText(QString::fromUtf8(text));
         QTest::keyClick(pEditor, end);
-        AfxPumpMessages();
+        Settle();
     }
     /// Opens the menu of the selected node, and chooses; all entries, "|" for a separator.
     static std::string Choose(CTreeCtrl& tree, const char* entry) {
@@ -57,7 +63,7 @@ protected:
             }
         });
         Press(tree, Qt::Key_F10, Qt::ShiftModifier);
-        AfxPumpMessages();
+        Settle();
         return entries;
     }
     /// Presses in one tree and lets go in another, or the same.
@@ -69,13 +75,13 @@ protected:
         QTest::mousePress(pFrom, Qt::LeftButton, {}, start);
         for (const QPoint& place : {start + QPoint(20, 0), start + QPoint(40, 0), endFrom}) {
             QTest::mouseMove(pFrom, place);
-            AfxPumpMessages();
+            Settle();
         }
         QWidget* const pGrabber = QWidget::mouseGrabber();
         QWidget* const pLast = pGrabber ? pGrabber : pFrom;
         QTest::mouseRelease(pLast, Qt::LeftButton, {},
                             pLast->mapFromGlobal(WidgetOf(to)->mapToGlobal(end)));
-        AfxPumpMessages();
+        Settle();
     }
 };
 
@@ -87,10 +93,10 @@ TEST_F(TreePanels, TheSystemsOfTheDrawingStandInTheTreeAndFollowIt) {
     Systems().CreateSystem(L"Roads", TopologyPolygon, 0);
     Systems().SetSystemActive(m_pSystem);
     Systems().SetSystemInvisible(m_pSystem);
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Shown(Tree()), "Systems\n Town (hidden) (active)\n Roads\n");
     acDocManagerPtr()->newDocument(L"b.dwg");
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Shown(Tree()), "Systems\n");
 }
 
@@ -101,29 +107,28 @@ TEST_F(TreePanels, WhatIsOpenAndSelectedStaysSo) {
     const std::string before = Shown(Tree());
     Workspace().GetRefreshTreePbl()->Notify(nullptr, nullptr);
     Workspace().GetRefreshAllPbl()->Notify(nullptr, nullptr);
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Shown(Tree()), before);
     EXPECT_NE(before.find("  *Node"), std::string::npos) << before;
 
     Systems().RenameSystem(m_pSystem, L"City");
-    AfxPumpMessages();
+    Settle();
     EXPECT_NE(Shown(Tree()).find("  *Node"), std::string::npos) << "another name, the same system";
     Systems().DeleteSystem(m_pSystem);
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Shown(Tree()), "*Systems\n") << "the nearest node above";
 }
 
 TEST_F(TreePanels, ADoubleClickOrEnterMakesASystemActive) {
     for (const bool isKey : {false, true}) {
         Systems().SetSystemActive(nullptr);
-        AfxPumpMessages();
+        Settle();
         if (isKey) {
             Tree().SelectItem(Town());
             Tree().SetFocus();
             Press(Tree(), Qt::Key_Return);
         } else {
-            QTest::mouseDClick(WidgetOf(Tree()), Qt::LeftButton, {}, PlaceOf(Tree(), Town()));
-            AfxPumpMessages();
+            DoubleClick(Town());
         }
         EXPECT_EQ(Systems().GetActiveSystem(), m_pSystem) << isKey;
         EXPECT_NE(Shown(Tree()).find("Town (active)"), std::string::npos);
@@ -143,7 +148,7 @@ TEST_F(TreePanels, ANameIsEditedInPlaceWithoutItsMarks) {
         {" City ", Qt::Key_Return, "City"},
     };
     for (const auto& row : cases) {
-        AfxPumpMessages();
+        Settle();
         Tree().SelectItem(Town());
         Tree().SetFocus();
         Press(Tree(), Qt::Key_F2);
@@ -170,7 +175,7 @@ TEST_F(TreePanels, ARefreshWaitsUntilALabelIsEdited) {
     Tree().SetFocus();
     Press(Tree(), Qt::Key_F2);
     Systems().CreateSystem(L"Late", TopologyLine, 1);
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Shown(Tree()).find("Late"), std::string::npos);
     TypeLabel("Town", Qt::Key_Escape);
     EXPECT_NE(Shown(Tree()).find("Late"), std::string::npos);
@@ -191,13 +196,14 @@ TEST_F(TreePanels, TheMenuOfANodeRunsItsCommands) {
 
 TEST_F(TreePanels, TheRightButtonSelectsWhatItOpensTheMenuOf) {
     Tree().SelectItem(Tree().GetRootItem());
+    const QPoint place = PlaceOf(Tree(), Town());
     Later([] {
         if (QWidget* const pMenu = QApplication::activePopupWidget()) {
             pMenu->close();
         }
     });
-    QTest::mouseClick(WidgetOf(Tree()), Qt::RightButton, {}, PlaceOf(Tree(), Town()));
-    AfxPumpMessages();
+    QTest::mouseClick(WidgetOf(Tree()), Qt::RightButton, {}, place);
+    Settle();
     EXPECT_EQ(Tree().GetSelectedItem(), Town());
 }
 
@@ -222,12 +228,11 @@ TEST_F(TreePanels, ADraggedConfigurationIsCopiedToWhereItFits) {
 
 TEST_F(TreePanels, ACommandThatIsAskedForDuringAnotherCancelsItAndRunsAfterIt) {
     Workspace().Raise_OnBeforeCommandActivated(L"LONG");
-    QTest::mouseDClick(WidgetOf(Tree()), Qt::LeftButton, {}, PlaceOf(Tree(), Town()));
-    AfxPumpMessages();
+    DoubleClick(Town());
     EXPECT_EQ(Systems().GetActiveSystem(), nullptr);
     EXPECT_EQ(m_host.Posted(), std::vector<std::wstring>{L"\x1B"});
     Workspace().Raise_OnAfterCommandCompleted(L"LONG");
-    AfxPumpMessages();
+    Settle();
     EXPECT_EQ(Systems().GetActiveSystem(), m_pSystem);
 }
 
@@ -236,6 +241,6 @@ TEST_F(TreePanels, APanelThatGoesTakesItsTreeAlong) {
     EXPECT_EQ(Workspace().TreeMgr()->GetTreeControl(), nullptr);
     Systems().SetSystemActive(m_pSystem);
     Workspace().GetRefreshTreePbl()->Notify(nullptr, nullptr);
-    AfxPumpMessages();
+    Settle();
     EXPECT_NE(Workspace().TreeMgr()->GetDiskTreeControl(), nullptr);
 }

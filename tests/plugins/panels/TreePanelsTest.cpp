@@ -188,6 +188,7 @@ TEST_F(TreePanels, TheMenuOfANodeRunsItsCommands) {
     m_host.Answer({L"no"});
     Choose(Tree(), "Delete system");
     EXPECT_EQ(Shown(Tree()), "Systems\n *Town\n");
+    EXPECT_TRUE(m_host.AllAnswered()) << m_host.Output();
     m_host.Answer({L"yes"});
     Choose(Tree(), "Delete system");
     EXPECT_EQ(Shown(Tree()), "*Systems\n");

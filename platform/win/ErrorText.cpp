@@ -6,25 +6,37 @@
 
 namespace {
 
-/// Outlives the text: files are still written when a module goes with the process, and by
-/// then the main thread has destroyed what was its own.
-thread_local bool t_bGone = false;
+/// Modules go after the thread's own objects have, and still save what they hold; from then on
+/// nobody asks for reasons any more.
+thread_local bool t_isGone = false;
 
 struct LastError {
-    CString strText;
-    ~LastError() { t_bGone = true; }
+    CString text;
+    LastError() = default;
+    LastError(const LastError&) = delete;
+    LastError& operator=(const LastError&) = delete;
+    ~LastError() { t_isGone = true; }
 };
-thread_local LastError t_lastError;
+
+/// Null once it has gone.
+CString* Last() {
+    if (t_isGone) {
+        return nullptr;
+    }
+    thread_local LastError last;
+    return &last.text;
+}
 
 } // namespace
 
 CString LastErrorText() {
-    return t_bGone ? CString() : t_lastError.strText;
+    const CString* const pText = Last();
+    return pText ? *pText : CString();
 }
 
 void SetLastErrorText(CString text) {
-    if (!t_bGone) {
-        t_lastError.strText = std::move(text);
+    if (CString* const pText = Last()) {
+        *pText = std::move(text);
     }
 }
 

@@ -18,22 +18,14 @@ constexpr struct {
     enmStatistic statistic;
     int message;
 } kFigures[] = {
-    {System::StatisticNodes, 10806},
-    {System::StatisticSections, 10805},
-    {System::StatisticLength, 10813},
-    {System::StatisticParts, 10812},
-    {System::StatisticLoops, 10811},
-    {System::StatisticIsolatedNodes, 10810},
-    {System::StatisticEndNodes, 10807},
-    {System::StatisticThroughNodes, 10808},
-    {System::StatisticBranchNodes, 10809},
-    {System::StatisticAlignments, 10814},
-    {System::StatisticMainPoints, 10815},
-    {System::StatisticLongitudinalSections, 10816},
-    {System::StatisticCrossSections, 10817},
-    {System::StatisticPolygons, 10818},
-    {System::StatisticPolygonNodes, 10819},
-    {System::StatisticArea, 10820},
+    {System::StatisticNodes, 10806},         {System::StatisticSections, 10805},
+    {System::StatisticLength, 10813},        {System::StatisticParts, 10812},
+    {System::StatisticLoops, 10811},         {System::StatisticIsolatedNodes, 10810},
+    {System::StatisticEndNodes, 10807},      {System::StatisticThroughNodes, 10808},
+    {System::StatisticBranchNodes, 10809},   {System::StatisticAlignments, 10814},
+    {System::StatisticMainPoints, 10815},    {System::StatisticLongitudinalSections, 10816},
+    {System::StatisticCrossSections, 10817}, {System::StatisticPolygons, 10818},
+    {System::StatisticPolygonNodes, 10819},  {System::StatisticArea, 10820},
 };
 
 std::optional<CString> FigureText(const System::CGisSystem& system, enmStatistic statistic) {

@@ -17,8 +17,8 @@ using Properties = std::vector<EntityProperty>;
 void AddNode(Properties& properties, const Topology::CNode& node) {
     if (node && node.HasPlace()) {
         const Topology::Point place = node.GetPosition();
-        properties.push_back({Text(Msg::Position),
-                              MeasureText(place.x) + L", " + MeasureText(place.y)});
+        properties.push_back(
+            {Text(Msg::Position), MeasureText(place.x) + L", " + MeasureText(place.y)});
     }
 }
 

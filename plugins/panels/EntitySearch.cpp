@@ -38,9 +38,8 @@ public:
         std::size_t place = 0;
         std::size_t length = utf8.size();
         if (IsAscii(utf8)) {
-            const auto hit =
-                std::search(utf8.begin(), utf8.end(), m_utf8.begin(), m_utf8.end(),
-                            [](char a, char b) { return LowerAscii(a) == b; });
+            const auto hit = std::search(utf8.begin(), utf8.end(), m_utf8.begin(), m_utf8.end(),
+                                         [](char a, char b) { return LowerAscii(a) == b; });
             place = hit == utf8.end() && !IsEmpty() ? std::string_view::npos
                                                     : static_cast<std::size_t>(hit - utf8.begin());
         } else {

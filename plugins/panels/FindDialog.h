@@ -43,8 +43,8 @@ private:
     std::vector<AcDbObjectId> Selected() const;
 
     CEdit m_text;
-    CComboBox m_systems; ///< with the systems' numbers; 0 for all
-    CComboBox m_where;   ///< in the order of SearchIn
+    CComboBox m_systems;              ///< with the systems' numbers; 0 for all
+    CComboBox m_where;                ///< in the order of SearchIn
     std::vector<FoundEntity> m_found; ///< as the list has them
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/arx/AciColors.h"
 #include "platform/arx/DbDatabase.h"
+#include "platform/mfc/Gdi.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 #include "plugins/panels/DrawingReports.h"
 #include "plugins/panels/PanelPanes.h"
@@ -14,13 +15,21 @@ namespace {
 
 constexpr int kSwatch = 16;
 constexpr int kMargin = 2;
-constexpr CRect kPaneSize(0, 0, 240, 200);
+constexpr CRect kPaneSize(0, 0, 250, 200);
 constexpr CSize kSmallest(120, 80);
 /// Gray edges are seen on light and dark.
 constexpr std::uint32_t kEdge = 0xFF808080;
 
+/// The drawing stands on what lists stand on.
+Tessaly::Background BackgroundNow() {
+    constexpr int kMiddle = 3 * 128;
+    const COLORREF color = GetSysColor(COLOR_WINDOW);
+    const int sum = static_cast<int>((color & 0xFF) + (color >> 8 & 0xFF) + (color >> 16 & 0xFF));
+    return sum < kMiddle ? Tessaly::Background::Dark : Tessaly::Background::Light;
+}
+
 CImage SwatchOf(int colorIndex) {
-    const std::uint32_t color = Tessaly::AciColor(colorIndex, Tessaly::Background::Dark);
+    const std::uint32_t color = Tessaly::AciColor(colorIndex, BackgroundNow());
     std::vector<std::uint32_t> pixels(kSwatch * kSwatch, 0);
     for (int y = kMargin; y < kSwatch - kMargin; ++y) {
         for (int x = kMargin; x < kSwatch - kMargin; ++x) {
@@ -41,7 +50,7 @@ CLegendDialog::CLegendDialog(CWnd* pParent)
 
 bool CLegendDialog::OnInitDialog() {
     CModuleDialog::OnInitDialog();
-    MakeColumns({{Text(Msg::ColumnLayer), 100}, {Text(Msg::ColumnCount), 45, LVCFMT_RIGHT}});
+    MakeColumns({{Text(Msg::ColumnLayer), 88}, {Text(Msg::ColumnCount), 42, LVCFMT_RIGHT}});
     m_resize.SetResize(kList, 0, 0, 1, 1);
     return true;
 }
@@ -64,9 +73,10 @@ void CLegendDialog::RefreshContent() {
 
 bool ShowLegend() {
     CXTPDockingPaneManager* const pPanes = DockingPanes();
-    auto* const pDialog = pPanes ? dynamic_cast<CLegendDialog*>(
-                                       Workspace::CWsManager::Instance()->GetDlgById(kLegendDialogId))
-                                 : nullptr;
+    auto* const pDialog = pPanes
+                              ? dynamic_cast<CLegendDialog*>(
+                                    Workspace::CWsManager::Instance()->GetDlgById(kLegendDialogId))
+                              : nullptr;
     if (!pDialog) {
         return false;
     }

@@ -1,6 +1,7 @@
 #include "plugins/panels/ModuleDialog.h"
 
 #include "platform/mfc/DataExchange.h"
+#include "platform/xtp/XTPDockingPaneManager.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/dialogs/DialogPlaces.h"
 
@@ -11,6 +12,17 @@ namespace {
 constexpr unsigned int kSubscriberNumber = 1100;
 constexpr const wchar_t* kColumnsKey = L"COLUMNS";
 constexpr int kNarrowest = 16;
+
+/// Into the middle of the host's window.
+void MoveOverFrame(CWnd& dialog) {
+    if (const CWnd* const pFrame = acedGetAcadFrame()) {
+        const CRect frame = pFrame->GetWindowRect();
+        const CSize size = dialog.GetWindowRect().Size();
+        const CPoint corner(frame.left + (frame.Width() - size.cx) / 2,
+                            frame.top + (frame.Height() - size.cy) / 2);
+        dialog.MoveWindow(CRect(corner, size));
+    }
+}
 
 } // namespace
 
@@ -98,8 +110,8 @@ Workspace::CWsBaseDialog* ShowDialog(const wchar_t* dialogId) {
             const CRect place = pDialog->GetWindowRect();
             pDialog->MoveWindow(CRect(CPoint(), place.Size()));
             dialogs.SetNewWindowPosition(pDialog);
-        } else {
-            pDialog->LoadWindowPosition();
+        } else if (!pDialog->LoadWindowPosition()) {
+            MoveOverFrame(*pDialog);
         }
         pDialog->ShowWindow(SW_SHOW);
     }

@@ -29,8 +29,7 @@ constexpr PaneOfTree kPanes[] = {
 
 /// Whoever made the factory, panels come from it alone.
 Workspace::CWsPanelDialog* MakePanel(CWnd* pParent, const wchar_t* id) {
-    for (const auto& factory :
-         *Workspace::CWsManager::Instance()->DlgMgr()->GetDlgFactories()) {
+    for (const auto& factory : *Workspace::CWsManager::Instance()->DlgMgr()->GetDlgFactories()) {
         if (Workspace::CWsPanelDialog* const pPanel = factory->CreateWsPanelDialog(pParent, id)) {
             return pPanel;
         }
@@ -56,10 +55,9 @@ void MakePane(CXTPDockingPaneManager& panes, const PaneOfTree& entry) {
 } // namespace
 
 CXTPDockingPaneManager* DockingPanes() {
-    return acedGetAcadFrame()
-               ? static_cast<CXTPDockingPaneManager*>(
-                     Workspace::CWsManager::Instance()->PDlgMgr()->GetPanelManager())
-               : nullptr;
+    return acedGetAcadFrame() ? static_cast<CXTPDockingPaneManager*>(
+                                    Workspace::CWsManager::Instance()->PDlgMgr()->GetPanelManager())
+                              : nullptr;
 }
 
 void CPanelPanes::RegisterPanels() {

@@ -30,8 +30,8 @@ bool CStatisticsDialog::OnInitDialog() {
 
 void CStatisticsDialog::RefreshContent() {
     const System::CGisSystem* const pSystem = System::CSystemManager::Instance()->GetActiveSystem();
-    SetText(kTitle, pSystem ? Text(Msg::FiguresOf, pSystem->GetSystemName())
-                            : Text(Msg::NoActiveSystem));
+    SetText(kTitle,
+            pSystem ? Text(Msg::FiguresOf, pSystem->GetSystemName()) : Text(Msg::NoActiveSystem));
     m_list.DeleteAllItems();
     if (!pSystem) {
         return;

@@ -105,7 +105,7 @@ private:
     CTreeCtrl m_tree;
     CXTPResize m_resize{this};
     std::deque<PanelItem> m_items; ///< of the nodes, which have their addresses
-    bool m_isFirstFill = true; ///< nothing was below the root as yet
+    bool m_isFirstFill = true;     ///< nothing was below the root as yet
     bool m_isRefreshPosted = false;
     bool m_isRefreshWanted = false; ///< once nothing is edited or dragged
     bool m_isEditing = false;

@@ -41,8 +41,9 @@ CString GeneralSettingProblem(const GeneralSetting& setting, const CString& valu
     const CModuleConfiguration& messages = *CModuleConfiguration::Instance();
     if (setting.kind == Kind::Text) {
         const bool isOneLine = value.View().find_first_of(L"\r\n") == std::wstring_view::npos;
-        return isOneLine ? CString()
-                         : CString(FormatText(messages.GetMsg(kMsgOneLine).View(), NameOf(setting)));
+        return isOneLine
+                   ? CString()
+                   : CString(FormatText(messages.GetMsg(kMsgOneLine).View(), NameOf(setting)));
     }
     const std::optional<int> number = WholeNumber(value.View());
     return number && *number >= setting.low && *number <= setting.high

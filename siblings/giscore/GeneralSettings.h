@@ -4,8 +4,8 @@
 #include <map>
 #include <span>
 
-#include "siblings/giscore/Api.h"
 #include "platform/win/String.h"
+#include "siblings/giscore/Api.h"
 
 namespace Orvane {
 
@@ -16,7 +16,7 @@ struct GeneralSetting {
     const wchar_t* key;
     const wchar_t* usual; ///< where the file has none
     Kind kind;
-    int label; ///< message
+    int label;   ///< message
     int low = 0; ///< of a number
     int high = 0;
 };

@@ -104,9 +104,9 @@ void CGeneralSettingsDialog::FillLanguages() {
     constexpr std::wstring_view kBefore = L"tessaly_";
     constexpr std::wstring_view kBehind = L".qm";
     auto& languages = dynamic_cast<CComboBox&>(*GetDlgItem(kLanguage));
-    auto names = ListFileNames(CModuleConfiguration::Instance()->GetPath(L"install") +
-                               L"share/messages/")
-                     .value_or(std::vector<CString>());
+    auto names =
+        ListFileNames(CModuleConfiguration::Instance()->GetPath(L"install") + L"share/messages/")
+            .value_or(std::vector<CString>());
     std::sort(names.begin(), names.end(), CStringLess());
     for (const CString& name : names) {
         std::wstring_view language = name.View();

@@ -102,17 +102,21 @@ bool Application::notify(QObject* pReceiver, QEvent* pEvent) {
             return NotifyInput(pWidget, *pCore, pEvent);
         }
     }
+    // Nobody sees a double click before its window does, but handlers ask where it was.
+    if (pEvent->type() == QEvent::MouseButtonDblClick && pReceiver->isWidgetType()) {
+        Input input{static_cast<QWidget*>(pReceiver), pEvent,
+                    static_cast<QInputEvent*>(pEvent)->modifiers(), PointOf(pEvent)};
+        input.dispatched = true;
+        const InHand scope(m_inputs, input);
+        return QApplication::notify(pReceiver, pEvent);
+    }
     return QApplication::notify(pReceiver, pEvent);
 }
 
 bool Application::NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent) {
     const auto* const pInputEvent = static_cast<QInputEvent*>(pEvent);
     Input input{pWidget, pEvent, pInputEvent->modifiers(), PointOf(pEvent)};
-    m_inputs.push_back(&input);
-    struct Scope {
-        std::vector<Input*>& inputs;
-        ~Scope() { inputs.pop_back(); }
-    } scope{m_inputs};
+    const InHand scope(m_inputs, input);
 
     const QPointer<QWidget> receiver = pWidget;
     enmOutcome outcome = enmOutcome::GoesOn;

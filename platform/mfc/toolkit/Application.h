@@ -29,6 +29,14 @@ private:
         bool dispatched = false;
         bool result = false;
     };
+    /// As long as it lives, an input is the one in hand.
+    struct InHand {
+        InHand(std::vector<Input*>& all, Input& input) : inputs(all) { inputs.push_back(&input); }
+        ~InHand() { inputs.pop_back(); }
+        InHand(const InHand&) = delete;
+        InHand& operator=(const InHand&) = delete;
+        std::vector<Input*>& inputs;
+    };
     /// A key whose shortcut phase was translated already; its press follows.
     struct TranslatedKey {
         quint64 time;

@@ -111,3 +111,31 @@ TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
     EXPECT_FALSE(SetFileAside(folder.Wide("a.damaged-2"), L".damaged-"));
     EXPECT_TRUE(folder.Has("a.damaged-2"));
 }
+
+TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
+    const struct {
+        const char* what;
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {"a value", "; a\n[General]\nx = 1\n Key=old \ny=2\n",
+         "; a\n[General]\nx = 1\nKey=ä=b\ny=2\n"},
+        {"case of the names", "[GENERAL]\nKEY=1", "[GENERAL]\nKEY=ä=b\n"},
+        {"the first of two", "[General]\nkey=1\nkey=2\n", "[General]\nkey=ä=b\nkey=2\n"},
+        {"another section's", "[A]\nkey=1\n[General]\n", "[A]\nkey=1\n[General]\nkey=ä=b\n"},
+        {"a new one, before the comment behind", "[General]\nx=1\n; end\n[B]\n",
+         "[General]\nx=1\nkey=ä=b\n; end\n[B]\n"},
+        {"no section", "[A]\nx=1", "[A]\nx=1\n[General]\nkey=ä=b\n"},
+        {"no file", "", "[General]\nkey=ä=b\n"},
+        {"other line ends", "[General]\r\nkey=1\r\nx=1\r\n", "[General]\r\nkey=ä=b\r\nx=1\r\n"},
+        {"what makes no sense", "[General]\n???\nkey=1\n", "[General]\n???\nkey=ä=b\n"},
+        {"a byte order mark", "\xEF\xBB\xBF[General]\nkey=1\n", "\xEF\xBB\xBF[General]\nkey=ä=b\n"},
+    };
+    for (const auto& row : cases) {
+        const std::string text = WithIniValue(row.before, L"General", L"key", L"ä=b");
+        EXPECT_EQ(text, row.after) << row.what;
+        IniFile file;
+        file.Parse(text, L"");
+        EXPECT_EQ(*file.Find(L"General", L"key"), L"ä=b") << row.what;
+    }
+}

@@ -44,6 +44,10 @@ protected:
     }
     /// Opens the menu of the selected node, and chooses; all entries, "|" for a separator.
     static std::string Choose(CTreeCtrl& tree, const char* entry) {
+        // Closing a menu in memory leaves no window active.
+        WidgetOf(tree)->activateWindow();
+        tree.SetFocus();
+        Settle();
         std::string entries;
         Later([&] {
             auto* const pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -56,8 +60,8 @@ protected:
                 pChosen = pAction->text() == QLatin1String(entry) ? pAction : pChosen;
             }
             if (pChosen) {
-                pMenu->setActiveAction(pChosen);
-                QTest::keyClick(pMenu, Qt::Key_Return);
+                QTest::mouseClick(pMenu, Qt::LeftButton, {},
+                                  pMenu->actionGeometry(pChosen).center());
             } else {
                 pMenu->close();
             }

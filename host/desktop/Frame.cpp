@@ -200,7 +200,10 @@ void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
-        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
+        // A dialog that is open hides when it is asked to close, which would keep the toolkit
+        // from quitting.
+        QMetaObject::invokeMethod(
+            qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
     }
     RunPostedSoon();
 }

@@ -59,9 +59,9 @@ bool CFindDialog::OnInitDialog() {
           std::pair(kShow, Msg::Show), std::pair(kProperties, Msg::ShowProperties)}) {
         SetText(id, Text(message));
     }
-    MakeColumns({{Text(Msg::ColumnEntity), 90},
-                 {Text(Msg::ColumnSystem), 70},
-                 {Text(Msg::ColumnFoundIn), 80}});
+    MakeColumns({{Text(Msg::ColumnEntity), 84},
+                 {Text(Msg::ColumnSystem), 64},
+                 {Text(Msg::ColumnFoundIn), 76}});
     for (const UINT id : {kText, kSystem, kWhere}) {
         m_resize.SetResize(id, 0, 0, 1, 0);
     }

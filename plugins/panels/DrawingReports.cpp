@@ -42,11 +42,8 @@ std::optional<CString> FigureText(const System::CGisSystem& system, enmStatistic
     return std::nullopt;
 }
 
-struct LayerColor {
-    AcDbObjectId layer;
-    int color;
-    auto operator<=>(const LayerColor&) const = default;
-};
+/// A layer and a colour.
+using LayerColor = std::pair<AcDbObjectId, int>;
 
 } // namespace
 
@@ -71,8 +68,8 @@ std::vector<LegendRow> LegendOf(const AcDbDatabase& drawing) {
     for (const AcDbObjectId id : drawing.layers()) {
         const auto& layer = static_cast<const AcDbLayerTableRecord&>(*drawing.peek(id));
         for (auto it = counts.lower_bound({id, 0});
-             !layer.isOff() && it != counts.end() && it->first.layer == id; ++it) {
-            const int color = it->first.color;
+             !layer.isOff() && it != counts.end() && it->first.first == id; ++it) {
+            const int color = it->first.second;
             rows.push_back({layer.getName(), color ? color : layer.colorIndex(), it->second});
         }
     }

@@ -13,8 +13,8 @@ namespace Orvane::Panels {
 
 namespace {
 
-constexpr int kSwatch = 16;
-constexpr int kMargin = 2;
+constexpr std::size_t kSwatch = 16; // pixels
+constexpr std::size_t kMargin = 2;
 constexpr CRect kPaneSize(0, 0, 250, 200);
 constexpr CSize kSmallest(120, 80);
 /// Gray edges are seen on light and dark.
@@ -31,14 +31,14 @@ Tessaly::Background BackgroundNow() {
 CImage SwatchOf(int colorIndex) {
     const std::uint32_t color = Tessaly::AciColor(colorIndex, BackgroundNow());
     std::vector<std::uint32_t> pixels(kSwatch * kSwatch, 0);
-    for (int y = kMargin; y < kSwatch - kMargin; ++y) {
-        for (int x = kMargin; x < kSwatch - kMargin; ++x) {
+    for (std::size_t y = kMargin; y < kSwatch - kMargin; ++y) {
+        for (std::size_t x = kMargin; x < kSwatch - kMargin; ++x) {
             const bool isEdge = x == kMargin || y == kMargin || x == kSwatch - kMargin - 1 ||
                                 y == kSwatch - kMargin - 1;
-            pixels[static_cast<std::size_t>(y * kSwatch + x)] = isEdge ? kEdge : color;
+            pixels[y * kSwatch + x] = isEdge ? kEdge : color;
         }
     }
-    return {kSwatch, kSwatch, pixels};
+    return {static_cast<int>(kSwatch), static_cast<int>(kSwatch), pixels};
 }
 
 } // namespace
@@ -61,7 +61,7 @@ void CLegendDialog::RefreshContent() {
     }
     const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
     const std::vector<LegendRow> rows = pDrawing ? LegendOf(*pDrawing) : std::vector<LegendRow>();
-    CImageList swatches(CSize(kSwatch, kSwatch));
+    CImageList swatches(CSize(static_cast<int>(kSwatch), static_cast<int>(kSwatch)));
     m_list.DeleteAllItems();
     for (const LegendRow& row : rows) {
         const int place = m_list.InsertItem(m_list.GetItemCount(), row.layer,

@@ -17,10 +17,10 @@ constexpr int kNarrowest = 16;
 void MoveOverFrame(CWnd& dialog) {
     if (const CWnd* const pFrame = acedGetAcadFrame()) {
         const CRect frame = pFrame->GetWindowRect();
-        const CSize size = dialog.GetWindowRect().Size();
-        const CPoint corner(frame.left + (frame.Width() - size.cx) / 2,
-                            frame.top + (frame.Height() - size.cy) / 2);
-        dialog.MoveWindow(CRect(corner, size));
+        const CRect own = dialog.GetWindowRect();
+        const CPoint corner(frame.left + (frame.Width() - own.Width()) / 2,
+                            frame.top + (frame.Height() - own.Height()) / 2);
+        dialog.MoveWindow(CRect(corner, own.Size()));
     }
 }
 

@@ -441,7 +441,10 @@ void CTreePanel::OnLButtonUp(UINT, CPoint point) {
     const LentItem dragged = m_dragged;
     EndDrag();
     const CWsTreeItemData* const pTarget = DataAt(PlaceAt(ClientToScreen(point)));
-    const DropPlan plan = pTarget ? PlanDrop(*dragged, *pTarget) : DropPlan();
+    if (!pTarget) {
+        return;
+    }
+    const DropPlan plan = PlanDrop(*dragged, *pTarget);
     if (plan.commandId.IsEmpty()) {
         return;
     }

@@ -117,7 +117,7 @@ std::string VisibleDisplays() {
 }
 
 std::string DisplaysToStartWith(bool desktop) {
-    const std::string named = Variable("QT_QPA_PLATFORM");
+    std::string named = Variable("QT_QPA_PLATFORM");
     if (named.starts_with(kInMemory) || named == "minimal") {
         return named;
     }

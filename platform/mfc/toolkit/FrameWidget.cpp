@@ -51,6 +51,14 @@ protected:
     }
 };
 
+WINDOWPOS PlaceOf(const QPoint& corner) {
+    const CPoint point = ToScreenPoint(corner);
+    WINDOWPOS place;
+    place.x = point.x;
+    place.y = point.y;
+    return place;
+}
+
 } // namespace
 
 bool PlainWidget::event(QEvent* pEvent) {
@@ -225,9 +233,7 @@ void FrameWidget::DragTo(const QPoint& onScreen) {
             wanted.setBottom(std::max(wanted.bottom() + way.y(), wanted.top() + least.height()));
         }
     }
-    WINDOWPOS place;
-    place.x = ToScreenPoint(wanted.topLeft()).x;
-    place.y = ToScreenPoint(wanted.topLeft()).y;
+    WINDOWPOS place = PlaceOf(wanted.topLeft());
     place.cx = wanted.width();
     place.cy = wanted.height();
     place.flags = SWP_NOZORDER | (m_edges ? 0 : SWP_NOSIZE | SWP_USERMOVE);
@@ -247,9 +253,7 @@ void FrameWidget::Settle() {
     if (!pCore || m_dragging || isMinimized() || from == m_lastCorrection.first) {
         return;
     }
-    WINDOWPOS place;
-    place.x = ToScreenPoint(from).x;
-    place.y = ToScreenPoint(from).y;
+    WINDOWPOS place = PlaceOf(from);
     place.flags = SWP_NOSIZE | SWP_NOZORDER;
     pCore->Place(place, nullptr);
     m_lastCorrection = {from, pos()};

@@ -13,7 +13,6 @@
 
 namespace Orvane::Network {
 
-using Plugins::Ask;
 using Plugins::CommandScope;
 using Plugins::OwnCommandId;
 

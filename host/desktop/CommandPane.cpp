@@ -109,6 +109,11 @@ void CommandPane::FocusInput() {
     m_pInput->setFocus(Qt::ShortcutFocusReason);
 }
 
+void CommandPane::GoToInput() {
+    activateWindow(); // a pane that floats is a window of its own
+    FocusInput();
+}
+
 void CommandPane::TypeKey(QKeyEvent& event) {
     m_pInput->setFocus(Qt::OtherFocusReason);
     QCoreApplication::sendEvent(m_pInput, &event);

@@ -30,6 +30,8 @@ public:
     const QStringList& History() const { return m_history; }
     void Remember(const QString& line);
     void FocusInput();
+    /// As FocusInput, and the window that the pane is in comes to the front.
+    void GoToInput();
     /// Puts a key that was pressed elsewhere into the input.
     void TypeKey(QKeyEvent& event);
     QString Text() const;

@@ -127,10 +127,11 @@ void Frame::LeaveKeyboardTo(DrawingView& view) {
 void Frame::keyPressEvent(QKeyEvent* pEvent) {
     // Whoever types over the drawing means the command line; a key that a pane has left is
     // not meant for it.
-    const QWidget* const pFocus = QApplication::focusWidget();
-    const bool isOver = !pFocus || pFocus == this || pFocus == centralWidget() ||
-                        centralWidget()->isAncestorOf(pFocus) ||
-                        m_pCommandDock->isAncestorOf(pFocus);
+    const QWidget* pPane = QApplication::focusWidget();
+    while (pPane && !qobject_cast<const QDockWidget*>(pPane)) {
+        pPane = pPane->parentWidget();
+    }
+    const bool isOver = !pPane || pPane == m_pCommandDock;
     const bool isText = !pEvent->text().isEmpty() && pEvent->text()[0].isPrint() &&
                         !(pEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;

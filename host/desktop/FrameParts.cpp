@@ -160,7 +160,7 @@ void Frame::MakeMenus() {
     QMenu* const pTools = menuBar()->addMenu(tr("&Tools"));
     add(pTools, tr("Command &palette…"), QStringLiteral("Ctrl+Shift+P"), [this] { ShowPalette(); });
     add(pTools, tr("Go to the command &line"), QStringLiteral("Ctrl+L"),
-        [this] { m_pPane->FocusInput(); });
+        [this] { m_pPane->GoToInput(); });
 
     QMenu* const pHelp = menuBar()->addMenu(tr("&Help"));
     command(pHelp, {"&Commands", "F1", L"HELP"});
@@ -215,8 +215,7 @@ void Frame::GoToPane(int step) {
         pDock->raise(); // of those that share a place only one is seen
     }
     if (&next == m_pPane) {
-        m_pPane->window()->activateWindow();
-        m_pPane->FocusInput();
+        m_pPane->GoToInput();
     } else {
         FocusInside(next);
     }

@@ -138,6 +138,12 @@ TEST_F(FrameTest, KeysThatAPaneHasLeftAreNotForTheCommandLine) {
     EXPECT_EQ(Tabs().count(), 2) << "the last command was repeated";
     QTest::keyClick(m_pFrame->CurrentView(), Qt::Key_X);
     EXPECT_EQ(m_pInput->text(), "x");
+    // What stands between the panes is none of them.
+    auto* const pTabs = new QTabBar(m_pFrame.get());
+    pTabs->show();
+    pTabs->setFocus();
+    QTest::keyClick(pTabs, Qt::Key_Y);
+    EXPECT_EQ(m_pInput->text(), "xy");
 }
 
 TEST_F(FrameTest, TheLayoutIsTheSameAgain) {

@@ -66,8 +66,6 @@ void RestoreLayout(Frame& frame, const Options& options) {
 
 /// Draws the window without anybody seeing it.
 int TakePicture(Frame& frame, const CString& path) {
-    frame.resize(kPictureSize);
-    frame.show();
     // Until what is drawn in steps is all there.
     QElapsedTimer waited;
     waited.start();
@@ -124,8 +122,11 @@ int RunDesktop(const Options& options) {
     int status = kExitDone;
     {
         Session session(frame.Port());
+        if (options.snapshot) {
+            frame.resize(kPictureSize);
+        }
+        frame.show();
         if (!options.snapshot) {
-            frame.show();
             frame.RaiseFloatingPanes();
         }
         status = Run(options, frame, session);

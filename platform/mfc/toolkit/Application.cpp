@@ -203,13 +203,32 @@ bool AfxHasDisplay() {
             visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
 
+namespace {
+
+QtMessageHandler g_handlerBefore = nullptr;
+
+/// What the display in memory cannot do, and where it may not keep things for a session, are
+/// no concern of somebody who asks for a picture.
+void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith("This plugin does not support") &&
+        !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
+        g_handlerBefore(type, context, text);
+    }
+}
+
+} // namespace
+
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
     }
     // Only for the start: programs that are started from here find their own.
     const QByteArray named = qgetenv("QT_QPA_PLATFORM");
-    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(DisplaysToStartWith(g_desktop)));
+    const QByteArray displays = QByteArray::fromStdString(DisplaysToStartWith(g_desktop));
+    qputenv("QT_QPA_PLATFORM", displays);
+    if (displays.startsWith("offscreen")) {
+        g_handlerBefore = qInstallMessageHandler(&PassOn);
+    }
     static int argc = 1;
     static char name[] = "tessaly";
     static char* argv[] = {name, nullptr};

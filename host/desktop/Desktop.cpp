@@ -88,6 +88,7 @@ int TakePicture(Frame& frame, const CString& path) {
 
 int Run(const Options& options, Frame& frame, Session& session) {
     const bool isOpen = session.Start(options.drawing);
+    frame.Port().EndLine(); // the last module said its name
     frame.SetSession(&session);
     if (options.first) {
         frame.RunScript(*options.first);
@@ -126,9 +127,7 @@ int RunDesktop(const Options& options) {
             frame.resize(kPictureSize);
         }
         frame.show();
-        if (!options.snapshot) {
-            frame.RaiseFloatingPanes();
-        }
+        frame.RaiseFloatingPanes();
         status = Run(options, frame, session);
         frame.SetSession(nullptr);
     }

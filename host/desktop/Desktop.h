@@ -6,7 +6,8 @@
 namespace Tessaly {
 
 /// With the toolkit started, runs the desktop until the user leaves, or until its picture was
-/// drawn. \return the program's exit status
+/// drawn.
+/// \return the program's exit status
 int RunDesktop(const Options& options);
 
 } // namespace Tessaly

@@ -51,7 +51,15 @@ void DesktopPort::Print(std::wstring_view text) {
 }
 
 void DesktopPort::PrintLine(const CString& text) {
-    Print(FormatText(L"%s%s\n", CString(m_bAtLineStart ? L"" : L"\n"), text));
+    EndLine();
+    Print(text.View());
+    Print(L"\n");
+}
+
+void DesktopPort::EndLine() {
+    if (!m_bAtLineStart) {
+        Print(L"\n");
+    }
 }
 
 std::optional<CString> DesktopPort::TakeLine() {

@@ -36,6 +36,8 @@ public:
     void Print(std::wstring_view text) override;
     /// A line of its own.
     void PrintLine(const CString& text);
+    /// What is printed next begins a line.
+    void EndLine();
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void PostCommand(std::wstring_view text) override;

@@ -69,6 +69,17 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
     return msg;
 }
 
+QtMessageHandler g_handlerBefore = nullptr;
+
+/// What the display in memory cannot do, and where it may not keep things for a session, are
+/// no concern of somebody who asks for a picture.
+void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith("This plugin does not support") &&
+        !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
+        g_handlerBefore(type, context, text);
+    }
+}
+
 } // namespace
 
 int VirtualKeyOf(int key) {
@@ -202,21 +213,6 @@ bool AfxHasDisplay() {
            (!QCoreApplication::instance() ||
             visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
-
-namespace {
-
-QtMessageHandler g_handlerBefore = nullptr;
-
-/// What the display in memory cannot do, and where it may not keep things for a session, are
-/// no concern of somebody who asks for a picture.
-void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!text.startsWith("This plugin does not support") &&
-        !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
-        g_handlerBefore(type, context, text);
-    }
-}
-
-} // namespace
 
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {

@@ -12,10 +12,10 @@
 #include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkLayers.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
-#include "siblings/giscore/Topology.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/topology/Topology.h"
 
 namespace Orvane::Network {
 

@@ -5,8 +5,8 @@
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxArxApp.h"
-#include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/GisEvents.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Application {

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/EntityAttributes.h"
 #include "siblings/networkcore/NameIndex.h"
 #include "siblings/networkcore/NameRules.h"

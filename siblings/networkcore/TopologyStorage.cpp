@@ -6,9 +6,9 @@
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SupportFile.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/utility/SupportFile.h"
 #include "siblings/networkcore/EntityLists.h"
 
 namespace Orvane::Topology {

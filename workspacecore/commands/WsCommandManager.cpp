@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/QueryDefinition.h"
+#include "siblings/giscore/query/QueryDefinition.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "workspacecore/core/Trace.h"
 
 namespace Orvane::Workspace {

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "siblings/conversion/Ansi2UnicodeUtility.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscoreadds/InfoTooltipRegistry.h"
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 #include "workspacecore/core/EditorReactor.h"

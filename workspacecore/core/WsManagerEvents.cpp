@@ -1,7 +1,7 @@
 // The events: what each does besides telling the listeners.
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/LinearDataManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "siblings/networkcore/TopologyStorage.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/mfc/AdUiBaseDialog.h"
-#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/Api.h"
 #include "workspacecore/core/IWsListener.h"
 

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "platform/mfc/Menu.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/WsTreeItemDefinition.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "platform/mfc/TreeCtrl.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "workspacecore/foundation/XmlDocument.h"
 #include "workspacecore/resources/Icons.h"
 #include "workspacecore/resources/ModuleResources.h"

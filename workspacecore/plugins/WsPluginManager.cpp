@@ -7,7 +7,7 @@
 #include "platform/win/ErrorText.h"
 #include "platform/win/FileVersion.h"
 #include "platform/win/Library.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/plugins/LoadSteps.h"

@@ -2,8 +2,8 @@
 
 #include <span>
 
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/StandardCommand.h"
 

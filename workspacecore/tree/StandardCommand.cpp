@@ -1,7 +1,7 @@
 #include "workspacecore/tree/StandardCommand.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Workspace {

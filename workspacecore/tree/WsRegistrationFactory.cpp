@@ -1,6 +1,6 @@
 #include "workspacecore/tree/WsRegistrationFactory.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/RepositoryItemRegistration.h"
 #include "workspacecore/tree/StandardCommand.h"

@@ -9,7 +9,7 @@
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkLayers.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;

@@ -5,7 +5,7 @@
 
 #include "siblings/giscore/query/QueryDefinition.h"
 #include "siblings/giscore/systems/GisSystem.h"
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

@@ -7,8 +7,8 @@
 #include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/giscoreadds/PolygonIndex.h"
-#include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

@@ -11,7 +11,7 @@
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 #include "workspacecore/core/EditorReactor.h"
 #include "workspacecore/core/HostWillClose.h"
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

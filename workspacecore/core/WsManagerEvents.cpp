@@ -6,8 +6,8 @@
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "siblings/networkcore/TopologyStorage.h"
 #include "workspacecore/core/HostWillClose.h"
-#include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/trace/Trace.h"
 
 // The name of a system, where there is one.
 #define WS_TRACE_SYSTEM_NAME(pSystem)                                                              \

@@ -9,8 +9,8 @@
 #include "siblings/giscore/data/DataBox.h"
 #include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/Api.h"
-#include "workspacecore/core/IWsListener.h"
 #include "workspacecore/dialogs/DialogsTypes.h"
+#include "workspacecore/events/IWsListener.h"
 
 class CComboBox;
 

@@ -4,7 +4,7 @@
 #include "platform/mfc/AdUiBaseDialog.h"
 #include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/Api.h"
-#include "workspacecore/core/IWsListener.h"
+#include "workspacecore/events/IWsListener.h"
 
 namespace Orvane::Workspace {
 

@@ -8,10 +8,10 @@
 #include "platform/win/FileVersion.h"
 #include "platform/win/Library.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
-#include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/plugins/LoadSteps.h"
 #include "workspacecore/plugins/SplashScreen.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

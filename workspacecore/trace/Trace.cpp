@@ -1,4 +1,4 @@
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 #include <cstdio>
 #include <ctime>

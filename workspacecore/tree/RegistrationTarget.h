@@ -13,8 +13,7 @@ class IWsCommandExecutor;
 class IRegistrationTarget {
 public:
     virtual void RegisterWsCommand(const boost::shared_ptr<CWsCommand>& command) = 0;
-    virtual void
-    RegisterWsTreeItem(const boost::shared_ptr<CWsTreeItemDefinition>& definition) = 0;
+    virtual void RegisterWsTreeItem(const boost::shared_ptr<CWsTreeItemDefinition>& definition) = 0;
     /// Null until one was registered.
     virtual IWsCommandExecutor* GetBaseExecutor() = 0;
     virtual TreeIcons& Icons() = 0;

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <sqlite3.h>
 
-#include "host/storage/GeoPackageStorage.h"
 #include "host/storage/Import.h"
+#include "host/storage/OpenAndSave.h"
 #include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkLayers.h"

@@ -1,7 +1,7 @@
 // Commands on configurations and systems, driven by nodes of trees made by hand.
 #include <boost/make_shared.hpp>
 
-#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbUndo.h"
 #include "plugins/network/repository/LabelFamily.h"
 #include "plugins/network/repository/RepositoryExecutor.h"

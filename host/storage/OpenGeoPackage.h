@@ -14,7 +14,7 @@ class OGRLayer;
 namespace Tessaly {
 
 /// Closes with its end. What goes wrong is in the errors that it was made with.
-class GeoPackageFile {
+class OpenGeoPackage {
 public:
     enum class Mode {
         Read,
@@ -23,10 +23,10 @@ public:
         Create, ///< a new draft
     };
 
-    GeoPackageFile(const std::string& path, Mode mode);
-    ~GeoPackageFile();
-    GeoPackageFile(const GeoPackageFile&) = delete;
-    GeoPackageFile& operator=(const GeoPackageFile&) = delete;
+    OpenGeoPackage(const std::string& path, Mode mode);
+    ~OpenGeoPackage();
+    OpenGeoPackage(const OpenGeoPackage&) = delete;
+    OpenGeoPackage& operator=(const OpenGeoPackage&) = delete;
 
     bool IsOpen() const { return m_pDataset != nullptr; }
     GDALDataset& Dataset() { return *m_pDataset; }
@@ -55,11 +55,5 @@ private:
 /// A name (a text) as it stands in SQL.
 std::string QuoteName(const std::string& name);
 std::string QuoteText(const std::string& text);
-
-/// Lets a write that another process left unfinished be taken back. Empty on success.
-CString SettleJournal(const std::string& path);
-/// The same for a file that is to be replaced: no journal of its may be left, since it would
-/// be taken for one of the new file. Empty on success.
-CString ClearJournals(const std::string& path);
 
 } // namespace Tessaly

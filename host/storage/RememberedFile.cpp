@@ -1,17 +1,17 @@
-#include "host/storage/DrawingFile.h"
+#include "host/storage/RememberedFile.h"
 
 #include <algorithm>
 
 namespace Tessaly {
 
-const DrawingFile::Foreign* DrawingFile::FindForeign(AcDbObjectId id) const {
+const RememberedFile::Foreign* RememberedFile::FindForeign(AcDbObjectId id) const {
     const auto found =
         std::lower_bound(foreign.begin(), foreign.end(), id,
                          [](const Foreign& row, AcDbObjectId wanted) { return row.id < wanted; });
     return found != foreign.end() && found->id == id && !found->isOurs ? &*found : nullptr;
 }
 
-bool DrawingFile::HasRow(AcDbObjectId id) const {
+bool RememberedFile::HasRow(AcDbObjectId id) const {
     if (id.number() < firstUnwritten) {
         return !FindForeign(id);
     }

@@ -1,4 +1,4 @@
-// Drawings as GeoPackages, which every GIS opens.
+// How drawings are opened, saved and saved elsewhere: as GeoPackages, which every GIS opens.
 #pragma once
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/OpenAndSave.h"
 
 #include <exception>
 #include <filesystem>
@@ -7,9 +7,11 @@
 
 #include "host/storage/DrawingReader.h"
 #include "host/storage/DrawingWriter.h"
-#include "host/storage/Files.h"
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/FileChecks.h"
+#include "host/storage/Journals.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "host/storage/SourceCopy.h"
+#include "host/storage/UnfinishedFile.h"
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
 
@@ -17,7 +19,7 @@ namespace Tessaly {
 
 namespace {
 
-using Mode = GeoPackageFile::Mode;
+using Mode = OpenGeoPackage::Mode;
 using Scope = DrawingWriter::Scope;
 
 AcDbStorageResult Refusal(const std::string& path, const CString& reason) {
@@ -44,24 +46,24 @@ private:
                                   const AcDbProgress& progress);
     AcDbStorageResult SaveTo(AcDbDatabase& database, const wchar_t* from, const std::string& path,
                              const AcDbProgress& progress);
-    DrawingFile* FileOf(const AcDbDatabase& database, const std::string& path);
+    RememberedFile* FileOf(const AcDbDatabase& database, const std::string& path);
     AcDbStorageResult SaveCopy(AcDbDatabase& database, const std::string& from,
                                const std::string& path, const AcDbProgress& progress);
     AcDbStorageResult SaveWhole(AcDbDatabase& database, const std::string& path,
                                 const AcDbProgress& progress);
     AcDbStorageResult Finish(AcDbDatabase& database, const std::string& path,
-                             UnfinishedFile& unfinished, DrawingFile remembered, CString reason,
+                             UnfinishedFile& unfinished, RememberedFile remembered, CString reason,
                              AcDbStorageResult result);
 
-    std::map<const AcDbDatabase*, DrawingFile> m_files;
+    std::map<const AcDbDatabase*, RememberedFile> m_files;
 };
 
 /// One transaction into a file. Empty on success; `remembered` is brought up to date then.
 CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabase& database,
-              DrawingFile& remembered, const AcDbProgress& progress,
+              RememberedFile& remembered, const AcDbProgress& progress,
               std::vector<CString>& warnings) {
     GdalErrors errors;
-    GeoPackageFile file(path, mode);
+    OpenGeoPackage file(path, mode);
     if (!file.IsOpen()) {
         return errors.Reason();
     }
@@ -81,19 +83,19 @@ CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabas
 
 /// Why the changes of a drawing make no sense in a file; empty if they do. A backup that was
 /// put in the place of the file lacks what the drawing takes for saved.
-CString WhyNotTheSame(const std::string& path, const DrawingFile& remembered) {
+CString WhyNotTheSame(const std::string& path, const RememberedFile& remembered) {
     if (remembered.changeCounter == ChangeCounter(path)) {
         return {};
     }
     GdalErrors errors;
-    GeoPackageFile file(path, Mode::Read);
+    OpenGeoPackage file(path, Mode::Read);
     Schema schema;
     const bool isOlder = file.IsOpen() && LoadSchema(file, schema).IsEmpty() &&
                          schema.nextId < remembered.firstUnwritten;
     return isOlder ? L"another or an older file has taken its place" : CString();
 }
 
-void WarnOfOthers(const std::string& path, const DrawingFile& remembered,
+void WarnOfOthers(const std::string& path, const RememberedFile& remembered,
                   std::vector<CString>& warnings) {
     if (remembered.changeCounter != ChangeCounter(path)) {
         warnings.push_back(
@@ -105,7 +107,7 @@ void WarnOfOthers(const std::string& path, const DrawingFile& remembered,
 /// Whether what is in the file has other coordinates than the drawing has now.
 bool HasOtherCoordinates(const std::string& path, const AcDbDatabase& database) {
     GdalErrors errors;
-    GeoPackageFile file(path, Mode::Read);
+    OpenGeoPackage file(path, Mode::Read);
     Schema schema;
     return file.IsOpen() && LoadSchema(file, schema).IsEmpty() && schema.exists &&
            schema.coordinateSystem != WideToUtf8(database.coordinateSystem().View());
@@ -172,7 +174,7 @@ AcDbStorageResult GeoPackageStorage::ReadFile(AcDbDatabase& database, const std:
     }
     GdalErrors errors;
     const std::uint32_t counter = ChangeCounter(native);
-    GeoPackageFile file(native, Mode::Read);
+    OpenGeoPackage file(native, Mode::Read);
     // In one transaction: all tables are as they were at the same moment.
     if (!file.IsOpen() || !file.Begin()) {
         return Refusal(native, errors.Reason());
@@ -182,7 +184,7 @@ AcDbStorageResult GeoPackageStorage::ReadFile(AcDbDatabase& database, const std:
     if (!reason.IsEmpty()) {
         return Refusal(native, reason);
     }
-    DrawingFile remembered;
+    RememberedFile remembered;
     reader.MoveInto(database, remembered);
     remembered.path = native;
     remembered.changeCounter = counter;
@@ -194,14 +196,14 @@ AcDbStorageResult GeoPackageStorage::ReadFile(AcDbDatabase& database, const std:
     return result;
 }
 
-DrawingFile* GeoPackageStorage::FileOf(const AcDbDatabase& database, const std::string& path) {
+RememberedFile* GeoPackageStorage::FileOf(const AcDbDatabase& database, const std::string& path) {
     const auto found = m_files.find(&database);
     return found != m_files.end() && found->second.path == path ? &found->second : nullptr;
 }
 
 AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const std::string& native,
                                                  const AcDbProgress& progress) {
-    DrawingFile* pFile = FileOf(database, native);
+    RememberedFile* pFile = FileOf(database, native);
     CString reason = pFile ? WhyNoDatabase(native) : CString(L"the drawing is not from this file");
     if (reason.IsEmpty()) {
         reason = Tessaly::WhyNotWritable(native);
@@ -245,7 +247,7 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
         return SaveWhole(database, target, progress);
     }
     const std::string source = AbsolutePath(from);
-    const DrawingFile* pFile = FileOf(database, source);
+    const RememberedFile* pFile = FileOf(database, source);
     CString sourceReason = WhyNoDatabase(source);
     if (sourceReason.IsEmpty() && pFile) {
         sourceReason = WhyNotTheSame(source, *pFile);
@@ -265,7 +267,7 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
 
 /// Puts a file that was written whole into its place, unless there is a reason against it.
 AcDbStorageResult GeoPackageStorage::Finish(AcDbDatabase& database, const std::string& path,
-                                            UnfinishedFile& unfinished, DrawingFile remembered,
+                                            UnfinishedFile& unfinished, RememberedFile remembered,
                                             CString reason, AcDbStorageResult result) {
     if (reason.IsEmpty()) {
         reason = unfinished.PutInPlace();
@@ -288,7 +290,7 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
     if (!reason.IsEmpty()) {
         return Refusal(path, reason);
     }
-    DrawingFile remembered = *FileOf(database, from);
+    RememberedFile remembered = *FileOf(database, from);
     AcDbStorageResult result;
     WarnOfOthers(from, remembered, result.warnings);
     Scope scope = Scope::Changes;
@@ -308,7 +310,7 @@ AcDbStorageResult GeoPackageStorage::SaveCopy(AcDbDatabase& database, const std:
 AcDbStorageResult GeoPackageStorage::SaveWhole(AcDbDatabase& database, const std::string& path,
                                                const AcDbProgress& progress) {
     UnfinishedFile unfinished(path);
-    DrawingFile remembered;
+    RememberedFile remembered;
     AcDbStorageResult result;
     CString reason = Write(unfinished.Path(), Mode::Create, Scope::Everything, database, remembered,
                            progress, result.warnings);

@@ -1,11 +1,9 @@
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 
 #include <gdal_priv.h>
 #include <mutex>
 #include <ogrsf_frmts.h>
 #include <utility>
-
-#include "host/storage/Files.h"
 
 namespace Tessaly {
 
@@ -25,7 +23,7 @@ std::string Quote(const std::string& text, char mark) {
 
 } // namespace
 
-GeoPackageFile::GeoPackageFile(const std::string& path, Mode mode) {
+OpenGeoPackage::OpenGeoPackage(const std::string& path, Mode mode) {
     // Only this format: other drivers look for their files everywhere, and take their time.
     static std::once_flag once;
     std::call_once(once, [] {
@@ -48,7 +46,7 @@ GeoPackageFile::GeoPackageFile(const std::string& path, Mode mode) {
     }
 }
 
-void GeoPackageFile::Open(const std::string& path, Mode mode) {
+void OpenGeoPackage::Open(const std::string& path, Mode mode) {
     static const char* const kDrivers[] = {"GPKG", nullptr};
     // Tables that the file does not announce are nobody's features.
     static const char* const kOptions[] = {"LIST_ALL_TABLES=NO", nullptr};
@@ -63,24 +61,24 @@ void GeoPackageFile::Open(const std::string& path, Mode mode) {
                                    kDrivers, kOptions);
 }
 
-GeoPackageFile::~GeoPackageFile() {
+OpenGeoPackage::~OpenGeoPackage() {
     if (m_pDataset) {
         Rollback();
         GDALClose(m_pDataset);
     }
 }
 
-bool GeoPackageFile::IsDurable() {
+bool OpenGeoPackage::IsDurable() {
     int level = -1;
     Query("PRAGMA synchronous", [&](const OGRFeature& row) { level = row.GetFieldAsInteger(0); });
     return level >= kSynchronousFull;
 }
 
-OGRLayer* GeoPackageFile::Table(const std::string& name) {
+OGRLayer* OpenGeoPackage::Table(const std::string& name) {
     return m_pDataset->GetLayerByName(name.c_str());
 }
 
-bool GeoPackageFile::Execute(const std::string& sql) {
+bool OpenGeoPackage::Execute(const std::string& sql) {
     CPLErrorReset();
     OGRLayer* pResult = m_pDataset->ExecuteSQL(sql.c_str(), nullptr, nullptr);
     if (pResult) {
@@ -89,7 +87,7 @@ bool GeoPackageFile::Execute(const std::string& sql) {
     return CPLGetLastErrorType() < CE_Failure;
 }
 
-bool GeoPackageFile::Query(const std::string& sql,
+bool OpenGeoPackage::Query(const std::string& sql,
                            const std::function<void(const OGRFeature&)>& row) {
     CPLErrorReset();
     OGRLayer* pResult = m_pDataset->ExecuteSQL(sql.c_str(), nullptr, nullptr);
@@ -104,17 +102,17 @@ bool GeoPackageFile::Query(const std::string& sql,
     return isWhole;
 }
 
-bool GeoPackageFile::Begin() {
+bool OpenGeoPackage::Begin() {
     m_bInTransaction = m_pDataset->StartTransaction() == OGRERR_NONE;
     return m_bInTransaction;
 }
 
-bool GeoPackageFile::BeginWriting() {
+bool OpenGeoPackage::BeginWriting() {
     // GDAL has no transaction that begins with the lock, but any write takes it.
     return Begin() && Execute("DELETE FROM gpkg_contents WHERE 0");
 }
 
-bool GeoPackageFile::Commit() {
+bool OpenGeoPackage::Commit() {
     CPLErrorReset();
     m_pDataset->FlushCache(false);
     if (CPLGetLastErrorType() >= CE_Failure || m_pDataset->CommitTransaction() != OGRERR_NONE) {
@@ -124,7 +122,7 @@ bool GeoPackageFile::Commit() {
     return true;
 }
 
-void GeoPackageFile::Rollback() {
+void OpenGeoPackage::Rollback() {
     if (m_bInTransaction) {
         m_pDataset->RollbackTransaction();
         m_bInTransaction = false;
@@ -137,35 +135,6 @@ std::string QuoteName(const std::string& name) {
 
 std::string QuoteText(const std::string& text) {
     return Quote(text, '\'');
-}
-
-CString SettleJournal(const std::string& path) {
-    if (!HasHotJournal(path)) {
-        return {};
-    }
-    GdalErrors errors;
-    const GeoPackageFile file(path, GeoPackageFile::Mode::Write);
-    if (file.IsOpen() && !HasHotJournal(path)) {
-        return {};
-    }
-    return CString(L"an unfinished write has to be taken back first, and cannot be: ") +
-           errors.Reason();
-}
-
-CString ClearJournals(const std::string& path) {
-    if (!HasJournal(path) || RemoveOrphans(path)) {
-        return {};
-    }
-    GdalErrors errors;
-    {
-        GeoPackageFile file(path, GeoPackageFile::Mode::Write);
-        if (!file.IsOpen() || !file.Execute("BEGIN IMMEDIATE")) {
-            return errors.Reason();
-        }
-        RemoveColdJournal(path);
-        file.Execute("COMMIT");
-    }
-    return HasJournal(path) ? CString(L"another program has it open") : CString();
 }
 
 } // namespace Tessaly

@@ -11,7 +11,7 @@
 
 namespace Tessaly {
 
-struct DrawingFile {
+struct RememberedFile {
     /// An entity that stands for a row of somebody else's table.
     struct Foreign {
         AcDbObjectId id;

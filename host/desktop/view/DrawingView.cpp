@@ -306,7 +306,7 @@ void DrawingView::CancelPick() {
     if (m_isPicking) {
         m_isPicking = false;
         ShowCursor();
-        emit PickEnded(PickEnd::Cancelled, {}, 0, 0);
+        emit PickEnded(PickOutcome::Cancelled, {}, 0, 0);
     }
 }
 

@@ -10,15 +10,9 @@
 #include "host/desktop/view/ScenePick.h"
 #include "host/desktop/view/TextOverlay.h"
 #include "host/desktop/view/ViewPicture.h"
+#include "platform/arx/EdDisplay.h"
 
 namespace Tessaly {
-
-/// How asking for one entity ended.
-enum class PickEnd {
-    Picked,
-    Missed,    ///< the user pointed at nothing
-    Cancelled, ///< Escape, or the drawing went
-};
 
 /// Shows one drawing, or none. Colours follow the palette: a dark or a light base. Entities
 /// are named by their ids; ids of what is no more are passed over.
@@ -82,7 +76,7 @@ signals:
     void SelectionChanged();
     /// \param id null unless picked
     /// \param x,y drawing units, where the user pointed
-    void PickEnded(Tessaly::PickEnd how, AcDbObjectId id, double x, double y);
+    void PickEnded(PickOutcome how, AcDbObjectId id, double x, double y);
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;

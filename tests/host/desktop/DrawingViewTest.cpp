@@ -19,7 +19,7 @@ using namespace Tessaly;
 namespace {
 
 struct Answer {
-    PickEnd how;
+    PickOutcome how;
     AcDbObjectId id;
     double x;
     double y;
@@ -33,7 +33,7 @@ protected:
         palette.setColor(QPalette::Base, Qt::black);
         view.setPalette(palette);
         QObject::connect(&view, &DrawingView::PickEnded,
-                         [this](PickEnd how, AcDbObjectId id, double x, double y) {
+                         [this](PickOutcome how, AcDbObjectId id, double x, double y) {
                              answer = {how, id, x, y};
                          });
         QObject::connect(&view, &DrawingView::SelectionChanged, [this] { ++selectionChanges; });
@@ -217,7 +217,7 @@ TEST_F(DrawingViewTest, AsksForOneEntity) {
     view.StartPick();
     Click(Place(100, 52));
     ASSERT_TRUE(answer);
-    EXPECT_EQ(answer->how, PickEnd::Picked);
+    EXPECT_EQ(answer->how, PickOutcome::Picked);
     EXPECT_EQ(answer->id, line);
     EXPECT_NEAR(answer->x, 100, 1e-3);
     EXPECT_TRUE(view.Selection().empty()) << "asking selects nothing";
@@ -226,10 +226,10 @@ TEST_F(DrawingViewTest, AsksForOneEntity) {
     Drag(Qt::MiddleButton, Place(10, 10), Place(12, 10));
     EXPECT_TRUE(view.IsPicking()) << "moving the view does not answer";
     Click(Place(200, 150));
-    EXPECT_EQ(answer->how, PickEnd::Missed);
+    EXPECT_EQ(answer->how, PickOutcome::Missed);
     view.StartPick();
     Key(Qt::Key_Escape);
-    EXPECT_EQ(answer->how, PickEnd::Cancelled);
+    EXPECT_EQ(answer->how, PickOutcome::Cancelled);
     answer.reset();
     Key(Qt::Key_Escape);
     Click(Place(100, 52));
@@ -246,7 +246,7 @@ TEST_F(DrawingViewTest, StopsAskingWhenTheDrawingGoes) {
     EXPECT_FALSE(answer) << "not in the middle of it";
     QApplication::processEvents();
     ASSERT_TRUE(answer);
-    EXPECT_EQ(answer->how, PickEnd::Cancelled);
+    EXPECT_EQ(answer->how, PickOutcome::Cancelled);
 }
 
 TEST_F(DrawingViewTest, PicksByTheNameBesideAnEntity) {

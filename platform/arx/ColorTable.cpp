@@ -1,4 +1,4 @@
-#include "platform/arx/AciColors.h"
+#include "platform/arx/ColorTable.h"
 
 #include <algorithm>
 #include <array>

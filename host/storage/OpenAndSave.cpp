@@ -30,6 +30,7 @@ AcDbStorageResult Refusal(const std::string& path, const CString& reason) {
 
 class GeoPackageStorage final : public IDbStorage {
 public:
+    CString Extension() const override { return Utf8ToWide(kGeoPackageExtension); }
     CString WhyNotWritable(const wchar_t* path) override;
     AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
                            const AcDbProgress& progress) override;

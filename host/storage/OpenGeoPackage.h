@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "host/storage/GdalErrors.h"
 
@@ -51,6 +52,9 @@ private:
     GDALDataset* m_pDataset = nullptr;
     bool m_bInTransaction = false;
 };
+
+/// With which the names of such files end: the libraries refuse others.
+inline constexpr std::string_view kGeoPackageExtension = ".gpkg";
 
 /// A name (a text) as it stands in SQL.
 std::string QuoteName(const std::string& name);

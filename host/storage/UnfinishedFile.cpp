@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <vector>
 
+#include "host/storage/OpenGeoPackage.h"
 #include "host/storage/SystemFile.h"
 
 namespace Tessaly {
@@ -17,9 +18,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kPartSuffix = ".part.gpkg";
 /// Longest part of the target's name in a temporary name: both have to fit a file system.
 constexpr std::size_t kLongestStem = 150;
+
+const std::string& PartSuffix() {
+    static const std::string suffix = ".part" + std::string(kGeoPackageExtension);
+    return suffix;
+}
 
 std::string PartPrefix(const fs::path& target) {
     return "." + target.filename().string().substr(0, kLongestStem) + ".";
@@ -34,7 +39,7 @@ pid_t WriterOf(const std::string& name, const std::string& prefix) {
     const char* pEnd = name.data() + name.size();
     const auto parsed = std::from_chars(name.data() + prefix.size(), pEnd, writer);
     const std::string_view rest(parsed.ptr, static_cast<std::size_t>(pEnd - parsed.ptr));
-    return rest.compare(0, kPartSuffix.size(), kPartSuffix) == 0 ? writer : 0;
+    return rest.starts_with(PartSuffix()) ? writer : 0;
 }
 
 void ClearLeftovers(const fs::path& target) {
@@ -67,7 +72,7 @@ UnfinishedFile::UnfinishedFile(const std::string& target) : m_target(BehindLinks
     const fs::path targetPath(m_target);
     ClearLeftovers(targetPath);
     m_path = (targetPath.parent_path() /
-              (PartPrefix(targetPath) + std::to_string(getpid()) + std::string(kPartSuffix)))
+              (PartPrefix(targetPath) + std::to_string(getpid()) + PartSuffix()))
                  .string();
 }
 

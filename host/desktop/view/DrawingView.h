@@ -43,9 +43,8 @@ public:
     void SetSelection(std::vector<AcDbObjectId> ids);
     /// Thick, in a colour of the 255-colour table; until the next Redraw.
     void Highlight(std::span<const AcDbObjectId> ids, int colorIndex);
-    /// In a colour of the 255-colour table; until ClearMarks or the next Redraw.
+    /// In a colour of the 255-colour table; until the next Redraw.
     void Mark(std::span<const AcDbObjectId> ids, int colorIndex);
-    void ClearMarks();
     /// Draws all anew, without marks and highlights.
     void Redraw();
     /// Shows at once what has changed in the drawing.
@@ -64,10 +63,6 @@ public:
     bool IsPicking() const { return m_isPicking; }
     /// What the user means by a place in the window; null if nothing.
     AcDbObjectId EntityAt(const QPointF& position) const;
-
-    /// What the view would show in a window of so many pixels of the device.
-    /// \param pixelRatio of them for one of the desktop
-    QImage Snapshot(const QSize& size, double pixelRatio = 1);
 
 signals:
     /// The cursor, in drawing units.

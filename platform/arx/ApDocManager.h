@@ -138,8 +138,3 @@ private:
 
 /// Never null.
 PLATFORM_API AcApDocManager* acDocManagerPtr();
-
-/// The absolute path of a drawing's file that was named by the user: a name without an
-/// extension gets the given one. Links are followed in the folder and kept in the name. Empty for
-/// an empty path.
-PLATFORM_API CString acdbDrawingPath(const wchar_t* path, const CString& extension);

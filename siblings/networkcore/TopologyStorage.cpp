@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwchar>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
@@ -370,30 +369,6 @@ void CTopologyStorage::RemoveSystemEntities(int systemId) {
 
 CNode CTopologyStorage::GetNodeById(AcDbObjectId id) const {
     return Find(id, AcDbPoint::desc()) ? CNode(this, id) : CNode();
-}
-
-CNode CTopologyStorage::GetNodeByGuid(const wchar_t* guid) const {
-    return GetNodeById(IdOfGuid(guid));
-}
-
-CSection CTopologyStorage::GetSectionByGuid(const wchar_t* guid) const {
-    return GetSectionById(IdOfGuid(guid));
-}
-
-CString CTopologyStorage::GuidOf(AcDbObjectId id) const {
-    const System::CGisSystems* const pSystems =
-        System::CSystemManager::Instance()->GetSystems(m_pDatabase);
-    return pSystems ? FormatText(L"%s-%08X", pSystems->GetDrawingGuid(), id.number()) : CString();
-}
-
-AcDbObjectId CTopologyStorage::IdOfGuid(const wchar_t* guid) const {
-    constexpr int kNumberLength = 8;
-    const CString text(guid);
-    const CString number = text.Right(kNumberLength);
-    wchar_t* end = nullptr;
-    const unsigned long value = std::wcstoul(number, &end, 16);
-    const AcDbObjectId id(static_cast<std::uint32_t>(value));
-    return *end == L'\0' && GuidOf(id).CompareNoCase(text) == 0 ? id : AcDbObjectId();
 }
 
 CSection CTopologyStorage::GetSectionById(AcDbObjectId id) const {

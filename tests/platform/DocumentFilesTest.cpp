@@ -6,6 +6,7 @@
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
+#include "platform/arx/DrawingPath.h"
 #include "platform/arx/EdEditor.h"
 #include "platform/arx/EdVariables.h"
 #include "platform/win/File.h"

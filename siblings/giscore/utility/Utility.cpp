@@ -1,9 +1,5 @@
 #include "siblings/giscore/utility/Utility.h"
 
-#include "platform/mfc/WinApp.h"
-#include "platform/win/File.h"
-#include "siblings/giscore/configuration/ModuleConfiguration.h"
-
 namespace Orvane::Utility {
 
 void CUtility::SplitString(const wchar_t* text, const wchar_t* separators, CStringArray& pieces) {
@@ -18,17 +14,6 @@ void CUtility::SplitString(const wchar_t* text, const wchar_t* separators, CStri
             break;
         }
         rest.remove_prefix(end + 1);
-    }
-}
-
-void CUtility::ShowHelp(const wchar_t* dialogId) {
-    const CString folder = CModuleConfiguration::Instance()->GetPath(L"install") + L"help/";
-    for (const CString& page : {CString(dialogId), CString(L"index")}) {
-        const CString path = folder + page + L".htm";
-        if (!page.IsEmpty() && FileNameOf(page) == page && FileExists(path)) {
-            AfxOpenAddress(L"file://" + path);
-            return;
-        }
     }
 }
 

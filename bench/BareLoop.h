@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "workspacecore/core/IWsListener.h"
+#include "workspacecore/events/IWsListener.h"
 
 __attribute__((visibility("default"))) void
 BareLoop(const std::vector<Orvane::Workspace::IWsListener*>& listeners,

@@ -7,7 +7,7 @@
 
 #include "siblings/logging/LogEngine.h"
 #include "workspacecore/commands/WsCommandRegistry.h"
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace {
 

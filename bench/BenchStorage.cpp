@@ -11,7 +11,7 @@
 #include <ogrsf_frmts.h>
 #include <unistd.h>
 
-#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
 

@@ -16,7 +16,7 @@
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/arx/HostOptions.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 

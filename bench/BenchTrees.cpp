@@ -12,7 +12,7 @@
 #include "platform/mfc/TreeCtrl.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/panel/TreeMenus.h"
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <unistd.h>
 
-#include "host/storage/GeoPackageStorage.h"
 #include "host/storage/Import.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
 

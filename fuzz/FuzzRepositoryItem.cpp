@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/QueryMatcher.h"
-#include "siblings/giscore/RepositoryItemFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/query/QueryMatcher.h"
+#include "siblings/giscore/repository/RepositoryItemFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 
 namespace {
 

@@ -47,7 +47,7 @@ bool MayReplace(const CString& path) {
 
 bool SaveUnder(AcApDocument& document) {
     const std::optional<CString> answer = AskText(kAskFile);
-    const CString path = answer ? acdbDrawingPath(*answer) : CString();
+    const CString path = answer ? acDocManagerPtr()->drawingPath(*answer) : CString();
     if (path.IsEmpty()) {
         return Refuse(L"", kNotSaved);
     }
@@ -243,7 +243,7 @@ std::span<const HostCommand> DrawingCommands() {
 }
 
 bool OpenDrawing(const wchar_t* path) {
-    const CString file = acdbDrawingPath(path);
+    const CString file = acDocManagerPtr()->drawingPath(path);
     const bool wasOpen = acDocManagerPtr()->documentOf(file) != nullptr;
     AcApDocument* pDoc = nullptr;
     const AcDbStorageResult result =

@@ -4,8 +4,8 @@
 
 #include "host/DrawingCommands.h"
 #include "host/HostCommands.h"
-#include "host/storage/GeoPackageStorage.h"
 #include "host/storage/Import.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/Activity.h"
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"

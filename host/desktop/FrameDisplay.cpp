@@ -49,12 +49,10 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
     Pick pick;
     pick.view = pView;
     pick.question.takesText = false;
-    const auto ended = [&](PickEnd how, AcDbObjectId picked, double x, double y) {
+    const auto ended = [&](PickOutcome how, AcDbObjectId picked, double x, double y) {
         // A click is for the pick that was asked for last.
         if (m_picks.back() == &pick) {
-            pick.outcome = how == PickEnd::Picked   ? PickOutcome::Picked
-                           : how == PickEnd::Missed ? PickOutcome::Missed
-                                                    : PickOutcome::Cancelled;
+            pick.outcome = how;
             id = picked;
             place = {x, y};
             pick.question.loop.quit();

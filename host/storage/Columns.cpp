@@ -5,7 +5,7 @@
 #include <ogrsf_frmts.h>
 #include <optional>
 
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -155,7 +155,7 @@ OGRwkbGeometryType GeometryOf(EntityKind kind) {
 }
 
 /// A name that no table or view of the file has yet.
-bool FreeTableName(GeoPackageFile& file, std::string& name) {
+bool FreeTableName(OpenGeoPackage& file, std::string& name) {
     const std::string plain = name;
     for (int number = 1;; ++number) {
         bool isTaken = false;
@@ -314,7 +314,7 @@ bool EntityTable::Add(AcDbNameId name, AcDbValue::Kind kind, Schema& schema) {
     return true;
 }
 
-OGRLayer* CreateEntityTable(GeoPackageFile& file, EntityKind kind, const std::string& wkt,
+OGRLayer* CreateEntityTable(OpenGeoPackage& file, EntityKind kind, const std::string& wkt,
                             std::string& name) {
     name = kEntityTables[static_cast<std::size_t>(kind)];
     if (!FreeTableName(file, name)) {

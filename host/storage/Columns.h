@@ -68,7 +68,7 @@ private:
 
 /// Makes the feature table of a kind without attributes, under a name that is free.
 /// `name` is given the table's name. Null on failure.
-OGRLayer* CreateEntityTable(GeoPackageFile& file, EntityKind kind, const std::string& wkt,
+OGRLayer* CreateEntityTable(OpenGeoPackage& file, EntityKind kind, const std::string& wkt,
                             std::string& name);
 /// Adds the columns that another program has taken away. False on failure.
 bool CompleteEntityTable(OGRLayer& layer, EntityKind kind);

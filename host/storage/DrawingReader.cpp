@@ -7,7 +7,7 @@
 #include "host/storage/Columns.h"
 #include "host/storage/CoordinateSystem.h"
 #include "host/storage/EntityRows.h"
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "host/storage/StoredRows.h"
 #include "platform/win/CodePage.h"
 
@@ -45,7 +45,7 @@ CString DrawingReader::Read(const AcDbDatabase& empty) {
     return m_errors.HasFailed() ? m_errors.Reason() : CString();
 }
 
-void DrawingReader::MoveInto(AcDbDatabase& database, DrawingFile& remembered) {
+void DrawingReader::MoveInto(AcDbDatabase& database, RememberedFile& remembered) {
     m_remembered.made = m_objects->Made();
     std::sort(m_remembered.foreign.begin(), m_remembered.foreign.end(),
               [](const auto& a, const auto& b) { return a.id < b.id; });

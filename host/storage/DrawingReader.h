@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "host/storage/Columns.h"
-#include "host/storage/DrawingFile.h"
 #include "host/storage/GdalErrors.h"
 #include "host/storage/LoadedObjects.h"
+#include "host/storage/RememberedFile.h"
 #include "host/storage/RowProgress.h"
 #include "host/storage/Schema.h"
 
@@ -15,19 +15,19 @@ class OGRLayer;
 
 namespace Tessaly {
 
-class GeoPackageFile;
+class OpenGeoPackage;
 class StoredRows;
 
 /// One reading of one file. Nothing reaches a database before all is read.
 class DrawingReader {
 public:
-    DrawingReader(GeoPackageFile& file, GdalErrors& errors, const AcDbProgress& progress)
+    DrawingReader(OpenGeoPackage& file, GdalErrors& errors, const AcDbProgress& progress)
         : m_file(file), m_errors(errors), m_progress(progress) {}
 
     /// Empty on success, else why not. `empty` tells what every database has.
     CString Read(const AcDbDatabase& empty);
     /// After success, once.
-    void MoveInto(AcDbDatabase& database, DrawingFile& remembered);
+    void MoveInto(AcDbDatabase& database, RememberedFile& remembered);
     std::vector<CString>& Warnings() { return m_warnings; }
 
 private:
@@ -40,7 +40,7 @@ private:
     /// A table of somebody else while it is read.
     struct ForeignTable {
         std::string name;
-        std::uint32_t number = 0; ///< in DrawingFile::foreignTables
+        std::uint32_t number = 0; ///< in RememberedFile::foreignTables
         AcDbObjectId layer;
         std::vector<AttributeColumn> columns;
         std::vector<IdRun> runs; ///< ids that its entities had when they were last saved
@@ -74,14 +74,14 @@ private:
     void Warn(const std::string& table, const wchar_t* what, const PassedOver& rows);
     bool MayGoOn() const { return !m_errors.HasFailed() && !m_rows->IsStopped(); }
 
-    GeoPackageFile& m_file;
+    OpenGeoPackage& m_file;
     GdalErrors& m_errors;
     const AcDbProgress& m_progress;
     std::optional<RowProgress> m_rows;
     Schema m_schema;
     std::optional<LoadedObjects> m_objects;
     std::vector<Stranger> m_strangers;
-    DrawingFile m_remembered;
+    RememberedFile m_remembered;
     std::optional<std::string> m_coordinateSystem;
     std::vector<CString> m_warnings;
 };

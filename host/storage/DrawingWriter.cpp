@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "host/storage/EntityRows.h"
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "host/storage/StoredExtent.h"
 #include "host/storage/SymbolRows.h"
 #include "platform/win/CodePage.h"
@@ -15,7 +15,7 @@ namespace Tessaly {
 
 /// A feature table with the one row object that all its rows are written from.
 struct DrawingWriter::Table {
-    Table(GeoPackageFile& file, OGRLayer& layer, EntityKind kind, const Schema& schema,
+    Table(OpenGeoPackage& file, OGRLayer& layer, EntityKind kind, const Schema& schema,
           bool isNewTable)
         : columns(layer, kind, schema), extent(file, layer), isNew(isNewTable) {}
 
@@ -60,8 +60,8 @@ const AcDbEntity* AsEntity(const AcDbObject& object) {
 
 } // namespace
 
-DrawingWriter::DrawingWriter(GeoPackageFile& file, GdalErrors& errors, const AcDbDatabase& database,
-                             const DrawingFile& remembered, const AcDbProgress& progress)
+DrawingWriter::DrawingWriter(OpenGeoPackage& file, GdalErrors& errors, const AcDbDatabase& database,
+                             const RememberedFile& remembered, const AcDbProgress& progress)
     : m_file(file), m_errors(errors), m_database(database), m_remembered(remembered),
       m_progress(progress) {}
 
@@ -150,7 +150,7 @@ bool DrawingWriter::MoveRenumbered() {
     // Out of each other's way first: one may have the number that another is to get.
     constexpr std::int64_t kOutOfTheWay = -(std::int64_t{1} << 40);
     for (const bool isFinal : {false, true}) {
-        for (const DrawingFile::Renumbered& row : m_remembered.renumbered) {
+        for (const RememberedFile::Renumbered& row : m_remembered.renumbered) {
             const std::string& table = m_schema.tables[static_cast<std::size_t>(row.kind)];
             const std::int64_t number = row.id.number();
             const bool isDone =
@@ -322,7 +322,7 @@ bool DrawingWriter::InsertBeside(Table& table, OGRFeature& row) {
 }
 
 bool DrawingWriter::TakeOver(AcDbObjectId id) {
-    const DrawingFile::Foreign& row = *m_remembered.FindForeign(id);
+    const RememberedFile::Foreign& row = *m_remembered.FindForeign(id);
     const std::string& table = m_remembered.foreignTables[row.table];
     m_takenOver.push_back(id);
     return AddNote(m_file, kForeignTable,
@@ -382,10 +382,10 @@ bool DrawingWriter::WriteNotes() {
            WriteMeta(m_file, "srs", WideToUtf8(m_database.coordinateSystem().View()));
 }
 
-void DrawingWriter::Update(DrawingFile& remembered) const {
+void DrawingWriter::Update(RememberedFile& remembered) const {
     if (m_scope == Scope::Everything) {
         const std::string path = std::move(remembered.path);
-        remembered = DrawingFile();
+        remembered = RememberedFile();
         remembered.path = path;
     }
     for (const AcDbObjectId id : m_takenOver) {

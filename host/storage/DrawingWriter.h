@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "host/storage/Columns.h"
-#include "host/storage/DrawingFile.h"
 #include "host/storage/GdalErrors.h"
+#include "host/storage/RememberedFile.h"
 #include "host/storage/RowProgress.h"
 #include "platform/arx/DbDatabase.h"
 
 namespace Tessaly {
 
-class GeoPackageFile;
+class OpenGeoPackage;
 
 /// One writing into one file: a single transaction.
 class DrawingWriter {
@@ -25,8 +25,8 @@ public:
         Rewrite,    ///< what the file has of ours, and the changes: every row anew
     };
 
-    DrawingWriter(GeoPackageFile& file, GdalErrors& errors, const AcDbDatabase& database,
-                  const DrawingFile& remembered, const AcDbProgress& progress);
+    DrawingWriter(OpenGeoPackage& file, GdalErrors& errors, const AcDbDatabase& database,
+                  const RememberedFile& remembered, const AcDbProgress& progress);
     ~DrawingWriter();
     DrawingWriter(const DrawingWriter&) = delete;
     DrawingWriter& operator=(const DrawingWriter&) = delete;
@@ -34,7 +34,7 @@ public:
     /// Empty on success, else why not: the file is then as it was.
     CString Write(Scope scope);
     /// After success: what is to be remembered of the file now.
-    void Update(DrawingFile& remembered) const;
+    void Update(RememberedFile& remembered) const;
     /// Objects that are not in the file, since it has no table for their class.
     std::size_t UnknownCount() const { return m_nUnknown; }
 
@@ -59,10 +59,10 @@ private:
     bool FinishTables();
     CString FailureReason();
 
-    GeoPackageFile& m_file;
+    OpenGeoPackage& m_file;
     GdalErrors& m_errors;
     const AcDbDatabase& m_database;
-    const DrawingFile& m_remembered;
+    const RememberedFile& m_remembered;
     RowProgress m_progress;
     Scope m_scope = Scope::Changes;
     Schema m_schema;

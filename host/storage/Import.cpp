@@ -11,7 +11,7 @@
 
 #include "host/storage/Columns.h"
 #include "host/storage/CoordinateSystem.h"
-#include "host/storage/Files.h"
+#include "host/storage/FileChecks.h"
 #include "host/storage/GdalErrors.h"
 #include "host/storage/ImportCheck.h"
 #include "host/storage/RowProgress.h"

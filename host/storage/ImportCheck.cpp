@@ -5,7 +5,7 @@
 #include <fstream>
 #include <gdal_priv.h>
 
-#include "host/storage/Files.h"
+#include "host/storage/FileChecks.h"
 
 namespace Tessaly {
 

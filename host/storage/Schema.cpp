@@ -5,7 +5,7 @@
 #include <map>
 #include <ogrsf_frmts.h>
 
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -42,7 +42,7 @@ const std::vector<Table>& Tables() {
     return tables;
 }
 
-bool ForEachRow(GeoPackageFile& file, const char* table,
+bool ForEachRow(OpenGeoPackage& file, const char* table,
                 const std::function<void(const OGRFeature&)>& visit) {
     OGRLayer* pLayer = file.Table(table);
     if (!pLayer) {
@@ -81,7 +81,7 @@ CString CheckVersion(const std::string& version) {
     return reason;
 }
 
-bool LoadNotes(GeoPackageFile& file, Schema& schema) {
+bool LoadNotes(OpenGeoPackage& file, Schema& schema) {
     const bool columns = ForEachRow(file, kColumnTable, [&](const OGRFeature& row) {
         schema.columns.push_back({FieldText(row, "table_name"), FieldText(row, "column_name"),
                                   FieldText(row, "attribute")});
@@ -103,7 +103,7 @@ bool LoadNotes(GeoPackageFile& file, Schema& schema) {
     return columns && foreign && runs;
 }
 
-bool CreateTable(GeoPackageFile& file, const Table& table) {
+bool CreateTable(OpenGeoPackage& file, const Table& table) {
     OGRLayer* pLayer = file.Dataset().CreateLayer(table.name, nullptr, wkbNone, nullptr);
     if (!pLayer) {
         return false;
@@ -118,7 +118,7 @@ bool CreateTable(GeoPackageFile& file, const Table& table) {
 }
 
 /// A dictionary's records are looked up whenever it is written.
-bool CreateIndex(GeoPackageFile& file) {
+bool CreateIndex(OpenGeoPackage& file) {
     return file.Execute("CREATE INDEX IF NOT EXISTS orv_records_by_dictionary ON orv_records "
                         "(dictionary, name)");
 }
@@ -139,7 +139,7 @@ bool Schema::IsOurs(const std::string& table) const {
     return false;
 }
 
-CString LoadSchema(GeoPackageFile& file, Schema& schema) {
+CString LoadSchema(OpenGeoPackage& file, Schema& schema) {
     schema = Schema();
     if (!file.Table(kMetaTable)) {
         return {};
@@ -169,7 +169,7 @@ CString LoadSchema(GeoPackageFile& file, Schema& schema) {
     return LoadNotes(file, schema) ? CString() : damaged;
 }
 
-bool CreateSchema(GeoPackageFile& file) {
+bool CreateSchema(OpenGeoPackage& file) {
     for (const Table& table : Tables()) {
         if (!file.Table(table.name) && !CreateTable(file, table)) {
             return false;
@@ -178,7 +178,7 @@ bool CreateSchema(GeoPackageFile& file) {
     return CreateIndex(file);
 }
 
-bool WriteMeta(GeoPackageFile& file, const std::string& key, const std::string& value) {
+bool WriteMeta(OpenGeoPackage& file, const std::string& key, const std::string& value) {
     const std::string where = " WHERE key = " + QuoteText(key);
     return file.Execute("DELETE FROM orv_meta" + where) &&
            file.Execute("INSERT INTO orv_meta (key, value) VALUES (" + QuoteText(key) + ", " +

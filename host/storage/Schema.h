@@ -26,7 +26,7 @@ class OGRFeature;
 
 namespace Tessaly {
 
-class GeoPackageFile;
+class OpenGeoPackage;
 
 inline constexpr int kSchemaVersion = 1;
 /// A file that states a higher next id is damaged: the database holds a place for each.
@@ -90,11 +90,11 @@ struct Schema {
 };
 
 /// Empty on success. A file without our tables is a success that leaves `exists` false.
-CString LoadSchema(GeoPackageFile& file, Schema& schema);
+CString LoadSchema(OpenGeoPackage& file, Schema& schema);
 
 /// Makes the tables that are missing, except those of entities.
-bool CreateSchema(GeoPackageFile& file);
-bool WriteMeta(GeoPackageFile& file, const std::string& key, const std::string& value);
+bool CreateSchema(OpenGeoPackage& file);
+bool WriteMeta(OpenGeoPackage& file, const std::string& key, const std::string& value);
 
 /// A field's text; empty where there is none.
 std::string FieldText(const OGRFeature& row, const char* field);

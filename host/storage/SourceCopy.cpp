@@ -3,14 +3,15 @@
 #include <ogrsf_frmts.h>
 
 #include "host/storage/Columns.h"
-#include "host/storage/Files.h"
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/Journals.h"
+#include "host/storage/OpenGeoPackage.h"
+#include "host/storage/UnfinishedFile.h"
 
 namespace Tessaly {
 
 namespace {
 
-bool HasWriteAheadLog(GeoPackageFile& file) {
+bool HasWriteAheadLog(OpenGeoPackage& file) {
     std::string mode;
     file.Query("PRAGMA journal_mode",
                [&](const OGRFeature& row) { mode = row.GetFieldAsString(0); });
@@ -18,7 +19,7 @@ bool HasWriteAheadLog(GeoPackageFile& file) {
 }
 
 /// The file's number for a coordinate system, which is added to those it knows.
-bool RegisterSystem(GeoPackageFile& file, const std::string& wkt, std::string& number) {
+bool RegisterSystem(OpenGeoPackage& file, const std::string& wkt, std::string& number) {
     // GDAL registers one only with a table in it.
     std::string name;
     OGRLayer* pProbe = CreateEntityTable(file, EntityKind::Node, wkt, name);
@@ -39,7 +40,7 @@ CString CopySource(const std::string& source, const UnfinishedFile& copy) {
         return FileReason(source, reason);
     }
     GdalErrors errors;
-    GeoPackageFile file(source, GeoPackageFile::Mode::Read);
+    OpenGeoPackage file(source, OpenGeoPackage::Mode::Read);
     if (!file.IsOpen()) {
         return errors.Reason(source);
     }
@@ -57,7 +58,7 @@ CString CopySource(const std::string& source, const UnfinishedFile& copy) {
 
 CString SetCoordinateSystem(const std::string& path, const std::string& wkt) {
     GdalErrors errors;
-    GeoPackageFile file(path, GeoPackageFile::Mode::Draft);
+    OpenGeoPackage file(path, OpenGeoPackage::Mode::Draft);
     Schema schema;
     std::string number;
     bool isDone =

@@ -6,7 +6,7 @@
 #include <sqlite3.h>
 #include <string>
 
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 
 namespace Tessaly {
 

@@ -10,13 +10,13 @@ struct sqlite3_stmt;
 
 namespace Tessaly {
 
-class GeoPackageFile;
+class OpenGeoPackage;
 
 /// GDAL lets it grow with what is written, and never shrink. This looks at the rows that go
 /// or move, and measures the table anew only if one of them was what the extent reached to.
 class StoredExtent {
 public:
-    StoredExtent(GeoPackageFile& file, OGRLayer& layer) : m_file(file), m_layer(layer) {}
+    StoredExtent(OpenGeoPackage& file, OGRLayer& layer) : m_file(file), m_layer(layer) {}
     ~StoredExtent();
     StoredExtent(const StoredExtent&) = delete;
     StoredExtent& operator=(const StoredExtent&) = delete;
@@ -30,7 +30,7 @@ private:
     bool Prepare();
     sqlite3* Database();
 
-    GeoPackageFile& m_file;
+    OpenGeoPackage& m_file;
     OGRLayer& m_layer;
     sqlite3_stmt* m_pReaches = nullptr;
     bool m_bTooLarge = false;

@@ -3,7 +3,7 @@
 #include <ogrsf_frmts.h>
 #include <sqlite3.h>
 
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 
 namespace Tessaly {
 
@@ -12,7 +12,7 @@ namespace {
 /// Columns in front of the fields: number and geometry.
 constexpr int kFirstField = 2;
 
-sqlite3* DatabaseOf(GeoPackageFile& file) {
+sqlite3* DatabaseOf(OpenGeoPackage& file) {
     return static_cast<sqlite3*>(file.Dataset().GetInternalHandle("SQLITE_HANDLE"));
 }
 
@@ -39,7 +39,7 @@ void Report(sqlite3* pDatabase) {
 
 } // namespace
 
-StoredRows::StoredRows(GeoPackageFile& file, OGRLayer& layer)
+StoredRows::StoredRows(OpenGeoPackage& file, OGRLayer& layer)
     : m_bNumbered(*layer.GetFIDColumn() != '\0') {
     std::string sql = "SELECT " +
                       (m_bNumbered ? QuoteName(layer.GetFIDColumn()) : std::string("NULL")) + ", " +
@@ -108,7 +108,7 @@ const char* StoredRows::Text(int field) const {
                : nullptr;
 }
 
-bool ShowsAnyOf(GeoPackageFile& file, const std::string& view,
+bool ShowsAnyOf(OpenGeoPackage& file, const std::string& view,
                 std::span<const std::string> tables) {
     Search search{tables};
     sqlite3* pDatabase = DatabaseOf(file);

@@ -13,13 +13,13 @@ struct sqlite3_stmt;
 
 namespace Tessaly {
 
-class GeoPackageFile;
+class OpenGeoPackage;
 
 /// Goes through a table once. Fields have the numbers that the layer's fields have. What it
 /// gives is valid until the next row. A failure is reported as GDAL reports its own.
 class StoredRows {
 public:
-    StoredRows(GeoPackageFile& file, OGRLayer& layer);
+    StoredRows(OpenGeoPackage& file, OGRLayer& layer);
     ~StoredRows();
     StoredRows(const StoredRows&) = delete;
     StoredRows& operator=(const StoredRows&) = delete;
@@ -43,6 +43,6 @@ private:
 };
 
 /// A view whose rows come from one of the tables, if only in part.
-bool ShowsAnyOf(GeoPackageFile& file, const std::string& view, std::span<const std::string> tables);
+bool ShowsAnyOf(OpenGeoPackage& file, const std::string& view, std::span<const std::string> tables);
 
 } // namespace Tessaly

@@ -4,7 +4,7 @@
 #include <ogrsf_frmts.h>
 
 #include "host/storage/Columns.h"
-#include "host/storage/GeoPackageFile.h"
+#include "host/storage/OpenGeoPackage.h"
 #include "platform/arx/DbDictionary.h"
 #include "platform/arx/DbSymbolTables.h"
 #include "platform/win/CodePage.h"
@@ -102,7 +102,7 @@ bool WriteRecords(OGRLayer& table, const AcDbDictionary& dictionary, bool isNewF
 
 } // namespace
 
-bool WriteSymbol(GeoPackageFile& file, const AcDbObject& object, bool isNewFile) {
+bool WriteSymbol(OpenGeoPackage& file, const AcDbObject& object, bool isNewFile) {
     const std::int64_t fid = object.objectId().number();
     const auto* pLayer = dynamic_cast<const AcDbLayerTableRecord*>(&object);
     const auto* pBlock = dynamic_cast<const AcDbBlockTableRecord*>(&object);
@@ -132,7 +132,7 @@ bool WriteSymbol(GeoPackageFile& file, const AcDbObject& object, bool isNewFile)
     return PutRow(*pTable, fid, {{"name", std::string_view(utf8)}}, isNewFile);
 }
 
-bool AddNote(GeoPackageFile& file, const char* table, Values values) {
+bool AddNote(OpenGeoPackage& file, const char* table, Values values) {
     OGRLayer* pTable = file.Table(table);
     return pTable && pTable->CreateFeature(RowOf(*pTable, values).get()) == OGRERR_NONE;
 }

@@ -13,10 +13,10 @@ namespace Tessaly {
 
 /// Writes a layer, block or dictionary whatever the file had of it; an erased one goes from
 /// the file. False on failure. In a new file nothing is looked for.
-bool WriteSymbol(GeoPackageFile& file, const AcDbObject& object, bool isNewFile);
+bool WriteSymbol(OpenGeoPackage& file, const AcDbObject& object, bool isNewFile);
 
 /// Adds a row to one of the tables of notes.
-bool AddNote(GeoPackageFile& file, const char* table,
+bool AddNote(OpenGeoPackage& file, const char* table,
              std::initializer_list<std::pair<const char*, AcDbValue>> values);
 
 } // namespace Tessaly

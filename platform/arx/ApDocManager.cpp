@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/arx/DbUndoScopes.h"
+#include "platform/arx/DrawingPath.h"
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdEditor.h"
 #include "platform/win/CodePage.h"
@@ -13,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kExtension = ".gpkg";
 constexpr const wchar_t* kNewName = L"Drawing%d";
 
 bool IsSameFile(const CString& left, const CString& right) {
@@ -29,27 +29,8 @@ AcDbStorageResult Refusal(const wchar_t* file, const wchar_t* reason) {
 
 } // namespace
 
-CString acdbDrawingPath(const wchar_t* path) {
-    if (!path || !*path) {
-        return {};
-    }
-    std::error_code error;
-    fs::path whole = fs::absolute(NativePath(path), error);
-    const fs::path name = whole.filename();
-    if (name.empty() || name == "." || name == "..") {
-        return Utf8ToWide(whole.string()); // a folder, which whoever opens it will say
-    }
-    const fs::path folder = fs::weakly_canonical(whole.parent_path(), error);
-    if (!error) {
-        whole = folder / name;
-    }
-    // A file that is there is meant by its name; to a new one belongs the extension.
-    const bool hasExtension = CString(Utf8ToWide(name.extension().string()))
-                                  .CompareNoCase(CString(Utf8ToWide(kExtension))) == 0;
-    if (!hasExtension && !fs::exists(whole, error)) {
-        whole += kExtension;
-    }
-    return Utf8ToWide(whole.string());
+CString AcApDocManager::drawingPath(const wchar_t* path) const {
+    return acdbDrawingPath(path, m_pStorage ? m_pStorage->Extension() : CString());
 }
 
 void AcTransactionManager::flushGraphics() {
@@ -122,7 +103,7 @@ bool AcApDocManager::IsOpen(const AcApDocument* pDoc) const {
 }
 
 AcApDocument* AcApDocManager::documentOf(const wchar_t* path) const {
-    const CString file = acdbDrawingPath(path);
+    const CString file = drawingPath(path);
     const auto hit =
         std::find_if(m_documents.begin(), m_documents.end(), [&file](const auto& entry) {
             return entry->hasFile() && IsSameFile(entry->path(), file);
@@ -155,7 +136,7 @@ AcDbStorageResult AcApDocManager::openDocument(const wchar_t* path, const AcDbPr
         }
         return {};
     }
-    const CString file = acdbDrawingPath(path);
+    const CString file = drawingPath(path);
     if (!m_pStorage || file.IsEmpty()) {
         return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be opened");
     }
@@ -200,7 +181,7 @@ AcDbStorageResult AcApDocManager::saveDocument(AcApDocument* pDoc, const AcDbPro
 
 AcDbStorageResult AcApDocManager::saveDocumentAs(AcApDocument* pDoc, const wchar_t* path,
                                                  const AcDbProgress& progress) {
-    const CString file = acdbDrawingPath(path);
+    const CString file = drawingPath(path);
     if (!m_pStorage || !IsOpen(pDoc) || file.IsEmpty()) {
         return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be saved");
     }

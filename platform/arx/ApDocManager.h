@@ -94,9 +94,11 @@ public:
     /// nothing happens, for a locked document and for one that is not open.
     bool closeDocument(AcApDocument* pDoc);
 
-    // Files. A path is completed as acdbDrawingPath does.
+    // Files. A path is completed as drawingPath does.
     /// Where drawings are kept; not owned. Without one, opening and saving are refused.
     void setStorage(IDbStorage* pStorage) { m_pStorage = pStorage; }
+    /// acdbDrawingPath with the extension of the storage.
+    CString drawingPath(const wchar_t* path) const;
     /// Reads a drawing and makes it current; one whose file is open already only becomes
     /// current. After a failure pDoc is null, and no reactor has heard of anything.
     AcDbStorageResult openDocument(const wchar_t* path, const AcDbProgress& progress,
@@ -136,8 +138,3 @@ private:
 
 /// Never null.
 PLATFORM_API AcApDocManager* acDocManagerPtr();
-
-/// The absolute path of a drawing's file that was named by the user: a name without an
-/// extension gets ".gpkg". Links are followed in the folder and kept in the name. Empty for
-/// an empty path.
-PLATFORM_API CString acdbDrawingPath(const wchar_t* path);

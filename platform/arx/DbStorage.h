@@ -23,6 +23,8 @@ struct AcDbStorageResult {
 class PLATFORM_API IDbStorage {
 public:
     virtual ~IDbStorage() = default;
+    /// With which the names of its files end, as ".abc".
+    virtual CString Extension() const = 0;
     /// Why a file cannot be written, as far as that can be told without trying; names the file.
     /// Asked before modules hear of a save, which may put something into the drawing.
     virtual CString WhyNotWritable(const wchar_t* /*path*/) { return {}; }

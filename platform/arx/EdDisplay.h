@@ -9,7 +9,7 @@
 enum class PickOutcome {
     Picked,
     Missed,    ///< the user pointed at nothing
-    Cancelled, ///< Escape, or no more input
+    Cancelled, ///< Escape, no more input, or the drawing went
 };
 
 /// Implemented by a host that shows drawings. All operations are about the current drawing;

@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "platform/arx/AciColors.h"
+#include "platform/arx/ColorTable.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"

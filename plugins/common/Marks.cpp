@@ -1,7 +1,7 @@
 #include "plugins/common/Marks.h"
 
 #include "platform/arx/EdDisplay.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 
 namespace Orvane::Plugins {
 

@@ -1,7 +1,7 @@
 #include "plugins/common/SystemTexts.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/Topology.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/topology/Topology.h"
 
 namespace Orvane::Plugins {
 

@@ -1,7 +1,7 @@
 // What systems are called.
 #pragma once
 
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 
 namespace Orvane::Plugins {
 

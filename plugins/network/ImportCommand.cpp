@@ -9,13 +9,13 @@
 #include "platform/win/File.h"
 #include "platform/win/Number.h"
 #include "plugins/common/Prompts.h"
-#include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkDrawing.h"
+#include "plugins/network/NetworkFormats.h"
 #include "plugins/network/NetworkLayers.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
-#include "siblings/giscore/Topology.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/topology/Topology.h"
 
 namespace Orvane::Network {
 
@@ -37,22 +37,20 @@ void PrintImported(const CString& name, std::size_t nodes, std::size_t sections,
     acutPrintf(L".\n");
 }
 
-bool ImportNetworkFile(const CString& file, const CString& name) {
+bool ImportNetworkFile(const NetworkFormat& format, const CString& file, const CString& name) {
     ImportProgress progress(acedProgress(L"Importing " + FileNameOf(file)));
-    const InpResult read = ReadInpFile(file, progress.Reading());
-    for (const std::string& warning : ProblemTexts(read, Severity::Warning)) {
+    const NetworkFile read = format.read(file, progress.Reading());
+    for (const std::string& warning : read.warnings) {
         PrintLine(warning);
     }
     if (!read.ok) {
-        for (const std::string& error : ProblemTexts(read, Severity::Error)) {
+        for (const std::string& error : read.errors) {
             PrintLine(error);
         }
         return Refuse(L"Nothing was imported.");
     }
     ImportedSystems imported;
-    const CString reason =
-        AddToDrawing(read.model, read.format == InpFormat::Swmm ? kFunctionSewer : kFunctionWater,
-                     name, imported, progress);
+    const CString reason = AddToDrawing(read.model, read.function, name, imported, progress);
     if (!reason.IsEmpty()) {
         return Refuse(reason + L" Nothing was imported.");
     }
@@ -158,8 +156,11 @@ bool ImportNetwork() {
         return Refuse(FormatText(L"The drawing has a system \"%s\" already. Nothing was imported.",
                                  pOther->GetSystemName()));
     }
-    const bool isNetworkFile = file.Right(4).CompareNoCase(L".inp") == 0 || !acdbImporter();
-    return isNetworkFile ? ImportNetworkFile(file, name) : ImportLayers(file, name);
+    const NetworkFormat* const pFormat = NetworkFormatOf(file);
+    if (!pFormat && acdbImporter()) {
+        return ImportLayers(file, name);
+    }
+    return ImportNetworkFile(pFormat ? *pFormat : DefaultNetworkFormat(), file, name);
 }
 
 } // namespace Orvane::Network

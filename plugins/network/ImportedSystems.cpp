@@ -1,7 +1,7 @@
 #include "plugins/network/ImportedSystems.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/SystemManager.h"
 
 namespace Orvane::Network {
 

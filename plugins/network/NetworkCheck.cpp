@@ -1,15 +1,14 @@
 #include "plugins/network/NetworkCheck.h"
 
 #include <algorithm>
-#include <bit>
 #include <charconv>
 #include <cmath>
 #include <optional>
 #include <tuple>
-#include <unordered_map>
 #include <utility>
 
 #include "plugins/network/NetworkCrossings.h"
+#include "plugins/network/NodeGrid.h"
 
 namespace Orvane::Network {
 
@@ -55,85 +54,21 @@ void FindIsolatedNodes(const NetworkGeometry& geometry, Findings& findings) {
     }
 }
 
-/// Nodes in a grid whose cells are as wide as the tolerance, so that a node has to be held
-/// against those of the nine cells around it only. Since the nodes kept lie farther apart
-/// than the tolerance, a cell holds few of them, however many nodes lie at one place.
-class NodeGrid {
-public:
-    NodeGrid(std::span<const Point> nodes, double tolerance)
-        : m_nodes(nodes), m_tolerance(tolerance), m_next(nodes.size(), kNoEntity) {}
-
-    /// A node kept before that lies within the tolerance; else keeps this one.
-    std::optional<std::uint32_t> FindOrKeep(std::uint32_t node) {
-        const Cell cell = CellOf(m_nodes[node]);
-        const int reach = m_tolerance > 0 ? 1 : 0;
-        std::uint32_t found = kNoEntity;
-        for (int i = -reach; i <= reach; ++i) {
-            for (int j = -reach; j <= reach; ++j) {
-                found = std::min(found, FindIn({cell.x + i, cell.y + j}, m_nodes[node]));
-            }
-        }
-        if (found != kNoEntity) {
-            return found;
-        }
-        const auto [first, isNew] = m_firsts.try_emplace(cell, node);
-        if (!isNew) {
-            m_next[node] = std::exchange(first->second, node);
-        }
-        return std::nullopt;
-    }
-
-private:
-    struct Cell {
-        double x = 0; ///< whole numbers, or the coordinate itself without a tolerance
-        double y = 0;
-        friend bool operator==(const Cell&, const Cell&) = default;
-    };
-    struct CellHash {
-        std::size_t operator()(const Cell& cell) const {
-            constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
-            std::uint64_t hash = std::bit_cast<std::uint64_t>(cell.x) * kOdd;
-            hash = (std::rotl(hash, 29) ^ std::bit_cast<std::uint64_t>(cell.y)) * kOdd;
-            return hash ^ (hash >> 32);
-        }
-    };
-
-    Cell CellOf(const Point& point) const {
-        // Adding 0 turns -0 into 0, which is the same place with another bit pattern.
-        if (m_tolerance > 0) {
-            return {std::floor(point.x / m_tolerance) + 0.0,
-                    std::floor(point.y / m_tolerance) + 0.0};
-        }
-        return {point.x + 0.0, point.y + 0.0};
-    }
-
-    std::uint32_t FindIn(const Cell& cell, const Point& point) const {
-        const auto first = m_firsts.find({cell.x + 0.0, cell.y + 0.0});
-        std::uint32_t found = kNoEntity;
-        for (std::uint32_t at = first == m_firsts.end() ? kNoEntity : first->second;
-             at != kNoEntity; at = m_next[at]) {
-            const Point& kept = m_nodes[at];
-            if (std::hypot(kept.x - point.x, kept.y - point.y) <= m_tolerance) {
-                found = std::min(found, at);
-            }
-        }
-        return found;
-    }
-
-    std::span<const Point> m_nodes;
-    double m_tolerance;
-    std::unordered_map<Cell, std::uint32_t, CellHash> m_firsts;
-    std::vector<std::uint32_t> m_next; ///< the node kept before in the same cell
-};
-
 void FindCoincidentNodes(const NetworkGeometry& geometry, double tolerance, Findings& findings) {
-    NodeGrid grid(geometry.nodes, std::isfinite(tolerance) ? std::max(tolerance, 0.0) : 0.0);
+    // Only nodes near which there was none before: they lie apart, however many lie at one place.
+    NodeGrid<Point> grid(std::isfinite(tolerance) ? std::max(tolerance, 0.0) : 0.0);
+    std::vector<std::uint32_t> kept; ///< by their numbers in the grid
     for (std::uint32_t node = 0; node < geometry.NodeCount(); ++node) {
-        if (!IsPlace(geometry.nodes[node])) {
+        const Point& place = geometry.nodes[node];
+        if (!IsPlace(place)) {
             continue;
         }
-        if (const auto earlier = grid.FindOrKeep(node)) {
-            findings.Add({FindingKind::CoincidentNode, node, *earlier, geometry.nodes[node]});
+        const std::uint32_t earlier = grid.FirstNear(place);
+        if (earlier == kNoneNear) {
+            grid.Add(place);
+            kept.push_back(node);
+        } else {
+            findings.Add({FindingKind::CoincidentNode, node, kept[earlier], place});
         }
     }
 }

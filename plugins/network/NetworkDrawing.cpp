@@ -4,7 +4,7 @@
 #include <unordered_map>
 
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {

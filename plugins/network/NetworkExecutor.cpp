@@ -9,11 +9,11 @@
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkReport.h"
 #include "plugins/network/NetworkStatistics.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/GisSystems.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
-#include "siblings/giscore/Topology.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/GisSystems.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/topology/Topology.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {

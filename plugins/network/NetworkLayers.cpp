@@ -5,7 +5,7 @@
 
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Network {

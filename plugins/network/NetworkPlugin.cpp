@@ -3,7 +3,7 @@
 #include "plugins/network/repository/RepositoryExecutor.h"
 #include "plugins/network/repository/RepositoryFamilies.h"
 #include "plugins/network/repository/SystemExecutor.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/WsRegistrationFactory.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "plugins/panels/LentItems.h"
-#include "siblings/giscore/QueryDefinition.h"
+#include "siblings/giscore/query/QueryDefinition.h"
 #include "workspacecore/commands/IWsCommandExecutor.h"
 
 namespace Orvane::Panels {

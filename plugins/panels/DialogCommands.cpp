@@ -14,7 +14,7 @@
 #include "plugins/panels/PanelTexts.h"
 #include "plugins/panels/PropertiesDialog.h"
 #include "plugins/panels/StatisticsDialog.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 
 namespace Orvane::Panels {
 

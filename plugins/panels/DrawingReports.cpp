@@ -5,7 +5,7 @@
 #include "plugins/common/SystemTexts.h"
 #include "plugins/panels/EntityTexts.h"
 #include "plugins/panels/PanelTexts.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 
 namespace Orvane::Panels {
 

@@ -2,9 +2,9 @@
 
 #include "platform/win/CodePage.h"
 #include "platform/win/Number.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
 namespace Orvane::Panels {

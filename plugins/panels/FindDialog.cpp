@@ -8,7 +8,7 @@
 #include "plugins/panels/PanelTexts.h"
 #include "plugins/panels/PropertiesDialog.h"
 #include "siblings/cadwrapper/Edit.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 
 namespace Orvane::Panels {
 

@@ -1,6 +1,6 @@
 #include "plugins/panels/LegendDialog.h"
 
-#include "platform/arx/AciColors.h"
+#include "platform/arx/ColorTable.h"
 #include "platform/arx/DbDatabase.h"
 #include "platform/mfc/Gdi.h"
 #include "platform/xtp/XTPDockingPaneManager.h"

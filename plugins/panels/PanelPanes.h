@@ -1,8 +1,8 @@
 // Where the trees are shown.
 #pragma once
 
-#include "workspacecore/core/IWsListener.h"
 #include "workspacecore/dialogs/IWsDialogFactory.h"
+#include "workspacecore/events/IWsListener.h"
 
 class CXTPDockingPane;
 class CXTPDockingPaneManager;

@@ -1,7 +1,7 @@
 // Texts of the panels and their dialogs, by their numbers in the message catalogue.
 #pragma once
 
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 
 namespace Orvane::Panels {
 

@@ -2,7 +2,7 @@
 
 #include "plugins/panels/DrawingReports.h"
 #include "plugins/panels/PanelTexts.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 
 namespace Orvane::Panels {
 

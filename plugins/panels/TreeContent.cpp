@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "plugins/panels/PanelTexts.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/RepositoryStore.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Panels {

@@ -1,8 +1,8 @@
 #include "plugins/panels/TreeOutline.h"
 
 #include "plugins/panels/PanelTexts.h"
-#include "siblings/giscore/Topology.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/topology/Topology.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Panels {

@@ -8,11 +8,11 @@
 #include "plugins/panels/TreePictures.h"
 #include "plugins/panels/TreeRules.h"
 #include "plugins/panels/TreeState.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/RepositoryStore.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Panels {

@@ -1,6 +1,6 @@
 #include "plugins/panels/TreePictures.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 
 namespace Orvane::Panels {
 

@@ -1,7 +1,7 @@
 // A whole plug-in: one command that greets the active system.
 #include "platform/arx/EdPrompt.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "workspacecore/core/WsManager.h"
 
 using namespace Orvane;

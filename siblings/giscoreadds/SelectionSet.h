@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 #include "siblings/giscoreadds/Api.h"
 #include "siblings/networkcore/TopologyTypes.h"
 

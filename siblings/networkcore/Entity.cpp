@@ -6,7 +6,7 @@
 
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/EntityAttributes.h"
 #include "siblings/networkcore/Polygon.h"
 #include "siblings/networkcore/Section.h"

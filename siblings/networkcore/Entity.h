@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/win/String.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 #include "siblings/networkcore/Api.h"
 #include "siblings/networkcore/TopologyTypes.h"
 

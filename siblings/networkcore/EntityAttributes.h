@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "platform/arx/DbEntity.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 
 namespace Orvane::Topology {
 

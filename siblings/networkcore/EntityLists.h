@@ -3,10 +3,9 @@
 
 #include <vector>
 
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/EntityAttributes.h"
 #include "siblings/networkcore/NameIndex.h"
-#include "siblings/networkcore/NameRules.h"
 #include "siblings/networkcore/TopologyStorage.h"
 
 namespace Orvane::Topology {
@@ -44,14 +43,6 @@ struct CTopologyStorage::Lists {
     };
     std::vector<System> roster;
     std::uint64_t rosterStamp = 0;
-};
-
-/// The name rules, and the counters in use.
-struct CTopologyStorage::Naming {
-    NameRules rules;
-    bool rulesAreRead = false;
-    int loadedSystem = 0; ///< whose counters are in use; 0: nobody's
-    System::CGisSystem::Counters counters;
 };
 
 } // namespace Orvane::Topology

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "siblings/giscore/DataDefinition.h"
+#include "siblings/giscore/data/DataDefinition.h"
 #include "siblings/networkcore/Api.h"
 
 namespace Orvane::Data {

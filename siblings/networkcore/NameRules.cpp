@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/WholeNumber.h"
+#include "siblings/giscore/utility/WholeNumber.h"
 
 namespace Orvane::Topology {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/win/IniFile.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 
 namespace Orvane::Topology {
 

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/TopologyStatistics.h"
 
 namespace Orvane::Topology {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/Components.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 

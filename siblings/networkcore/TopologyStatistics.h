@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "siblings/giscore/SystemStatistics.h"
+#include "siblings/giscore/systems/SystemStatistics.h"
 
 namespace Orvane::Topology {
 

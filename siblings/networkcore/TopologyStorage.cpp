@@ -2,20 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwchar>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SupportFile.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/EntityLists.h"
+#include "siblings/networkcore/EntityNaming.h"
 
 namespace Orvane::Topology {
 
 namespace {
-
-constexpr const wchar_t* kNameRulesFile = L"NameRules.ini";
 
 const EntityAttributes& Names() {
     return EntityAttributes::Get();
@@ -375,30 +371,6 @@ CNode CTopologyStorage::GetNodeById(AcDbObjectId id) const {
     return Find(id, AcDbPoint::desc()) ? CNode(this, id) : CNode();
 }
 
-CNode CTopologyStorage::GetNodeByGuid(const wchar_t* guid) const {
-    return GetNodeById(IdOfGuid(guid));
-}
-
-CSection CTopologyStorage::GetSectionByGuid(const wchar_t* guid) const {
-    return GetSectionById(IdOfGuid(guid));
-}
-
-CString CTopologyStorage::GuidOf(AcDbObjectId id) const {
-    const System::CGisSystems* const pSystems =
-        System::CSystemManager::Instance()->GetSystems(m_pDatabase);
-    return pSystems ? FormatText(L"%s-%08X", pSystems->GetDrawingGuid(), id.number()) : CString();
-}
-
-AcDbObjectId CTopologyStorage::IdOfGuid(const wchar_t* guid) const {
-    constexpr int kNumberLength = 8;
-    const CString text(guid);
-    const CString number = text.Right(kNumberLength);
-    wchar_t* end = nullptr;
-    const unsigned long value = std::wcstoul(number, &end, 16);
-    const AcDbObjectId id(static_cast<std::uint32_t>(value));
-    return *end == L'\0' && GuidOf(id).CompareNoCase(text) == 0 ? id : AcDbObjectId();
-}
-
 CSection CTopologyStorage::GetSectionById(AcDbObjectId id) const {
     return Find(id, AcDbPolyline::desc()) ? CSection(this, id) : CSection();
 }
@@ -530,56 +502,6 @@ int CTopologyStorage::SetSystems(AcDbObjectId node, std::span<const int> systems
         }
         return true;
     });
-}
-
-// Naming.
-
-void CTopologyStorage::RefreshNameRules() {
-    CModuleConfiguration* const pConfiguration = CModuleConfiguration::Instance();
-    const CString path = pConfiguration->GetPath(L"support") + kNameRulesFile;
-    IniFile file;
-    std::vector<CString> problems = LoadSupportFile(file, path);
-    m_pNaming->rules = NameRules(file, path, problems);
-    m_pNaming->rulesAreRead = true;
-    pConfiguration->SetProblems(kNameRulesFile, std::move(problems));
-}
-
-void CTopologyStorage::LoadCountersFromSystem(const System::CGisSystem* pSystem) {
-    // Ids are unique in one drawing only.
-    const bool isOwn = pSystem && pSystem->GetDatabase() == m_pDatabase;
-    m_pNaming->loadedSystem = isOwn ? pSystem->GetSystemId() : 0;
-    m_pNaming->counters = isOwn ? pSystem->GetCounters() : System::CGisSystem::Counters();
-}
-
-void CTopologyStorage::SaveCountersToSystem(System::CGisSystem* pSystem) {
-    if (pSystem && pSystem->GetDatabase() == m_pDatabase &&
-        pSystem->GetSystemId() == m_pNaming->loadedSystem) {
-        pSystem->SetCounters(m_pNaming->counters);
-    }
-}
-
-std::string CTopologyStorage::NameFor(System::CGisSystem& system, enmEntityType type,
-                                      std::string_view stated) {
-    if (!stated.empty()) {
-        return std::string(stated);
-    }
-    if (!m_pNaming->rulesAreRead) {
-        RefreshNameRules();
-    }
-    const NamePattern& pattern =
-        m_pNaming->rules.Find(system.GetTopologyType(), system.GetSystemFunction(), type);
-    const int systemId = system.GetSystemId();
-    int& counter = m_pNaming->loadedSystem == systemId
-                       ? m_pNaming->counters[CString(NameRules::WordOf(type))]
-                       : system.Counter(NameRules::WordOf(type));
-    EntityList& list = Current().Of(type);
-    std::string name;
-    do {
-        // From the start again where it would run over; a counter may come from anywhere.
-        counter = counter < 0 || counter == std::numeric_limits<int>::max() ? 1 : counter + 1;
-        name = pattern.Name(counter);
-    } while (list.byName.Find(list, systemId, name));
-    return name;
 }
 
 } // namespace Orvane::Topology

@@ -6,6 +6,7 @@
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
+#include "platform/arx/DrawingPath.h"
 #include "platform/arx/EdEditor.h"
 #include "platform/arx/EdVariables.h"
 #include "platform/win/File.h"
@@ -18,6 +19,7 @@ namespace fs = std::filesystem;
 /// A file is the number of its entities.
 class PointStorage final : public IDbStorage {
 public:
+    CString Extension() const override { return L".gpkg"; }
     AcDbStorageResult Read(AcDbDatabase& database, const wchar_t* path,
                            const AcDbProgress&) override {
         if (!m_files.contains(path)) {
@@ -283,11 +285,13 @@ TEST(DrawingPaths, AreAbsoluteAndHaveAnExtension) {
         {"none/plan", "none/plan.gpkg"},
     };
     for (const auto& row : cases) {
-        EXPECT_EQ(acdbDrawingPath(folder.Wide(row.typed)), folder.Wide(row.path)) << row.typed;
+        EXPECT_EQ(acdbDrawingPath(folder.Wide(row.typed), L".gpkg"), folder.Wide(row.path))
+            << row.typed;
     }
-    EXPECT_TRUE(acdbDrawingPath(L"").IsEmpty());
-    EXPECT_EQ(acdbDrawingPath(L"plan"), Utf8ToWide((fs::current_path() / "plan.gpkg").string()));
-    EXPECT_EQ(acdbDrawingPath(L"a\\plan").Find(L'\\'), -1);
+    EXPECT_TRUE(acdbDrawingPath(L"", L".gpkg").IsEmpty());
+    EXPECT_EQ(acdbDrawingPath(L"plan", L".gpkg"),
+              Utf8ToWide((fs::current_path() / "plan.gpkg").string()));
+    EXPECT_EQ(acdbDrawingPath(L"a\\plan", L".gpkg").Find(L'\\'), -1);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "siblings/giscore/DataBox.h"
+#include "siblings/giscore/data/DataBox.h"
 
 #include <gtest/gtest.h>
 #include <limits>

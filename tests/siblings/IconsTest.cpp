@@ -6,7 +6,7 @@
 
 #include "platform/mfc/IIconSource.h"
 #include "platform/mfc/ImageList.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "tests/support/TestHost.h"
 
 using namespace Orvane;

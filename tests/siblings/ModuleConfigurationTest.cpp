@@ -1,11 +1,11 @@
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 
 #include <gtest/gtest.h>
 #include <map>
 
-#include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/Icon.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/icons/Icon.h"
+#include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "tests/support/TestHost.h"
 
 using namespace Orvane;

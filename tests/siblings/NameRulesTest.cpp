@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/TopologyStorage.h"
 #include "tests/support/TestDrawing.h"
 

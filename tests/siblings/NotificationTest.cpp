@@ -1,11 +1,11 @@
-#include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
 
 #include <functional>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
-#include "siblings/giscore/SetActiveCommand.h"
-#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscore/notification/SetActiveCommand.h"
+#include "siblings/giscore/notification/Subscriber.h"
 
 using namespace Orvane::Notification;
 

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/QueryMatcher.h"
+#include "siblings/giscore/query/QueryMatcher.h"
 
 using namespace Orvane;
 using namespace Orvane::Query;

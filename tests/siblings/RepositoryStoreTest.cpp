@@ -3,15 +3,15 @@
 #include <boost/make_shared.hpp>
 
 #include "platform/arx/DbUndoScopes.h"
-#include "siblings/giscore/DrawingRecords.h"
-#include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/QueryDefinition.h"
-#include "siblings/giscore/RepositoryFolder.h"
-#include "siblings/giscore/RepositoryItemFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/RepositoryRecords.h"
-#include "siblings/giscore/StoredRepositoryFactory.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/query/QueryDefinition.h"
+#include "siblings/giscore/repository/RepositoryFolder.h"
+#include "siblings/giscore/repository/RepositoryItemFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryRecords.h"
+#include "siblings/giscore/repository/StoredRepositoryFactory.h"
+#include "siblings/giscore/systems/DrawingRecords.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;

@@ -1,11 +1,11 @@
 // Splitting, repositories, data definitions, selections.
 #include <gtest/gtest.h>
 
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/Utility.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/utility/Utility.h"
 #include "siblings/giscoreadds/IInfoTooltip.h"
 #include "siblings/giscoreadds/InfoTooltipRegistry.h"
 #include "siblings/giscoreadds/SelectionSet.h"

@@ -1,12 +1,12 @@
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 
 #include <functional>
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/GisEvents.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "tests/support/TestHost.h"
 
 using namespace Orvane;

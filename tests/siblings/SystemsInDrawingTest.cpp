@@ -3,7 +3,7 @@
 
 #include "platform/arx/DbUndoScopes.h"
 #include "platform/arx/EdEditor.h"
-#include "siblings/giscore/GisEvents.h"
+#include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/giscoreadds/PolygonIndex.h"
 #include "tests/support/TestDrawing.h"

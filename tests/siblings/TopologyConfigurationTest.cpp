@@ -1,8 +1,8 @@
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 
 #include <gtest/gtest.h>
 
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "tests/support/TestHost.h"
 
 using namespace Orvane;

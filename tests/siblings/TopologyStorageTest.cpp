@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "tests/support/TestDrawing.h"
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "siblings/networkcore/TopologyStorage.h"
 #include "tests/support/TestHost.h"

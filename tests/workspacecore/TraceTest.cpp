@@ -3,7 +3,7 @@
 
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

@@ -4,7 +4,7 @@
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/mfc/Menu.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 #include "workspacecore/panel/TreeMenus.h"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 

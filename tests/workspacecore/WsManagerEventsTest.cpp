@@ -3,10 +3,10 @@
 #include <sstream>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
 #include "siblings/networkcore/LinearDataManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"

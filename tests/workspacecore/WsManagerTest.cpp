@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/QueryDefinition.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/query/QueryDefinition.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/WsManager.h"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/arx/Activity.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"

@@ -1,9 +1,9 @@
 // The standard registrations, row by row.
 #include <gtest/gtest.h>
 
-#include "siblings/giscore/Icon.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/RepositoryFactory.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/icons/Icon.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 #include "workspacecore/tree/WsRegistrationFactory.h"

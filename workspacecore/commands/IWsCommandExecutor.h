@@ -4,7 +4,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "platform/win/String.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 #include "workspacecore/Api.h"
 
 namespace Orvane {

@@ -4,7 +4,7 @@
 #include "platform/win/Types.h"
 #include "workspacecore/commands/CommandsTypes.h"
 #include "workspacecore/commands/WsTopologyDataSet.h"
-#include "workspacecore/tree/TreeTypes.h"
+#include "workspacecore/foundation/TreeTypes.h"
 
 namespace Orvane::Workspace {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/QueryDefinition.h"
-#include "workspacecore/core/Trace.h"
+#include "siblings/giscore/query/QueryDefinition.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

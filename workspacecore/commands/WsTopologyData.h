@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/win/String.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 #include "workspacecore/Api.h"
 
 namespace Orvane::Workspace {

@@ -1,14 +1,14 @@
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 
 #include "platform/xtp/XTPDockingPaneManager.h"
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/GisSystems.h"
-#include "siblings/giscore/Publisher.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/notification/Publisher.h"
+#include "siblings/giscore/systems/GisSystems.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/giscoreadds/PolygonIndex.h"
-#include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 

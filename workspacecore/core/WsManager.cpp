@@ -4,14 +4,14 @@
 #include <utility>
 
 #include "siblings/conversion/Ansi2UnicodeUtility.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/RepositoryManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscoreadds/InfoTooltipRegistry.h"
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 #include "workspacecore/core/EditorReactor.h"
 #include "workspacecore/core/HostWillClose.h"
-#include "workspacecore/core/Trace.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 
@@ -63,10 +63,13 @@ CWsManager* CWsManager::Instance() {
 }
 
 CWsManager::CWsManager()
-    : m_pRefreshAllPbl(Publisher(L"REFRESH_CHILDREN")),
+    : m_PanelDlgMgr(m_DlgMgr), m_pRefreshAllPbl(Publisher(L"REFRESH_CHILDREN")),
       m_pRefreshTreePbl(Publisher(L"REFRESH_TREE")),
       m_pSelectionInProgressPbl(Publisher(L"SELECTION_IN_PROGRESS")),
-      m_pSelectionCompletedPbl(Publisher(L"SELECTION_COMPLETED")) {}
+      m_pSelectionCompletedPbl(Publisher(L"SELECTION_COMPLETED")) {
+    m_PluginMgr.m_pPanels = &m_PanelDlgMgr;
+    m_TreeMgr.m_pCommands = &m_CmdMgr;
+}
 
 CWsManager::~CWsManager() {
     // The pointer is cleared first, so that the teardown runs once, and so that nothing

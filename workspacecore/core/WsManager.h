@@ -7,9 +7,9 @@
 
 #include "workspacecore/Api.h"
 #include "workspacecore/commands/WsCommandManager.h"
-#include "workspacecore/core/IWsListener.h"
 #include "workspacecore/dialogs/WsDialogManager.h"
 #include "workspacecore/dialogs/WsPanelDialogManager.h"
+#include "workspacecore/events/IWsListener.h"
 #include "workspacecore/panel/WsTreeManager.h"
 #include "workspacecore/plugins/WsPluginManager.h"
 

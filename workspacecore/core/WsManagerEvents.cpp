@@ -1,13 +1,13 @@
 // The events: what each does besides telling the listeners.
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/data/DataConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/LinearDataManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "siblings/networkcore/TopologyStorage.h"
 #include "workspacecore/core/HostWillClose.h"
-#include "workspacecore/core/Trace.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/trace/Trace.h"
 
 // The name of a system, where there is one.
 #define WS_TRACE_SYSTEM_NAME(pSystem)                                                              \

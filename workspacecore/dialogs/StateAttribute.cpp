@@ -1,6 +1,6 @@
 #include "workspacecore/dialogs/StateAttribute.h"
 
-#include "siblings/giscore/Utility.h"
+#include "siblings/giscore/utility/Utility.h"
 #include "workspacecore/foundation/XmlField.h"
 
 namespace Orvane::Workspace {

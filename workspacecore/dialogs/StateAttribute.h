@@ -1,7 +1,7 @@
 // One named value that a dialog keeps between runs.
 #pragma once
 
-#include "siblings/giscore/DataBox.h"
+#include "siblings/giscore/data/DataBox.h"
 #include "workspacecore/Api.h"
 
 namespace Orvane::Workspace {

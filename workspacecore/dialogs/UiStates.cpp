@@ -26,6 +26,16 @@ CUiStates::DialogStatePtr CUiStates::GetDialogStateById(const wchar_t* id) const
     return hit == m_dialogStateMapById.end() ? DialogStatePtr() : hit->second;
 }
 
+CUiStates::DialogStatePtr CUiStates::NeedDialogState(const wchar_t* id) {
+    DialogStatePtr state = GetDialogStateById(id);
+    if (!state) {
+        state = boost::make_shared<CDialogState>();
+        state->SetId(id);
+        AddDialogState(state);
+    }
+    return state;
+}
+
 void CUiStates::Clear() {
     m_dialogStateVector.clear();
     m_dialogStateMapById.clear();

@@ -28,6 +28,8 @@ public:
     void RemoveDialogState(const DialogStatePtr& state);
     /// Null if there is none; case counts.
     DialogStatePtr GetDialogStateById(const wchar_t* id) const;
+    /// Makes a state for a dialog that has none yet.
+    DialogStatePtr NeedDialogState(const wchar_t* id);
     DialogStateVector* GetDialogStateVector() { return &m_dialogStateVector; }
     const DialogStateVector* GetDialogStateVector() const { return &m_dialogStateVector; }
     DialogStateMapById* GetDialogStateMapById() { return &m_dialogStateMapById; }

@@ -6,11 +6,11 @@
 
 #include "platform/mfc/AdUiBaseDialog.h"
 #include "platform/mfc/CustomBitmapButton.h"
-#include "siblings/giscore/DataBox.h"
-#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscore/data/DataBox.h"
+#include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/Api.h"
-#include "workspacecore/core/IWsListener.h"
 #include "workspacecore/dialogs/DialogsTypes.h"
+#include "workspacecore/events/IWsListener.h"
 
 class CComboBox;
 

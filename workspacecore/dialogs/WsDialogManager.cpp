@@ -7,8 +7,8 @@
 #include "platform/win/Screens.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/cadwrapper/DocLock.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
 #include "workspacecore/dialogs/WsBaseDialog.h"
 
 namespace Orvane::Workspace {

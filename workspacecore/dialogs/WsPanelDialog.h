@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/mfc/AdUiBaseDialog.h"
-#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/Api.h"
-#include "workspacecore/core/IWsListener.h"
+#include "workspacecore/events/IWsListener.h"
 
 namespace Orvane::Workspace {
 

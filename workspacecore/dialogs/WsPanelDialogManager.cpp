@@ -1,7 +1,8 @@
 #include "workspacecore/dialogs/WsPanelDialogManager.h"
 
+#include "platform/arx/ApDocManager.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
-#include "workspacecore/core/WsManager.h"
+#include "workspacecore/dialogs/WsDialogManager.h"
 #include "workspacecore/dialogs/WsPanelDialog.h"
 
 namespace Orvane::Workspace {
@@ -18,7 +19,8 @@ CWsPanelDialog::CWsPanelDialog(unsigned int dialogResourceId, const wchar_t* dia
 
 CWsPanelDialog::~CWsPanelDialog() = default;
 
-CWsPanelDialogManager::CWsPanelDialogManager() : m_paneManager(new CXTPDockingPaneManager) {
+CWsPanelDialogManager::CWsPanelDialogManager(CWsDialogManager& dialogs)
+    : m_pDialogs(&dialogs), m_paneManager(new CXTPDockingPaneManager) {
     m_paneManager->InstallDockingPanes(acedGetAcadFrame(), 1);
     m_paneManager->SetStickyFloatingFrames(1);
     m_paneManager->SetTheme(kPaneTheme);
@@ -66,8 +68,7 @@ CWsPanelDialog* CWsPanelDialogManager::GetWsPanelDialogByPosition(enmPanelDialog
         return metadata ? metadata->m_panelDialog : nullptr;
     }
     // A copy: making a dialog may bring another factory.
-    const CWsDialogManager::FactoryVector factories =
-        *CWsManager::Instance()->DlgMgr()->GetDlgFactories();
+    const CWsDialogManager::FactoryVector factories = *m_pDialogs->GetDlgFactories();
     for (const auto& factory : factories) {
         CWsPanelDialog* const pDialog =
             factory ? factory->CreateWsPanelDialog(m_mainWorkspaceDlg, metadata->GetDialogId())

@@ -11,6 +11,8 @@ class CXTPDockingPaneManager;
 
 namespace Orvane::Workspace {
 
+class CWsDialogManager;
+
 /// Held by CWsManager, which alone makes one. Asking about a place makes an empty entry for
 /// it, which counts as free. Main thread only.
 class WORKSPACE_API CWsPanelDialogManager {
@@ -39,8 +41,9 @@ public:
 
 private:
     friend class CWsManager;
-    CWsPanelDialogManager();
+    explicit CWsPanelDialogManager(CWsDialogManager& dialogs);
 
+    CWsDialogManager* m_pDialogs; ///< whose factories make the panels
     CWnd* m_mainWorkspaceDlg = nullptr;
     boost::shared_ptr<CXTPDockingPaneManager> m_paneManager;
     std::map<enmPanelDialogPosition, MetadataPtr> m_panelDialogs;

@@ -4,8 +4,9 @@
 #include <iterator>
 
 #include "platform/mfc/Menu.h"
-#include "siblings/giscore/GisSystem.h"
-#include "workspacecore/core/WsManager.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "workspacecore/commands/WsCommandManager.h"
+#include "workspacecore/panel/WsTreeManager.h"
 #include "workspacecore/tree/WsTreeItemDefinition.h"
 
 namespace Orvane::Workspace {
@@ -134,22 +135,18 @@ void AppendMenuEntries(CMenu& menu, const MenuEntries& entries) {
 int CWsTreeManager::GetMenuBar(CMenu& menu, CWsTreeItemData* pItemData,
                                System::CGisSystem* pSystem) const {
     const CWsTreeItemData* const pItem = pItemData ? pItemData : GetSelectedItemData();
-    if (!pItem || !pItem->GetPtrItemDefinition()) {
+    if (!m_pCommands || !pItem || !pItem->GetPtrItemDefinition()) {
         return 0;
     }
-    const MenuEntries entries =
-        TreeMenuEntries(*CWsManager::Instance()->CmdMgr()->GetCommandRegistry(),
-                        MenuTopology(pSystem), *pItem->GetPtrItemDefinition());
+    const MenuEntries entries = TreeMenuEntries(
+        *m_pCommands->GetCommandRegistry(), MenuTopology(pSystem), *pItem->GetPtrItemDefinition());
     AppendMenuEntries(menu, entries);
     return entries.empty() ? 0 : 1;
 }
 
 CWsCommand* CWsTreeManager::GetMenuCommand(unsigned int menuCmdId) const {
-    return CWsManager::Instance()
-        ->CmdMgr()
-        ->GetCommandRegistry()
-        ->GetWsCommandByMenuId(menuCmdId)
-        .get();
+    return m_pCommands ? m_pCommands->GetCommandRegistry()->GetWsCommandByMenuId(menuCmdId).get()
+                       : nullptr;
 }
 
 } // namespace Orvane::Workspace

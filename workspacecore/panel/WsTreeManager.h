@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "workspacecore/tree/TreeIcons.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 #include "workspacecore/tree/WsTreeItemDefinitionList.h"
 
@@ -12,6 +13,7 @@ class CTreeCtrl;
 namespace Orvane::Workspace {
 
 class CWsCommand;
+class CWsCommandManager;
 
 /// There are three trees: the systems of the drawing, the repository on disk, and the one on
 /// the net. The panels that host them make and fill them, hang a CWsTreeItemData on each
@@ -88,37 +90,23 @@ public:
     HICON GetEntityTypeIcon(enmEntityType type);
     /// As the active system's topology calls it.
     CString GetEntityTypeName(enmEntityType type) const;
+    TreeIcons& Icons() { return m_icons; }
 
 private:
     friend class CWsManager;
     enum enmTree { SystemTree, DiskTree, NetTree };
-    /// Icons that have a field of their own, in its order.
-    enum enmIcon {
-        SystemManagerIcon,
-        DiskRepositoryIcon,
-        SystemIcon,
-        SystemToolIcon,
-        DrawToolIcon,
-        SetDataToolIcon,
-        EditToolIcon,
-        ManagerToolIcon,
-        FastCommandIcon,
-        IconCount
-    };
 
     CWsTreeItemData* Data(enmTree tree, HTREEITEM item) const;
     HTREEITEM Selected(enmTree tree) const;
     HTREEITEM UnderCursor(enmTree tree) const;
     void Delete(enmTree tree, HTREEITEM item) const;
-    HICON Icon(enmIcon icon);
-    void LoadRepositorySortOrder();
 
     boost::shared_ptr<CWsTreeItemDefinitionList> m_pTreeItemDefinitionList;
     std::array<CTreeCtrl*, 3> m_views{};
-    std::map<enmEntityType, HICON> m_entityIcons;
-    std::map<enmTopologyType, HICON> m_topologyIcons;
-    std::array<HICON, IconCount> m_icons{};
-    std::vector<CString> m_repositorySortOrder; ///< tags; read once
+    TreeIcons m_icons;
+    std::vector<CString> m_familyOrder; ///< tags; read once
+    /// Handed in by the manager; null in one of somebody else's, which knows no commands.
+    const CWsCommandManager* m_pCommands = nullptr;
 };
 
 } // namespace Orvane::Workspace

@@ -12,7 +12,7 @@
 
 #include "platform/win/String.h"
 #include "platform/win/Types.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 
 namespace Orvane::Selection {
 enum class SelectionType : int;

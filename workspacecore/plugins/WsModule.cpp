@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/foundation/XmlField.h"
 
 namespace Orvane::Workspace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/win/StringArray.h"
-#include "siblings/giscore/Utility.h"
+#include "siblings/giscore/utility/Utility.h"
 #include "workspacecore/foundation/XmlRecord.h"
 
 namespace Orvane::Workspace {

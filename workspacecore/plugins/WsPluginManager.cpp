@@ -7,11 +7,11 @@
 #include "platform/win/ErrorText.h"
 #include "platform/win/FileVersion.h"
 #include "platform/win/Library.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "workspacecore/core/Trace.h"
-#include "workspacecore/core/WsManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "workspacecore/dialogs/WsPanelDialogManager.h"
 #include "workspacecore/plugins/LoadSteps.h"
 #include "workspacecore/plugins/SplashScreen.h"
+#include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {
 
@@ -154,7 +154,9 @@ int CWsPluginManager::LoadModules() {
     }
     m_bModulesLoaded = 1;
     splash.Close();
-    CWsManager::Instance()->PDlgMgr()->StackRegisteredPanelButtons();
+    if (m_pPanels) {
+        m_pPanels->StackRegisteredPanelButtons();
+    }
     return bAnyAccepted;
 }
 

@@ -5,6 +5,8 @@
 
 namespace Orvane::Workspace {
 
+class CWsPanelDialogManager;
+
 /// A member of CWsManager. The constructor reads "ModuleRegistry.xml" from the folder
 /// "support"; nothing is loaded before LoadModules. Main thread only.
 class WORKSPACE_API CWsPluginManager {
@@ -32,9 +34,12 @@ public:
     void ReleaseModules();
 
 private:
+    friend class CWsManager;
     boost::shared_ptr<CWsModuleRegistry> m_pModuleRegistry;
     int m_bRegistryLoaded = 0;
     int m_bModulesLoaded = 0;
+    /// Handed in by the manager; what the modules registered there is stacked when all are in.
+    CWsPanelDialogManager* m_pPanels = nullptr;
 };
 
 } // namespace Orvane::Workspace

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "platform/mfc/IIconSource.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 
 namespace Orvane::Workspace {
 

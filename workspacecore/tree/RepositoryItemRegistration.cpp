@@ -2,9 +2,9 @@
 
 #include <span>
 
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "workspacecore/core/WsManager.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "workspacecore/tree/RegistrationTarget.h"
 #include "workspacecore/tree/StandardCommand.h"
 
 namespace Orvane::Workspace {
@@ -100,20 +100,19 @@ DefinitionPtr CreateDefinition(const Family& family, enmEntityType entityType,
 }
 
 void RegisterFolder(const Family& family, const TreeKinds& kinds) {
-    CWsManager::Instance()->RegisterWsTreeItem(
+    RegistrationTarget().RegisterWsTreeItem(
         CreateDefinition(family, EntityNone, kinds.folder, kinds.root));
 }
 
 void RegisterEntityFolder(const Family& family, enmEntityType entityType, const TreeKinds& kinds) {
-    CWsTreeManager& trees = *CWsManager::Instance()->TreeMgr();
     const DefinitionPtr definition =
         CreateDefinition(family, entityType, kinds.entityFolder, kinds.folder);
     definition->SetId(FormatText(L"%s:ws%d:et%d", family.repositoryTag,
                                  static_cast<int>(kinds.entityFolder), entityType)
                           .c_str());
-    definition->SetName(trees.GetEntityTypeName(entityType));
-    definition->SetIcon(trees.GetEntityTypeIcon(entityType));
-    CWsManager::Instance()->RegisterWsTreeItem(definition);
+    definition->SetName(RegistrationTarget().GetEntityTypeName(entityType));
+    definition->SetIcon(RegistrationTarget().Icons().Get(entityType));
+    RegistrationTarget().RegisterWsTreeItem(definition);
 }
 
 /// All configurations of a family have its tag for an id.
@@ -125,7 +124,7 @@ DefinitionPtr RegisterConfiguration(const Family& family, enmEntityType entityTy
     definition->SetAcceptQueryDrop(family.hasQueryDrop);
     definition->SetAllowDragBegin(1);
     definition->SetAllowRename(family.hasRename);
-    CWsManager::Instance()->RegisterWsTreeItem(definition);
+    RegistrationTarget().RegisterWsTreeItem(definition);
     return definition;
 }
 
@@ -210,9 +209,8 @@ void RegisterRows(const Family& family, std::span<const CommandRow> rows, enmEnt
         if (!id.IsEmpty()) {
             RegisterStandardCommand(
                 {id, row.group, row.nameMessage, row.behavior, types.*row.itemTypes},
-                row.executor == CommandRow::Own
-                    ? family.executor
-                    : CWsManager::Instance()->CmdMgr()->GetBaseExecutor(),
+                row.executor == CommandRow::Own ? family.executor
+                                                : RegistrationTarget().GetBaseExecutor(),
                 family.repositoryTag, entityType,
                 StandardTopologies(family.topologies, EntityNone));
         }
@@ -224,9 +222,8 @@ void RegisterRows(const Family& family, std::span<const CommandRow> rows, enmEnt
 void RegisterSetAsDefault(const Family& family, enmEntityType entityType) {
     RegisterStandardCommand({CommandId(family, kSetAsDefault, entityType), CommandGroupRun, 9056,
                              TreeBehaviorNone, WsItemSystemConfiguration},
-                            CWsManager::Instance()->CmdMgr()->GetBaseExecutor(),
-                            family.repositoryTag, EntityNone,
-                            StandardTopologies(family.topologies, EntityNone));
+                            RegistrationTarget().GetBaseExecutor(), family.repositoryTag,
+                            EntityNone, StandardTopologies(family.topologies, EntityNone));
 }
 
 bool HasDefaultItem(const Family& family) {

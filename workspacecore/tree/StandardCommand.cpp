@@ -1,8 +1,8 @@
 #include "workspacecore/tree/StandardCommand.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/TopologyConfiguration.h"
-#include "workspacecore/core/WsManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
+#include "workspacecore/tree/RegistrationTarget.h"
 
 namespace Orvane::Workspace {
 
@@ -42,7 +42,7 @@ void RegisterStandardCommand(const StandardCommand& standard, IWsCommandExecutor
     command->SetCmdExecutor(executor);
     command->SetRepositoryTag(repositoryTag);
     command->SetEntityType(entityType);
-    CWsManager::Instance()->RegisterWsCommand(command);
+    RegistrationTarget().RegisterWsCommand(command);
     for (const auto& data : topologies) {
         command->AddWsTopologyData(data);
     }

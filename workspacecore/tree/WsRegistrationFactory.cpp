@@ -1,7 +1,7 @@
 #include "workspacecore/tree/WsRegistrationFactory.h"
 
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "workspacecore/core/WsManager.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "workspacecore/tree/RegistrationTarget.h"
 #include "workspacecore/tree/RepositoryItemRegistration.h"
 #include "workspacecore/tree/StandardCommand.h"
 
@@ -11,17 +11,16 @@ namespace {
 
 using DefinitionPtr = boost::shared_ptr<CWsTreeItemDefinition>;
 using TopologyDataVector = CWsTopologyDataSet::Vector;
-using GetIcon = HICON (CWsTreeManager::*)();
 
 constexpr struct {
     const wchar_t* id;
     int nameMessage;
-    GetIcon icon;
+    TreeIcons::enmIcon icon;
     enmWSTreeItemType itemType;
     int acceptRepositoryItemDrop;
 } kBasicItems[] = {
-    {L"SYSTEMMANAGER", 2780, &CWsTreeManager::GetSystemManagerIcon, WsItemSystemManager, 0},
-    {L"DISKREPO", 5764, &CWsTreeManager::GetDiskRepositoryIcon, WsItemRepositoryRoot, 1},
+    {L"SYSTEMMANAGER", 2780, TreeIcons::SystemManagerIcon, WsItemSystemManager, 0},
+    {L"DISKREPO", 5764, TreeIcons::DiskRepositoryIcon, WsItemRepositoryRoot, 1},
 };
 
 constexpr struct {
@@ -45,18 +44,15 @@ constexpr struct {
 constexpr struct {
     const wchar_t* idFormat; ///< of topology type and function
     int nameMessage;
-    GetIcon icon;
+    TreeIcons::enmIcon icon;
     enmWSTreeItemType itemType;
 } kToolGroups[] = {
-    {L"SYSTEM_TOOLDRAW_%d_%d", 975, &CWsTreeManager::GetSystemTool_DrawIcon, WsItemSystemToolDraw},
-    {L"SYSTEM_TOOLEDIT_%d_%d", 1124, &CWsTreeManager::GetSystemTool_EditIcon, WsItemSystemToolEdit},
-    {L"SYSTEM_TOOLSETDATA_%d_%d", 55006, &CWsTreeManager::GetSystemTool_SetDataIcon,
-     WsItemSystemToolSetData},
-    {L"SYSTEM_TOOLMANAGER_%d_%d", 9571, &CWsTreeManager::GetSystemTool_ManagerIcon,
-     WsItemSystemToolManager},
-    {L"SYSTEM_TOOLFASTCMD_%d_%d", 10831, &CWsTreeManager::GetFastCommandIcon,
-     WsItemSystemToolFastCommand},
-    {L"SYSTEM_TOOL_%d_%d", 5376, &CWsTreeManager::GetSystemToolIcon, WsItemSystemTool},
+    {L"SYSTEM_TOOLDRAW_%d_%d", 975, TreeIcons::DrawToolIcon, WsItemSystemToolDraw},
+    {L"SYSTEM_TOOLEDIT_%d_%d", 1124, TreeIcons::EditToolIcon, WsItemSystemToolEdit},
+    {L"SYSTEM_TOOLSETDATA_%d_%d", 55006, TreeIcons::SetDataToolIcon, WsItemSystemToolSetData},
+    {L"SYSTEM_TOOLMANAGER_%d_%d", 9571, TreeIcons::ManagerToolIcon, WsItemSystemToolManager},
+    {L"SYSTEM_TOOLFASTCMD_%d_%d", 10831, TreeIcons::FastCommandIcon, WsItemSystemToolFastCommand},
+    {L"SYSTEM_TOOL_%d_%d", 5376, TreeIcons::SystemToolIcon, WsItemSystemTool},
 };
 
 CString Message(int id) {
@@ -84,11 +80,11 @@ void RegisterToolGroups(const TopologyDataVector& topologies) {
                 FormatText(row.idFormat, data->GetTopologyType(), data->GetTopologyFunction())
                     .c_str());
             definition->SetName(Message(row.nameMessage));
-            definition->SetIcon((CWsManager::Instance()->TreeMgr()->*row.icon)());
+            definition->SetIcon(RegistrationTarget().Icons().Get(row.icon));
             definition->SetWsItemType(row.itemType);
             definition->SetWsParentItemType(WsItemSystem);
             definition->AddWsTopologyData(data);
-            CWsManager::Instance()->RegisterWsTreeItem(definition);
+            RegistrationTarget().RegisterWsTreeItem(definition);
         }
     }
 }
@@ -100,10 +96,10 @@ void CWsRegistrationFactory::RegisterBasicItems() {
         const DefinitionPtr definition(new CWsTreeItemDefinition);
         definition->SetId(row.id);
         definition->SetName(Message(row.nameMessage));
-        definition->SetIcon((CWsManager::Instance()->TreeMgr()->*row.icon)());
+        definition->SetIcon(RegistrationTarget().Icons().Get(row.icon));
         definition->SetWsItemType(row.itemType);
         definition->SetAcceptRepositoryItemDrop(row.acceptRepositoryItemDrop);
-        CWsManager::Instance()->RegisterWsTreeItem(definition);
+        RegistrationTarget().RegisterWsTreeItem(definition);
     }
 }
 
@@ -115,7 +111,7 @@ CWsRegistrationFactory::RegisterSystemItem(IWsCommandExecutor* executor,
     DefinitionPtr definition(new CWsTreeItemDefinition);
     definition->SetId(L"SYSTEM");
     // One picture for systems of every kind.
-    definition->SetIcon(CWsManager::Instance()->TreeMgr()->GetSystemIcon(TopologyPolygon));
+    definition->SetIcon(RegistrationTarget().Icons().Get(TopologyPolygon));
     definition->SetWsItemType(WsItemSystem);
     definition->SetWsParentItemType(WsItemSystemManager);
     definition->SetAcceptRepositoryItemDrop(1);
@@ -127,7 +123,7 @@ CWsRegistrationFactory::RegisterSystemItem(IWsCommandExecutor* executor,
         definition->SetCmdIdRepositoryItemDrop(L"SYSTEM_DROPITEM");
         RegisterSystemCommands(executor, records);
     }
-    CWsManager::Instance()->RegisterWsTreeItem(definition);
+    RegistrationTarget().RegisterWsTreeItem(definition);
     if (registerTools) {
         RegisterToolGroups(records);
     }

@@ -3,7 +3,7 @@
 
 #include "platform/win/Types.h"
 #include "workspacecore/commands/WsTopologyDataSet.h"
-#include "workspacecore/tree/TreeTypes.h"
+#include "workspacecore/foundation/TreeTypes.h"
 
 namespace Orvane::Workspace {
 

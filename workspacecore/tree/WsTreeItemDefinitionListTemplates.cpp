@@ -1,7 +1,7 @@
 // The assembly of the templates.
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "workspacecore/tree/TreeItemIndex.h"
 
 namespace Orvane::Workspace {

@@ -178,25 +178,6 @@ void DrawingView::PaintRubberBand(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized());
 }
 
-QImage DrawingView::Snapshot(const QSize& size, double pixelRatio) {
-    BringUpToDate();
-    ViewTransform transform = m_transform;
-    transform.Resize(size.width(), size.height());
-    if (transform.Width() != m_transform.Width() || transform.Height() != m_transform.Height()) {
-        transform.Fit(m_transform.Visible(), 1, kPointSpan);
-    }
-    RenderSettings settings = Settings();
-    settings.pixelRatio = pixelRatio;
-    ViewPicture picture;
-    picture.Update(m_scene, transform, settings, m_emphasis, ViewPicture::Clock::time_point::max());
-    QImage image = picture.Image();
-    QPainter painter(&image);
-    TextOverlay().Paint(painter, font(), m_scene, transform, settings, picture.Detail());
-    painter.end();
-    image.setDevicePixelRatio(pixelRatio);
-    return image;
-}
-
 void DrawingView::resizeEvent(QResizeEvent*) {
     // A view that nobody has moved goes on showing everything.
     FollowSize();
@@ -274,11 +255,6 @@ void DrawingView::Mark(std::span<const AcDbObjectId> ids, int colorIndex) {
     EmphasisChanged();
 }
 
-void DrawingView::ClearMarks() {
-    std::erase_if(m_marks, [](const Marked& marked) { return marked.width == kMarkWidth; });
-    EmphasisChanged();
-}
-
 void DrawingView::Redraw() {
     m_marks.clear();
     EmphasisChanged();
@@ -306,7 +282,7 @@ void DrawingView::CancelPick() {
     if (m_isPicking) {
         m_isPicking = false;
         ShowCursor();
-        emit PickEnded(PickEnd::Cancelled, {}, 0, 0);
+        emit PickEnded(PickOutcome::Cancelled, {}, 0, 0);
     }
 }
 

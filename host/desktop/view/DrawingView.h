@@ -10,15 +10,9 @@
 #include "host/desktop/view/ScenePick.h"
 #include "host/desktop/view/TextOverlay.h"
 #include "host/desktop/view/ViewPicture.h"
+#include "platform/arx/EdDisplay.h"
 
 namespace Tessaly {
-
-/// How asking for one entity ended.
-enum class PickEnd {
-    Picked,
-    Missed,    ///< the user pointed at nothing
-    Cancelled, ///< Escape, or the drawing went
-};
 
 /// Shows one drawing, or none. Colours follow the palette: a dark or a light base. Entities
 /// are named by their ids; ids of what is no more are passed over.
@@ -49,9 +43,8 @@ public:
     void SetSelection(std::vector<AcDbObjectId> ids);
     /// Thick, in a colour of the 255-colour table; until the next Redraw.
     void Highlight(std::span<const AcDbObjectId> ids, int colorIndex);
-    /// In a colour of the 255-colour table; until ClearMarks or the next Redraw.
+    /// In a colour of the 255-colour table; until the next Redraw.
     void Mark(std::span<const AcDbObjectId> ids, int colorIndex);
-    void ClearMarks();
     /// Draws all anew, without marks and highlights.
     void Redraw();
     /// Shows at once what has changed in the drawing.
@@ -71,10 +64,6 @@ public:
     /// What the user means by a place in the window; null if nothing.
     AcDbObjectId EntityAt(const QPointF& position) const;
 
-    /// What the view would show in a window of so many pixels of the device.
-    /// \param pixelRatio of them for one of the desktop
-    QImage Snapshot(const QSize& size, double pixelRatio = 1);
-
 signals:
     /// The cursor, in drawing units.
     void PositionMoved(double x, double y);
@@ -82,7 +71,7 @@ signals:
     void SelectionChanged();
     /// \param id null unless picked
     /// \param x,y drawing units, where the user pointed
-    void PickEnded(Tessaly::PickEnd how, AcDbObjectId id, double x, double y);
+    void PickEnded(PickOutcome how, AcDbObjectId id, double x, double y);
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;

@@ -136,7 +136,7 @@ void DrawingView::AnswerPick(const QPointF& position) {
     m_isPicking = false;
     const PlanePoint place = m_transform.ToDrawing(ToDevice(position));
     const AcDbObjectId id = EntityAt(position);
-    emit PickEnded(id.isNull() ? PickEnd::Missed : PickEnd::Picked, id, place.x, place.y);
+    emit PickEnded(id.isNull() ? PickOutcome::Missed : PickOutcome::Picked, id, place.x, place.y);
 }
 
 void DrawingView::keyPressEvent(QKeyEvent* pEvent) {

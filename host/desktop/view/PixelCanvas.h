@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/desktop/view/ViewTransform.h"
-#include "platform/arx/AciColors.h"
+#include "platform/arx/ColorTable.h"
 
 namespace Tessaly {
 

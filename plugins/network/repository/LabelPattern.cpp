@@ -4,7 +4,7 @@
 
 #include "platform/win/CodePage.h"
 #include "platform/win/TextFormat.h"
-#include "siblings/giscore/QueryMatcher.h"
+#include "siblings/giscore/query/QueryMatcher.h"
 
 namespace Orvane::Network {
 

@@ -10,7 +10,7 @@
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTexts.h"
 #include "plugins/network/repository/SystemEntities.h"
-#include "siblings/giscore/XmlElement.h"
+#include "siblings/giscore/utility/XmlElement.h"
 
 namespace Orvane::Network {
 

@@ -7,8 +7,8 @@
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTexts.h"
 #include "plugins/network/repository/SystemEntities.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "siblings/giscoreadds/SelectionSet.h"
 
 namespace Orvane::Network {

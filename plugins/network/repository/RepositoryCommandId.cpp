@@ -1,6 +1,6 @@
 #include "plugins/network/repository/RepositoryCommandId.h"
 
-#include "siblings/giscore/WholeNumber.h"
+#include "siblings/giscore/utility/WholeNumber.h"
 
 namespace Orvane::Network {
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "platform/win/String.h"
-#include "siblings/giscore/GisTypes.h"
+#include "siblings/giscore/topology/GisTypes.h"
 
 namespace Orvane::Network {
 

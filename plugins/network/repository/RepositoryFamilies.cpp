@@ -9,8 +9,8 @@
 #include "plugins/network/repository/RepositoryExecutor.h"
 #include "plugins/network/repository/RepositoryTexts.h"
 #include "plugins/network/repository/ThemeFamily.h"
-#include "siblings/giscore/StoredRepositoryFactory.h"
-#include "siblings/giscore/Topology.h"
+#include "siblings/giscore/repository/StoredRepositoryFactory.h"
+#include "siblings/giscore/topology/Topology.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/WsRegistrationFactory.h"
 

@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "siblings/giscore/QueryDefinition.h"
-#include "siblings/giscore/RepositoryItemFactory.h"
+#include "siblings/giscore/query/QueryDefinition.h"
+#include "siblings/giscore/repository/RepositoryItemFactory.h"
 
 namespace Orvane::System {
 class CGisSystem;

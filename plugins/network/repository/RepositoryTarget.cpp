@@ -2,9 +2,9 @@
 
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTexts.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "plugins/network/repository/RepositoryCommandId.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryStore.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
 
 namespace Orvane::Workspace {
 class CWsTreeItemData;

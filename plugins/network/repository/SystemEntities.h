@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/arx/DbDatabase.h"
-#include "siblings/giscore/GisSystem.h"
-#include "siblings/giscore/QueryMatcher.h"
+#include "siblings/giscore/query/QueryMatcher.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/TopologyStorage.h"
 
 namespace Orvane::Network {

@@ -6,9 +6,9 @@
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTarget.h"
 #include "plugins/network/repository/RepositoryTexts.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/SystemManager.h"
-#include "siblings/giscore/TopologyConfiguration.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
+#include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {

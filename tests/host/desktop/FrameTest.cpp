@@ -202,7 +202,7 @@ TEST_F(FrameTest, ThemesChangeWhileItRuns) {
     EXPECT_TRUE(IsDark());
     ApplyTheme(L"light");
     EXPECT_FALSE(IsDark());
-    const QImage picture = m_pFrame->CurrentView()->Snapshot({64, 64});
+    const QImage picture = m_pFrame->CurrentView()->grab().toImage();
     EXPECT_GT(qGray(picture.pixel(2, 2)), 200);
 }
 

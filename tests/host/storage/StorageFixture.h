@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbDatabase.h"
 #include "tests/support/TestHost.h"
 

@@ -3,13 +3,13 @@
 #include <filesystem>
 #include <sqlite3.h>
 
-#include "host/storage/GeoPackageStorage.h"
 #include "host/storage/Import.h"
+#include "host/storage/OpenAndSave.h"
 #include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkLayers.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
-#include "siblings/giscore/GisSystem.h"
+#include "siblings/giscore/systems/GisSystem.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;

@@ -9,7 +9,7 @@
 #include "platform/mfc/ComboBox.h"
 #include "platform/mfc/ListCtrl.h"
 #include "plugins/panels/Resources.h"
-#include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/dialogs/WsBaseDialog.h"
 
 using namespace Orvane;

@@ -5,7 +5,7 @@
 #include "platform/arx/RxDynamicLinker.h"
 #include "platform/mfc/TreeCtrl.h"
 #include "platform/win/CodePage.h"
-#include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "tests/mfc/WindowTest.h"
 #include "tests/support/TestHost.h"

@@ -4,10 +4,10 @@
 #include <QLineEdit>
 #include <QMenu>
 
-#include "siblings/giscore/Publisher.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/RepositoryStore.h"
+#include "siblings/giscore/notification/Publisher.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
 
 using namespace Orvane;
 

@@ -1,17 +1,17 @@
 // Commands on configurations and systems, driven by nodes of trees made by hand.
 #include <boost/make_shared.hpp>
 
-#include "host/storage/GeoPackageStorage.h"
+#include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbUndo.h"
 #include "plugins/network/repository/LabelFamily.h"
 #include "plugins/network/repository/RepositoryExecutor.h"
 #include "plugins/network/repository/RepositoryFamilies.h"
 #include "plugins/network/repository/SystemExecutor.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/RepositoryFactory.h"
-#include "siblings/giscore/RepositoryManager.h"
-#include "siblings/giscore/RepositoryStore.h"
-#include "siblings/giscore/Subscriber.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/notification/Subscriber.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
 #include "siblings/giscoreadds/SelectionSet.h"
 #include "tests/support/TestDrawing.h"
 #include "workspacecore/tree/WsTreeItemData.h"

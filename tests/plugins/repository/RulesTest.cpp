@@ -9,7 +9,7 @@
 #include "plugins/network/repository/RepositoryCommandId.h"
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/ThemeClasses.h"
-#include "siblings/giscore/QueryMatcher.h"
+#include "siblings/giscore/query/QueryMatcher.h"
 
 using namespace Orvane;
 using namespace Orvane::Network;

@@ -7,8 +7,8 @@
 #include "platform/mfc/CustomBitmapButton.h"
 #include "platform/mfc/Edit.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
-#include "siblings/giscore/ModuleConfiguration.h"
-#include "siblings/giscore/Publisher.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/Publisher.h"
 
 namespace Orvane::Workspace {
 namespace {

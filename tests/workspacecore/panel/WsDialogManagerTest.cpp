@@ -6,8 +6,8 @@
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
-#include "siblings/giscore/NotificationFramework.h"
-#include "siblings/giscore/Publisher.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/notification/Publisher.h"
 
 namespace Orvane::Workspace {
 namespace {

@@ -1,7 +1,7 @@
 // The column of panels: who gets a place, how gaps close, and when dialogs are made.
 #include "tests/workspacecore/panel/WsTestDialog.h"
 
-#include "siblings/giscore/Publisher.h"
+#include "siblings/giscore/notification/Publisher.h"
 #include "workspacecore/dialogs/WsPanelDialog.h"
 
 namespace Orvane::Workspace {

@@ -1,0 +1,71 @@
+#include "host/storage/Journals.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
+
+#include "host/storage/OpenGeoPackage.h"
+#include "host/storage/SystemFile.h"
+
+namespace Tessaly {
+
+namespace fs = std::filesystem;
+
+bool HasHotJournal(const std::string& path) {
+    // The first bytes come last, when all that is to be taken back is safe in it.
+    const Descriptor journal(BehindLinks(path) + "-journal", O_RDONLY);
+    char first = 0;
+    return journal && read(journal.Number(), &first, 1) == 1 && first != 0;
+}
+
+bool HasJournal(const std::string& path) {
+    std::error_code ignored;
+    const std::string real = BehindLinks(path);
+    return fs::exists(real + "-journal", ignored) || fs::exists(real + "-wal", ignored);
+}
+
+void RemoveColdJournal(const std::string& path) {
+    if (!HasHotJournal(path)) {
+        unlink((BehindLinks(path) + "-journal").c_str());
+    }
+}
+
+bool RemoveOrphans(const std::string& path) {
+    std::error_code ignored;
+    const bool isOrphaned = !fs::exists(path, ignored);
+    if (isOrphaned) {
+        RemoveWithJournals(path);
+    }
+    return isOrphaned;
+}
+
+CString SettleJournal(const std::string& path) {
+    if (!HasHotJournal(path)) {
+        return {};
+    }
+    GdalErrors errors;
+    const OpenGeoPackage file(path, OpenGeoPackage::Mode::Write);
+    if (file.IsOpen() && !HasHotJournal(path)) {
+        return {};
+    }
+    return CString(L"an unfinished write has to be taken back first, and cannot be: ") +
+           errors.Reason();
+}
+
+CString ClearJournals(const std::string& path) {
+    if (!HasJournal(path) || RemoveOrphans(path)) {
+        return {};
+    }
+    GdalErrors errors;
+    {
+        OpenGeoPackage file(path, OpenGeoPackage::Mode::Write);
+        if (!file.IsOpen() || !file.Execute("BEGIN IMMEDIATE")) {
+            return errors.Reason();
+        }
+        RemoveColdJournal(path);
+        file.Execute("COMMIT");
+    }
+    return HasJournal(path) ? CString(L"another program has it open") : CString();
+}
+
+} // namespace Tessaly

@@ -1,0 +1,51 @@
+// What is remembered of the file that a drawing was read from, to write only what changed.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/storage/Schema.h"
+#include "platform/arx/DbObject.h"
+
+namespace Tessaly {
+
+struct RememberedFile {
+    /// An entity that stands for a row of somebody else's table.
+    struct Foreign {
+        AcDbObjectId id;
+        std::uint32_t part = 0;
+        std::int64_t fid = 0;
+        std::uint32_t table = 0; ///< position in `foreignTables`
+        bool isOurs = false;     ///< noted in the file as replaced
+    };
+    /// A row of ours whose number could not be its entity's id: another program added it.
+    struct Renumbered {
+        EntityKind kind{};
+        std::int64_t fid = 0;
+        AcDbObjectId id;
+    };
+
+    std::string path;
+    /// Changes with every write of any program; other than at our last: somebody wrote.
+    std::uint32_t changeCounter = 0;
+    /// Objects from this id on are not in the file.
+    std::uint32_t firstUnwritten = 0;
+    /// Objects that were made while reading, and are not in the file either.
+    std::vector<AcDbObjectId> made;
+    std::vector<Renumbered> renumbered; ///< in the order of ids
+    std::vector<std::string> foreignTables;
+    std::vector<Foreign> foreign; ///< in the order of ids
+    std::vector<IdRun> newRuns;   ///< not noted in the file yet
+
+    /// Null if the entity is no row of another's table, or not any more.
+    const Foreign* FindForeign(AcDbObjectId id) const;
+    /// A row of ours stands for the entity, or did so before it was erased.
+    bool HasRow(AcDbObjectId id) const;
+    Foreign* FindForeign(AcDbObjectId id) {
+        return const_cast<Foreign*>(std::as_const(*this).FindForeign(id));
+    }
+};
+
+} // namespace Tessaly

@@ -1,0 +1,82 @@
+// Where the configurations of a family are kept: a folder on disk or on the net, or a
+// system of a drawing.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "siblings/giscore/repository/RepositoryItem.h"
+
+namespace Orvane {
+
+namespace System {
+class CGisSystem;
+}
+
+/// The items of one family in one place. What is handed out are copies: changes count once
+/// they are given back by Replace. Items that cannot be read are left out, and noted with
+/// CModuleConfiguration::SetProblems. Every change is told to the observers of the GIS core.
+/// Operations that return a text give an empty one, or the reason, for the user, why nothing
+/// was changed. Main thread only.
+class GISCORE_API CRepositoryStore {
+public:
+    using ItemPtr = boost::shared_ptr<CRepositoryItem>;
+
+    virtual ~CRepositoryStore() = default;
+    CRepositoryStore(const CRepositoryStore&) = delete;
+    CRepositoryStore& operator=(const CRepositoryStore&) = delete;
+
+    const CString& GetTag() const { return m_strTag; }
+    /// The system under which the items stand; null for a folder.
+    virtual System::CGisSystem* GetSystem() const { return nullptr; }
+
+    /// By name.
+    std::vector<ItemPtr> GetItems() const;
+    /// Those of an entity folder; of all if it is EntityNone.
+    std::vector<ItemPtr> GetItems(enmEntityType type) const;
+    /// Null if there is none, or if it cannot be read.
+    ItemPtr GetItem(const wchar_t* guid) const;
+    /// The first of a name, without regard to case.
+    ItemPtr GetItemByName(const wchar_t* name) const;
+
+    /// Names are no keys, but people tell items apart by them: a name that another item of
+    /// the same entity folder has is refused.
+    CString Add(const CRepositoryItem& item);
+    CString Replace(const CRepositoryItem& item);
+    CString Rename(const wchar_t* guid, const wchar_t* name);
+    CString Remove(const wchar_t* guid);
+
+    /// GUID of the default item for a kind of entity; empty if there is none.
+    virtual CString GetDefault(enmEntityType /*type*/) const { return {}; }
+    /// Makes an item the default one of its entity folder.
+    CString SetDefault(const wchar_t* guid);
+
+protected:
+    explicit CRepositoryStore(CString tag) : m_strTag(std::move(tag)) {}
+
+    /// One text as it is kept.
+    struct Entry {
+        CString source; ///< what problems call it
+        CString guid;   ///< what it is kept under
+        CString text;
+    };
+    /// \param problems gets what could not even be read
+    virtual std::vector<Entry> Entries(std::vector<CString>& problems) const = 0;
+    virtual std::optional<CString> TextOf(const CString& guid) const = 0;
+    virtual CString Write(const CRepositoryItem& item) = 0;
+    virtual CString Erase(const CRepositoryItem& item) = 0;
+    virtual CString WriteDefault(const CRepositoryItem& item);
+    /// The name under which problems are noted.
+    virtual CString ProblemKey() const = 0;
+
+private:
+    CString WhyNot(const CRepositoryItem& item) const;
+
+    CString m_strTag;
+};
+
+/// A wanted name, or "wanted (2)" and so on if the store has it for that entity folder.
+GISCORE_API CString FreeItemName(const CRepositoryStore& store, enmEntityType type,
+                                 const CString& wanted);
+
+} // namespace Orvane

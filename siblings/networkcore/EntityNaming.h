@@ -1,0 +1,18 @@
+// How new entities get their names. Internal to this module.
+#pragma once
+
+#include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/networkcore/NameRules.h"
+#include "siblings/networkcore/TopologyStorage.h"
+
+namespace Orvane::Topology {
+
+/// The name rules, and the counters in use.
+struct CTopologyStorage::Naming {
+    NameRules rules;
+    bool rulesAreRead = false;
+    int loadedSystem = 0; ///< whose counters are in use; 0: nobody's
+    System::CGisSystem::Counters counters;
+};
+
+} // namespace Orvane::Topology

@@ -1,0 +1,82 @@
+// Where a dialog stands: remembered between runs, sticking to edges while it is moved.
+#include "platform/win/Screens.h"
+#include "workspacecore/dialogs/DialogHome.h"
+#include "workspacecore/dialogs/DialogPlaces.h"
+#include "workspacecore/dialogs/WsBaseDialog.h"
+#include "workspacecore/dialogs/WsDialogManager.h"
+
+namespace Orvane::Workspace {
+
+namespace {
+
+CUiStates& States() {
+    return *DialogHome().Dialogs().GetDialogStates();
+}
+
+/// A minimised window counts as a visible one, but there is nothing at its place.
+bool IsInSight(const CWnd& window) {
+    WINDOWPLACEMENT placement;
+    return window.IsWindowVisible() && window.GetWindowPlacement(&placement) &&
+           placement.showCmd != SW_SHOWMINIMIZED;
+}
+
+} // namespace
+
+int CWsBaseDialog::LoadWindowPosition() {
+    const CSize monitor = NearestMonitor(Screens().Monitors(), Screens().Cursor()).full.Size();
+    const CUiStates::DialogStatePtr state = States().GetDialogStateById(m_dialogId);
+    if (!state || !IsRestorable(*state, m_dialogType, monitor)) {
+        return 0;
+    }
+    SetWindowPos(nullptr, state->GetLeft(), state->GetTop(), state->GetWidth(), state->GetHeight(),
+                 SWP_NOZORDER | (state->GetResizable() ? 0 : SWP_NOSIZE));
+    return 1;
+}
+
+void CWsBaseDialog::SaveWindowPosition() {
+    const CUiStates::DialogStatePtr state = States().NeedDialogState(m_dialogId);
+    const CRect place = GetWindowRect();
+    state->SetLeft(place.left);
+    state->SetTop(place.top);
+    state->SetHeight(place.Height());
+    state->SetWidth(place.Width());
+    state->SetResizable(m_dialogType != enmDialogFixed && m_dialogType != enmDialogFixedCascaded &&
+                        m_dialogType != enmDialogFixedHosted);
+    state->SetDocked(0);
+    state->SetSide(0);
+}
+
+void CWsBaseDialog::OnWindowPosChanging(tagWINDOWPOS* pPlace) {
+    // What the program sets stands as it is.
+    if (pPlace->flags & SWP_USERMOVE) {
+        const Monitor primary = Screens().Primary();
+        SnapStep step({pPlace->x, pPlace->y}, GetWindowRect().Size(), {m_xOffset, m_yOffset});
+        step.ToScreen(primary.full.Size(),
+                      InsetsOfTaskBar(TaskBarOf(primary), primary.full.Width()));
+        SnapToDialogs(step);
+        pPlace->x = step.Place().x;
+        pPlace->y = step.Place().y;
+    }
+    CAdUiBaseDialog::OnWindowPosChanging(pPlace);
+}
+
+void CWsBaseDialog::SnapToDialogs(SnapStep& step) const {
+    for (const auto& [id, pDialog] : *DialogHome().Dialogs().GetDialogRegistryMap()) {
+        if (pDialog && IsCascaded(pDialog->m_dialogType) && IsInSight(*pDialog) &&
+            pDialog->m_dialogId != m_dialogId) {
+            step.ToDialog(pDialog->GetWindowRect());
+        }
+    }
+}
+
+void CWsBaseDialog::OnClose() {
+    SaveWindowPosition();
+    CAdUiBaseDialog::OnClose();
+}
+
+void CWsBaseDialog::OnDestroy() {
+    CWnd::OnDestroy();
+    SaveWindowPosition();
+}
+
+} // namespace Orvane::Workspace

@@ -1459,5 +1459,10 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Command</extracomment>
         <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
     </message>
+    <message id="930000">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Konfigurationen</translation>
+    </message>
 </context>
 </TS>

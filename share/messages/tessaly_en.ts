@@ -1459,5 +1459,10 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Command</extracomment>
         <translation>shows and changes language, colours, folders and the like</translation>
     </message>
+    <message id="930000">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Configurations</translation>
+    </message>
 </context>
 </TS>

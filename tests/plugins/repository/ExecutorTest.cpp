@@ -3,10 +3,10 @@
 
 #include "host/storage/GeoPackageStorage.h"
 #include "platform/arx/DbUndo.h"
-#include "plugins/network/repository/LabelFamily.h"
-#include "plugins/network/repository/RepositoryExecutor.h"
-#include "plugins/network/repository/RepositoryFamilies.h"
-#include "plugins/network/repository/SystemExecutor.h"
+#include "plugins/repository/LabelFamily.h"
+#include "plugins/repository/RepositoryExecutor.h"
+#include "plugins/repository/RepositoryFamilies.h"
+#include "plugins/repository/SystemExecutor.h"
 #include "siblings/giscore/NotificationFramework.h"
 #include "siblings/giscore/RepositoryFactory.h"
 #include "siblings/giscore/RepositoryManager.h"
@@ -17,7 +17,7 @@
 #include "workspacecore/tree/WsTreeItemData.h"
 
 using namespace Orvane;
-using namespace Orvane::Network;
+using namespace Orvane::Repository;
 using Workspace::CWsTreeItemData;
 
 namespace {

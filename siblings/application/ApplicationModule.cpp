@@ -1,5 +1,7 @@
 // The module that brings the workspace to life: loaded last, it makes the first call of
 // the manager, and from then on stands between the GIS core, the host and the workspace.
+#include <set>
+
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
 #include "platform/arx/EdPrompt.h"
@@ -7,6 +9,8 @@
 #include "platform/arx/RxArxApp.h"
 #include "siblings/giscore/GisEvents.h"
 #include "siblings/giscore/ModuleConfiguration.h"
+#include "siblings/giscore/NotificationFramework.h"
+#include "siblings/giscore/Subscriber.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Application {
@@ -97,6 +101,34 @@ public:
     }
 };
 
+/// Prints what is wrong with the user's files: at the start, and whatever is found later, as
+/// when a setting has come to name another folder.
+class ProblemPrinter final : public Notification::CSubscriber {
+public:
+    void Begin() {
+        Publisher().RegisterSubscriber(this);
+        PrintNew();
+    }
+    void End() { Publisher().UnregisterSubscriber(this); }
+    void Update(Notification::CPublisher*, void*, void*) override { PrintNew(); }
+
+private:
+    static Notification::CPublisher& Publisher() {
+        return *Notification::CNotificationFramework::Instance()->GetPublisher(L"PROBLEMS_CHANGED");
+    }
+    void PrintNew() {
+        const std::vector<CString> problems = CModuleConfiguration::Instance()->GetProblems();
+        for (const CString& problem : problems) {
+            if (!m_printed.contains(problem)) {
+                acutPrintf(L"%s\n", problem);
+            }
+        }
+        m_printed = {problems.begin(), problems.end()};
+    }
+    std::set<CString, CStringLess> m_printed; ///< of those there are
+};
+
+ProblemPrinter s_problems;
 EventForwarder s_events;
 CloseForwarder s_close;
 WorkspaceCommands s_commands;
@@ -108,9 +140,9 @@ public:
         System::CGisEvents::Instance()->Register(&s_events);
         acedAddHostReactor(&s_close);
         acedRegCmds()->addSource(&s_commands);
-        for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
-            acutPrintf(L"%s\n", problem);
-        }
+        // The manager's first call loads the modules, and with them what they keep.
+        CWsManager::Instance();
+        s_problems.Begin();
         if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
             acutPrintf(L"%sModuleRegistry.xml: no list of modules; there are no plug-ins.\n",
                        CModuleConfiguration::Instance()->GetPath(L"support"));
@@ -118,6 +150,7 @@ public:
         return result;
     }
     AcRx::AppRetCode On_kUnloadAppMsg(void* pPacket) override {
+        s_problems.End();
         acedRegCmds()->removeSource(&s_commands);
         acedRemoveHostReactor(&s_close);
         System::CGisEvents::Instance()->Unregister(&s_events);

@@ -2,6 +2,8 @@
 
 #include <boost/make_shared.hpp>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdPrompt.h"
@@ -39,26 +41,85 @@ std::optional<AcGePoint3d> PlaceOf(const AcDbObject& entity) {
     return MiddleOf({&position, 1});
 }
 
-std::size_t RemoveLabels(System::CGisSystem& system, std::string_view guid) {
-    std::size_t count = 0;
-    const AcDbNameId labelItem = AcDbIntern(kLabelItem);
-    const Topology::CTopologyStorage& storage = StorageOf(system);
-    for (const AcDbObjectId id : storage.GetSystemTexts(system.GetSystemId())) {
-        if (storage.GetTextById(id).GetAttribute(labelItem).asText() == guid) {
-            count += ChangeEntity<AcDbText>(*system.GetDatabase(), id,
-                                            [](AcDbText& text) { text.erase(); });
+/// What a label looks like: its text, its place and its height.
+using Look = std::tuple<std::string, double, double, double>;
+
+/// The labels that a configuration has in a system. What it wants is taken from them; what is
+/// left over goes, and only what is missing is added: labels that are right stay untouched.
+class PlacedLabels {
+public:
+    PlacedLabels(System::CGisSystem& system, const LabelDefinition& label)
+        : m_system(system), m_guid(WideToUtf8(label.GetGuid().View())), m_height(label.height) {
+        const AcDbNameId labelItem = AcDbIntern(kLabelItem);
+        const Topology::CTopologyStorage& storage = StorageOf(system);
+        for (const AcDbObjectId id : storage.GetSystemTexts(system.GetSystemId())) {
+            const Topology::CMapText text = storage.GetTextById(id);
+            if (text.GetAttribute(labelItem).asText() == m_guid) {
+                const auto& entity = static_cast<const AcDbText&>(*system.GetDatabase()->peek(id));
+                m_old.emplace(Look{text.GetNameUtf8(), text.GetPosition().x, text.GetPosition().y,
+                                   entity.height()},
+                              id);
+            }
         }
     }
-    return count;
-}
+    void Want(const std::string& text, const AcGePoint3d& place) {
+        ++m_nWanted;
+        const auto hit = m_old.find(Look{text, place.x, place.y, m_height});
+        if (hit == m_old.end()) {
+            m_missing.push_back({text, place});
+        } else {
+            m_old.erase(hit);
+        }
+    }
+    /// \return how many labels were removed
+    std::size_t Apply() {
+        for (const auto& [look, id] : m_old) {
+            ChangeEntity<AcDbText>(*m_system.GetDatabase(), id,
+                                   [](AcDbText& text) { text.erase(); });
+        }
+        for (const auto& [text, place] : m_missing) {
+            Add({text, place});
+        }
+        return m_old.size();
+    }
+    int Count() const { return m_nWanted; }
 
-void AddLabel(System::CGisSystem& system, const LabelDefinition& label, std::string_view guid,
-              const Topology::TextData& data) {
-    const AcDbObjectId id = StorageOf(system).AddText(system, data);
-    ChangeEntity<AcDbText>(*system.GetDatabase(), id, [&](AcDbText& text) {
-        text.setHeight(label.height);
-        text.setAttribute(AcDbIntern(kLabelItem), guid);
-    });
+private:
+    void Add(const Topology::TextData& data) {
+        const AcDbObjectId id = StorageOf(m_system).AddText(m_system, data);
+        ChangeEntity<AcDbText>(*m_system.GetDatabase(), id, [&](AcDbText& text) {
+            text.setHeight(m_height);
+            text.setAttribute(AcDbIntern(kLabelItem), std::string_view(m_guid));
+        });
+    }
+
+    System::CGisSystem& m_system;
+    std::string m_guid;
+    double m_height;
+    int m_nWanted = 0;
+    std::multimap<Look, AcDbObjectId> m_old;
+    std::vector<std::pair<std::string, AcGePoint3d>> m_missing;
+};
+
+struct LabelCounts {
+    int placed = 0;
+    std::size_t removed = 0;
+};
+
+LabelCounts PlaceLabels(const LabelDefinition& label, System::CGisSystem& system,
+                        const Query::CQueryDefinition* pOnly) {
+    const LabelPattern pattern(WideToUtf8(label.pattern.View()));
+    PlacedLabels labels(system, label);
+    for (const AcDbObjectId id : EntitiesOf(system, label.GetEntityType(), pOnly)) {
+        const std::string text = pattern.Text(ValuesOf({&StorageOf(system), id}));
+        const auto place = PlaceOf(*system.GetDatabase()->peek(id));
+        if (!text.empty() && place) {
+            labels.Want(text, *place);
+        }
+    }
+    const std::size_t removed = labels.Apply();
+    acedUpdateDisplay();
+    return {labels.Count(), removed};
 }
 
 } // namespace
@@ -84,7 +145,7 @@ boost::shared_ptr<CRepositoryItem> LabelFamily::CreateItem(const wchar_t* guid,
     return label;
 }
 
-bool LabelFamily::AskContent(CRepositoryItem& item, const System::CGisSystem* /*pSystem*/) {
+bool LabelFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* /*pSystem*/) {
     auto& label = static_cast<LabelDefinition&>(item);
     const auto pattern = AskText(Text(Msg::Pattern), label.pattern);
     if (!pattern) {
@@ -104,22 +165,14 @@ bool LabelFamily::AskContent(CRepositoryItem& item, const System::CGisSystem* /*
 std::optional<int> LabelFamily::Run(const CRepositoryItem& item, System::CGisSystem& system,
                                     const Query::CQueryDefinition* pOnly) {
     const auto& label = static_cast<const LabelDefinition&>(item);
-    const std::string guid = WideToUtf8(label.GetGuid().View());
-    const LabelPattern pattern(WideToUtf8(label.pattern.View()));
-    const std::size_t removed = RemoveLabels(system, guid);
-    int count = 0;
-    for (const AcDbObjectId id : EntitiesOf(system, label.GetEntityType(), pOnly)) {
-        const std::string text = pattern.Text(ValuesOf({&StorageOf(system), id}));
-        const auto place = PlaceOf(*system.GetDatabase()->peek(id));
-        if (!text.empty() && place) {
-            AddLabel(system, label, guid, {text, *place});
-            ++count;
-        }
-    }
-    acutPrintf(L"%s\n",
-               Text(Msg::Labelled, label.GetName(), count, system.GetSystemName(), removed));
-    acedUpdateDisplay();
-    return count;
+    const LabelCounts counts = PlaceLabels(label, system, pOnly);
+    acutPrintf(L"%s\n", Text(Msg::Labelled, label.GetName(), counts.placed, system.GetSystemName(),
+                             counts.removed));
+    return counts.placed;
+}
+
+bool LabelFamily::ShowDefault(const CRepositoryItem& item, System::CGisSystem& system) {
+    return PlaceLabels(static_cast<const LabelDefinition&>(item), system, nullptr).placed > 0;
 }
 
 } // namespace Orvane::Repository

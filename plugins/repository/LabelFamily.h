@@ -1,7 +1,7 @@
 // Labels: texts beside entities.
 #pragma once
 
-#include "plugins/repository/RepositoryFamily.h"
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 
 namespace Orvane::Repository {
 
@@ -20,16 +20,16 @@ protected:
 
 /// Running one puts a text at each node, at the middle of each section or at the centre of
 /// each polygon, on the system's layer of texts, in place of those that the same
-/// configuration put there before. They belong to the system and bear the configuration's
-/// GUID as the attribute "LABELITEM".
-class LabelFamily final : public RepositoryFamily {
+/// configuration put there before and does not want any more. They belong to the system and bear
+/// the configuration's GUID as the attribute "LABELITEM".
+class LabelFamily final : public IRepositoryFamily {
 public:
-    const wchar_t* Tag() const override { return L"LABEL"; }
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
                                                   const wchar_t* name) override;
-    bool AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
+    bool EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
     std::optional<int> Run(const CRepositoryItem& item, System::CGisSystem& system,
                            const Query::CQueryDefinition* pOnly) override;
+    bool ShowDefault(const CRepositoryItem& item, System::CGisSystem& system) override;
 };
 
 } // namespace Orvane::Repository

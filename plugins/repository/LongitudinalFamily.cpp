@@ -90,7 +90,7 @@ boost::shared_ptr<CRepositoryItem> LongitudinalFamily::CreateItem(const wchar_t*
     return boost::make_shared<LongitudinalDefinition>(guid, name);
 }
 
-bool LongitudinalFamily::AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
+bool LongitudinalFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
     auto& profile = static_cast<LongitudinalDefinition&>(item);
     const auto take = [](CString& target, std::optional<CString> answer) {
         if (answer) {

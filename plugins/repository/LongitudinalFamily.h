@@ -1,7 +1,7 @@
 // Longitudinal sections: heights along the way between two nodes.
 #pragma once
 
-#include "plugins/repository/RepositoryFamily.h"
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 
 namespace Orvane::Repository {
 
@@ -24,14 +24,14 @@ protected:
 };
 
 /// Running one prints the table of the shortest way.
-class LongitudinalFamily final : public RepositoryFamily {
+class LongitudinalFamily final : public IRepositoryFamily {
 public:
-    const wchar_t* Tag() const override { return L"LONGITUDINAL"; }
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
                                                   const wchar_t* name) override;
-    bool AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
+    bool EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
     std::optional<int> Run(const CRepositoryItem& item, System::CGisSystem& system,
                            const Query::CQueryDefinition* pOnly) override;
+    bool ServesTopology(enmTopologyType type) const override { return type == TopologyLine; }
 };
 
 } // namespace Orvane::Repository

@@ -93,7 +93,7 @@ boost::shared_ptr<CRepositoryItem> QueryFamily::CreateItem(const wchar_t* guid,
     return boost::make_shared<CQueryDefinition>(guid, name);
 }
 
-bool QueryFamily::AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
+bool QueryFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
     auto& query = static_cast<CQueryDefinition&>(item);
     return AskQueriedType(query, pSystem) && AskMatch(query) && AskConditions(query, pSystem);
 }

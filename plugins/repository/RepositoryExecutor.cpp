@@ -2,13 +2,13 @@
 
 #include "platform/arx/EdPrompt.h"
 #include "plugins/common/CommandScope.h"
-#include "plugins/repository/RepositoryFamilies.h"
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTarget.h"
 #include "plugins/repository/RepositoryTexts.h"
 #include "siblings/giscore/Guid.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Repository {
@@ -24,10 +24,11 @@ using Workspace::CWsTreeItemData;
 
 /// What a command works with.
 struct Call {
-    RepositoryFamily& family;
+    IRepositoryFamily& family;
     RepositoryTarget target;
     const CWsTreeItemData* pNode;
     const Query::CQueryDefinition* pQuery;
+    int count = -1; ///< of entities that a run was about
 };
 
 void Say(Msg message, const CString& name) {
@@ -56,13 +57,16 @@ CString NameFrom(const CString& typed) {
 // Each carries out one verb. Null if it was not done, which the user knows.
 
 ItemPtr AddItem(Call& call) {
+    if (!HasPlaceFor(call.family, call.target.entityType, call.target.store->GetSystem())) {
+        return {};
+    }
     const auto name = AskText(Text(Msg::Name), L"");
     if (!name) {
         return {};
     }
     const ItemPtr item = call.family.CreateItem(NewGuid(), NameFrom(*name));
     item->SetEntityType(call.target.entityType);
-    if (name->IsEmpty() || !call.family.AskContent(*item, call.target.pSystem)) {
+    if (name->IsEmpty() || !call.family.EditContent(*item, call.target.pSystem)) {
         return {};
     }
     return Done(*call.target.store, call.target.store->Add(*item), Msg::Added, item);
@@ -70,7 +74,7 @@ ItemPtr AddItem(Call& call) {
 
 ItemPtr EditItem(Call& call) {
     const ItemPtr item = ItemOf(call.target);
-    if (!item || !call.family.AskContent(*item, call.target.pSystem)) {
+    if (!item || !call.family.EditContent(*item, call.target.pSystem)) {
         return {};
     }
     return Done(*call.target.store, call.target.store->Replace(*item), Msg::Changed, item);
@@ -125,7 +129,7 @@ ItemPtr SetItemAsDefault(Call& call) {
 /// Asks where an item is to go; null, and the user is told, if there is no such place.
 CRepositoryFactory::StorePtr AskDestination(const Call& call) {
     CRepositoryFactory& factory =
-        *CRepositoryManager::Instance()->GetRepositoryfactory(call.family.Tag());
+        *CRepositoryManager::Instance()->GetRepositoryfactory(call.target.store->GetTag());
     const bool isFromSystem = call.target.store->GetSystem() != nullptr;
     if (isFromSystem && call.pNode && call.pNode->GetS2D()) {
         return factory.GetDiskStore();
@@ -161,7 +165,7 @@ ItemPtr SendItem(Call& call) {
 }
 
 ItemPtr DropItem(Call& call) {
-    const ItemPtr item = DroppedItem(call.family.Tag(), call.pQuery, call.pNode);
+    const ItemPtr item = DroppedItem(call.target.store->GetTag(), call.pQuery, call.pNode);
     if (!item) {
         Refuse(Text(Msg::NothingDropped));
         return {};
@@ -172,36 +176,92 @@ ItemPtr DropItem(Call& call) {
     return Done(*call.target.store, {}, Msg::Added, item);
 }
 
+/// How many entities it was about; nothing, and the user is told, if there is none that it can work
+/// on.
+std::optional<int> RunOn(IRepositoryFamily& family, const CRepositoryItem& item,
+                         System::CGisSystem* pSystem, const Query::CQueryDefinition* pOnly) {
+    if (!pSystem) {
+        Refuse(Text(Msg::NoSystem));
+        return std::nullopt;
+    }
+    return HasPlaceFor(family, item.GetEntityType(), pSystem) ? family.Run(item, *pSystem, pOnly)
+                                                              : std::nullopt;
+}
+
+ItemPtr RunNarrowed(Call& call, const Query::CQueryDefinition* pOnly) {
+    const ItemPtr item = ItemOf(call.target);
+    const auto count =
+        item ? RunOn(call.family, *item, call.target.pSystem, pOnly) : std::optional<int>();
+    call.count = count.value_or(call.count);
+    return count ? item : ItemPtr();
+}
+
+ItemPtr RunItem(Call& call) {
+    return RunNarrowed(call, nullptr);
+}
+
+ItemPtr RunItemOnQuery(Call& call) {
+    return RunNarrowed(call, call.pQuery);
+}
+
 constexpr struct {
     Verb verb;
     ItemPtr (*run)(Call&);
 } kVerbs[] = {
-    {Verb::Add, AddItem},       {Verb::Edit, EditItem},
-    {Verb::Delete, DeleteItem}, {Verb::Rename, RenameItem},
-    {Verb::Copy, CopyItem},     {Verb::SendTo, SendItem},
-    {Verb::ItemDrop, DropItem}, {Verb::SetAsDefault, SetItemAsDefault},
+    {Verb::Add, AddItem},
+    {Verb::Edit, EditItem},
+    {Verb::Delete, DeleteItem},
+    {Verb::Rename, RenameItem},
+    {Verb::Copy, CopyItem},
+    {Verb::SendTo, SendItem},
+    {Verb::ItemDrop, DropItem},
+    {Verb::SetAsDefault, SetItemAsDefault},
+    {Verb::Run, RunItem},
+    {Verb::DoubleClick, RunItem},
+    {Verb::QueryDrop, RunItemOnQuery},
 };
 
-/// Runs an item on a system; a status of 0 if there is none, which the user is told.
-ResultPtr RunItem(RepositoryFamily& family, const CRepositoryItem& item,
-                  System::CGisSystem* pSystem, const Query::CQueryDefinition* pOnly) {
+ItemPtr CarryOut(Verb verb, Call& call) {
+    for (const auto& row : kVerbs) {
+        if (row.verb == verb) {
+            return row.run(call);
+        }
+    }
+    return {};
+}
+
+bool IsRun(Verb verb) {
+    return verb == Verb::Run || verb == Verb::DoubleClick || verb == Verb::QueryDrop;
+}
+
+/// What a command id asks for.
+struct Order {
+    RepositoryCommandId command;
+    IRepositoryFamily* pFamily;
+};
+
+/// Nothing, and the user is told why, for an id that no family answers to.
+std::optional<Order> OrderOf(const CString& id) {
+    const auto command = ParseRepositoryCommandId(id.View());
+    if (!command) {
+        Refuse(Text(Msg::NoFamilyCommand, id));
+        return std::nullopt;
+    }
+    IRepositoryFamily* const pFamily =
+        CRepositoryManager::Instance()->GetRepositoryFamily(command->tag);
+    if (!pFamily) {
+        Refuse(Text(Msg::UnknownFamily, command->tag));
+        return std::nullopt;
+    }
+    return Order{*command, pFamily};
+}
+
+ResultPtr ResultOf(const CRepositoryItem& item, int count) {
     auto result = Workspace::NeutralReturnValue();
-    if (!pSystem) {
-        Refuse(Text(Msg::NoSystem));
-        return result;
-    }
-    const enmEntityType type = item.GetEntityType();
-    if (type != EntityNone &&
-        !CModuleConfiguration::Instance()->DoesETbelongTT(type, pSystem->GetTopologyType())) {
-        Refuse(Text(Msg::NoEntities, pSystem->GetSystemName()));
-        return result;
-    }
-    if (const auto count = family.Run(item, *pSystem, pOnly)) {
-        result->m_nStatus = 1;
-        result->m_nNumber = *count;
-        result->m_strText1 = item.GetGuid();
-        result->m_enmEntityType = type;
-    }
+    result->m_nStatus = 1;
+    result->m_nNumber = count;
+    result->m_strText1 = item.GetGuid();
+    result->m_enmEntityType = item.GetEntityType();
     return result;
 }
 
@@ -209,55 +269,37 @@ ResultPtr RunItem(RepositoryFamily& family, const CRepositoryItem& item,
 
 ResultPtr CBaseExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* pQuery,
                                  CWsTreeItemData* pItemData) {
-    auto result = Workspace::NeutralReturnValue();
     const CString id = OwnCommandId(lpszCommandId);
-    const auto command = ParseRepositoryCommandId(id.View());
-    RepositoryFamily* const pFamily = command ? FindFamily(command->tag) : nullptr;
-    if (!pFamily) {
-        return result;
-    }
     const CommandScope scope(id);
-    auto target = TargetOf(*command, pItemData);
-    for (const auto& [verb, run] : kVerbs) {
-        if (target && verb == command->verb) {
-            Call call{*pFamily, std::move(*target), pItemData, pQuery};
-            if (const ItemPtr item = run(call)) {
-                result->m_nStatus = 1;
-                result->m_strText1 = item->GetGuid();
-                result->m_enmEntityType = item->GetEntityType();
-            }
-            break;
+    const auto order = OrderOf(id);
+    auto target = order ? TargetOf(order->command, pItemData) : std::nullopt;
+    if (!target) {
+        return Workspace::NeutralReturnValue();
+    }
+    Call call{*order->pFamily, std::move(*target), pItemData, pQuery};
+    const ItemPtr item = CarryOut(order->command.verb, call);
+    return item ? ResultOf(*item, call.count) : Workspace::NeutralReturnValue();
+}
+
+ResultPtr CBaseExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
+                                          CRepositoryItem* pRepositoryItem,
+                                          Selection::CSelectionSet* /*pSelectionSet*/,
+                                          void* /*pData*/) {
+    const CString id = OwnCommandId(lpszCommandId);
+    const CommandScope scope(id);
+    const auto order = OrderOf(id);
+    const bool isOfFamily =
+        order && IsRun(order->command.verb) && pRepositoryItem &&
+        pRepositoryItem->GetRepositoryTag().CompareNoCase(order->command.tag) == 0;
+    if (!isOfFamily) {
+        if (order) {
+            Refuse(Text(Msg::NotHandedOver, id));
         }
-    }
-    return result;
-}
-
-ResultPtr CFamilyExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* pQuery,
-                                   CWsTreeItemData* pItemData) {
-    const CString id = OwnCommandId(lpszCommandId);
-    const auto command = ParseRepositoryCommandId(id.View());
-    if (!command || command->tag.CompareNoCase(m_family.Tag()) != 0) {
         return Workspace::NeutralReturnValue();
     }
-    const CommandScope scope(id);
-    auto target = TargetOf(*command, pItemData);
-    const ItemPtr item = target ? ItemOf(*target) : nullptr;
-    return item ? RunItem(m_family, *item, target->pSystem,
-                          command->verb == Verb::QueryDrop ? pQuery : nullptr)
-                : Workspace::NeutralReturnValue();
-}
-
-ResultPtr CFamilyExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
-                                            CRepositoryItem* pRepositoryItem,
-                                            Selection::CSelectionSet* /*pSelectionSet*/,
-                                            void* /*pData*/) {
-    if (!pRepositoryItem ||
-        pRepositoryItem->GetRepositoryTag().CompareNoCase(m_family.Tag()) != 0) {
-        return Workspace::NeutralReturnValue();
-    }
-    const CommandScope scope(OwnCommandId(lpszCommandId));
-    return RunItem(m_family, *pRepositoryItem,
-                   System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
+    const auto count = RunOn(*order->pFamily, *pRepositoryItem,
+                             System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
+    return count ? ResultOf(*pRepositoryItem, *count) : Workspace::NeutralReturnValue();
 }
 
 } // namespace Orvane::Repository

@@ -6,9 +6,9 @@
 #include "plugins/repository/LabelFamily.h"
 #include "plugins/repository/LongitudinalFamily.h"
 #include "plugins/repository/QueryFamily.h"
-#include "plugins/repository/RepositoryExecutor.h"
 #include "plugins/repository/RepositoryTexts.h"
 #include "plugins/repository/ThemeFamily.h"
+#include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/StoredRepositoryFactory.h"
 #include "siblings/giscore/Topology.h"
 #include "workspacecore/core/WsManager.h"
@@ -23,13 +23,13 @@ constexpr unsigned int kThemed = EntityNode | EntitySection | EntityPolygon;
 
 /// One family with all that is registered for it.
 struct Family {
-    Family(RepositoryFamily& itsItems, Msg name, const wchar_t* iconName, unsigned int types,
-           enmTopologyType onlyTopology = TopologyNone)
-        : items(itsItems), executor(itsItems), factory(itsItems.Tag(), types != kNoEntities),
-          msgName(name), icon(iconName), entityTypes(types), topology(onlyTopology) {}
+    Family(const wchar_t* itsTag, IRepositoryFamily& itsItems, Msg name, const wchar_t* iconName,
+           unsigned int types, enmTopologyType onlyTopology = TopologyNone)
+        : tag(itsTag), items(itsItems), factory(itsTag, types != kNoEntities), msgName(name),
+          icon(iconName), entityTypes(types), topology(onlyTopology) {}
 
-    RepositoryFamily& items;
-    CFamilyExecutor executor;
+    const wchar_t* tag;
+    IRepositoryFamily& items;
     CStoredRepositoryFactory factory;
     Msg msgName;
     const wchar_t* icon;
@@ -46,21 +46,13 @@ std::span<Family> Families() {
     static LabelFamily labels;
     static LongitudinalFamily profiles;
     static Family families[] = {
-        {queries, Msg::Queries, L"IDI_QUERY", kNoEntities},
-        {themes, Msg::Themes, L"IDI_THEME", kThemed},
-        {labels, Msg::Labels, L"IDI_LABEL", kThemed},
-        {profiles, Msg::LongitudinalSections, L"IDI_LONGITUDINAL", kNoEntities, TopologyLine},
+        {L"QUERY", queries, Msg::Queries, L"IDI_QUERY", kNoEntities},
+        {L"THEME", themes, Msg::Themes, L"IDI_THEME", kThemed},
+        {L"LABEL", labels, Msg::Labels, L"IDI_LABEL", kThemed},
+        {L"LONGITUDINAL", profiles, Msg::LongitudinalSections, L"IDI_LONGITUDINAL", kNoEntities,
+         TopologyLine},
     };
     return families;
-}
-
-Family* Find(const wchar_t* tag) {
-    for (Family& family : Families()) {
-        if (CString(family.items.Tag()).CompareNoCase(tag) == 0) {
-            return &family;
-        }
-    }
-    return nullptr;
 }
 
 /// Every function of a topology.
@@ -79,21 +71,11 @@ Workspace::CWsTopologyDataSet::Vector FunctionsOf(enmTopologyType type) {
 
 } // namespace
 
-RepositoryFamily* FindFamily(const wchar_t* tag) {
-    Family* const pFamily = Find(tag);
-    return pFamily ? &pFamily->items : nullptr;
-}
-
-Workspace::IWsCommandExecutor* FindFamilyExecutor(const wchar_t* tag) {
-    Family* const pFamily = Find(tag);
-    return pFamily ? &pFamily->executor : nullptr;
-}
-
 void RegisterRepositories() {
     for (Family& family : Families()) {
-        Workspace::CWsManager& workspace = *Workspace::CWsManager::Instance();
-        workspace.RegisterRepositoryFactory(family.items.Tag(), &family.factory);
-        workspace.RegisterRepositoryItemFactory(family.items.Tag(), &family.items);
+        CRepositoryManager& repositories = *CRepositoryManager::Instance();
+        repositories.RegisterRepositoryFactory(family.tag, &family.factory);
+        repositories.RegisterRepositoryFamily(family.tag, &family.items);
     }
 }
 
@@ -103,10 +85,11 @@ void RegisterFamilies() {
         const int perEntity = family.entityTypes != kNoEntities;
         auto topologies = FunctionsOf(family.topology);
         Factory::RegisterRepositoryItem(
-            family.items.Tag(), Text(family.msgName),
+            family.tag, Text(family.msgName),
             CModuleConfiguration::Instance()->GetIcon(family.icon), family.entityTypes,
-            &family.executor, family.topology == TopologyNone ? nullptr : &topologies,
-            Factory::TargetBoth, perEntity, perEntity,
+            Workspace::CWsManager::Instance()->CmdMgr()->GetBaseExecutor(),
+            family.topology == TopologyNone ? nullptr : &topologies, Factory::TargetBoth, perEntity,
+            perEntity,
             /*hasAdd*/ 1, /*hasEdit*/ 1, /*hasDelete*/ 1, /*hasRename*/ 1, /*hasRun*/ 1,
             /*hasDoubleClick*/ 1, /*hasQueryDrop*/ perEntity, /*hasRepositoryDrop*/ 1,
             /*hasCopy*/ 1, /*hasSendToSystem*/ 1, /*hasSendToRepository*/ 1,

@@ -1,4 +1,5 @@
 // ORVZRepository.arx: what the workspace meets of it.
+#include "plugins/repository/RepositoryDefaults.h"
 #include "plugins/repository/RepositoryExecutor.h"
 #include "plugins/repository/RepositoryFamilies.h"
 #include "plugins/repository/SystemExecutor.h"
@@ -17,6 +18,7 @@ public:
     void PluginHook6() override {
         CWsManager::Instance()->RegisterBaseExecutor(&m_baseExecutor);
         Orvane::Repository::RegisterRepositories();
+        CWsManager::Instance()->RegisterWsListener(&m_defaults);
     }
     void PluginHook1() override {}
     /// The trees.
@@ -46,6 +48,7 @@ private:
     }
 
     Orvane::Repository::CBaseExecutor m_baseExecutor;
+    Orvane::Repository::DefaultsAtOpening m_defaults;
     Orvane::Repository::CSystemExecutor m_systemExecutor;
 };
 

@@ -5,6 +5,7 @@
 #include "siblings/giscore/NotificationFramework.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Repository {
@@ -57,7 +58,7 @@ CRepositoryStore::ItemPtr FindByName(RepositoryTarget& target, const CString& na
     CRepositoryFactory& factory =
         *CRepositoryManager::Instance()->GetRepositoryfactory(target.store->GetTag());
     for (const StorePtr& store : {target.store, factory.GetDiskStore(), factory.GetNetStore()}) {
-        if (auto item = store ? store->GetItemByName(name) : nullptr) {
+        if (auto item = store ? store->GetItemByName(name, target.entityType) : nullptr) {
             target.store = store;
             return item;
         }
@@ -72,6 +73,7 @@ std::optional<RepositoryTarget> TargetOf(const RepositoryCommandId& command,
     CRepositoryFactory* const pFactory =
         CRepositoryManager::Instance()->GetRepositoryfactory(command.tag);
     if (!pFactory) {
+        Refuse(Text(Msg::FamilyWithoutPlace, command.tag));
         return std::nullopt;
     }
     RepositoryTarget target;
@@ -82,7 +84,7 @@ std::optional<RepositoryTarget> TargetOf(const RepositoryCommandId& command,
     }
     const auto* const pDefinition = pNode ? pNode->GetPtrItemDefinition().get() : nullptr;
     const enmEntityType ofNode = pDefinition ? pDefinition->GetEntityType() : EntityNone;
-    target.entityType = ofNode != EntityNone ? ofNode : command.entityType;
+    target.entityType = command.entityType != EntityNone ? command.entityType : ofNode;
     target.guid = pNode ? pNode->GetGuid() : CString();
     return target;
 }
@@ -92,6 +94,9 @@ CRepositoryStore::ItemPtr ItemOf(RepositoryTarget& target) {
     CRepositoryStore::ItemPtr item;
     if (!target.guid.IsEmpty()) {
         item = target.store->GetItem(target.guid);
+        if (item && target.entityType != EntityNone && item->GetEntityType() != target.entityType) {
+            name = std::exchange(item, nullptr)->GetName();
+        }
     } else {
         name = AskText(Text(Msg::Name), L"").value_or(L"");
         item = name.IsEmpty() ? item : FindByName(target, name);
@@ -118,7 +123,21 @@ CRepositoryStore::ItemPtr DroppedItem(const CString& tag, const CRepositoryItem*
     return source ? source->store->GetItem(source->guid) : CRepositoryStore::ItemPtr();
 }
 
+bool HasPlaceFor(const IRepositoryFamily& family, enmEntityType type,
+                 const System::CGisSystem* pSystem) {
+    const bool hasPlace =
+        !pSystem ||
+        (family.ServesTopology(pSystem->GetTopologyType()) &&
+         CModuleConfiguration::Instance()->DoesETbelongTT(type, pSystem->GetTopologyType()));
+    return hasPlace || Refuse(Text(Msg::NoEntities, pSystem->GetSystemName()));
+}
+
 bool PutItem(CRepositoryStore& store, const CRepositoryItem& item) {
+    const IRepositoryFamily* const pFamily =
+        CRepositoryManager::Instance()->GetRepositoryFamily(store.GetTag());
+    if (pFamily && !HasPlaceFor(*pFamily, item.GetEntityType(), store.GetSystem())) {
+        return false;
+    }
     const auto old = store.GetItem(item.GetGuid());
     if (old && old->GetXML() == item.GetXML()) {
         return Refuse(Text(Msg::SameItem, item.GetName()));

@@ -7,6 +7,10 @@
 #include "siblings/giscore/RepositoryFactory.h"
 #include "siblings/giscore/RepositoryStore.h"
 
+namespace Orvane {
+class IRepositoryFamily;
+}
+
 namespace Orvane::Workspace {
 class CWsTreeItemData;
 }
@@ -18,7 +22,7 @@ struct RepositoryTarget {
     CRepositoryFactory::StorePtr store;
     /// That the items stand under; else the active one, to run them on. May be null.
     System::CGisSystem* pSystem = nullptr;
-    /// Of the node, or of the command; EntityNone for neither.
+    /// Of the command, or of the node; EntityNone for neither.
     enmEntityType entityType = EntityNone;
     CString guid; ///< of the node's item; empty for folders
 };
@@ -29,9 +33,9 @@ struct RepositoryTarget {
 std::optional<RepositoryTarget> TargetOf(const RepositoryCommandId& command,
                                          const Workspace::CWsTreeItemData* pNode);
 
-/// The item of a target; without a node's item the user is asked for the name, which is then
-/// also looked for on disk and net, and the target changes to where it was found. Null if
-/// there is none, which the user is told.
+/// The item of a target, of its entity type if that is any. Without a node's item the user is
+/// asked for the name, which is then also looked for on disk and net, and the target changes
+/// to where it was found. Null if there is none, which the user is told.
 CRepositoryStore::ItemPtr ItemOf(RepositoryTarget& target);
 
 /// The item that is dropped on a node: the query, or what stands at the node that the
@@ -39,8 +43,13 @@ CRepositoryStore::ItemPtr ItemOf(RepositoryTarget& target);
 CRepositoryStore::ItemPtr DroppedItem(const CString& tag, const CRepositoryItem* pQuery,
                                       const Workspace::CWsTreeItemData* pNode);
 
-/// Puts an item into a place. If it is there already, the user is asked whether it may be
-/// replaced. False if it was not done, which the user is told.
+/// Whether a system has what items of a family and an entity type are about; folders have
+/// everything. If not, the user is told.
+bool HasPlaceFor(const IRepositoryFamily& family, enmEntityType type,
+                 const System::CGisSystem* pSystem);
+
+/// Puts an item into a place, if that has any use for it. If it is there already, the user is asked
+/// whether it may be replaced. False if it was not done, which the user is told.
 bool PutItem(CRepositoryStore& store, const CRepositoryItem& item);
 
 /// Tells the trees that items of a family have come, gone or changed: publisher

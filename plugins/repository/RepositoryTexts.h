@@ -76,6 +76,13 @@ enum class Msg : int {
     IsActive = 900450,
     IsShown = 900451,
     IsHidden = 900452,
+    // Families of other plug-ins, and default items.
+    NoFamilyCommand = 930001,    // with the id
+    UnknownFamily = 930002,      // with the tag
+    FamilyWithoutPlace = 930003, // with the tag
+    NotHandedOver = 930004,      // with the id
+    DefaultIsShown = 930005,     // with system and name
+    ShowsDefaults = 930006,      // name of a step of the history
 };
 
 template <class... Args>

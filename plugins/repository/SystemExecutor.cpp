@@ -6,6 +6,7 @@
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTarget.h"
 #include "plugins/repository/RepositoryTexts.h"
+#include "siblings/giscore/QueryDefinition.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/giscore/TopologyConfiguration.h"

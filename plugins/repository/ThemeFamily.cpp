@@ -100,6 +100,20 @@ void Paint(AcDbDatabase& drawing, AcDbObjectId id, int color) {
     }
 }
 
+/// Gives entities the colours of a theme.
+ThemeResult PaintTheme(const ThemeDefinition& theme, System::CGisSystem& system,
+                       const std::vector<AcDbObjectId>& ids) {
+    ThemeResult result = Classify(ValuesOfAll(system, theme.attribute, ids), theme.rule);
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        const int number = result.classOf[i];
+        Paint(*system.GetDatabase(), ids[i],
+              number == kNoClass ? kColorByLayer
+                                 : result.classes[static_cast<std::size_t>(number)].color);
+    }
+    acedUpdateDisplay();
+    return result;
+}
+
 void PrintLegend(const ThemeDefinition& theme, const System::CGisSystem& system,
                  const ThemeResult& result) {
     if (theme.rule.mode == ThemeMode::None) {
@@ -148,7 +162,7 @@ boost::shared_ptr<CRepositoryItem> ThemeFamily::CreateItem(const wchar_t* guid,
     return boost::make_shared<ThemeDefinition>(guid, name);
 }
 
-bool ThemeFamily::AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
+bool ThemeFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) {
     auto& theme = static_cast<ThemeDefinition&>(item);
     if (!AskClasses(theme.rule)) {
         return false;
@@ -174,16 +188,15 @@ std::optional<int> ThemeFamily::Run(const CRepositoryItem& item, System::CGisSys
                                     const Query::CQueryDefinition* pOnly) {
     const auto& theme = static_cast<const ThemeDefinition&>(item);
     const std::vector<AcDbObjectId> ids = EntitiesOf(system, theme.GetEntityType(), pOnly);
-    const ThemeResult result = Classify(ValuesOfAll(system, theme.attribute, ids), theme.rule);
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        const int number = result.classOf[i];
-        Paint(*system.GetDatabase(), ids[i],
-              number == kNoClass ? kColorByLayer
-                                 : result.classes[static_cast<std::size_t>(number)].color);
-    }
-    PrintLegend(theme, system, result);
-    acedUpdateDisplay();
+    PrintLegend(theme, system, PaintTheme(theme, system, ids));
     return static_cast<int>(ids.size());
+}
+
+bool ThemeFamily::ShowDefault(const CRepositoryItem& item, System::CGisSystem& system) {
+    const auto& theme = static_cast<const ThemeDefinition&>(item);
+    const std::vector<AcDbObjectId> ids = EntitiesOf(system, theme.GetEntityType());
+    PaintTheme(theme, system, ids);
+    return !ids.empty();
 }
 
 } // namespace Orvane::Repository

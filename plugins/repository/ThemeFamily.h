@@ -1,8 +1,8 @@
 // Themes: they colour entities by an attribute.
 #pragma once
 
-#include "plugins/repository/RepositoryFamily.h"
 #include "plugins/repository/ThemeClasses.h"
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 
 namespace Orvane::Repository {
 
@@ -22,14 +22,14 @@ protected:
 /// Running one sets the colours of the entities themselves, so that they are saved and
 /// undone with the drawing; entities without a value take the colour of their layer. It
 /// prints the legend with counts.
-class ThemeFamily final : public RepositoryFamily {
+class ThemeFamily final : public IRepositoryFamily {
 public:
-    const wchar_t* Tag() const override { return L"THEME"; }
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
                                                   const wchar_t* name) override;
-    bool AskContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
+    bool EditContent(CRepositoryItem& item, const System::CGisSystem* pSystem) override;
     std::optional<int> Run(const CRepositoryItem& item, System::CGisSystem& system,
                            const Query::CQueryDefinition* pOnly) override;
+    bool ShowDefault(const CRepositoryItem& item, System::CGisSystem& system) override;
 };
 
 } // namespace Orvane::Repository

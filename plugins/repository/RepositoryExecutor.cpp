@@ -166,7 +166,8 @@ ItemPtr SendItem(Call& call) {
 
 ItemPtr DropItem(Call& call) {
     const ItemPtr item = DroppedItem(call.target.store->GetTag(), call.pQuery, call.pNode);
-    if (!item) {
+    const enmEntityType type = call.target.entityType;
+    if (!item || (type != EntityNone && item->GetEntityType() != type)) {
         Refuse(Text(Msg::NothingDropped));
         return {};
     }

@@ -1,6 +1,7 @@
 // The module that brings the workspace to life: loaded last, it makes the first call of
 // the manager, and from then on stands between the GIS core, the host and the workspace.
 #include <set>
+#include <utility>
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
@@ -107,23 +108,25 @@ class ProblemPrinter final : public Notification::CSubscriber {
 public:
     void Begin() {
         Publisher().RegisterSubscriber(this);
-        PrintNew();
+        // The line of the module that was loaded last has no end yet.
+        PrintNew(L"\n");
     }
     void End() { Publisher().UnregisterSubscriber(this); }
-    void Update(Notification::CPublisher*, void*, void*) override { PrintNew(); }
+    void Update(Notification::CPublisher*, void*, void*) override { PrintNew(L""); }
 
 private:
     static Notification::CPublisher& Publisher() {
         return *Notification::CNotificationFramework::Instance()->GetPublisher(L"PROBLEMS_CHANGED");
     }
-    void PrintNew() {
-        const std::vector<CString> problems = CModuleConfiguration::Instance()->GetProblems();
-        for (const CString& problem : problems) {
-            if (!m_printed.contains(problem)) {
-                acutPrintf(L"%s\n", problem);
+    void PrintNew(const wchar_t* before) {
+        std::set<CString, CStringLess> now;
+        for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
+            // Every family has the same one with a folder that is missing.
+            if (now.insert(problem).second && !m_printed.contains(problem)) {
+                acutPrintf(L"%s%s\n", std::exchange(before, L""), problem);
             }
         }
-        m_printed = {problems.begin(), problems.end()};
+        m_printed = std::move(now);
     }
     std::set<CString, CStringLess> m_printed; ///< of those there are
 };

@@ -385,6 +385,7 @@ TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
         Node(L"NOTE", Workspace::WsItemRepositoryConfiguration, nullptr, item->GetGuid());
     CWsTreeItemData target = Node(L"NOTE", Workspace::WsItemSystemEntityFolder, &other);
     target.SetCustomData(&dragged);
+    EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_1", nullptr, &target)->m_nStatus, 0);
     EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_2", nullptr, &target)->m_nStatus, 1);
     EXPECT_EQ(Family(L"NOTE").GetSystemStore(&other)->GetHeads(EntitySection).size(), 1U);
     Query::CQueryDefinition query(L"q", L"iron");

@@ -1,5 +1,8 @@
 // The module that brings the workspace to life: loaded last, it makes the first call of
 // the manager, and from then on stands between the GIS core, the host and the workspace.
+#include <set>
+#include <utility>
+
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/EdCommandStack.h"
 #include "platform/arx/EdPrompt.h"
@@ -7,6 +10,8 @@
 #include "platform/arx/RxArxApp.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Application {
@@ -97,6 +102,36 @@ public:
     }
 };
 
+/// Prints what is wrong with the user's files: at the start, and whatever is found later, as
+/// when a setting has come to name another folder.
+class ProblemPrinter final : public Notification::CSubscriber {
+public:
+    void Begin() {
+        Publisher().RegisterSubscriber(this);
+        // The line of the module that was loaded last has no end yet.
+        PrintNew(L"\n");
+    }
+    void End() { Publisher().UnregisterSubscriber(this); }
+    void Update(Notification::CPublisher*, void*, void*) override { PrintNew(L""); }
+
+private:
+    static Notification::CPublisher& Publisher() {
+        return *Notification::CNotificationFramework::Instance()->GetPublisher(L"PROBLEMS_CHANGED");
+    }
+    void PrintNew(const wchar_t* before) {
+        std::set<CString, CStringLess> now;
+        for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
+            // Every family has the same one with a folder that is missing.
+            if (now.insert(problem).second && !m_printed.contains(problem)) {
+                acutPrintf(L"%s%s\n", std::exchange(before, L""), problem);
+            }
+        }
+        m_printed = std::move(now);
+    }
+    std::set<CString, CStringLess> m_printed; ///< of those there are
+};
+
+ProblemPrinter s_problems;
 EventForwarder s_events;
 CloseForwarder s_close;
 WorkspaceCommands s_commands;
@@ -108,9 +143,9 @@ public:
         System::CGisEvents::Instance()->Register(&s_events);
         acedAddHostReactor(&s_close);
         acedRegCmds()->addSource(&s_commands);
-        for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
-            acutPrintf(L"%s\n", problem);
-        }
+        // The manager's first call loads the modules, and with them what they keep.
+        CWsManager::Instance();
+        s_problems.Begin();
         if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
             acutPrintf(L"%sModuleRegistry.xml: no list of modules; there are no plug-ins.\n",
                        CModuleConfiguration::Instance()->GetPath(L"support"));
@@ -118,6 +153,7 @@ public:
         return result;
     }
     AcRx::AppRetCode On_kUnloadAppMsg(void* pPacket) override {
+        s_problems.End();
         acedRegCmds()->removeSource(&s_commands);
         acedRemoveHostReactor(&s_close);
         System::CGisEvents::Instance()->Unregister(&s_events);

@@ -1,9 +1,8 @@
 // The systems that an import makes, all or none, and how their entities are described.
 #pragma once
 
-#include <string_view>
-
 #include "platform/win/String.h"
+#include "plugins/common/NetworkGeometry.h"
 #include "plugins/network/ImportProgress.h"
 
 namespace Orvane::System {
@@ -11,11 +10,6 @@ class CGisSystem;
 }
 
 namespace Orvane::Network {
-
-// Attributes under which the figures of a network are kept.
-inline constexpr std::string_view kElevation = "ELEVATION";
-inline constexpr std::string_view kDiameter = "DIAMETER";
-inline constexpr std::string_view kStatedLength = "LENGTH";
 
 /// The reason of an import that the user ended.
 inline constexpr const wchar_t* kStopped = L"The import was stopped.";

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "plugins/common/NetworkGeometry.h"
 #include "plugins/network/InpReaderContext.h"
-#include "plugins/network/NetworkGeometry.h"
 
 namespace Orvane::Network {
 

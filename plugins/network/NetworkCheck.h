@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "plugins/network/NetworkGeometry.h"
+#include "plugins/common/NetworkGeometry.h"
 
 namespace Orvane::Network {
 

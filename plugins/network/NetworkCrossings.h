@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "plugins/network/NetworkGeometry.h"
+#include "plugins/common/NetworkGeometry.h"
 
 namespace Orvane::Network {
 

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "plugins/network/ImportedSystems.h"
-#include "plugins/network/NetworkGeometry.h"
 #include "plugins/network/NetworkModel.h"
 #include "siblings/networkcore/TopologyStorage.h"
 
@@ -19,37 +18,5 @@ inline constexpr int kFunctionSewer = 2;
 /// \return an empty text, or the reason why nothing was added
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
                      ImportedSystems& imported, ImportProgress& progress);
-
-/// One line system of the drawing as arrays, for statistics and checks. A snapshot: it does
-/// not follow later changes of the drawing. The names are read from the drawing, so it has
-/// to live as long as they are asked for.
-class SystemNetwork final : public INetworkNames {
-public:
-    SystemNetwork(const Topology::CTopologyStorage& storage, const System::CGisSystem& system);
-
-    NetworkGeometry Geometry() const;
-    AcDbObjectId NodeId(std::size_t node) const { return m_nodeIds[node]; }
-
-    std::string NodeName(std::size_t node) const override;
-    std::string SectionName(std::size_t section) const override;
-    std::string MissingStart(std::size_t section) const override;
-    std::string MissingEnd(std::size_t section) const override;
-
-private:
-    void ReadNodes();
-    void ReadSections();
-
-    const Topology::CTopologyStorage& m_storage;
-    std::vector<AcDbObjectId> m_nodeIds;
-    std::vector<AcDbObjectId> m_sectionIds;
-    std::vector<Point> m_positions;
-    std::vector<NodeKind> m_nodeKinds;
-    std::vector<double> m_elevations;
-    std::vector<std::int32_t> m_startNodes;
-    std::vector<std::int32_t> m_endNodes;
-    PointLists m_vertices;
-    std::vector<SectionKind> m_sectionKinds;
-    std::vector<double> m_statedLengths;
-};
 
 } // namespace Orvane::Network

@@ -1,41 +1,8 @@
 #include "plugins/network/NetworkModel.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Orvane::Network {
-
-namespace {
-
-constexpr std::array<std::string_view, kNodeKindCount> kNodeKindNames = {
-    "Junction", "Reservoir", "Tank", "Outfall", "Storage", "Divider", "Other"};
-constexpr std::array<std::string_view, kSectionKindCount> kSectionKindNames = {
-    "Pipe", "Pump", "Valve", "Conduit", "Weir", "Orifice", "Outlet", "Other"};
-
-/// The place of a word, or the last place, which is that of `Other`.
-template <std::size_t N>
-std::size_t PlaceOf(const std::array<std::string_view, N>& words, std::string_view word) {
-    const auto found = std::find(words.begin(), words.end() - 1, word);
-    return static_cast<std::size_t>(found - words.begin());
-}
-
-} // namespace
-
-std::string_view KindName(NodeKind kind) {
-    return kNodeKindNames[static_cast<std::size_t>(kind)];
-}
-
-std::string_view KindName(SectionKind kind) {
-    return kSectionKindNames[static_cast<std::size_t>(kind)];
-}
-
-NodeKind NodeKindOf(std::string_view name) {
-    return static_cast<NodeKind>(PlaceOf(kNodeKindNames, name));
-}
-
-SectionKind SectionKindOf(std::string_view name) {
-    return static_cast<SectionKind>(PlaceOf(kSectionKindNames, name));
-}
 
 void AttributeTable::Add(std::uint32_t owner, std::string_view name, std::string_view text,
                          std::optional<double> number) {
@@ -98,6 +65,36 @@ std::string_view SectionTable::Missing(std::uint64_t key) const {
         return {};
     }
     return missingNames[static_cast<std::size_t>(found - missingKeys.begin())];
+}
+
+NetworkGeometry GeometryOf(const NetworkModel& model) {
+    NetworkGeometry geometry;
+    geometry.nodes = model.nodes.positions;
+    geometry.startNodes = model.sections.startNodes;
+    geometry.endNodes = model.sections.endNodes;
+    geometry.vertexOffsets = model.sections.innerVertices.offsets;
+    geometry.vertices = model.sections.innerVertices.points;
+    geometry.nodeKinds = model.nodes.kinds;
+    geometry.elevations = model.nodes.elevations;
+    geometry.sectionKinds = model.sections.kinds;
+    geometry.statedLengths = model.sections.statedLengths;
+    return geometry;
+}
+
+std::string ModelNames::NodeName(std::size_t node) const {
+    return std::string(m_model.nodes.names[node]);
+}
+
+std::string ModelNames::SectionName(std::size_t section) const {
+    return std::string(m_model.sections.names[section]);
+}
+
+std::string ModelNames::MissingStart(std::size_t section) const {
+    return std::string(m_model.sections.MissingStart(section));
+}
+
+std::string ModelNames::MissingEnd(std::size_t section) const {
+    return std::string(m_model.sections.MissingEnd(section));
 }
 
 } // namespace Orvane::Network

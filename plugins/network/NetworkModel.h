@@ -13,49 +13,10 @@
 #include <string_view>
 #include <vector>
 
+#include "plugins/common/NetworkGeometry.h"
 #include "plugins/network/NetworkTexts.h"
 
 namespace Orvane::Network {
-
-enum class NodeKind : std::uint8_t {
-    Junction,
-    Reservoir,
-    Tank,
-    Outfall,
-    Storage,
-    Divider,
-    Other ///< no kind is known; the last one
-};
-inline constexpr std::size_t kNodeKindCount = 7;
-
-enum class SectionKind : std::uint8_t {
-    Pipe,
-    Pump,
-    Valve,
-    Conduit,
-    Weir,
-    Orifice,
-    Outlet,
-    Other ///< no kind is known; the last one
-};
-inline constexpr std::size_t kSectionKindCount = 8;
-
-/// The word that stands in drawings and lists, as "Junction".
-std::string_view KindName(NodeKind kind);
-std::string_view KindName(SectionKind kind);
-/// The kind of a word of KindName; `Other` for every other word.
-NodeKind NodeKindOf(std::string_view name);
-SectionKind SectionKindOf(std::string_view name);
-
-inline constexpr double kNotStated = std::numeric_limits<double>::quiet_NaN();
-/// Stands for a node that a section names and that does not exist.
-inline constexpr std::int32_t kMissingNode = -1;
-
-struct Point {
-    double x = 0;
-    double y = 0;
-    friend bool operator==(const Point&, const Point&) = default;
-};
 
 /// A named value of an entity: a number or a text.
 struct Attribute {
@@ -96,17 +57,6 @@ private:
     InternedTexts m_names;
     InternedTexts m_texts;
     std::vector<Entry> m_entries;
-};
-
-/// Points of many lines in one array: line i has the points offsets[i] to offsets[i + 1].
-struct PointLists {
-    std::vector<std::uint32_t> offsets{0};
-    std::vector<Point> points;
-
-    std::size_t size() const { return offsets.size() - 1; }
-    std::span<const Point> operator[](std::size_t index) const {
-        return std::span(points).subspan(offsets[index], offsets[index + 1] - offsets[index]);
-    }
 };
 
 struct NodeTable {
@@ -166,6 +116,22 @@ struct NetworkModel {
     SectionTable sections;
     PolygonTable polygons;
     LabelTable labels;
+};
+
+/// The view of a read network. It is valid as long as the model stays unchanged.
+NetworkGeometry GeometryOf(const NetworkModel& model);
+
+/// The names of a read network, which must outlive this.
+class ModelNames : public INetworkNames {
+public:
+    explicit ModelNames(const NetworkModel& model) : m_model(model) {}
+    std::string NodeName(std::size_t node) const override;
+    std::string SectionName(std::size_t section) const override;
+    std::string MissingStart(std::size_t section) const override;
+    std::string MissingEnd(std::size_t section) const override;
+
+private:
+    const NetworkModel& m_model;
 };
 
 } // namespace Orvane::Network

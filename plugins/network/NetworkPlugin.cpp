@@ -1,11 +1,7 @@
 // ORVZNetwork.arx: what the workspace meets of it.
 #include "plugins/network/NetworkExecutor.h"
-#include "plugins/network/repository/RepositoryExecutor.h"
-#include "plugins/network/repository/RepositoryFamilies.h"
-#include "plugins/network/repository/SystemExecutor.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"
-#include "workspacecore/tree/WsRegistrationFactory.h"
 
 namespace {
 
@@ -13,12 +9,7 @@ using namespace Orvane::Workspace;
 
 class NetworkPlugin final : public IPluginInfo {
 public:
-    /// What others stand on comes first: the executor of standard commands, and the
-    /// repositories, of which registrations ask whether they have default items.
-    void PluginHook6() override {
-        CWsManager::Instance()->RegisterBaseExecutor(&m_baseExecutor);
-        Orvane::Network::RegisterRepositories();
-    }
+    void PluginHook6() override {}
     void PluginHook1() override {
         const Orvane::CModuleConfiguration& messages = *Orvane::CModuleConfiguration::Instance();
         for (const Orvane::Network::NetworkCommand& entry : Orvane::Network::NetworkCommands()) {
@@ -30,35 +21,14 @@ public:
             CWsManager::Instance()->RegisterWsCommand(command);
         }
     }
-    /// The trees.
-    void PluginHook2() override {
-        CWsRegistrationFactory::RegisterBasicItems();
-        RegisterSystems();
-        Orvane::Network::RegisterFamilies();
-    }
+    void PluginHook2() override {}
     void PluginHook3() override {}
     void PluginHook4() override {}
     void PluginHook5() override {}
     void PluginHook7() override {}
 
 private:
-    /// The standard registration names a command for renaming, which is left to whoever knows
-    /// how to: here it is, and systems are renamed in the tree.
-    void RegisterSystems() {
-        CWsRegistrationFactory::RegisterSystemItem(&m_systemExecutor, nullptr, 1, 1)
-            ->SetAllowRename(1);
-        boost::shared_ptr<CWsCommand> command(new CWsCommand);
-        command->SetId(L"SYSTEM_REN");
-        command->SetName(Orvane::CModuleConfiguration::Instance()->GetMsg(1379));
-        command->SetCmdGroup(CommandGroupHidden);
-        command->SetTreeCmdBehavior(TreeBehaviorEdit);
-        command->SetCmdExecutor(&m_systemExecutor);
-        CWsManager::Instance()->RegisterWsCommand(command);
-    }
-
     Orvane::Network::CNetworkExecutor m_executor;
-    Orvane::Network::CBaseExecutor m_baseExecutor;
-    Orvane::Network::CSystemExecutor m_systemExecutor;
 };
 
 } // namespace

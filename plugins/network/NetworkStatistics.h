@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "plugins/network/NetworkGeometry.h"
+#include "plugins/common/NetworkGeometry.h"
 
 namespace Orvane::Network {
 

@@ -52,10 +52,10 @@ void AddConfigurations(TreeNode& folder, const CWsTreeTemplate& slot, const Plac
     }
     const enmEntityType type = slot.GetConfigurationEntityType();
     const CString standard = store->GetDefault(type);
-    for (const auto& item : store->GetItems(type)) {
+    for (const RepositoryItemHead& item : store->GetHeads(type)) {
         TreeNode node = MakeNode(definition, place);
-        node.name = item->GetName();
-        node.guid = item->GetGuid();
+        node.name = item.name;
+        node.guid = item.guid;
         node.text = !standard.IsEmpty() && node.guid == standard ? Text(Msg::DefaultMark, node.name)
                                                                  : node.name;
         folder.children.push_back(std::move(node));

@@ -66,9 +66,12 @@ DropPlan PlanDrop(const CWsTreeItemData& dragged, const CWsTreeItemData& target)
     // A system takes items of every family, a folder and its items those of their own.
     const CString family = place->GetRepositoryTag();
     const bool fits = family.IsEmpty() || family.CompareNoCase(item->GetRepositoryTag()) == 0;
-    return fits && place->GetAcceptRepositoryItemDrop()
-               ? DropPlan{place->GetCmdIdRepositoryItemDrop()}
-               : DropPlan{};
+    if (!fits || !place->GetAcceptRepositoryItemDrop()) {
+        return {};
+    }
+    // A family's own folder stands for all its kinds of entities, and no command has its id.
+    const bool isOfAllKinds = !family.IsEmpty() && place->GetEntityType() == EntityNone;
+    return {(isOfAllKinds ? item : place)->GetCmdIdRepositoryItemDrop()};
 }
 
 } // namespace Orvane::Panels

@@ -807,7 +807,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900426">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s ist jetzt der Standard.</translation>
+        <translation>%s ist jetzt der Standard und wird bei jedem Öffnen der Zeichnung gezeigt.</translation>
     </message>
     <message id="900427">
         <source></source>
@@ -1458,6 +1458,41 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Command</extracomment>
         <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
+    </message>
+    <message id="930000">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Konfigurationen</translation>
+    </message>
+    <message id="930001">
+        <source></source>
+        <extracomment>Reason; with the id of a command</extracomment>
+        <translation>&quot;%s&quot; ist kein Befehl für Konfigurationen.</translation>
+    </message>
+    <message id="930002">
+        <source></source>
+        <extracomment>Reason; with the tag of a family</extracomment>
+        <translation>Kein geladenes Modul stellt Konfigurationen der Familie &quot;%s&quot; bereit.</translation>
+    </message>
+    <message id="930003">
+        <source></source>
+        <extracomment>Reason; with the tag of a family</extracomment>
+        <translation>Das Modul der Familie &quot;%s&quot; stellt keinen Ort für ihre Konfigurationen bereit.</translation>
+    </message>
+    <message id="930004">
+        <source></source>
+        <extracomment>Reason; with the id of a command</extracomment>
+        <translation>&quot;%s&quot; braucht zum Ausführen eine Konfiguration der eigenen Familie.</translation>
+    </message>
+    <message id="930005">
+        <source></source>
+        <extracomment>Message; with the system and the configuration</extracomment>
+        <translation>%s: Der Standard &quot;%s&quot; wird gezeigt.</translation>
+    </message>
+    <message id="930006">
+        <source></source>
+        <extracomment>Name of a step that can be undone</extracomment>
+        <translation>Standards zeigen</translation>
     </message>
 </context>
 </TS>

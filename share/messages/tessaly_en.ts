@@ -807,7 +807,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="900426">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s is the default now.</translation>
+        <translation>%s is the default now; it is shown whenever the drawing is opened.</translation>
     </message>
     <message id="900427">
         <source></source>
@@ -1458,6 +1458,41 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Command</extracomment>
         <translation>shows and changes language, colours, folders and the like</translation>
+    </message>
+    <message id="930000">
+        <source></source>
+        <extracomment>Name of a module</extracomment>
+        <translation>Configurations</translation>
+    </message>
+    <message id="930001">
+        <source></source>
+        <extracomment>Reason; with the id of a command</extracomment>
+        <translation>&quot;%s&quot; is not a command on configurations.</translation>
+    </message>
+    <message id="930002">
+        <source></source>
+        <extracomment>Reason; with the tag of a family</extracomment>
+        <translation>No loaded module provides configurations of the family &quot;%s&quot;.</translation>
+    </message>
+    <message id="930003">
+        <source></source>
+        <extracomment>Reason; with the tag of a family</extracomment>
+        <translation>The module of the family &quot;%s&quot; provides no place to keep its configurations.</translation>
+    </message>
+    <message id="930004">
+        <source></source>
+        <extracomment>Reason; with the id of a command</extracomment>
+        <translation>&quot;%s&quot; needs a configuration of its own family to run.</translation>
+    </message>
+    <message id="930005">
+        <source></source>
+        <extracomment>Message; with the system and the configuration</extracomment>
+        <translation>%s: the default &quot;%s&quot; is shown.</translation>
+    </message>
+    <message id="930006">
+        <source></source>
+        <extracomment>Name of a step that can be undone</extracomment>
+        <translation>Show defaults</translation>
     </message>
 </context>
 </TS>

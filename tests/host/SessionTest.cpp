@@ -99,6 +99,17 @@ TEST_F(ProgramTest, WritesATraceOnlyWhenAsked) {
     }
 }
 
+TEST_F(ProgramTest, ProblemsOfConfigurationsArePrintedOnce) {
+    Run("", "QUIT\n");
+    m_folder.Write("support/repository/QUERY/CUT.xml", "<item");
+    m_folder.Write("support/Settings.ini", "[General]\nNET_REPOSITORY=/no/such/net\n");
+    EXPECT_EQ(Run("", "TREE\nTREE\nQUIT\n"), 0);
+    for (const char* problem : {"QUERY/CUT.xml: ", "\n/no/such/net: there is no such folder\n"}) {
+        EXPECT_TRUE(Printed(problem)) << m_output;
+        EXPECT_EQ(m_output.find(problem), m_output.rfind(problem)) << m_output;
+    }
+}
+
 TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
     Run("", "QUIT\n");
     m_folder.Write("support/ModuleRegistry.xml",

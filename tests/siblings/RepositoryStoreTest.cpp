@@ -1,6 +1,7 @@
 // Where configurations are kept: folders, with all that can be wrong with files, and systems
 // of a drawing.
 #include <boost/make_shared.hpp>
+#include <functional>
 
 #include "platform/arx/DbUndoScopes.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
@@ -197,6 +198,73 @@ TEST_F(RepositoryStore, ChangesOfAFolder) {
     m_folder.Write("QUERY", "a file in the place of the folder");
     EXPECT_FALSE(add(L"Q4", L"four"));
     EXPECT_EQ(Names(store.GetItems()), "TWO") << "what was not written is not there";
+}
+
+TEST_F(RepositoryStore, ReloadingReadsWhatHasChangedAlone) {
+    class CountedItems final : public CRepositoryItemFactory {
+    public:
+        boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
+                                                      const wchar_t* name) override {
+            ++count;
+            return boost::make_shared<CQueryDefinition>(guid, name);
+        }
+        int count = 0;
+    } items;
+    CRepositoryManager::Instance()->RegisterRepositoryItemFactory(L"QUERY", &items);
+    for (const char* guid : {"A1", "A2", "A3", "A4"}) {
+        m_folder.Write(std::string("QUERY/") + guid + ".xml", QueryText(guid, guid));
+    }
+    CRepositoryFolder store = Folder();
+    struct {
+        const char* what;
+        std::function<void()> change;
+        int read;
+        const char* names;
+    } const cases[] = {
+        {"first", [] {}, 4, "A1, A2, A3, A4"},
+        {"look",
+         [&] {
+             store.GetHeads();
+             store.GetItemByName(L"none");
+         },
+         0, "A1, A2, A3, A4"},
+        {"reload", [&] { store.Reload(); }, 0, "A1, A2, A3, A4"},
+        {"change",
+         [&] {
+             m_folder.Write("QUERY/A2.xml", QueryText("A2", "changed"));
+             store.Reload();
+         },
+         1, "A1, A3, A4, changed"},
+        {"replace",
+         [&] {
+             m_folder.Write("QUERY/new", QueryText("A3", "B3"));
+             std::filesystem::last_write_time(
+                 m_folder / "QUERY/new",
+                 std::filesystem::last_write_time(m_folder / "QUERY/A3.xml"));
+             std::filesystem::rename(m_folder / "QUERY/new", m_folder / "QUERY/A3.xml");
+             store.Reload();
+         },
+         1, "A1, A4, B3, changed"},
+        {"remove",
+         [&] {
+             std::filesystem::remove(m_folder / "QUERY/A1.xml");
+             store.Reload();
+         },
+         0, "A4, B3, changed"},
+        {"rename", [&] { EXPECT_TRUE(store.Rename(L"A4", L"four").IsEmpty()); }, 2,
+         "B3, changed, four"},
+        {"reload", [&] { store.Reload(); }, 0, "B3, changed, four"},
+    };
+    for (const auto& test : cases) {
+        test.change();
+        EXPECT_EQ(items.count, test.read) << test.what;
+        std::string names;
+        for (const RepositoryItemHead& head : store.GetHeads()) {
+            names += (names.empty() ? "" : ", ") + WideToUtf8(head.name.View());
+        }
+        EXPECT_EQ(names, test.names) << test.what;
+        items.count = 0;
+    }
 }
 
 TEST_F(RepositoryStore, ItemsOfASystemAreUndoneAndGoWithIt) {

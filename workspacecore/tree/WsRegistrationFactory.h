@@ -29,7 +29,8 @@ public:
 
     /// A family of repository configurations: its folders, its items and its commands.
     /// Running, double clicks and dropped queries go to `executor`; everything else is the
-    /// base executor's, which has to be registered before.
+    /// base executor's, which has to be registered before. It also runs the items of a family
+    /// that was registered with CRepositoryManager; hand it in then.
     /// \param repositoryTag names the family, and with it folder and configurations
     /// \param entityTypes bit set of the kinds of entities that it serves
     /// \param topologies null for every topology and function of the configuration

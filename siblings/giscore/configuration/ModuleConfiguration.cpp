@@ -11,6 +11,7 @@
 #include "siblings/giscore/configuration/GeneralSettingsDialog.h"
 #include "siblings/giscore/icons/IconStore.h"
 #include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "siblings/giscore/utility/SupportFile.h"
 #include "siblings/giscore/utility/WholeNumber.h"
@@ -177,7 +178,13 @@ std::vector<CString> CModuleConfiguration::GetProblems() const {
 }
 
 void CModuleConfiguration::SetProblems(const wchar_t* file, std::vector<CString> problems) {
-    m_problems[CString(file)] = std::move(problems);
+    std::vector<CString>& known = m_problems[CString(file)];
+    if (known != problems) {
+        known = std::move(problems);
+        Notification::CNotificationFramework::Instance()
+            ->GetPublisher(L"PROBLEMS_CHANGED")
+            ->Notify(nullptr, nullptr);
+    }
 }
 
 } // namespace Orvane

@@ -69,7 +69,8 @@ public:
     /// "file:line: reason", file by file.
     std::vector<CString> GetProblems() const;
     /// Takes the problems of one file in place of those it had before; modules that read
-    /// support files of their own report here.
+    /// support files of their own report here. If they are others than before, the publisher
+    /// "PROBLEMS_CHANGED" tells.
     void SetProblems(const wchar_t* file, std::vector<CString> problems);
 
 private:

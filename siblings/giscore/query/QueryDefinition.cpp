@@ -38,14 +38,35 @@ std::optional<Operator> SignAt(std::wstring_view text) {
     return found;
 }
 
+constexpr std::wstring_view kSigns = L"<>=";
+constexpr std::wstring_view kForeignEnds = L"!~:&|^";
+
+/// People who know other notations write "!=", ":=", "~=", "==" or "=>". Taken literally, the
+/// sign too many would become a part of the attribute's name or of the value.
+bool HasForeignSign(std::wstring_view attribute, std::wstring_view value) {
+    return kForeignEnds.find(attribute.back()) != kForeignEnds.npos ||
+           (!value.empty() && kSigns.find(value.front()) != kSigns.npos);
+}
+
+/// "=" and "<>" can be asked of nothing.
+bool NeedsValue(Operator op) {
+    return op != Operator::Equal && op != Operator::NotEqual;
+}
+
 std::optional<Condition> ParseSigns(const CString& text) {
-    const int at = static_cast<int>(text.View().find_first_of(L"<>="));
+    const int at = static_cast<int>(text.View().find_first_of(kSigns));
     if (at <= 0) {
         return std::nullopt;
     }
     const auto op = SignAt(text.View().substr(static_cast<std::size_t>(at)));
     const int behind = at + CString(OperatorText(*op)).GetLength();
-    return Condition{text.Left(at).Trim(), *op, WithoutQuotes(text.Mid(behind))};
+    const CString attribute = text.Left(at).Trim();
+    const CString value = text.Mid(behind).Trim();
+    if (attribute.IsEmpty() || HasForeignSign(attribute.View(), value.View()) ||
+        (NeedsValue(*op) && value.IsEmpty())) {
+        return std::nullopt;
+    }
+    return Condition{attribute, *op, WithoutQuotes(value)};
 }
 
 std::optional<Condition> ParseWords(const CString& text) {
@@ -123,9 +144,9 @@ CString ConditionText(const Condition& condition) {
     if (condition.op == Operator::IsEmpty) {
         return left;
     }
-    const bool needsQuotes = condition.value.IsEmpty() ||
-                             condition.value != CString(condition.value).Trim() ||
-                             condition.value.GetAt(0) == L'"';
+    const bool needsQuotes =
+        condition.value.IsEmpty() || condition.value != CString(condition.value).Trim() ||
+        condition.value.GetAt(0) == L'"' || kSigns.find(condition.value.GetAt(0)) != kSigns.npos;
     return left + L" " + (needsQuotes ? L"\"" + condition.value + L"\"" : condition.value);
 }
 

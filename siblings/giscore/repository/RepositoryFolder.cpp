@@ -30,7 +30,8 @@ CString GuidOf(const CString& fileName) {
 CRepositoryFolder::CRepositoryFolder(const wchar_t* tag, const CString& folder, CString problemKey,
                                      MissingFolder missing)
     : CRepositoryStore(tag), m_strRoot(folder), m_missing(missing),
-      m_strFolder(WithSeparator(folder) + tag + L"/"), m_strProblemKey(std::move(problemKey)) {
+      m_strFolder(WithSeparator(folder) + tag + L"/"), m_strProblemKey(std::move(problemKey)),
+      m_pEntries(std::make_shared<Entries>()) {
     Reload();
 }
 
@@ -39,7 +40,7 @@ bool CRepositoryFolder::LacksRoot() const {
 }
 
 void CRepositoryFolder::Reload() {
-    m_entries.clear();
+    const auto pOld = std::exchange(m_pEntries, std::make_shared<Entries>());
     m_unreadable.clear();
     if (LacksRoot()) {
         m_unreadable.push_back(m_strRoot + kNoFolder);
@@ -49,41 +50,49 @@ void CRepositoryFolder::Reload() {
             m_unreadable.push_back(m_strFolder + L": " + LastErrorText());
         }
         for (const CString& name : names.value_or(std::vector<CString>())) {
-            ReadFile(name);
+            ReadFile(name, *pOld);
         }
     }
-    GetItems(); // notes the problems
+    Look(); // notes the problems
 }
 
-void CRepositoryFolder::ReadFile(const CString& name) {
+/// Takes what was found in the file before if it has stayed as it was. A file with a fault is
+/// read again: the fault may have been that nobody made items of the family yet.
+void CRepositoryFolder::ReadFile(const CString& name, const Entries& old) {
     const CString path = m_strFolder + name;
     const CString guid = GuidOf(name);
+    // The stamp before the content: what changes in between is read again the next time.
+    const auto stamp = FileStampOf(path);
+    const auto known = m_stamps.find(path);
+    const auto entry = old.find(CString(guid).MakeUpper());
+    if (stamp && known != m_stamps.end() && known->second == *stamp && entry != old.end() &&
+        entry->second.source == path && entry->second.fault.IsEmpty()) {
+        AddEntry(*m_pEntries, entry->second, m_unreadable);
+        return;
+    }
     const auto bytes = guid.IsEmpty() ? std::nullopt : ReadFileBytes(path);
-    if (bytes) {
-        m_entries.push_back({path, guid, Utf8ToWide(*bytes)});
-    } else {
+    if (!bytes) {
         m_unreadable.push_back(
             path + L": " + (guid.IsEmpty() ? L"it is not named after a GUID" : LastErrorText()));
+        return;
     }
+    AddEntry(*m_pEntries, MakeEntry(path, guid, Utf8ToWide(*bytes)), m_unreadable);
+    m_stamps.insert_or_assign(path, stamp.value_or(FileStamp()));
 }
 
 CString CRepositoryFolder::PathOf(const CString& guid) const {
     return m_strFolder + guid + CString(kSuffix);
 }
 
-std::vector<CRepositoryStore::Entry>
-CRepositoryFolder::Entries(std::vector<CString>& problems) const {
+std::shared_ptr<const CRepositoryStore::Entries>
+CRepositoryFolder::GetEntries(std::vector<CString>& problems) const {
     problems = m_unreadable;
-    return m_entries;
+    return m_pEntries;
 }
 
 std::optional<CString> CRepositoryFolder::TextOf(const CString& guid) const {
-    for (const Entry& entry : m_entries) {
-        if (entry.guid.CompareNoCase(guid) == 0) {
-            return entry.text;
-        }
-    }
-    return std::nullopt;
+    const auto hit = m_pEntries->find(CString(guid).MakeUpper());
+    return hit == m_pEntries->end() ? std::nullopt : std::optional(hit->second.text);
 }
 
 CString CRepositoryFolder::Write(const CRepositoryItem& item) {
@@ -96,8 +105,9 @@ CString CRepositoryFolder::Write(const CRepositoryItem& item) {
         !ReplaceFileBytes(path, WideToUtf8(text.View()))) {
         return RepositoryMessage(kMsgItemNotWritten, item.GetName(), LastErrorText());
     }
-    std::erase_if(m_entries, [&](const Entry& entry) { return entry.source == path; });
-    m_entries.push_back({path, item.GetGuid(), text});
+    m_pEntries->insert_or_assign(CString(item.GetGuid()).MakeUpper(),
+                                 MakeEntry(path, item.GetGuid(), text));
+    m_stamps.insert_or_assign(path, FileStampOf(path).value_or(FileStamp()));
     return {};
 }
 
@@ -106,7 +116,8 @@ CString CRepositoryFolder::Erase(const CRepositoryItem& item) {
     if (FileExists(path) && !RemoveFile(path)) {
         return RepositoryMessage(kMsgItemNotWritten, item.GetName(), LastErrorText());
     }
-    std::erase_if(m_entries, [&](const Entry& entry) { return entry.source == path; });
+    m_pEntries->erase(CString(item.GetGuid()).MakeUpper());
+    m_stamps.erase(path);
     return {};
 }
 

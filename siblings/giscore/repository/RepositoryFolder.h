@@ -1,6 +1,7 @@
 // Configurations of a family as files of a folder.
 #pragma once
 
+#include "platform/win/FileStamp.h"
 #include "siblings/giscore/repository/RepositoryStore.h"
 
 namespace Orvane {
@@ -11,7 +12,8 @@ enum class MissingFolder {
     IsAProblem, ///< somebody else provides it, and nothing can be added without
 };
 
-/// <folder>/<tag>/<guid>.xml, UTF-8. The files are read once, and again by Reload.
+/// <folder>/<tag>/<guid>.xml, UTF-8. The files are read once; Reload reads those that have
+/// changed since.
 class GISCORE_API CRepositoryFolder final : public CRepositoryStore {
 public:
     /// \param folder of all families
@@ -20,25 +22,29 @@ public:
     CRepositoryFolder(const wchar_t* tag, const CString& folder, CString problemKey,
                       MissingFolder missing = MissingFolder::IsMade);
 
+    /// Of all families, as it was handed in.
+    const CString& GetRoot() const { return m_strRoot; }
     const CString& GetFolder() const { return m_strFolder; }
     void Reload();
 
 private:
-    std::vector<Entry> Entries(std::vector<CString>& problems) const override;
+    std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const override;
     std::optional<CString> TextOf(const CString& guid) const override;
     CString Write(const CRepositoryItem& item) override;
     CString Erase(const CRepositoryItem& item) override;
     CString ProblemKey() const override { return m_strProblemKey; }
 
     CString PathOf(const CString& guid) const;
-    void ReadFile(const CString& name);
+    void ReadFile(const CString& name, const Entries& old);
     bool LacksRoot() const;
 
     CString m_strRoot;
     MissingFolder m_missing;
     CString m_strFolder; ///< of the family, with a separator
     CString m_strProblemKey;
-    std::vector<Entry> m_entries;
+    std::shared_ptr<Entries> m_pEntries; ///< never null
+    /// Of each file that has been read, by its path.
+    std::map<CString, FileStamp, CStringLess> m_stamps;
     std::vector<CString> m_unreadable;
 };
 

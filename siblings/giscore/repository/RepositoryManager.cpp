@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "siblings/giscore/repository/IRepositoryFamily.h"
 #include "siblings/giscore/repository/RepositoryFactory.h"
 
 namespace Orvane {
@@ -44,6 +45,11 @@ void CRepositoryManager::RegisterRepositoryItemFactory(const wchar_t* tag,
     Register(m_itemFactories, tag, pFactory);
 }
 
+void CRepositoryManager::RegisterRepositoryFamily(const wchar_t* tag, IRepositoryFamily* pFamily) {
+    Register(m_families, tag, pFamily);
+    RegisterRepositoryItemFactory(tag, pFamily);
+}
+
 CRepositoryFactory* CRepositoryManager::GetRepositoryfactory(const wchar_t* tag) const {
     const auto hit = FindTag(m_factories, tag);
     return hit == m_factories.end() ? nullptr : hit->pFactory;
@@ -52,6 +58,19 @@ CRepositoryFactory* CRepositoryManager::GetRepositoryfactory(const wchar_t* tag)
 CRepositoryItemFactory* CRepositoryManager::GetRepositoryItemFactory(const wchar_t* tag) const {
     const auto hit = FindTag(m_itemFactories, tag);
     return hit == m_itemFactories.end() ? nullptr : hit->pFactory;
+}
+
+IRepositoryFamily* CRepositoryManager::GetRepositoryFamily(const wchar_t* tag) const {
+    const auto hit = FindTag(m_families, tag);
+    return hit == m_families.end() ? nullptr : hit->pFactory;
+}
+
+std::vector<CString> CRepositoryManager::GetRepositoryFamilyTags() const {
+    std::vector<CString> tags;
+    for (const auto& family : m_families) {
+        tags.push_back(family.tag);
+    }
+    return tags;
 }
 
 void CRepositoryManager::ReloadRepositories(int mode) {

@@ -21,9 +21,9 @@ CRepositoryRecords::CRepositoryRecords(const wchar_t* tag, System::CGisSystem& s
     : CRepositoryStore(tag), m_system(system),
       m_strPrefix(CString(System::kItemPrefix) + tag + L".") {}
 
-std::vector<CRepositoryStore::Entry>
-CRepositoryRecords::Entries(std::vector<CString>& problems) const {
-    std::vector<Entry> entries;
+std::shared_ptr<const CRepositoryStore::Entries>
+CRepositoryRecords::GetEntries(std::vector<CString>& problems) const {
+    auto entries = std::make_shared<Entries>();
     const AcDbDictionary* const pDictionary = m_system.GetRecords().Dictionary();
     if (!pDictionary) {
         return entries;
@@ -34,7 +34,7 @@ CRepositoryRecords::Entries(std::vector<CString>& problems) const {
         const CString key = at->first.Mid(m_strPrefix.GetLength());
         const CString source = m_system.GetSystemName() + L": " + at->first;
         if (IsGuid(key.View())) {
-            entries.push_back({source, key, at->second});
+            AddEntry(*entries, MakeEntry(source, key, at->second), problems);
         } else if (!key.View().starts_with(kDefault)) {
             problems.push_back(source + L": it is not named after a GUID");
         }

@@ -17,12 +17,14 @@ public:
     CString GetDefault(enmEntityType type) const override;
 
 private:
-    std::vector<Entry> Entries(std::vector<CString>& problems) const override;
+    std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const override;
     std::optional<CString> TextOf(const CString& guid) const override;
     CString Write(const CRepositoryItem& item) override;
     CString Erase(const CRepositoryItem& item) override;
     CString WriteDefault(const CRepositoryItem& item) override;
-    CString ProblemKey() const override { return L"drawing/" + GetTag(); }
+    CString ProblemKey() const override {
+        return L"drawing/" + m_system.GetGuid() + L"/" + GetTag();
+    }
 
     CString DefaultRecord(enmEntityType type) const;
 

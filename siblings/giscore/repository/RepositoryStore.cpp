@@ -1,7 +1,6 @@
 #include "siblings/giscore/repository/RepositoryStore.h"
 
 #include <algorithm>
-#include <set>
 
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
@@ -19,40 +18,70 @@ void Tell(Event event, const CRepositoryStore& store, const CRepositoryItem& ite
                                           item.GetGuid().GetString());
 }
 
-bool StandsBefore(const CRepositoryStore::ItemPtr& left, const CRepositoryStore::ItemPtr& right) {
-    const int order = left->GetName().CompareNoCase(right->GetName());
-    return order != 0 ? order < 0 : left->GetGuid() < right->GetGuid();
+bool StandsBefore(const RepositoryItemHead& left, const RepositoryItemHead& right) {
+    const int order = left.name.CompareNoCase(right.name);
+    return order != 0 ? order < 0 : left.guid < right.guid;
+}
+
+CString KeyOf(const CString& guid) {
+    return CString(guid).MakeUpper();
+}
+
+bool IsIn(const RepositoryItemHead& head, enmEntityType type) {
+    return type == EntityNone || head.entityType == type;
 }
 
 } // namespace
 
-std::vector<CRepositoryStore::ItemPtr> CRepositoryStore::GetItems() const {
+CRepositoryStore::Entry CRepositoryStore::MakeEntry(const CString& source, const CString& guid,
+                                                    const CString& text) const {
+    Entry entry{source, text, {guid, {}, EntityNone}, {}};
+    const ItemPtr item = ReadRepositoryItem(text, m_strTag, entry.fault);
+    if (item && item->GetGuid().CompareNoCase(guid) != 0) {
+        entry.fault = FormatText(L"it has the GUID \"%s\"", item->GetGuid());
+    } else if (item) {
+        entry.head = {guid, item->GetName(), item->GetEntityType()};
+    }
+    return entry;
+}
+
+void CRepositoryStore::AddEntry(Entries& entries, Entry entry, std::vector<CString>& problems) {
+    const CString source = entry.source;
+    if (!entries.try_emplace(KeyOf(entry.head.guid), std::move(entry)).second) {
+        problems.push_back(source + L": there is another item of its GUID");
+    }
+}
+
+std::shared_ptr<const CRepositoryStore::Entries> CRepositoryStore::Look() const {
     std::vector<CString> problems;
-    std::vector<ItemPtr> items;
-    std::set<CString> guids;
-    for (const Entry& entry : Entries(problems)) {
-        CString reason;
-        ItemPtr item = ReadRepositoryItem(entry.text, m_strTag, reason);
-        if (item && item->GetGuid().CompareNoCase(entry.guid) != 0) {
-            reason = FormatText(L"it has the GUID \"%s\"", item->GetGuid());
-        } else if (item && !guids.insert(CString(item->GetGuid()).MakeUpper()).second) {
-            reason = L"there is another item of its GUID";
-        }
-        if (reason.IsEmpty()) {
-            items.push_back(item);
-        } else {
-            problems.push_back(entry.source + L": " + reason);
+    auto entries = GetEntries(problems);
+    for (const auto& [key, entry] : *entries) {
+        if (!entry.fault.IsEmpty()) {
+            problems.push_back(entry.source + L": " + entry.fault);
         }
     }
     CModuleConfiguration::Instance()->SetProblems(ProblemKey(), std::move(problems));
-    std::sort(items.begin(), items.end(), StandsBefore);
-    return items;
+    return entries;
+}
+
+std::vector<RepositoryItemHead> CRepositoryStore::GetHeads(enmEntityType type) const {
+    std::vector<RepositoryItemHead> heads;
+    const auto entries = Look();
+    for (const auto& [key, entry] : *entries) {
+        if (entry.fault.IsEmpty() && IsIn(entry.head, type)) {
+            heads.push_back(entry.head);
+        }
+    }
+    std::sort(heads.begin(), heads.end(), StandsBefore);
+    return heads;
 }
 
 std::vector<CRepositoryStore::ItemPtr> CRepositoryStore::GetItems(enmEntityType type) const {
-    std::vector<ItemPtr> items = GetItems();
-    if (type != EntityNone) {
-        std::erase_if(items, [type](const auto& item) { return item->GetEntityType() != type; });
+    std::vector<ItemPtr> items;
+    for (const RepositoryItemHead& head : GetHeads(type)) {
+        if (auto item = GetItem(head.guid)) {
+            items.push_back(std::move(item));
+        }
     }
     return items;
 }
@@ -64,22 +93,29 @@ CRepositoryStore::ItemPtr CRepositoryStore::GetItem(const wchar_t* guid) const {
     return item && item->GetGuid().CompareNoCase(guid) == 0 ? item : ItemPtr();
 }
 
-CRepositoryStore::ItemPtr CRepositoryStore::GetItemByName(const wchar_t* name) const {
-    for (const ItemPtr& item : GetItems()) {
-        if (item->GetName().CompareNoCase(name) == 0) {
-            return item;
+CRepositoryStore::ItemPtr CRepositoryStore::GetItemByName(const wchar_t* name,
+                                                          enmEntityType type) const {
+    const RepositoryItemHead* pFirst = nullptr;
+    const auto entries = Look();
+    for (const auto& [key, entry] : *entries) {
+        if (entry.fault.IsEmpty() && IsIn(entry.head, type) &&
+            entry.head.name.CompareNoCase(name) == 0 &&
+            (!pFirst || StandsBefore(entry.head, *pFirst))) {
+            pFirst = &entry.head;
         }
     }
-    return {};
+    return pFirst ? GetItem(pFirst->guid) : ItemPtr();
 }
 
 CString CRepositoryStore::WhyNot(const CRepositoryItem& item) const {
     if (item.GetName().IsEmpty()) {
         return RepositoryMessage(kMsgItemWithoutName);
     }
-    for (const ItemPtr& other : GetItems(item.GetEntityType())) {
-        if (other->GetName().CompareNoCase(item.GetName()) == 0 &&
-            other->GetGuid() != item.GetGuid()) {
+    const auto entries = Look();
+    for (const auto& [key, entry] : *entries) {
+        if (entry.fault.IsEmpty() && IsIn(entry.head, item.GetEntityType()) &&
+            entry.head.name.CompareNoCase(item.GetName()) == 0 &&
+            entry.head.guid.CompareNoCase(item.GetGuid()) != 0) {
             return RepositoryMessage(kMsgItemNameTaken, item.GetName());
         }
     }
@@ -140,11 +176,11 @@ CString CRepositoryStore::WriteDefault(const CRepositoryItem& /*item*/) {
 }
 
 CString FreeItemName(const CRepositoryStore& store, enmEntityType type, const CString& wanted) {
-    const std::vector<CRepositoryStore::ItemPtr> items = store.GetItems(type);
+    const std::vector<RepositoryItemHead> heads = store.GetHeads(type);
     CString name = wanted;
     for (int number = 2;
-         std::any_of(items.begin(), items.end(),
-                     [&](const auto& item) { return item->GetName().CompareNoCase(name) == 0; });
+         std::any_of(heads.begin(), heads.end(),
+                     [&](const auto& head) { return head.name.CompareNoCase(name) == 0; });
          ++number) {
         name.Format(L"%s (%d)", wanted, number);
     }

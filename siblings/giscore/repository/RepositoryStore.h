@@ -2,6 +2,8 @@
 // system of a drawing.
 #pragma once
 
+#include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -12,6 +14,13 @@ namespace Orvane {
 namespace System {
 class CGisSystem;
 }
+
+/// What lists show of an item.
+struct RepositoryItemHead {
+    CString guid;
+    CString name;
+    enmEntityType entityType = EntityNone;
+};
 
 /// The items of one family in one place. What is handed out are copies: changes count once
 /// they are given back by Replace. Items that cannot be read are left out, and noted with
@@ -30,14 +39,15 @@ public:
     /// The system under which the items stand; null for a folder.
     virtual System::CGisSystem* GetSystem() const { return nullptr; }
 
-    /// By name.
-    std::vector<ItemPtr> GetItems() const;
-    /// Those of an entity folder; of all if it is EntityNone.
-    std::vector<ItemPtr> GetItems(enmEntityType type) const;
+    /// Those of an entity folder, by name; of all if it is EntityNone. Each is read anew.
+    std::vector<ItemPtr> GetItems(enmEntityType type = EntityNone) const;
+    /// The same without their contents, which are not read for it.
+    std::vector<RepositoryItemHead> GetHeads(enmEntityType type = EntityNone) const;
     /// Null if there is none, or if it cannot be read.
     ItemPtr GetItem(const wchar_t* guid) const;
-    /// The first of a name, without regard to case.
-    ItemPtr GetItemByName(const wchar_t* name) const;
+    /// The first of a name in an entity folder, or in any if it is EntityNone; without
+    /// regard to case.
+    ItemPtr GetItemByName(const wchar_t* name, enmEntityType type = EntityNone) const;
 
     /// Names are no keys, but people tell items apart by them: a name that another item of
     /// the same entity folder has is refused.
@@ -54,20 +64,31 @@ public:
 protected:
     explicit CRepositoryStore(CString tag) : m_strTag(std::move(tag)) {}
 
-    /// One text as it is kept.
+    /// One text as it is kept, and what was found when it was read.
     struct Entry {
         CString source; ///< what problems call it
-        CString guid;   ///< what it is kept under
         CString text;
+        RepositoryItemHead head; ///< with the GUID under which it is kept
+        CString fault;           ///< why it is no item; empty for those that are
     };
+    /// By their GUIDs in capital letters.
+    using Entries = std::map<CString, Entry, CStringLess>;
+
+    /// Reads a text as an item of the family.
+    Entry MakeEntry(const CString& source, const CString& guid, const CString& text) const;
+    /// Takes an entry unless there is one of its GUID, which is a problem.
+    static void AddEntry(Entries& entries, Entry entry, std::vector<CString>& problems);
+
     /// \param problems gets what could not even be read
-    virtual std::vector<Entry> Entries(std::vector<CString>& problems) const = 0;
+    virtual std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const = 0;
     virtual std::optional<CString> TextOf(const CString& guid) const = 0;
     virtual CString Write(const CRepositoryItem& item) = 0;
     virtual CString Erase(const CRepositoryItem& item) = 0;
     virtual CString WriteDefault(const CRepositoryItem& item);
     /// The name under which problems are noted.
     virtual CString ProblemKey() const = 0;
+    /// All entries; those with a fault are noted as problems.
+    std::shared_ptr<const Entries> Look() const;
 
 private:
     CString WhyNot(const CRepositoryItem& item) const;

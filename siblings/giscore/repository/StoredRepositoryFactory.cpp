@@ -8,18 +8,33 @@
 
 namespace Orvane {
 
+namespace {
+
+using FolderPtr = boost::shared_ptr<CRepositoryFolder>;
+
+void Reload(FolderPtr& folder, const CString& tag, const CString& root, const CString& problemKey,
+            MissingFolder missing) {
+    if (folder && folder->GetRoot() == root) {
+        folder->Reload();
+    } else {
+        folder = boost::make_shared<CRepositoryFolder>(tag, root, problemKey, missing);
+    }
+}
+
+} // namespace
+
 void CStoredRepositoryFactory::ReloadRepository(int /*mode*/) {
     CModuleConfiguration& configuration = *CModuleConfiguration::Instance();
     m_bIsRead = true;
-    m_pDisk = boost::make_shared<CRepositoryFolder>(
-        m_strTag, configuration.GetPath(L"support") + L"repository", L"repository/" + m_strTag);
-    m_pNet.reset();
+    Reload(m_pDisk, m_strTag, configuration.GetPath(L"support") + L"repository",
+           L"repository/" + m_strTag, MissingFolder::IsMade);
     const CString key = L"net repository/" + m_strTag;
-    configuration.SetProblems(key, {});
-    CString folder;
-    if (configuration.GetGSValueText(L"NET_REPOSITORY", folder) && !folder.Trim().IsEmpty()) {
-        m_pNet =
-            boost::make_shared<CRepositoryFolder>(m_strTag, folder, key, MissingFolder::IsAProblem);
+    CString root;
+    if (configuration.GetGSValueText(L"NET_REPOSITORY", root) && !root.Trim().IsEmpty()) {
+        Reload(m_pNet, m_strTag, root, key, MissingFolder::IsAProblem);
+    } else {
+        m_pNet.reset();
+        configuration.SetProblems(key, {});
     }
 }
 

@@ -7,10 +7,12 @@
 
 namespace Orvane {
 
+class CRepositoryFolder;
+
 /// The disk store is the folder "repository" in the folder "support", the net store the
 /// folder of the general setting "NET_REPOSITORY", if that is not empty. Both are read at
-/// their first use and when the repository is reloaded, which makes stores anew: those
-/// handed out before go on, but do not follow.
+/// their first use; when the repository is reloaded, files that have changed are read again.
+/// A store that was handed out follows, unless the setting has come to name another folder.
 class GISCORE_API CStoredRepositoryFactory final : public CRepositoryFactory {
 public:
     CStoredRepositoryFactory(const wchar_t* tag, bool supportsDefaultItem)
@@ -28,8 +30,8 @@ private:
     CString m_strTag;
     bool m_bSupportsDefaultItem;
     bool m_bIsRead = false;
-    StorePtr m_pDisk;
-    StorePtr m_pNet;
+    boost::shared_ptr<CRepositoryFolder> m_pDisk;
+    boost::shared_ptr<CRepositoryFolder> m_pNet;
 };
 
 } // namespace Orvane

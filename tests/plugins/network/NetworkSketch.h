@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plugins/network/NetworkGeometry.h"
+#include "plugins/common/NetworkGeometry.h"
 
 /// A network that owns its arrays. Nodes are named N0, N1 ...; sections S0, S1 ...
 class NetworkSketch : public Orvane::Network::INetworkNames {

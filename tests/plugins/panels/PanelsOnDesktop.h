@@ -20,6 +20,7 @@ protected:
         WindowTest::SetUp();
         m_host.Support().Write("ModuleRegistry.xml",
                                R"(<moduleRegistry >
+<module msgName="930000" on="1" fileName="ORVZRepository.arx" ></module>
 <module msgName="900001" on="1" fileName="ORVZNetwork.arx" ></module>
 <module msgName="900002" on="1" fileName="ORVZPanels.arx" ></module>
 </moduleRegistry>)");

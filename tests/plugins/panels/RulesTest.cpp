@@ -140,6 +140,10 @@ TEST(TreeDrops, GoWhereFamilyAndTargetAllow) {
     EXPECT_TRUE(PlanDrop(self, self).commandId.IsEmpty());
     EXPECT_TRUE(PlanDrop(CWsTreeItemData(), self).commandId.IsEmpty());
     EXPECT_TRUE(PlanDrop(self, CWsTreeItemData()).commandId.IsEmpty());
+    const CWsTreeItemData folder = Node({L"THEME", L"", false, true});
+    self.GetPtrItemDefinition()->SetEntityType(EntitySection);
+    self.GetPtrItemDefinition()->SetCmdIdRepositoryItemDrop(L"RPODROP_THEME_2");
+    EXPECT_EQ(Narrow(PlanDrop(self, folder).commandId), "RPODROP_THEME_2");
 }
 
 TEST(TreeCommands, OfAFolderAreNone) {

@@ -3,10 +3,11 @@
 
 #include "host/storage/OpenAndSave.h"
 #include "platform/arx/DbUndo.h"
-#include "plugins/network/repository/LabelFamily.h"
-#include "plugins/network/repository/RepositoryExecutor.h"
-#include "plugins/network/repository/RepositoryFamilies.h"
-#include "plugins/network/repository/SystemExecutor.h"
+#include "plugins/repository/LabelFamily.h"
+#include "plugins/repository/RepositoryDefaults.h"
+#include "plugins/repository/RepositoryExecutor.h"
+#include "plugins/repository/RepositoryFamilies.h"
+#include "plugins/repository/SystemExecutor.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/notification/Subscriber.h"
 #include "siblings/giscore/repository/RepositoryFactory.h"
@@ -14,10 +15,11 @@
 #include "siblings/giscore/repository/RepositoryStore.h"
 #include "siblings/giscoreadds/SelectionSet.h"
 #include "tests/support/TestDrawing.h"
+#include "workspacecore/core/WsManager.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 using namespace Orvane;
-using namespace Orvane::Network;
+using namespace Orvane::Repository;
 using Workspace::CWsTreeItemData;
 
 namespace {
@@ -95,9 +97,9 @@ protected:
         return result->m_strText1;
     }
     /// How many entities a run was about; -1 if it was not carried out.
-    static int Run(const wchar_t* tag, const wchar_t* id, CWsTreeItemData* pNode,
+    static int Run(const wchar_t* id, CWsTreeItemData* pNode,
                    Query::CQueryDefinition* pQuery = nullptr) {
-        const auto result = FindFamilyExecutor(tag)->Execute(id, pQuery, pNode);
+        const auto result = CBaseExecutor().Execute(id, pQuery, pNode);
         return result->m_nStatus ? result->m_nNumber : -1;
     }
     int System(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
@@ -146,17 +148,17 @@ TEST_F(Executors, AQueryIsAddedRunEditedAndUndone) {
 
     CWsTreeItemData item = SystemItem(L"QUERY", guid);
     Counter selections(L"SELECTION_COMPLETED");
-    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &item), 1);
+    EXPECT_EQ(Run(L"RUN_QUERY", &item), 1);
     EXPECT_EQ(selections.count, 1);
     EXPECT_NE(Host().TakeOutput().find("Thick: 1 entities of Town"), std::string::npos);
     EXPECT_EQ(
         Base(L"EDIT_QUERY", {L"", L"any", L"-", L"KIND = tank", L"DIAMETER < 300", L""}, &item),
         guid);
-    EXPECT_EQ(Run(L"QUERY", L"DBLCLICK_QUERY", &item), 1);
+    EXPECT_EQ(Run(L"DBLCLICK_QUERY", &item), 1);
     EXPECT_TRUE(Undo().undo());
     EXPECT_TRUE(Undo().undo());
     EXPECT_FALSE(InSystem(L"QUERY")->GetItem(guid));
-    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &item), -1) << "the item is gone, the node is not";
+    EXPECT_EQ(Run(L"RUN_QUERY", &item), -1) << "the item is gone, the node is not";
 }
 
 TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
@@ -182,8 +184,9 @@ TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
         {L"ADD_LABEL_1", &label, {L"x", L"", L"-3"}, "is no text height"},
         {L"DEL_QUERY", &query, {L"nothing"}, "There is no configuration \"nothing\"."},
         {L"RPODROP_QUERY", &query, {}, "Nothing was dropped"},
-        {L"ADD_UNKNOWN", &query, {}, ""},
-        {L"FLY_QUERY", &query, {}, ""},
+        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER != 300"}, "is no condition"},
+        {L"ADD_UNKNOWN", &query, {}, "of the family \"UNKNOWN\""},
+        {L"FLY_QUERY", &query, {}, "\"FLY_QUERY\" is not a command"},
     };
     for (const auto& test : cases) {
         EXPECT_TRUE(Base(test.id, test.answers, test.pNode).IsEmpty()) << WideToUtf8(test.id);
@@ -201,7 +204,7 @@ TEST_F(Executors, AThemeColoursItsEntitiesOrThoseOfADroppedQuery) {
     const CString guid =
         Base(L"ADD_THEME_2", {L"D", L"ranges", L"diameter", L"200", L"3 1"}, &folder);
     CWsTreeItemData item = SystemItem(L"THEME", guid, EntitySection);
-    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), 2);
+    EXPECT_EQ(Run(L"RUN_THEME_2", &item), 2);
     EXPECT_EQ(Color(m_thin), 3);
     EXPECT_EQ(Color(m_thick), 1);
     EXPECT_NE(Host().TakeOutput().find("       1    3  x < 200\n"), std::string::npos);
@@ -210,18 +213,188 @@ TEST_F(Executors, AThemeColoursItsEntitiesOrThoseOfADroppedQuery) {
 
     Query::CQueryDefinition query(L"q", L"thick");
     query.SetConditions({{L"NAME", Query::Operator::Equal, L"S2"}});
-    EXPECT_EQ(Run(L"THEME", L"QRYDROP_THEME_2", &item, &query), 1);
+    EXPECT_EQ(Run(L"QRYDROP_THEME_2", &item, &query), 1);
     EXPECT_EQ(Color(m_thin), kColorByLayer);
     EXPECT_EQ(Color(m_thick), 1);
     query.SetQueriedType(EntityNode);
-    EXPECT_EQ(Run(L"THEME", L"QRYDROP_THEME_2", &item, &query), 0);
+    EXPECT_EQ(Run(L"QRYDROP_THEME_2", &item, &query), 0);
 
     item.SetSystem(&MakeSystem(L"Parcels", TopologyPolygon, 0));
-    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), -1) << "it stands in another system";
+    EXPECT_EQ(Run(L"RUN_THEME_2", &item), -1) << "it stands in another system";
     CRepositoryFactory& themes = Family(L"THEME");
     EXPECT_TRUE(
         themes.GetSystemStore(item.GetSystem())->Add(*InSystem(L"THEME")->GetItem(guid)).IsEmpty());
-    EXPECT_EQ(Run(L"THEME", L"RUN_THEME_2", &item), -1) << "polygons have no sections";
+    EXPECT_EQ(Run(L"RUN_THEME_2", &item), -1) << "polygons have no sections";
+}
+
+TEST_F(Executors, NothingComesToStandWhereItsTopologyIsMissing) {
+    System::CGisSystem& lots = MakeSystem(L"Lots", TopologyPolygon, 0);
+    CWsTreeItemData folder = Node(L"", Workspace::WsItemSystem, &lots);
+    struct {
+        const wchar_t* tag;
+        const wchar_t* add;
+        std::vector<const wchar_t*> answers;
+        const wchar_t* send;
+        const wchar_t* drop;
+        enmEntityType type;
+        int expected;
+    } const cases[] = {
+        {L"THEME",
+         L"ADD_THEME_2",
+         {L"t", L"none"},
+         L"SENDTO_THEME_2",
+         L"RPODROP_THEME_2",
+         EntitySection,
+         0},
+        {L"LONGITUDINAL",
+         L"ADD_LONGITUDINAL",
+         {L"p", L"-", L"-", L"ELEVATION", L"-"},
+         L"SENDTO_LONGITUDINAL",
+         L"RPODROP_LONGITUDINAL",
+         EntityNone,
+         0},
+        {L"QUERY",
+         L"ADD_QUERY",
+         {L"q", L"all", L"all", L""},
+         L"SENDTO_QUERY",
+         L"RPODROP_QUERY",
+         EntityNone,
+         1},
+    };
+    for (const auto& test : cases) {
+        CWsTreeItemData item = SystemItem(test.tag, {}, test.type);
+        for (const wchar_t* answer : test.answers) {
+            Host().Answer({answer});
+        }
+        item.SetGuid(Base(test.add, {}, &item));
+        ASSERT_FALSE(item.GetGuid().IsEmpty()) << Host().Output();
+        Host().TakeOutput();
+        EXPECT_EQ(!Base(test.send, {L"Lots"}, &item).IsEmpty(), test.expected);
+        EXPECT_EQ(Host().TakeOutput().find("Lots holds no entities of this kind") !=
+                      std::string::npos,
+                  !test.expected);
+        CWsTreeItemData target = Node(test.tag, Workspace::WsItemSystemRepository, &lots);
+        for (CWsTreeItemData* pTarget : {&target, &folder}) {
+            InSystem(test.tag)->Rename(item.GetGuid(), pTarget == &target ? L"one" : L"two");
+            Host().Answer(test.expected ? std::initializer_list<const wchar_t*>{L"yes"}
+                                        : std::initializer_list<const wchar_t*>{});
+            pTarget->SetCustomData(&item);
+            const int done = pTarget == &target ? !Base(test.drop, {}, pTarget).IsEmpty()
+                                                : System(L"SYSTEM_DROPITEM", {}, pTarget);
+            EXPECT_EQ(done, test.expected) << WideToUtf8(test.drop);
+        }
+        EXPECT_EQ(Family(test.tag).GetSystemStore(&lots)->GetHeads().size(), test.expected);
+        CWsTreeItemData there = Node(test.tag, Workspace::WsItemSystemRepository, &lots);
+        if (!test.expected) {
+            EXPECT_TRUE(Base(test.add, {}, &there).IsEmpty()) << "not even the name is asked for";
+        }
+    }
+}
+
+TEST_F(Executors, TheEntityTypeOfTheCommandDecidesBetweenEqualNames) {
+    CWsTreeItemData nodes = SystemItem(L"THEME", {}, EntityNode);
+    CWsTreeItemData sections = SystemItem(L"THEME", {}, EntitySection);
+    const CString ofNodes = Base(L"ADD_THEME_1", {L"Same", L"none"}, &nodes);
+    const CString ofSections = Base(L"ADD_THEME_2", {L"Same", L"none"}, &sections);
+    Host().Answer({L"same"});
+    EXPECT_EQ(Run(L"RUN_THEME_2", nullptr), 2);
+    Host().Answer({L"same"});
+    EXPECT_EQ(Run(L"RUN_THEME_1", nullptr), 3);
+    sections.SetGuid(ofNodes);
+    EXPECT_EQ(Run(L"RUN_THEME_2", &sections), -1) << "the node of another kind";
+    EXPECT_EQ(Base(L"DEL_THEME_2", {L"Same", L"yes"}, nullptr), ofSections);
+    EXPECT_EQ(Base(L"DEL_THEME_2", {L"Same"}, nullptr), L"");
+    EXPECT_EQ(Base(L"DEL_THEME_1", {L"Same", L"yes"}, nullptr), ofNodes);
+}
+
+TEST_F(Executors, DefaultsAreShownWhenTheDrawingIsOpened) {
+    CWsTreeItemData theme = SystemItem(L"THEME", {}, EntitySection);
+    CWsTreeItemData label = SystemItem(L"LABEL", {}, EntityNode);
+    theme.SetGuid(Base(L"ADD_THEME_2", {L"D", L"ranges", L"DIAMETER", L"200", L"3 1"}, &theme));
+    label.SetGuid(Base(L"ADD_LABEL_1", {L"names", L"{NAME}", L"2"}, &label));
+    EXPECT_FALSE(Base(L"SETASDEFAULT_THEME_2", {}, &theme).IsEmpty());
+    EXPECT_FALSE(Base(L"SETASDEFAULT_LABEL_1", {}, &label).IsEmpty());
+    EXPECT_EQ(Labels(), "") << "nothing is shown before the drawing is opened";
+    const CString path = Host().Support().Wide("town.gpkg");
+    DefaultsAtOpening defaults;
+    Workspace::CWsManager::Instance()->RegisterWsListener(&defaults);
+    const auto reopen = [&](bool save) {
+        AcApDocument* pDoc = acDocManagerPtr()->curDocument();
+        if (save) {
+            ASSERT_TRUE(acDocManagerPtr()->saveDocumentAs(pDoc, path, {}).ok());
+        }
+        acDocManagerPtr()->closeDocument(pDoc);
+        Host().TakeOutput();
+        ASSERT_TRUE(acDocManagerPtr()->openDocument(path, {}, pDoc).ok());
+    };
+    reopen(true);
+    EXPECT_EQ(Host().TakeOutput(), "Town: the default \"D\" is shown.\n"
+                                   "Town: the default \"names\" is shown.\n");
+    EXPECT_EQ(Labels(), "A B C ");
+    AcApDocument* const pDoc = acDocManagerPtr()->curDocument();
+    EXPECT_TRUE(pDoc->isModified());
+    reopen(true);
+    EXPECT_EQ(Labels(), "A B C ");
+    EXPECT_FALSE(acDocManagerPtr()->curDocument()->isModified()) << "it is shown already";
+    EXPECT_FALSE(acDocManagerPtr()->curDocument()->database()->undo().undoName());
+    acDocManagerPtr()->newDocument(L"b.dwg");
+    Host().TakeOutput();
+    acDocManagerPtr()->setCurDocument(acDocManagerPtr()->documents()[0].get());
+    EXPECT_EQ(Host().TakeOutput(), "") << "once";
+    Workspace::CWsManager::Instance()->UnregisterWsListener(&defaults);
+}
+
+TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
+    Workspace::CWsManager& workspace = *Workspace::CWsManager::Instance();
+    workspace.RegisterBaseExecutor(&m_base);
+    ASSERT_TRUE(workspace.PluginMgr()->LoadModule(L"" TESSALY_FIXTURES_DIR "/BringsFamily.arx"));
+    // As somebody without a tree gives them; each by its id, on an item known by its name.
+    struct {
+        const wchar_t* id;
+        std::initializer_list<const wchar_t*> answers;
+        int number;
+        const char* output;
+    } const cases[] = {
+        {L"ADD_NOTE_2", {L"old", L"Pipes of iron"}, -1, "old was added."},
+        {L"ADD_NOTE_1", {L"old", L"Nodes"}, -1, "old was added."},
+        {L"EDIT_NOTE_2", {L"old", L"Pipes of lead"}, -1, "old was changed."},
+        {L"REN_NOTE_2", {L"old", L"lead"}, -1, "lead was changed."},
+        {L"COPY_NOTE_2", {L"lead", L""}, -1, "lead (2) was added."},
+        {L"RUN_NOTE_2", {L"LEAD"}, 2, "Note on Town: Pipes of lead\n"},
+        {L"DBLCLICK_NOTE_1", {L"old"}, 3, "Note on Town: Nodes\n"},
+        {L"SETASDEFAULT_NOTE_2", {L"lead"}, -1, "lead is the default now"},
+        {L"SENDTO_NOTE_2", {L"lead", L"disk"}, -1, "lead was sent."},
+        {L"DEL_NOTE_2", {L"lead (2)", L"yes"}, -1, "lead (2) was deleted."},
+    };
+    Workspace::CWsCommandManager& commands = *workspace.CmdMgr();
+    for (const auto& test : cases) {
+        Host().TakeOutput();
+        Host().Answer(test.answers);
+        const auto result = commands.Execute(test.id, nullptr, nullptr);
+        EXPECT_TRUE(Host().AllAnswered());
+        EXPECT_EQ(result->m_nStatus, 1) << WideToUtf8(test.id) << Host().Output();
+        EXPECT_EQ(result->m_nNumber, test.number) << WideToUtf8(test.id);
+        EXPECT_NE(Host().Output().find(test.output), std::string::npos) << Host().Output();
+    }
+    // Drops have nodes: the item from the disk on another system, a query on the item.
+    const auto item = InSystem(L"NOTE")->GetItemByName(L"lead");
+    ASSERT_TRUE(item);
+    EXPECT_EQ(InSystem(L"NOTE")->GetDefault(EntitySection), item->GetGuid());
+    System::CGisSystem& other = MakeSystem(L"Other");
+    CWsTreeItemData dragged =
+        Node(L"NOTE", Workspace::WsItemRepositoryConfiguration, nullptr, item->GetGuid());
+    CWsTreeItemData target = Node(L"NOTE", Workspace::WsItemSystemEntityFolder, &other);
+    target.SetCustomData(&dragged);
+    EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_1", nullptr, &target)->m_nStatus, 0);
+    EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_2", nullptr, &target)->m_nStatus, 1);
+    EXPECT_EQ(Family(L"NOTE").GetSystemStore(&other)->GetHeads(EntitySection).size(), 1U);
+    Query::CQueryDefinition query(L"q", L"iron");
+    CWsTreeItemData node = SystemItem(L"NOTE", item->GetGuid(), EntitySection);
+    EXPECT_EQ(commands.Execute(L"QRYDROP_NOTE_2", &query, &node)->m_nNumber, 2);
+    EXPECT_NE(Host().Output().find("Pipes of lead, for iron"), std::string::npos);
+    EXPECT_EQ(commands.ExecuteExplicite(L"RUN_NOTE_2", item.get(), nullptr, nullptr)->m_nNumber, 2);
+    EXPECT_EQ(commands.ExecuteExplicite(L"RUN_NOTE_2", &query, nullptr, nullptr)->m_nStatus, 0);
+    EXPECT_NE(Host().Output().find("needs a configuration of its own family"), std::string::npos);
 }
 
 TEST_F(Executors, LabelsReplaceTheirOwnOlderOnesAlone) {
@@ -230,12 +403,15 @@ TEST_F(Executors, LabelsReplaceTheirOwnOlderOnesAlone) {
     CWsTreeItemData sections = SystemItem(L"LABEL", {}, EntitySection);
     nodes.SetGuid(Base(L"ADD_LABEL_1", {L"names", L"", L"2.5"}, &nodes));
     sections.SetGuid(Base(L"ADD_LABEL_2", {L"sizes", L"DN {DIAMETER}", L""}, &sections));
-    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &nodes), 3);
-    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_2", &sections), 2);
+    EXPECT_EQ(Run(L"RUN_LABEL_1", &nodes), 3);
+    EXPECT_EQ(Run(L"RUN_LABEL_2", &sections), 2);
     EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ");
     EXPECT_EQ(Storage().GetTextVector()[4].GetPosition().x, 5);
-    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &nodes), 3);
-    EXPECT_EQ(Labels(), "by hand DN 100 DN 400 A B C ");
+    EXPECT_EQ(Run(L"RUN_LABEL_1", &nodes), 3);
+    EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ") << "what is right stays untouched";
+    EXPECT_EQ(Base(L"EDIT_LABEL_1", {L"{NAME}{ELEVATION}", L""}, &nodes), nodes.GetGuid());
+    EXPECT_EQ(Run(L"RUN_LABEL_1", &nodes), 3);
+    EXPECT_EQ(Labels(), "by hand B C DN 100 DN 400 A12.5 ");
     EXPECT_TRUE(Undo().undo());
     EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ");
 }
@@ -244,10 +420,10 @@ TEST_F(Executors, AProfileFollowsTheShortestWay) {
     CWsTreeItemData node = SystemItem(L"LONGITUDINAL");
     node.SetGuid(Base(L"ADD_LONGITUDINAL", {L"P", L"C", L"-", L"elevation", L"-"}, &node));
     Host().Answer({L"A"});
-    EXPECT_EQ(Run(L"LONGITUDINAL", L"RUN_LONGITUDINAL", &node), 2);
+    EXPECT_EQ(Run(L"RUN_LONGITUDINAL", &node), 2);
     EXPECT_NE(Host().TakeOutput().find("P, Town: C to A, length 30.00"), std::string::npos);
     Host().Answer({L"Z"});
-    EXPECT_EQ(Run(L"LONGITUDINAL", L"RUN_LONGITUDINAL", &node), -1);
+    EXPECT_EQ(Run(L"RUN_LONGITUDINAL", &node), -1);
     EXPECT_NE(Host().TakeOutput().find("Town has no node \"Z\"."), std::string::npos);
 }
 
@@ -280,7 +456,7 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     // From the disk tree onto a folder of the system, and onto the system itself.
     CWsTreeItemData dragged =
         Node(L"QUERY", Workspace::WsItemRepositoryConfiguration, nullptr, guid);
-    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &dragged), 5) << "on the active system";
+    EXPECT_EQ(Run(L"RUN_QUERY", &dragged), 5) << "on the active system";
     CWsTreeItemData target = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
     target.SetCustomData(&dragged);
     EXPECT_EQ(Base(L"RPODROP_QUERY", {}, &target), guid);
@@ -296,7 +472,7 @@ TEST_F(Executors, ConfigurationsAreSavedWithTheDrawing) {
     const CString guid = Base(L"ADD_LABEL_1", {L"names", L"{NAME}!", L"1.5"}, &node);
     node.SetGuid(guid);
     EXPECT_EQ(Base(L"SETASDEFAULT_LABEL_1", {}, &node), guid);
-    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &node), 3);
+    EXPECT_EQ(Run(L"RUN_LABEL_1", &node), 3);
     const CString path = Host().Support().Wide("town.gpkg");
     ASSERT_TRUE(acDocManagerPtr()->saveDocumentAs(acDocManagerPtr()->curDocument(), path, {}).ok());
     acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
@@ -313,7 +489,7 @@ TEST_F(Executors, ConfigurationsAreSavedWithTheDrawing) {
     EXPECT_EQ(label->GetEntityType(), EntityNode);
     EXPECT_EQ(store->GetDefault(EntityNode), guid);
     node.SetSystem(pSystem);
-    EXPECT_EQ(Run(L"LABEL", L"RUN_LABEL_1", &node), 3);
+    EXPECT_EQ(Run(L"RUN_LABEL_1", &node), 3);
     EXPECT_EQ(Labels(), "A! B! C! ") << "those from the file were replaced";
 }
 
@@ -321,10 +497,10 @@ TEST_F(Executors, WithoutANodeTheNameIsAskedForAndFoundOnDisk) {
     const Query::CQueryDefinition query(L"Q1", L"On disk");
     EXPECT_TRUE(Family(L"QUERY").GetDiskStore()->Add(query).IsEmpty());
     Host().Answer({L"on DISK"});
-    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", nullptr), 5);
+    EXPECT_EQ(Run(L"RUN_QUERY", nullptr), 5);
     System::CSystemManager::Instance()->SetSystemActive(nullptr);
     Host().Answer({L"on disk"});
-    EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", nullptr), -1);
+    EXPECT_EQ(Run(L"RUN_QUERY", nullptr), -1);
     EXPECT_NE(Host().TakeOutput().find("No system is active."), std::string::npos);
     EXPECT_EQ(Base(L"DEL_QUERY", {L"on disk", L"yes"}, nullptr), L"Q1");
 }

@@ -3,16 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "platform/win/CodePage.h"
-#include "plugins/network/repository/LabelPattern.h"
-#include "plugins/network/repository/LabelPlaces.h"
-#include "plugins/network/repository/LongitudinalProfile.h"
-#include "plugins/network/repository/RepositoryCommandId.h"
-#include "plugins/network/repository/RepositoryPrompts.h"
-#include "plugins/network/repository/ThemeClasses.h"
+#include "plugins/repository/LabelPattern.h"
+#include "plugins/repository/LabelPlaces.h"
+#include "plugins/repository/LongitudinalProfile.h"
+#include "plugins/repository/RepositoryCommandId.h"
+#include "plugins/repository/RepositoryPrompts.h"
+#include "plugins/repository/ThemeClasses.h"
 #include "siblings/giscore/query/QueryMatcher.h"
 
 using namespace Orvane;
 using namespace Orvane::Network;
+using namespace Orvane::Repository;
 
 TEST(RepositoryCommandIds, NameVerbFamilyAndKind) {
     struct {

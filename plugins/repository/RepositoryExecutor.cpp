@@ -177,8 +177,8 @@ ItemPtr DropItem(Call& call) {
     return Done(*call.target.store, {}, Msg::Added, item);
 }
 
-/// How many entities it was about; nothing, and the user is told, if there is none that it can work
-/// on.
+/// Runs an item on a system. Nothing, which the user is told, without a system that has what
+/// the item is about.
 std::optional<int> RunOn(IRepositoryFamily& family, const CRepositoryItem& item,
                          System::CGisSystem* pSystem, const Query::CQueryDefinition* pOnly) {
     if (!pSystem) {

@@ -39,7 +39,7 @@ public:
     /// The system under which the items stand; null for a folder.
     virtual System::CGisSystem* GetSystem() const { return nullptr; }
 
-    /// Those of an entity folder, by name; of all if it is EntityNone. Each is read anew.
+    /// Those of an entity folder, by name; of all if it is EntityNone. Each is a new copy.
     std::vector<ItemPtr> GetItems(enmEntityType type = EntityNone) const;
     /// The same without their contents, which are not read for it.
     std::vector<RepositoryItemHead> GetHeads(enmEntityType type = EntityNone) const;

@@ -1,0 +1,135 @@
+// A drawing for commands on configurations, driven by nodes of trees made by hand.
+#pragma once
+
+#include <boost/make_shared.hpp>
+
+#include "host/storage/OpenAndSave.h"
+#include "platform/arx/DbUndo.h"
+#include "plugins/repository/LabelFamily.h"
+#include "plugins/repository/RepositoryExecutor.h"
+#include "plugins/repository/RepositoryFamilies.h"
+#include "plugins/repository/SystemExecutor.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/notification/Subscriber.h"
+#include "siblings/giscore/repository/RepositoryFactory.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/repository/RepositoryStore.h"
+#include "siblings/giscoreadds/SelectionSet.h"
+#include "tests/support/TestDrawing.h"
+#include "workspacecore/core/WsManager.h"
+#include "workspacecore/tree/WsTreeItemData.h"
+
+using namespace Orvane;
+using namespace Orvane::Repository;
+using Workspace::CWsTreeItemData;
+
+inline constexpr const wchar_t* kEscape = L"\x1B";
+
+/// Counts what a publisher tells.
+class Counter final : public Notification::CSubscriber {
+public:
+    explicit Counter(const wchar_t* publisher) {
+        Notification::CNotificationFramework::Instance()
+            ->GetPublisher(publisher)
+            ->RegisterSubscriber(this);
+    }
+    ~Counter() override { Notification::CNotificationFramework::UnregisterSubscriber(this); }
+    Counter(const Counter&) = delete;
+    Counter& operator=(const Counter&) = delete;
+    void Update(Notification::CPublisher*, void* pHint, void*) override {
+        ++count;
+        pLast = pHint;
+    }
+    int count = 0;
+    void* pLast = nullptr;
+};
+
+/// Three nodes in a row, two sections of 100 and 400 mm between them, and a system for it.
+class Executors : public TestDrawing {
+protected:
+    Executors() : m_system(MakeSystem(L"Town")) {
+        acDocManagerPtr()->setStorage(m_pStorage.get());
+        RegisterRepositories();
+        const Topology::AttributeData high[] = {{"ELEVATION", 12.5}};
+        const Topology::AttributeData thin[] = {{"DIAMETER", 100}};
+        const Topology::AttributeData thick[] = {{"DIAMETER", 400}};
+        const auto a = Storage().AddNode(m_system, {"A", {0, 0}, "Tank", high});
+        const auto b = Storage().AddNode(m_system, {"B", {10, 0}});
+        const auto c = Storage().AddNode(m_system, {"C", {30, 0}});
+        m_thin = Storage().AddSection(m_system, {"S1", {a}, {b}, {}, "Pipe", thin});
+        m_thick = Storage().AddSection(m_system, {"S2", {b}, {c}, {}, "Pipe", thick});
+        System::CSystemManager::Instance()->SetSystemActive(&m_system);
+    }
+    ~Executors() override {
+        while (acDocManagerPtr()->documentCount() > 0) {
+            acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
+        }
+        acDocManagerPtr()->setStorage(nullptr);
+    }
+
+    /// A node of a system tree, or of the disk tree if there is no system.
+    static CWsTreeItemData Node(const wchar_t* tag, Workspace::enmWSTreeItemType type,
+                                System::CGisSystem* pSystem, const CString& guid = {},
+                                enmEntityType entityType = EntityNone) {
+        const auto definition = boost::make_shared<Workspace::CWsTreeItemDefinition>();
+        definition->SetRepositoryTag(tag);
+        definition->SetWsItemType(type);
+        definition->SetEntityType(entityType);
+        CWsTreeItemData node;
+        node.SetPtrItemDefinition(definition);
+        node.SetSystem(pSystem);
+        node.SetGuid(guid);
+        return node;
+    }
+    CWsTreeItemData SystemItem(const wchar_t* tag, const CString& guid = {},
+                               enmEntityType type = EntityNone) {
+        return Node(tag, Workspace::WsItemSystemConfiguration, &m_system, guid, type);
+    }
+
+    /// GUID of the item that a command was about; empty if it was not carried out.
+    CString Base(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
+                 CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
+        Host().Answer(answers);
+        const auto result = m_base.Execute(id, pQuery, pNode);
+        EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
+        EXPECT_EQ(result->m_nStatus == 0, result->m_strText1.IsEmpty());
+        return result->m_strText1;
+    }
+    /// How many entities a run was about; -1 if it was not carried out.
+    static int Run(const wchar_t* id, CWsTreeItemData* pNode,
+                   Query::CQueryDefinition* pQuery = nullptr) {
+        const auto result = CBaseExecutor().Execute(id, pQuery, pNode);
+        return result->m_nStatus ? result->m_nNumber : -1;
+    }
+    int System(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
+               CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
+        Host().Answer(answers);
+        const int status = m_systemExecutor.Execute(id, pQuery, pNode)->m_nStatus;
+        EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
+        return status;
+    }
+    static CRepositoryFactory& Family(const wchar_t* tag) {
+        return *CRepositoryManager::Instance()->GetRepositoryfactory(tag);
+    }
+    CRepositoryFactory::StorePtr InSystem(const wchar_t* tag) {
+        return Family(tag).GetSystemStore(&m_system);
+    }
+    int Color(AcDbObjectId id) const {
+        return static_cast<const AcDbEntity*>(Document()->database()->peek(id))->colorIndex();
+    }
+    std::string Labels() {
+        std::string text;
+        for (const auto label : Storage().GetTextVector()) {
+            text += std::string(label.GetNameUtf8()) + " ";
+        }
+        return text;
+    }
+    AcDbUndo& Undo() { return Document()->database()->undo(); }
+
+    std::unique_ptr<IDbStorage> m_pStorage = Tessaly::MakeGeoPackageStorage();
+    System::CGisSystem& m_system;
+    AcDbObjectId m_thin;
+    AcDbObjectId m_thick;
+    CBaseExecutor m_base;
+    CSystemExecutor m_systemExecutor;
+};

@@ -1,6 +1,5 @@
 #include "host/storage/GeoPackageStorage.h"
 
-#include <exception>
 #include <filesystem>
 #include <map>
 #include <new>
@@ -11,6 +10,7 @@
 #include "host/storage/GeoPackageFile.h"
 #include "host/storage/SourceCopy.h"
 #include "platform/arx/DbDatabase.h"
+#include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -132,8 +132,8 @@ AcDbStorageResult Guarded(const std::string& path, Work work) {
         return work();
     } catch (const std::bad_alloc&) {
         return Refusal(path, L"there is not enough memory for it");
-    } catch (const std::exception& error) {
-        return Refusal(path, Utf8ToWide(error.what()));
+    } catch (...) {
+        return Refusal(path, CaughtReason());
     }
 }
 

@@ -31,3 +31,9 @@ void NoteInterruptedActivity(const CString& subject, const wchar_t* step) {
 CString TakeInterruptedActivity() {
     return std::exchange(Interrupted(), CString());
 }
+
+OwnActivities::OwnActivities() : m_strAside(TakeInterruptedActivity()) {}
+
+OwnActivities::~OwnActivities() {
+    Interrupted() = std::move(m_strAside);
+}

@@ -27,8 +27,7 @@ decltype(auto) CallForeign(const Object& object, const wchar_t* step, Call call)
 /// False, and the user is told, if the call threw anything at all.
 template <class Call>
 bool Guarded(const wchar_t* what, Call call) {
-    // An exception that somebody else has caught meanwhile is not this call's.
-    TakeInterruptedActivity();
+    const OwnActivities scope;
     try {
         call();
         return true;

@@ -1459,5 +1459,45 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Command</extracomment>
         <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
     </message>
+    <message id="920001">
+        <source></source>
+        <extracomment>Report at a start; module, command</extracomment>
+        <translation>%s registriert den Befehl %s, den das Programm selbst hat. Eingetippt läuft der Befehl des Programms.</translation>
+    </message>
+    <message id="920002">
+        <source></source>
+        <extracomment>Report at a start; module, command, command</extracomment>
+        <translation>%s registriert den Befehl %s, der sich von %s nur in Groß- und Kleinschreibung unterscheidet.</translation>
+    </message>
+    <message id="920010">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Anlegen</translation>
+    </message>
+    <message id="920011">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="920012">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Löschen</translation>
+    </message>
+    <message id="920013">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Netze und Werkzeuge</translation>
+    </message>
+    <message id="920014">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Weitere Befehle</translation>
+    </message>
+    <message id="920015">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Konfigurationen anwenden</translation>
+    </message>
 </context>
 </TS>

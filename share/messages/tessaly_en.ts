@@ -1459,5 +1459,45 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Command</extracomment>
         <translation>shows and changes language, colours, folders and the like</translation>
     </message>
+    <message id="920001">
+        <source></source>
+        <extracomment>Report at a start; module, command</extracomment>
+        <translation>%s registers the command %s, which the program has itself. Typed, the program&apos;s command runs.</translation>
+    </message>
+    <message id="920002">
+        <source></source>
+        <extracomment>Report at a start; module, command, command</extracomment>
+        <translation>%s registers the command %s, which differs from %s only in upper and lower case.</translation>
+    </message>
+    <message id="920010">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Create</translation>
+    </message>
+    <message id="920011">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Edit</translation>
+    </message>
+    <message id="920012">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Delete</translation>
+    </message>
+    <message id="920013">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Networks and tools</translation>
+    </message>
+    <message id="920014">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Other commands</translation>
+    </message>
+    <message id="920015">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Use configurations</translation>
+    </message>
 </context>
 </TS>

@@ -1,7 +1,10 @@
 #include "plugins/network/repository/RepositoryExecutor.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/arx/EdPrompt.h"
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/network/repository/RepositoryFamilies.h"
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTarget.h"
@@ -9,12 +12,14 @@
 #include "siblings/giscore/Guid.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
+#include "workspacecore/commands/CommandScope.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {
 
-using Plugins::CommandScope;
 using Plugins::OwnCommandId;
+using Workspace::CommandScope;
 
 namespace {
 
@@ -89,8 +94,7 @@ ItemPtr RenameItem(Call& call) {
     if (!item) {
         return {};
     }
-    const auto* const pNewName =
-        call.pNode ? static_cast<const CString*>(call.pNode->GetCustomData()) : nullptr;
+    const CString* const pNewName = Workspace::NewNameOf(call.pNode);
     const auto name = pNewName ? *pNewName : AskText(Text(Msg::Name), item->GetName());
     if (!name) {
         return {};
@@ -172,10 +176,11 @@ ItemPtr DropItem(Call& call) {
     return Done(*call.target.store, {}, Msg::Added, item);
 }
 
-constexpr struct {
+struct VerbRow {
     Verb verb;
     ItemPtr (*run)(Call&);
-} kVerbs[] = {
+};
+constexpr VerbRow kVerbs[] = {
     {Verb::Add, AddItem},       {Verb::Edit, EditItem},
     {Verb::Delete, DeleteItem}, {Verb::Rename, RenameItem},
     {Verb::Copy, CopyItem},     {Verb::SendTo, SendItem},
@@ -216,19 +221,19 @@ ResultPtr CBaseExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefi
     if (!pFamily) {
         return result;
     }
-    const CommandScope scope(id);
-    auto target = TargetOf(*command, pItemData);
-    for (const auto& [verb, run] : kVerbs) {
-        if (target && verb == command->verb) {
-            Call call{*pFamily, std::move(*target), pItemData, pQuery};
-            if (const ItemPtr item = run(call)) {
-                result->m_nStatus = 1;
-                result->m_strText1 = item->GetGuid();
-                result->m_enmEntityType = item->GetEntityType();
-            }
-            break;
+    CommandScope::Run(id, [&] {
+        auto target = TargetOf(*command, pItemData);
+        const auto row = std::ranges::find(kVerbs, command->verb, &VerbRow::verb);
+        if (!target || row == std::end(kVerbs)) {
+            return;
         }
-    }
+        Call call{*pFamily, std::move(*target), pItemData, pQuery};
+        if (const ItemPtr item = row->run(call)) {
+            result->m_nStatus = 1;
+            result->m_strText1 = item->GetGuid();
+            result->m_enmEntityType = item->GetEntityType();
+        }
+    });
     return result;
 }
 
@@ -239,12 +244,15 @@ ResultPtr CFamilyExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDe
     if (!command || command->tag.CompareNoCase(m_family.Tag()) != 0) {
         return Workspace::NeutralReturnValue();
     }
-    const CommandScope scope(id);
-    auto target = TargetOf(*command, pItemData);
-    const ItemPtr item = target ? ItemOf(*target) : nullptr;
-    return item ? RunItem(m_family, *item, target->pSystem,
-                          command->verb == Verb::QueryDrop ? pQuery : nullptr)
-                : Workspace::NeutralReturnValue();
+    auto result = Workspace::NeutralReturnValue();
+    CommandScope::Run(id, [&] {
+        auto target = TargetOf(*command, pItemData);
+        if (const ItemPtr item = target ? ItemOf(*target) : nullptr) {
+            result = RunItem(m_family, *item, target->pSystem,
+                             command->verb == Verb::QueryDrop ? pQuery : nullptr);
+        }
+    });
+    return result;
 }
 
 ResultPtr CFamilyExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
@@ -255,9 +263,12 @@ ResultPtr CFamilyExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
         pRepositoryItem->GetRepositoryTag().CompareNoCase(m_family.Tag()) != 0) {
         return Workspace::NeutralReturnValue();
     }
-    const CommandScope scope(OwnCommandId(lpszCommandId));
-    return RunItem(m_family, *pRepositoryItem,
-                   System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
+    auto result = Workspace::NeutralReturnValue();
+    CommandScope::Run(OwnCommandId(lpszCommandId), [&] {
+        result = RunItem(m_family, *pRepositoryItem,
+                         System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
+    });
+    return result;
 }
 
 } // namespace Orvane::Network

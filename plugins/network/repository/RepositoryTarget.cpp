@@ -5,6 +5,7 @@
 #include "siblings/giscore/NotificationFramework.h"
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {
@@ -108,8 +109,7 @@ CRepositoryStore::ItemPtr DroppedItem(const CString& tag, const CRepositoryItem*
     if (pQuery && pQuery->GetRepositoryTag().CompareNoCase(tag) == 0) {
         return ReadRepositoryItem(pQuery->GetXML(), tag, reason);
     }
-    const auto* const pDragged =
-        pNode ? static_cast<const CWsTreeItemData*>(pNode->GetCustomData()) : nullptr;
+    const CWsTreeItemData* const pDragged = Workspace::DroppedItemOf(pNode);
     const bool isOfFamily =
         pDragged && pDragged->GetPtrItemDefinition() &&
         pDragged->GetPtrItemDefinition()->GetRepositoryTag().CompareNoCase(tag) == 0;

@@ -1,7 +1,7 @@
 #include "plugins/network/repository/SystemExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/network/repository/RepositoryFamilies.h"
 #include "plugins/network/repository/RepositoryPrompts.h"
 #include "plugins/network/repository/RepositoryTarget.h"
@@ -9,12 +9,14 @@
 #include "siblings/giscore/RepositoryManager.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/giscore/TopologyConfiguration.h"
+#include "workspacecore/commands/CommandScope.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Network {
 
-using Plugins::CommandScope;
 using Plugins::OwnCommandId;
+using Workspace::CommandScope;
 
 namespace {
 
@@ -91,8 +93,7 @@ bool AddSystem(Call& call) {
 }
 
 bool RenameSystem(Call& call) {
-    const auto* const pNewName =
-        call.pNode ? static_cast<const CString*>(call.pNode->GetCustomData()) : nullptr;
+    const CString* const pNewName = Workspace::NewNameOf(call.pNode);
     const auto name =
         pNewName ? *pNewName : AskText(Text(Msg::SystemName), call.pSystem->GetSystemName());
     CString reason;
@@ -132,8 +133,7 @@ bool ToggleVisibility(Call& call) {
 
 /// The family of what is dropped; empty if there is nothing.
 CString DroppedTag(const Call& call) {
-    const auto* const pDragged =
-        call.pNode ? static_cast<const CWsTreeItemData*>(call.pNode->GetCustomData()) : nullptr;
+    const CWsTreeItemData* const pDragged = Workspace::DroppedItemOf(call.pNode);
     if (call.pQuery) {
         return call.pQuery->GetRepositoryTag();
     }
@@ -199,12 +199,13 @@ CSystemExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* 
     const CString id = OwnCommandId(lpszCommandId);
     for (const auto& command : kCommands) {
         if (id == command.id) {
-            const CommandScope scope(command.id);
-            Call call{pItemData, pQuery};
-            if (FindSystem(call, command.otherwise) && command.run(call)) {
-                result->m_nStatus = 1;
-                result->m_strText1 = call.pSystem ? call.pSystem->GetSystemName() : CString();
-            }
+            CommandScope::Run(command.id, [&] {
+                Call call{pItemData, pQuery};
+                if (FindSystem(call, command.otherwise) && command.run(call)) {
+                    result->m_nStatus = 1;
+                    result->m_strText1 = call.pSystem ? call.pSystem->GetSystemName() : CString();
+                }
+            });
             break;
         }
     }

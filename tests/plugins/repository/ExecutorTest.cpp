@@ -2,6 +2,7 @@
 #include <boost/make_shared.hpp>
 
 #include "host/storage/GeoPackageStorage.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/DbUndo.h"
 #include "plugins/network/repository/LabelFamily.h"
 #include "plugins/network/repository/RepositoryExecutor.h"
@@ -14,11 +15,12 @@
 #include "siblings/giscore/Subscriber.h"
 #include "siblings/giscoreadds/SelectionSet.h"
 #include "tests/support/TestDrawing.h"
-#include "workspacecore/tree/WsTreeItemData.h"
+#include "workspacecore/tree/ItemArgument.h"
 
 using namespace Orvane;
 using namespace Orvane::Network;
 using Workspace::CWsTreeItemData;
+using Workspace::ItemArgument;
 
 namespace {
 
@@ -85,11 +87,22 @@ protected:
         return Node(tag, Workspace::WsItemSystemConfiguration, &m_system, guid, type);
     }
 
+    /// As the host runs a command, which makes it one step of the history.
+    template <class Call>
+    static boost::shared_ptr<Workspace::CExecutorReturnValue> InOrder(const wchar_t* id,
+                                                                      Call call) {
+        boost::shared_ptr<Workspace::CExecutorReturnValue> result;
+        acedRunner().RunInside({id, OrderOrigin::Console, [&] {
+                                    result = call();
+                                    return CommandOutcome::Done;
+                                }});
+        return result;
+    }
     /// GUID of the item that a command was about; empty if it was not carried out.
     CString Base(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
                  CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
         Host().Answer(answers);
-        const auto result = m_base.Execute(id, pQuery, pNode);
+        const auto result = InOrder(id, [&] { return m_base.Execute(id, pQuery, pNode); });
         EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
         EXPECT_EQ(result->m_nStatus == 0, result->m_strText1.IsEmpty());
         return result->m_strText1;
@@ -97,13 +110,15 @@ protected:
     /// How many entities a run was about; -1 if it was not carried out.
     static int Run(const wchar_t* tag, const wchar_t* id, CWsTreeItemData* pNode,
                    Query::CQueryDefinition* pQuery = nullptr) {
-        const auto result = FindFamilyExecutor(tag)->Execute(id, pQuery, pNode);
+        const auto result =
+            InOrder(id, [&] { return FindFamilyExecutor(tag)->Execute(id, pQuery, pNode); });
         return result->m_nStatus ? result->m_nNumber : -1;
     }
     int System(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
                CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
         Host().Answer(answers);
-        const int status = m_systemExecutor.Execute(id, pQuery, pNode)->m_nStatus;
+        const int status =
+            InOrder(id, [&] { return m_systemExecutor.Execute(id, pQuery, pNode); })->m_nStatus;
         EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
         return status;
     }
@@ -261,11 +276,11 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     EXPECT_EQ(Base(L"SENDTO_QUERY", {}, &node), guid);
     EXPECT_TRUE(Base(L"SENDTO_QUERY", {}, &node).IsEmpty()) << "it is there, and the same";
 
-    CString typed = L"renamed\nin place";
-    node.SetCustomData(&typed);
+    ItemArgument typed = CString(L"renamed\nin place");
+    WrapArgument(node, &typed);
     EXPECT_EQ(Base(L"REN_QUERY", {}, &node), guid);
     EXPECT_EQ(InSystem(L"QUERY")->GetItem(guid)->GetName(), L"renamed in place");
-    node.SetCustomData(nullptr);
+    WrapArgument(node, nullptr);
     EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"no"}, &node).IsEmpty());
     EXPECT_EQ(Base(L"SENDTO_QUERY", {L"yes"}, &node), guid);
     const auto disk = Family(L"QUERY").GetDiskStore();
@@ -281,12 +296,13 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     CWsTreeItemData dragged =
         Node(L"QUERY", Workspace::WsItemRepositoryConfiguration, nullptr, guid);
     EXPECT_EQ(Run(L"QUERY", L"RUN_QUERY", &dragged), 5) << "on the active system";
+    ItemArgument dropped = std::make_shared<const CWsTreeItemData>(dragged);
     CWsTreeItemData target = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
-    target.SetCustomData(&dragged);
+    WrapArgument(target, &dropped);
     EXPECT_EQ(Base(L"RPODROP_QUERY", {}, &target), guid);
     System::CGisSystem& other = MakeSystem(L"Other");
     CWsTreeItemData system = Node(L"", Workspace::WsItemSystem, &other);
-    system.SetCustomData(&dragged);
+    WrapArgument(system, &dropped);
     EXPECT_EQ(System(L"SYSTEM_DROPITEM", {}, &system), 1);
     EXPECT_EQ(Family(L"QUERY").GetSystemStore(&other)->GetItems().size(), 1U);
 }

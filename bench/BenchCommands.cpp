@@ -81,7 +81,8 @@ public:
     Execute(const wchar_t*, Orvane::Query::CQueryDefinition*, CWsTreeItemData*) override {
         return m_result;
     }
-    boost::shared_ptr<CExecutorReturnValue> m_result = NeutralReturnValue();
+    boost::shared_ptr<CExecutorReturnValue> m_result{
+        new CExecutorReturnValue(1, L"", L"", L"", L"", -1, L"", Orvane::EntityNone)};
 };
 
 CWsCommandManager& WithIdleCommand() {
@@ -102,6 +103,9 @@ CWsCommandManager& WithIdleCommand() {
 void BM_Command_Runner(benchmark::State& state) {
     WithIdleCommand();
     const CommandOrder order = MakeCommandOrder({L"IDLE", OrderOrigin::Timer});
+    if (acedRunner().Run(order) != CommandOutcome::Done) {
+        state.SkipWithError("the command does not run");
+    }
     for (auto _ : state) {
         benchmark::DoNotOptimize(acedRunner().Run(order));
     }

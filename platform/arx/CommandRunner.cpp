@@ -23,10 +23,10 @@ struct OriginRule {
     bool isRemembered; ///< Enter repeats it; it can be found among the recent ones
 };
 constexpr OriginRule kOriginRules[] = {
-    {OrderOrigin::Typed, true, true},     {OrderOrigin::Palette, true, true},
-    {OrderOrigin::Menu, true, true},      {OrderOrigin::Module, true, true},
-    {OrderOrigin::Tree, true, false},     {OrderOrigin::Dialog, true, false},
-    {OrderOrigin::Timer, false, false},   {OrderOrigin::Console, false, false},
+    {OrderOrigin::Typed, true, true},    {OrderOrigin::Palette, true, true},
+    {OrderOrigin::Menu, true, true},     {OrderOrigin::Module, true, true},
+    {OrderOrigin::Tree, true, false},    {OrderOrigin::Dialog, true, false},
+    {OrderOrigin::Timer, false, false},  {OrderOrigin::Console, false, false},
     {OrderOrigin::Script, false, false},
 };
 

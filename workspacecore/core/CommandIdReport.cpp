@@ -19,9 +19,9 @@ constexpr int kMsgOtherCase = 920002;
 void Report(int message, const CWsCommand& command, const CString& other) {
     const IWsCommandExecutor* const pExecutor = command.GetCmdExecutor();
     const CString module = pExecutor ? LibraryOfAddress(ClassAddress(*pExecutor)) : CString();
-    const CString text = FormatText(CModuleConfiguration::Instance()->GetMsg(message).View(),
-                                    module.IsEmpty() ? CString(L"?") : module, command.GetId(),
-                                    other);
+    const CString text =
+        FormatText(CModuleConfiguration::Instance()->GetMsg(message).View(),
+                   module.IsEmpty() ? CString(L"?") : module, command.GetId(), other);
     WS_TRACE_TEXT(text.GetString());
     acutPrintf(L"\n%s\n", text);
 }

@@ -11,7 +11,8 @@ namespace {
 /// As long as it lives, the item carries the argument.
 class ArgumentOnItem {
 public:
-    explicit ArgumentOnItem(const CWsOrder& order) : m_item(order.item), m_argument(order.argument) {
+    explicit ArgumentOnItem(const CWsOrder& order)
+        : m_item(order.item), m_argument(order.argument) {
         if (m_item) {
             WrapArgument(*m_item, &m_argument);
         }

@@ -9,8 +9,7 @@
 namespace Orvane::Workspace {
 
 /// Nothing, the new name of a rename, or the item that was dropped on the other one.
-using ItemArgument =
-    std::variant<std::monostate, CString, std::shared_ptr<const CWsTreeItemData>>;
+using ItemArgument = std::variant<std::monostate, CString, std::shared_ptr<const CWsTreeItemData>>;
 
 /// Hands an executor the argument as the custom data of the item, which is all that its
 /// interface has a place for. Null takes it away. Not owned.

@@ -13,6 +13,7 @@
 #include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/notification/Subscriber.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/core/WsOrder.h"
 
 namespace Orvane::Application {
 
@@ -75,28 +76,60 @@ public:
     bool hostToClose() override { return CWsManager::Instance()->Raise_OnBeforeAcadWillClose(); }
 };
 
-/// Workspace commands can be typed at the host's command line, by their whole id.
+/// The heading under which HELP lists a command, as a number of the message catalogue.
+int PurposeOf(const Workspace::CWsCommand& command) {
+    if (command.GetCmdGroup() == Workspace::CommandGroupRun &&
+        !command.GetRepositoryTag().IsEmpty()) {
+        return 920015;
+    }
+    constexpr struct {
+        Workspace::enmCommandGroup group;
+        int message;
+    } kPurposes[] = {
+        {Workspace::CommandGroupAdd, 920010},
+        {Workspace::CommandGroupEdit, 920011},
+        {Workspace::CommandGroupDelete, 920012},
+        {Workspace::CommandGroupRun, 920013},
+    };
+    for (const auto& purpose : kPurposes) {
+        if (command.GetCmdGroup() == purpose.group) {
+            return purpose.message;
+        }
+    }
+    return 920014;
+}
+
+/// Made to be run by trees and dialogs, with a node in hand and without asking.
+bool IsHidden(const Workspace::CWsCommand& command) {
+    return command.GetCmdGroup() == Workspace::CommandGroupHidden;
+}
+
+/// Workspace commands can be typed at the host's command line, by their whole id, unless they
+/// are hidden.
 class WorkspaceCommands final : public IEdCommandSource {
 public:
     CommandOutcome Run(const wchar_t* name) override {
         const CString id = CString(name).MakeUpper();
-        Workspace::CWsCommandManager& commands = *CWsManager::Instance()->CmdMgr();
-        if (!commands.GetCommandRegistry()->GetWsCommandMapById()->contains(id)) {
-            return CommandOutcome::Unknown;
-        }
-        const auto result = commands.Execute(id, nullptr, nullptr);
-        return result && result->m_nStatus ? CommandOutcome::Done : CommandOutcome::Failed;
+        const auto& commands =
+            *CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandMapById();
+        const auto hit = commands.find(id);
+        return hit == commands.end() || IsHidden(*hit->second) ? CommandOutcome::Unknown
+                                                               : Workspace::CarryOut({id});
     }
     std::vector<EdSourceCommand> List() const override {
         const bool hasDrawing = acDocManagerPtr()->curDocument() != nullptr;
+        const CModuleConfiguration& messages = *CModuleConfiguration::Instance();
         std::vector<EdSourceCommand> list;
         for (const auto& command :
              *CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandVector()) {
+            if (IsHidden(*command)) {
+                continue;
+            }
             const wchar_t* const whyNot = !command->GetCmdExecutor() ? L"No module carries it out"
                                           : hasDrawing               ? L""
                                                                      : L"No drawing is open";
-            list.push_back(
-                {command->GetId(), command->GetName(), command->GetDescription(), whyNot});
+            list.push_back({command->GetId(), messages.GetMsg(PurposeOf(*command)),
+                            command->GetName(), command->GetDescription(), whyNot});
         }
         return list;
     }

@@ -30,7 +30,7 @@ public:
     void Print(std::wstring_view) override {}
     PromptEnd GetString(bool, std::wstring_view, CString&) override { return PromptEnd::Cancelled; }
     void Alert(std::wstring_view, std::wstring_view) override {}
-    void PostCommand(std::wstring_view) override {}
+    void Escape() override {}
 };
 
 std::string FileOf(int number) {

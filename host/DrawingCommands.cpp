@@ -219,21 +219,26 @@ bool Redo() {
     return Take(kRedo);
 }
 
+constexpr const wchar_t* kDrawings = L"Drawings";
+constexpr const wchar_t* kHistory = L"History";
 constexpr int kNoGroup = ACRX_CMD_NO_UNDO_GROUP;
 constexpr int kOnDrawing = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_NEEDS_DRAWING;
 
 constexpr HostCommand kDrawingCommands[] = {
-    {L"OPEN", RunHostCommand<Open>, L"opens a drawing", kNoGroup},
-    {L"NEW", RunHostCommand<New>, L"begins a new drawing", kNoGroup},
-    {L"SAVE", RunHostCommand<Save>, L"writes the drawing into its file", kOnDrawing},
-    {L"SAVEAS", RunHostCommand<SaveAs>, L"writes the drawing into another file", kOnDrawing},
-    {L"CLOSE", RunHostCommand<Close>, L"closes the drawing", kOnDrawing},
-    {L"DRAWINGS", RunHostCommand<Drawings>, L"lists the open drawings", kNoGroup},
-    {L"SWITCH", RunHostCommand<Switch>, L"makes another drawing the current one", kOnDrawing},
-    {L"UNDO", RunHostCommand<Undo>, L"takes back what the last command changed", kOnDrawing},
-    {L"REDO", RunHostCommand<Redo>, L"brings back what UNDO took", kOnDrawing},
+    {L"OPEN", RunHostCommand<Open>, L"opens a drawing", kNoGroup, kDrawings},
+    {L"NEW", RunHostCommand<New>, L"begins a new drawing", kNoGroup, kDrawings},
+    {L"SAVE", RunHostCommand<Save>, L"writes the drawing into its file", kOnDrawing, kDrawings},
+    {L"SAVEAS", RunHostCommand<SaveAs>, L"writes the drawing into another file", kOnDrawing,
+     kDrawings},
+    {L"CLOSE", RunHostCommand<Close>, L"closes the drawing", kOnDrawing, kDrawings},
+    {L"DRAWINGS", RunHostCommand<Drawings>, L"lists the open drawings", kNoGroup, kDrawings},
+    {L"SWITCH", RunHostCommand<Switch>, L"makes another drawing the current one", kOnDrawing,
+     kDrawings},
+    {L"UNDO", RunHostCommand<Undo>, L"takes back what the last command changed", kOnDrawing,
+     kHistory},
+    {L"REDO", RunHostCommand<Redo>, L"brings back what UNDO took", kOnDrawing, kHistory},
     {L"IMPORT", RunHostCommand<Import>, L"brings a file of another program into the drawing",
-     ACRX_CMD_NEEDS_DRAWING},
+     ACRX_CMD_NEEDS_DRAWING, kDrawings},
 };
 
 } // namespace

@@ -15,14 +15,18 @@ namespace Tessaly {
 namespace {
 
 constexpr const wchar_t* kGroup = L"TESSALY";
-bool s_bQuit = false;
+constexpr const wchar_t* kProgram = L"Program";
+constexpr const wchar_t* kOfModules = L"Support";
 
 bool Quit() {
     if (!AskAboutUnsavedDrawings()) {
         return Refuse(L"", L"The program stays open.");
     }
-    s_bQuit = acedAskToClose();
-    return s_bQuit || Refuse(L"", L"The program stays open: a module does not want to end now.");
+    if (!acedAskToClose()) {
+        return Refuse(L"", L"The program stays open: a module does not want to end now.");
+    }
+    acedRunner().Stop();
+    return true;
 }
 
 bool LoadApplication() {
@@ -41,9 +45,10 @@ bool LoadApplication() {
 bool Help();
 
 constexpr HostCommand kProgramCommands[] = {
-    {L"HELP", RunHostCommand<Help>, L"lists the commands", 0},
-    {L"APPLOAD", RunHostCommand<LoadApplication>, L"loads a host module", 0},
-    {L"QUIT", RunHostCommand<Quit>, L"leaves the program", ACRX_CMD_NO_UNDO_GROUP},
+    {L"HELP", RunHostCommand<Help>, L"lists the commands; HELP and a name explains one",
+     ACRX_CMD_TAKES_TEXT, kProgram},
+    {L"APPLOAD", RunHostCommand<LoadApplication>, L"loads a host module", 0, kProgram},
+    {L"QUIT", RunHostCommand<Quit>, L"leaves the program", ACRX_CMD_NO_UNDO_GROUP, kProgram},
 };
 
 /// All of the host's own, in the order in which they are listed.
@@ -55,14 +60,19 @@ void ForEachHostCommand(Use use) {
     }
 }
 
-CString DescriptionOf(const AcEdCommand& command) {
-    CString description = command.group();
+/// A command of the stack; those of modules stand under the name of their group.
+ListedCommand Listed(const AcEdCommand& command, bool hasDrawing) {
+    ListedCommand listed{command.globalName(), command.group(), CString(), kOfModules};
     ForEachHostCommand([&](const HostCommand& own) {
         if (command.globalName() == own.name) {
-            description = own.description;
+            listed.description = own.description;
+            listed.purpose = own.purpose;
         }
     });
-    return description;
+    if (!hasDrawing && (command.commandFlags() & ACRX_CMD_NEEDS_DRAWING)) {
+        listed.whyNot = L"No drawing is open";
+    }
+    return listed;
 }
 
 /// Users look for a command by its title, too.
@@ -71,10 +81,25 @@ CString WithTitle(const EdSourceCommand& command) {
     return command.title + (hasBoth ? L": " : L"") + command.description;
 }
 
-bool Help() {
+bool Explain(const CString& name) {
     for (const ListedCommand& command : ListCommands()) {
-        acutPrintf(L"%-20s %s\n", command.name, command.description);
+        if (command.name.CompareNoCase(name) == 0) {
+            acutPrintf(L"%s (%s)\n  %s\n", command.name, command.purpose, command.description);
+            if (!command.whyNot.IsEmpty()) {
+                acutPrintf(L"  It cannot run now: %s.\n", command.whyNot);
+            }
+            return true;
+        }
     }
+    acutPrintf(L"There is no command \"%s\". HELP lists the commands.\n", name);
+    return false;
+}
+
+bool Help() {
+    if (!acedCommandText().IsEmpty()) {
+        return Explain(acedCommandText());
+    }
+    acutPrint(CommandsByPurpose(ListCommands()).View());
     return true;
 }
 
@@ -91,20 +116,37 @@ std::vector<ListedCommand> ListCommands() {
     const bool hasDrawing = acDocManagerPtr()->curDocument() != nullptr;
     std::vector<ListedCommand> list;
     for (const auto& command : acedRegCmds()->commands()) {
-        const bool isAble = hasDrawing || !(command->commandFlags() & ACRX_CMD_NEEDS_DRAWING);
-        list.push_back({command->globalName(), DescriptionOf(*command),
-                        isAble ? CString() : CString(L"No drawing is open")});
+        list.push_back(Listed(*command, hasDrawing));
     }
     for (const IEdCommandSource* pSource : acedRegCmds()->sources()) {
         for (const EdSourceCommand& command : pSource->List()) {
-            list.push_back({command.name, WithTitle(command), command.whyNot});
+            list.push_back({command.name, WithTitle(command), command.whyNot, command.purpose});
         }
     }
     return list;
 }
 
+CString CommandsByPurpose(const std::vector<ListedCommand>& commands) {
+    std::vector<CString> purposes;
+    for (const ListedCommand& command : commands) {
+        if (std::find(purposes.begin(), purposes.end(), command.purpose) == purposes.end()) {
+            purposes.push_back(command.purpose);
+        }
+    }
+    CString text;
+    for (const CString& purpose : purposes) {
+        text += (text.IsEmpty() ? L"" : L"\n") + purpose + L"\n";
+        for (const ListedCommand& command : commands) {
+            if (command.purpose == purpose) {
+                text.AppendFormat(L"  %-20s %s\n", command.name, command.description);
+            }
+        }
+    }
+    return text;
+}
+
 bool HasQuit() {
-    return s_bQuit;
+    return acedRunner().IsStopped();
 }
 
 } // namespace Tessaly

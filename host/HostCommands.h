@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/arx/EdCommandStack.h"
+#include "platform/arx/CommandRunner.h"
 
 namespace Tessaly {
 
@@ -12,6 +12,7 @@ struct HostCommand {
     AcRxFunctionPtr function;
     const wchar_t* description;
     int flags;
+    const wchar_t* purpose; ///< heading under which it is listed
 };
 
 /// A command that answers whether it was carried out, as the command stack wants one.
@@ -29,9 +30,12 @@ void RegisterHostCommands();
 struct ListedCommand {
     CString name;
     CString description;
-    CString whyNot; ///< why it cannot run now; empty if it can
+    CString whyNot;       ///< why it cannot run now; empty if it can
+    CString purpose = {}; ///< heading under which it is listed
 };
 std::vector<ListedCommand> ListCommands();
+/// What HELP prints of them: by purpose, in the order in which the purposes come first.
+CString CommandsByPurpose(const std::vector<ListedCommand>& commands);
 
 /// The user has asked to leave, and nobody vetoed.
 bool HasQuit();

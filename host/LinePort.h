@@ -1,6 +1,7 @@
 // A host port that obeys lines of input, such as those of a script.
 #pragma once
 
+#include <exception>
 #include <optional>
 
 #include "host/console/InputLines.h"
@@ -15,13 +16,14 @@ public:
     virtual void SetInput(IInputLines* pInput) = 0;
     /// One line for the command prompt; nothing at the end of the input.
     virtual std::optional<CString> NextLine(std::wstring_view prompt) = 0;
-    /// Forgets the posted texts that only cancel what is open; at the command prompt nothing
-    /// is.
-    virtual void DropEscapes() = 0;
 };
 
 /// Thrown when a command goes on prompting although the input has long ended.
-struct InputEnded {};
+struct InputEnded final : std::exception {
+    const char* what() const noexcept override {
+        return "it goes on asking although the input has ended";
+    }
+};
 
 /// What prompts get when nobody is left to answer them. A command that asks once hears that it
 /// was cancelled. One that asks on and on, as a text console does on Escape, is told to quit;

@@ -1,6 +1,9 @@
 #include <clocale>
 
+#include "host/CommandLines.h"
+#include "host/ExitStatus.h"
 #include "host/Folders.h"
+#include "host/Options.h"
 #include "host/Session.h"
 #include "host/console/ConsolePort.h"
 #include "host/desktop/Desktop.h"
@@ -57,19 +60,20 @@ bool HasDesktop(const Tessaly::Options& options) {
 }
 
 int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
-    Tessaly::Session session(port);
+    Tessaly::Session session;
+    Tessaly::CommandLines lines(port);
     const bool isOpen = session.Start(options.drawing);
     int status = Tessaly::kExitDone;
     if (options.script) {
         // A script that was written for the drawing would work on an empty one.
-        status = isOpen ? session.RunScript(*options.script) : Tessaly::kExitCommandFailed;
+        status = isOpen ? lines.RunScript(*options.script) : Tessaly::kExitCommandFailed;
     } else {
         if (options.first) {
-            session.RunScript(*options.first);
+            lines.RunScript(*options.first);
         }
         acutPrintf(L"\nTessaly. HELP lists the commands, QUIT leaves.\n");
         const auto input = Tessaly::StreamLines(stdin);
-        session.RunPrompt(*input);
+        lines.RunPrompt(*input);
     }
     session.End();
     return status;

@@ -64,11 +64,12 @@ bool Redraw() {
     return pView != nullptr;
 }
 
+constexpr const wchar_t* kView = L"View";
 constexpr int kOnDrawing = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_NEEDS_DRAWING;
 
 constexpr HostCommand kViewCommands[] = {
-    {L"ZOOM", RunHostCommand<Zoom>, L"shows more or less of the drawing", kOnDrawing},
-    {L"REDRAW", RunHostCommand<Redraw>, L"draws anew, without marks", kOnDrawing},
+    {L"ZOOM", RunHostCommand<Zoom>, L"shows more or less of the drawing", kOnDrawing, kView},
+    {L"REDRAW", RunHostCommand<Redraw>, L"draws anew, without marks", kOnDrawing, kView},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "host/console/ConsolePort.h"
 
 #include <unistd.h>
+#include <utility>
 
 #include "platform/mfc/WinApp.h"
 #include "platform/win/CodePage.h"
@@ -37,11 +38,16 @@ void ConsolePort::Print(std::wstring_view text) {
     m_atLineStart = text.back() == L'\n';
 }
 
-void ConsolePort::Alert(std::wstring_view text, std::wstring_view title) {
+void ConsolePort::PrintLine(std::wstring_view text) {
     if (!m_atLineStart) {
         Print(L"\n");
     }
-    Print(FormatText(L"%s: %s\n", title, text));
+    Print(text);
+    Print(L"\n");
+}
+
+void ConsolePort::Alert(std::wstring_view text, std::wstring_view title) {
+    PrintLine(FormatText(L"%s: %s", title, text));
 }
 
 bool ConsolePort::ShowProgress(std::wstring_view what, int percent) {
@@ -76,25 +82,16 @@ void ConsolePort::ClearProgress() {
     }
 }
 
-std::optional<CString> ConsolePort::TakePosted() {
-    if (m_posted.empty()) {
-        return std::nullopt;
-    }
-    CString text = m_posted.front();
-    m_posted.pop_front();
-    return text;
-}
-
-void ConsolePort::DropEscapes() {
-    std::erase(m_posted, CString(kEscape));
-}
-
 std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
+    m_bEscape = false; // at the command prompt nothing is open
+    return ReadLine(prompt);
+}
+
+std::optional<CString> ConsolePort::ReadLine(std::wstring_view prompt) {
     AfxPumpMessages(); // timers and posted messages go on here, too
-    std::optional<CString> line = TakePosted();
-    const bool posted = line.has_value();
+    std::optional<CString> line;
     // A script is looked at first: at its end no prompt is left behind.
-    const bool isScript = !posted && m_pInput && !m_pInput->Name().IsEmpty();
+    const bool isScript = m_pInput && !m_pInput->Name().IsEmpty();
     if (isScript && !(line = m_pInput->Next())) {
         return line;
     }
@@ -105,7 +102,7 @@ std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
     if (!line && m_pInput) {
         line = m_pInput->Next();
     }
-    if (!line || posted || m_pInput->WantsEcho()) {
+    if (!line || m_pInput->WantsEcho()) {
         Print(line ? line->View() : std::wstring_view());
         Print(L"\n");
     }
@@ -115,7 +112,10 @@ std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
 
 PromptEnd ConsolePort::GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) {
     answer.Empty();
-    const std::optional<CString> line = NextLine(prompt);
+    if (std::exchange(m_bEscape, false)) {
+        return PromptEnd::Cancelled;
+    }
+    const std::optional<CString> line = ReadLine(prompt);
     if (!line) {
         return m_behindEnd.Answer(answer);
     }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <chrono>
-#include <deque>
 
 #include "host/LinePort.h"
 #include "host/console/InputLines.h"
@@ -11,8 +10,7 @@
 
 namespace Tessaly {
 
-/// Input may change while the program runs: from a script to the user, say. Texts that
-/// were posted come before any other input.
+/// Input may change while the program runs: from a script to the user, say.
 class ConsolePort final : public ILinePort {
 public:
     explicit ConsolePort(std::FILE* output);
@@ -26,14 +24,14 @@ public:
     void Print(std::wstring_view text) override;
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
-    void PostCommand(std::wstring_view text) override { m_posted.emplace_back(text); }
+    void PrintLine(std::wstring_view text) override;
+    void Escape() override { m_bEscape = true; }
     /// On a terminal in one line, which goes with the work; otherwise in a few lines. Ctrl+C
     /// asks to stop.
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 
     std::optional<CString> NextLine(std::wstring_view prompt) override;
-    void DropEscapes() override;
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -44,7 +42,7 @@ private:
         ProgressText text;
     };
 
-    std::optional<CString> TakePosted();
+    std::optional<CString> ReadLine(std::wstring_view prompt);
     void Write(std::wstring_view text);
     void ClearProgress();
 
@@ -53,7 +51,7 @@ private:
     std::optional<Work> m_work;
     bool m_bProgressShown = false; ///< the cursor is behind it
     IInputLines* m_pInput = nullptr;
-    std::deque<CString> m_posted;
+    bool m_bEscape = false; ///< cancels the next prompt
     bool m_atLineStart = true;
     PromptsBehindEnd m_behindEnd;
 };

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "host/CommandLines.h"
+#include "host/ExitStatus.h"
 #include "host/HostCommands.h"
 #include "host/Session.h"
 #include "host/desktop/DesktopPort.h"
@@ -86,12 +88,11 @@ int TakePicture(Frame& frame, const CString& path) {
     return kExitDone;
 }
 
-int Run(const Options& options, Frame& frame, Session& session) {
+int Run(const Options& options, Frame& frame, DesktopPort& port, Session& session) {
     const bool isOpen = session.Start(options.drawing);
-    frame.Port().EndLine(); // the last module said its name
-    frame.SetSession(&session);
+    port.EndLine(); // the last module said its name
     if (options.first) {
-        frame.RunScript(*options.first);
+        CommandLines(port).RunScript(*options.first);
     }
     if (options.snapshot) {
         const int status = TakePicture(frame, *options.snapshot);
@@ -100,7 +101,7 @@ int Run(const Options& options, Frame& frame, Session& session) {
     }
     const int status = HasQuit() ? kExitDone : QApplication::exec();
     SaveLayout(frame);
-    frame.Port().CancelAll();
+    port.CancelAll();
     session.End();
     return status;
 }
@@ -114,22 +115,22 @@ int RunDesktop(const Options& options) {
     }
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
     Frame frame;
-    IHostPort* const pBefore = SetHostPort(&frame.Port());
-    const FrameDisplay display(frame);
+    DesktopPort port(frame, frame.Pane());
+    IHostPort* const pBefore = SetHostPort(&port);
+    const FrameDisplay display(frame, port);
     if (options.transcript) {
-        frame.Port().SetTranscript(OpenFile(*options.transcript, "wb"));
+        port.SetTranscript(OpenFile(*options.transcript, "wb"));
     }
     RestoreLayout(frame, options);
     int status = kExitDone;
     {
-        Session session(frame.Port());
+        Session session;
         if (options.snapshot) {
             frame.resize(kPictureSize);
         }
         frame.show();
         frame.RaiseFloatingPanes();
-        status = Run(options, frame, session);
-        frame.SetSession(nullptr);
+        status = Run(options, frame, port, session);
     }
     SetHostPort(pBefore);
     return status;

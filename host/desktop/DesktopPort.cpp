@@ -3,8 +3,9 @@
 #include <QApplication>
 
 #include "host/desktop/CommandPane.h"
-#include "host/desktop/Frame.h"
+#include "host/desktop/PromptWindow.h"
 #include "host/desktop/QtTexts.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/mfc/MessageBox.h"
 #include "platform/mfc/Messages.h"
 #include "platform/mfc/WinApp.h"
@@ -34,14 +35,17 @@ CWnd* Over() {
 
 } // namespace
 
-DesktopPort::DesktopPort(Frame& frame) : m_frame(frame) {}
+DesktopPort::DesktopPort(IPromptWindow& window, const CommandPane& pane) : m_window(window) {
+    connect(&pane, &CommandPane::entered, this, &DesktopPort::OnEntered);
+    connect(&pane, &CommandPane::escaped, this, &DesktopPort::Cancel);
+}
 
 DesktopPort::~DesktopPort() = default;
 
 void DesktopPort::Print(std::wstring_view text) {
     if (!text.empty()) {
         m_bAtLineStart = text.back() == L'\n';
-        m_frame.ShowText(ToQt(text));
+        m_window.ShowText(ToQt(text));
         if (m_transcript) {
             const std::string utf8 = WideToUtf8(text);
             std::fwrite(utf8.data(), 1, utf8.size(), m_transcript.get());
@@ -50,9 +54,9 @@ void DesktopPort::Print(std::wstring_view text) {
     }
 }
 
-void DesktopPort::PrintLine(const CString& text) {
+void DesktopPort::PrintLine(std::wstring_view text) {
     EndLine();
-    Print(text.View());
+    Print(text);
     Print(L"\n");
 }
 
@@ -74,23 +78,9 @@ std::optional<CString> DesktopPort::TakeLine() {
 std::optional<CString> DesktopPort::NextLine(std::wstring_view prompt) {
     std::optional<CString> line = TakeLine();
     if (line) {
-        PrintLine(CString(prompt) + *line);
+        PrintLine((CString(prompt) + *line).View());
     }
     return line;
-}
-
-void DesktopPort::DropEscapes() {
-    std::erase(m_posted, CString(kEscape));
-}
-
-std::optional<CString> DesktopPort::TakePosted() {
-    DropEscapes();
-    if (m_posted.empty()) {
-        return std::nullopt;
-    }
-    CString text = m_posted.front();
-    m_posted.pop_front();
-    return text;
 }
 
 PromptEnd DesktopPort::AskInBox(const CString& prompt, CString& answer) {
@@ -117,7 +107,7 @@ PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
         Wait(question, ToQt(prompt));
         line = question.answer;
     }
-    PrintLine(CString(prompt) + (line ? *line : CString(L"*Cancel*")));
+    PrintLine((CString(prompt) + (line ? *line : CString(L"*Cancel*"))).View());
     if (!line || *line == kEscape) {
         return PromptEnd::Cancelled;
     }
@@ -137,13 +127,26 @@ bool DesktopPort::IsAttended() const {
 
 void DesktopPort::Wait(Question& question, const QString& prompt) {
     m_questions.push_back(&question);
-    m_frame.BeginPrompt(prompt);
-    if (question.takesText) {
-        m_frame.Pane().FocusInput();
-    }
+    m_window.BeginPrompt(prompt, question.takesText);
     question.loop.exec();
     std::erase(m_questions, &question);
-    m_frame.EndPrompt();
+    m_window.EndPrompt();
+    acedRunner().WakeSoon(); // what waited for the answer of something that is no command
+}
+
+void DesktopPort::OnEntered(const QString& line) {
+    if (IsPrompting()) {
+        Answer(FromQt(line));
+        return;
+    }
+    CommandRunner& runner = acedRunner();
+    CString name = FromQt(line).Trim();
+    if (name.IsEmpty() && !runner.Recent().empty()) {
+        name = runner.Recent().front();
+    }
+    if (!name.IsEmpty() && !runner.IsBusy()) {
+        runner.Give({name, OrderOrigin::Typed});
+    }
 }
 
 void DesktopPort::Answer(const CString& text) {
@@ -159,7 +162,7 @@ void DesktopPort::Cancel() {
     }
 }
 
-void DesktopPort::CancelOpen() {
+void DesktopPort::CancelPrompts() {
     for (Question* const pQuestion : m_questions) {
         pQuestion->loop.quit();
     }
@@ -167,7 +170,7 @@ void DesktopPort::CancelOpen() {
 
 void DesktopPort::CancelAll() {
     m_bEnding = true;
-    CancelOpen();
+    CancelPrompts();
 }
 
 void DesktopPort::Alert(std::wstring_view text, std::wstring_view title) {
@@ -179,21 +182,12 @@ void DesktopPort::Alert(std::wstring_view text, std::wstring_view title) {
     ShowMessageBox(Over(), CString(text), CString(title), MB_OK | MB_ICONINFORMATION);
 }
 
-void DesktopPort::PostCommand(std::wstring_view text) {
-    if (text == kEscape && IsPrompting()) {
-        Cancel();
-        return;
-    }
-    m_posted.emplace_back(text);
-    m_frame.RunPostedSoon();
-}
-
 bool DesktopPort::ShowProgress(std::wstring_view what, int percent) {
-    return m_frame.ShowProgress(ToQt(what), percent);
+    return m_window.ShowProgress(ToQt(what), percent);
 }
 
 void DesktopPort::EndProgress() {
-    m_frame.EndProgress();
+    m_window.EndProgress();
 }
 
 } // namespace Tessaly

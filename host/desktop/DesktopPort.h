@@ -10,7 +10,8 @@
 
 namespace Tessaly {
 
-class Frame;
+class CommandPane;
+class IPromptWindow;
 
 /// Something that waits for the user in an event loop of its own, while the desktop goes on:
 /// a prompt, or pointing into the drawing.
@@ -26,54 +27,51 @@ struct Question {
 class DesktopPort final : public QObject, public ILinePort {
     Q_OBJECT
 public:
-    explicit DesktopPort(Frame& frame);
+    /// Takes what the user types in the pane.
+    DesktopPort(IPromptWindow& window, const CommandPane& pane);
     ~DesktopPort() override;
 
     void SetInput(IInputLines* pInput) override { m_pInput = pInput; }
     std::optional<CString> NextLine(std::wstring_view prompt) override;
-    void DropEscapes() override;
 
     void Print(std::wstring_view text) override;
-    /// A line of its own.
-    void PrintLine(const CString& text);
+    void PrintLine(std::wstring_view text) override;
     /// What is printed next begins a line.
     void EndLine();
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
-    void PostCommand(std::wstring_view text) override;
+    void Escape() override { Cancel(); }
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 
     /// Everything printed goes to the file, too; null ends that.
     void SetTranscript(FileHandle file) { m_transcript = std::move(file); }
-    /// Answers that the next prompts take, in their order.
-    void QueueAnswer(const CString& answer) { m_answers.push_back(answer); }
-    void DropAnswers() { m_answers.clear(); }
-    /// A command that was posted, to be run now; nothing if none waits.
-    std::optional<CString> TakePosted();
-
+    void SetAnswers(const std::vector<CString>& answers) override {
+        m_answers = {answers.begin(), answers.end()};
+    }
     bool IsScripted() const { return m_pInput || !m_answers.empty(); }
     /// Shows a question and waits until its loop ends.
     void Wait(Question& question, const QString& prompt);
-    bool IsPrompting() const { return !m_questions.empty(); }
-    /// An answer to the innermost question, if that is one that takes a text.
-    void Answer(const CString& text);
-    /// Cancels the innermost question.
-    void Cancel();
-    /// Cancels all that is open now.
-    void CancelOpen();
+    bool IsPrompting() const override { return !m_questions.empty(); }
+    void CancelPrompts() override;
     /// Cancels all questions, those to come included: the program is about to end.
     void CancelAll();
 
 private:
+    /// A line is the answer to the innermost question or, if nothing is asked, a command; an
+    /// empty one is the last command again, as draftsmen are used to.
+    void OnEntered(const QString& line);
+    /// An answer to the innermost question, if that is one that takes a text.
+    void Answer(const CString& text);
+    /// Cancels the innermost question.
+    void Cancel();
     bool IsAttended() const;
     std::optional<CString> TakeLine();
     PromptEnd AskInBox(const CString& prompt, CString& answer);
 
-    Frame& m_frame;
+    IPromptWindow& m_window;
     IInputLines* m_pInput = nullptr;
     std::deque<CString> m_answers;
-    std::deque<CString> m_posted;
     std::vector<Question*> m_questions; ///< the innermost last
     PromptsBehindEnd m_behindEnd;
     FileHandle m_transcript;

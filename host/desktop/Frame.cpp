@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -13,16 +14,19 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <QUrl>
 
 #include "host/HostCommands.h"
 #include "host/desktop/CommandPalette.h"
 #include "host/desktop/CommandPane.h"
-#include "host/desktop/DesktopPort.h"
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/Theme.h"
 #include "host/desktop/view/DrawingView.h"
+#include "platform/arx/EdPrompt.h"
+#include "platform/arx/HostOptions.h"
 #include "platform/mfc/Dialog.h"
 #include "platform/mfc/NativeWidget.h"
+#include "platform/mfc/WinApp.h"
 #include "platform/win/Screens.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 
@@ -30,10 +34,10 @@ namespace Tessaly {
 
 namespace {
 
-constexpr std::size_t kMostRecent = 30;
 constexpr int kTitleInterval = 500; // ms
 /// Between two looks at what the user does while long work goes on.
 constexpr int kEventInterval = 40; // ms
+constexpr const wchar_t* kHelpPage = L"help/index.htm";
 constexpr const wchar_t* kFirstWords = L"Tessaly. HELP lists the commands, QUIT leaves.\n";
 
 const QString kDrawingFilter = QStringLiteral("Drawings (*.gpkg);;All files (*)");
@@ -57,7 +61,7 @@ std::vector<CDialog*> DialogsAround(CWnd* pWindow) {
 
 } // namespace
 
-Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
+Frame::Frame() {
     setObjectName(QStringLiteral("Frame"));
     m_pTabs = new QTabWidget;
     m_pTabs->setDocumentMode(true);
@@ -68,13 +72,14 @@ Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
     connect(m_pTabs, &QTabWidget::currentChanged, this, &Frame::OnTabChanged);
     connect(m_pTabs, &QTabWidget::tabCloseRequested, this, [this](int index) {
         m_pTabs->setCurrentIndex(index);
-        Run(L"CLOSE");
+        acedRunner().Give({L"CLOSE", OrderOrigin::Menu});
     });
     MakePanes();
     MakeStatusBar();
     m_pPalette = new CommandPalette(this);
-    connect(m_pPalette, &CommandPalette::chosen, this,
-            [this](const QString& name) { Run(FromQt(name)); });
+    connect(m_pPalette, &CommandPalette::chosen, this, [](const QString& name) {
+        acedRunner().Give({FromQt(name), OrderOrigin::Palette});
+    });
     MakeMenus();
     m_pSystemTheme = std::make_unique<SystemTheme>();
     connect(m_pSystemTheme.get(), &SystemTheme::changed, this, &Frame::FollowTheme);
@@ -82,6 +87,7 @@ Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
     connect(pTimer, &QTimer::timeout, this, &Frame::UpdateTitles);
     pTimer->start(kTitleInterval);
     acDocManagerPtr()->addReactor(this);
+    acedRunner().AddWatcher(this);
     AttachNativeWidget(m_window, this);
     acedSetAcadFrame(&m_window);
     resize(1280, 860);
@@ -92,6 +98,7 @@ Frame::Frame() : m_pPort(std::make_unique<DesktopPort>(*this)) {
 Frame::~Frame() {
     acedSetAcadDwgView(nullptr);
     acedSetAcadFrame(nullptr);
+    acedRunner().RemoveWatcher(this);
     acDocManagerPtr()->removeReactor(this);
 }
 
@@ -145,65 +152,27 @@ void Frame::keyPressEvent(QKeyEvent* pEvent) {
 // Commands.
 
 void Frame::OnEntered(const QString& line) {
-    if (m_pPort->IsPrompting()) {
-        m_pPort->Answer(FromQt(line));
-    } else if (!IsRunning()) {
-        // Nothing typed means the last command again, as draftsmen are used to.
-        const CString name = FromQt(line).Trim();
+    if (!acedRunner().IsBusy()) {
         m_pPane->Remember(line);
-        if (!name.IsEmpty() || !m_recent.empty()) {
-            Run(name.IsEmpty() ? m_recent.front() : name);
-        }
     }
 }
 
 void Frame::OnEscaped() {
     DrawingView* const pView = CurrentView();
-    if (m_pPort->IsPrompting()) {
-        m_pPort->Cancel();
-    } else if (pView) {
+    if (m_prompts.isEmpty() && pView) {
         pView->SetSelection({});
     }
 }
 
-void Frame::Run(const CString& name) {
-    if (!m_pSession) {
+void Frame::CommandEnded(const CommandOrder&, bool) {
+    if (acedRunner().IsBusy()) {
         return;
     }
-    if (IsRunning()) {
-        m_pPort->CancelOpen();
-        m_pPort->PostCommand(name.View());
-        return;
-    }
-    const auto used = std::find(m_recent.begin(), m_recent.end(), CString(name).MakeUpper());
-    if (used != m_recent.end()) {
-        m_recent.erase(used);
-    }
-    m_recent.insert(m_recent.begin(), CString(name).MakeUpper());
-    m_recent.resize(std::min(m_recent.size(), kMostRecent));
-    m_pPort->PrintLine(L"> " + name);
-    ++m_nDepth;
-    m_pSession->RunCommand(name);
-    --m_nDepth;
-    m_pPort->DropAnswers();
-    AfterRunning();
-}
-
-int Frame::RunScript(const CString& path) {
-    ++m_nDepth;
-    const int status = m_pSession->RunScript(path);
-    --m_nDepth;
-    AfterRunning();
-    return status;
-}
-
-void Frame::AfterRunning() {
     UpdateTitles();
     if (HasQuit()) {
         // Behind what is still open, so that nothing is left in a loop of its own.
         QMetaObject::invokeMethod(this, "LeaveLoop", Qt::QueuedConnection);
     }
-    RunPostedSoon();
 }
 
 void Frame::LeaveLoop() {
@@ -212,34 +181,8 @@ void Frame::LeaveLoop() {
     QCoreApplication::exit();
 }
 
-void Frame::RunAnswered(const CString& name, const std::vector<CString>& answers) {
-    if (IsRunning()) {
-        return;
-    }
-    for (const CString& answer : answers) {
-        m_pPort->QueueAnswer(answer);
-    }
-    Run(name);
-}
-
-bool Frame::IsScripted() const {
-    return m_pPort->IsScripted();
-}
-
-void Frame::RunPostedSoon() {
-    QMetaObject::invokeMethod(this, "RunPosted", Qt::QueuedConnection);
-}
-
-void Frame::RunPosted() {
-    if (!IsRunning() && m_pSession && !HasQuit()) {
-        if (const std::optional<CString> posted = m_pPort->TakePosted()) {
-            Run(*posted);
-        }
-    }
-}
-
 void Frame::ShowPalette() {
-    m_pPalette->Open(ListCommands(), m_recent);
+    m_pPalette->Open(ListCommands(), acedRunner().Recent());
 }
 
 void Frame::UpdateCompletions() {
@@ -255,7 +198,7 @@ void Frame::OpenWithDialog() {
     const QString file =
         QFileDialog::getOpenFileName(this, tr("Open a drawing"), {}, kDrawingFilter);
     if (!file.isEmpty()) {
-        RunAnswered(L"OPEN", {FromQt(file)});
+        acedRunner().Give({L"OPEN", OrderOrigin::Menu, nullptr, {FromQt(file)}});
     }
 }
 
@@ -264,36 +207,45 @@ void Frame::SaveAsWithDialog() {
         QFileDialog::getSaveFileName(this, tr("Save the drawing as"), {}, kDrawingFilter);
     if (!file.isEmpty()) {
         // The dialog has asked already whether a file may be replaced.
-        RunAnswered(L"SAVEAS", {FromQt(file), L"Yes"});
+        acedRunner().Give({L"SAVEAS", OrderOrigin::Menu, nullptr, {FromQt(file), L"Yes"}});
     }
 }
 
 void Frame::ImportWithDialog() {
     const QString file = QFileDialog::getOpenFileName(this, tr("Import a file"));
     if (!file.isEmpty()) {
-        RunAnswered(L"IMPORT", {FromQt(file)});
+        acedRunner().Give({L"IMPORT", OrderOrigin::Menu, nullptr, {FromQt(file)}});
     }
 }
 
-// For the port.
+void Frame::OpenHelp() {
+    const CString page = GetHostOption(kHostOptionInstall) + kHelpPage;
+    const QUrl address = QUrl::fromLocalFile(ToQt(page.View()));
+    if (!QFileInfo::exists(address.toLocalFile()) ||
+        !AfxOpenAddress(FromQt(address.toString(QUrl::FullyEncoded)))) {
+        acutPrintf(L"The help could not be opened: %s\n", page);
+    }
+}
+
+// What the user is asked, and told.
 
 void Frame::ShowText(const QString& text) {
     m_pPane->Append(text);
 }
 
-void Frame::BeginPrompt(const QString& prompt) {
+void Frame::BeginPrompt(const QString& prompt, bool takesText) {
     m_prompts.append(prompt);
     m_pPane->SetPrompt(prompt);
     m_pPane->SetCompleting(false);
+    if (takesText) {
+        m_pPane->FocusInput();
+    }
 }
 
 void Frame::EndPrompt() {
     m_prompts.removeLast();
     m_pPane->SetPrompt(m_prompts.isEmpty() ? QString() : m_prompts.last());
     m_pPane->SetCompleting(m_prompts.isEmpty());
-    if (!IsRunning()) {
-        RunPostedSoon();
-    }
 }
 
 bool Frame::ShowProgress(const QString& what, int percent) {
@@ -360,7 +312,7 @@ void Frame::closeEvent(QCloseEvent* pEvent) {
     // QUIT asks about changes, and the modules, and closes the window if all agree.
     pEvent->ignore();
     if (m_pWork->isHidden()) {
-        Run(L"QUIT");
+        acedRunner().Give({L"QUIT", OrderOrigin::Menu});
     }
 }
 
@@ -412,7 +364,7 @@ void Frame::documentToBeDestroyed(AcApDocument* pDoc) {
 void Frame::OnTabChanged(int index) {
     for (const auto& [pDoc, view] : m_views) {
         if (!m_bFollowing && m_pTabs->widget(index) == view.pView) {
-            if (IsRunning()) {
+            if (acedRunner().IsBusy()) {
                 // A command works on the drawing that it began with.
                 documentBecameCurrent(acDocManagerPtr()->curDocument());
             } else {
@@ -438,7 +390,7 @@ void Frame::UpdateTitles() {
                               QStringLiteral("[*] – Tessaly")
                         : QStringLiteral("Tessaly"));
     setWindowModified(pDoc && pDoc->isModified());
-    if (!m_pPalette->isVisible() && !IsRunning()) {
+    if (!m_pPalette->isVisible() && !acedRunner().IsBusy()) {
         const auto count = acedRegCmds()->commands().size() + acedRegCmds()->sources().size();
         if (static std::size_t s_nLast = 0; s_nLast != count) {
             s_nLast = count;

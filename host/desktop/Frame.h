@@ -7,9 +7,10 @@
 #include <memory>
 #include <optional>
 
-#include "host/Session.h"
 #include "host/desktop/LayoutFile.h"
+#include "host/desktop/PromptWindow.h"
 #include "platform/arx/ApDocManager.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/mfc/Wnd.h"
 
 class QDockWidget;
@@ -22,21 +23,20 @@ namespace Tessaly {
 
 class CommandPane;
 class CommandPalette;
-class DesktopPort;
 class DrawingView;
 class SystemTheme;
 
-/// Shows what the document manager has, and runs commands one at a time: what is asked for
-/// while one runs waits for its end.
-class Frame final : public QMainWindow, private AcApDocManagerReactor {
+/// Shows what the document manager has, and gives the command runner what menus and keys ask
+/// for.
+class Frame final : public QMainWindow,
+                    public IPromptWindow,
+                    private AcApDocManagerReactor,
+                    private ICommandWatcher {
     Q_OBJECT
 public:
     Frame();
     ~Frame() override;
 
-    DesktopPort& Port() { return *m_pPort; }
-    /// Takes commands from now on. Not owned.
-    void SetSession(Session* pSession) { m_pSession = pSession; }
     /// The view of the current drawing; null without one.
     DrawingView* CurrentView() const;
     CommandPane& Pane() { return *m_pPane; }
@@ -51,25 +51,12 @@ public:
     /// Panes that float come to lie behind a window that is shown after them.
     void RaiseFloatingPanes();
 
-    /// Runs a command, now or when the running one has ended; one that waits at a prompt is
-    /// cancelled for it.
-    void Run(const CString& name);
-    /// Runs a command whose first prompts are answered already.
-    void RunAnswered(const CString& name, const std::vector<CString>& answers);
-    /// A command runs, or something waits for the user's answer.
-    bool IsRunning() const { return m_nDepth > 0 || !m_prompts.isEmpty(); }
-    /// Runs the commands of a file; see Session::RunScript.
-    int RunScript(const CString& path);
-    /// Answers come from a script.
-    bool IsScripted() const;
-
-    // For the port.
-    void ShowText(const QString& text);
-    void BeginPrompt(const QString& prompt);
-    void EndPrompt();
-    void RunPostedSoon();
-    bool ShowProgress(const QString& what, int percent);
-    void EndProgress();
+    // What the user is asked, and told.
+    void ShowText(const QString& text) override;
+    void BeginPrompt(const QString& prompt, bool takesText) override;
+    void EndPrompt() override;
+    bool ShowProgress(const QString& what, int percent) override;
+    void EndProgress() override;
 
 protected:
     void closeEvent(QCloseEvent* pEvent) override;
@@ -78,12 +65,12 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private slots:
-    void RunPosted();
     void LeaveLoop();
 
 private:
     void documentBecameCurrent(AcApDocument* pDoc) override;
     void documentToBeDestroyed(AcApDocument* pDoc) override;
+    void CommandEnded(const CommandOrder& order, bool hasThrown) override;
 
     void MakeMenus();
     void MakePanes();
@@ -91,7 +78,7 @@ private:
     void MakeThemeMenu(QMenu& menu);
     void OnEntered(const QString& line);
     void OnEscaped();
-    void AfterRunning();
+    void OpenHelp();
     void ShowPalette();
     void UpdateTitles();
     void UpdateCompletions();
@@ -108,8 +95,6 @@ private:
     void RestWhileWorking();
     void LeaveKeyboardTo(DrawingView& view);
 
-    std::unique_ptr<DesktopPort> m_pPort;
-    Session* m_pSession = nullptr;
     CommandPane* m_pPane = nullptr;
     QDockWidget* m_pCommandDock = nullptr;
     QTabWidget* m_pTabs = nullptr;
@@ -124,14 +109,12 @@ private:
         std::unique_ptr<CWnd> pWindow; ///< stands for it
     };
     std::map<AcApDocument*, View> m_views;
-    std::vector<CString> m_recent; ///< the command used last first
     CString m_strTheme;
     std::optional<CString> m_themeOfRun;
     std::unique_ptr<SystemTheme> m_pSystemTheme;
     std::vector<QPointer<QWidget>> m_resting; ///< while long work goes on
     QPointer<QWidget> m_focusBefore;          ///< that work
     QStringList m_prompts;                    ///< that are open, the innermost last
-    int m_nDepth = 0;                         ///< commands that run, one inside of the other
     bool m_bStopAsked = false;
     bool m_bFollowing = false; ///< the tabs are being made to show what is current
 };

@@ -26,7 +26,8 @@ struct FrameDisplay::Pick {
     }
 };
 
-FrameDisplay::FrameDisplay(Frame& frame) : m_frame(frame), m_pBefore(SetDrawingDisplay(this)) {}
+FrameDisplay::FrameDisplay(Frame& frame, DesktopPort& port)
+    : m_frame(frame), m_port(port), m_pBefore(SetDrawingDisplay(this)) {}
 
 FrameDisplay::~FrameDisplay() {
     SetDrawingDisplay(m_pBefore);
@@ -34,7 +35,7 @@ FrameDisplay::~FrameDisplay() {
 
 PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) {
     DrawingView* const pView = m_frame.CurrentView();
-    if (!pView || m_frame.IsScripted()) {
+    if (!pView || m_port.IsScripted()) {
         // A script points by number.
         SetDrawingDisplay(nullptr);
         const int status = acedEntSel(prompt, id, place);
@@ -62,7 +63,7 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
     QObject::connect(pView, &QObject::destroyed, &pick.question.loop, &QEventLoop::quit);
     m_picks.push_back(&pick);
     pick.Start();
-    m_frame.Port().Wait(pick.question, ToQt(prompt));
+    m_port.Wait(pick.question, ToQt(prompt));
     if (pick.view && pick.view->IsPicking()) {
         pick.view->CancelPick(); // it was cancelled elsewhere; still the last one, so it alone ends
     }
@@ -79,7 +80,7 @@ void FrameDisplay::Report(const wchar_t* prompt, PickOutcome outcome, AcDbObject
     const CString text = outcome == PickOutcome::Picked   ? FormatText(L"%u", id.number())
                          : outcome == PickOutcome::Missed ? CString(L"*Nothing there*")
                                                           : CString(L"*Cancel*");
-    m_frame.Port().PrintLine(CString(prompt) + text);
+    m_port.PrintLine((CString(prompt) + text).View());
 }
 
 bool FrameDisplay::ZoomTo(std::span<const AcDbObjectId> ids, double factor) {

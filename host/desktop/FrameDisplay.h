@@ -7,12 +7,13 @@
 
 namespace Tessaly {
 
+class DesktopPort;
 class Frame;
 
 /// Hands everything on to the view of the current drawing. In force while it lives.
 class FrameDisplay final : public IDrawingDisplay {
 public:
-    explicit FrameDisplay(Frame& frame);
+    FrameDisplay(Frame& frame, DesktopPort& port);
     ~FrameDisplay() override;
     FrameDisplay(const FrameDisplay&) = delete;
     FrameDisplay& operator=(const FrameDisplay&) = delete;
@@ -31,6 +32,7 @@ private:
     void Report(const wchar_t* prompt, PickOutcome outcome, AcDbObjectId id);
 
     Frame& m_frame;
+    DesktopPort& m_port;
     std::vector<Pick*> m_picks; ///< the innermost last
     IDrawingDisplay* m_pBefore;
 };

@@ -121,7 +121,9 @@ void Frame::MakeMenus() {
     };
     const auto command = [&](QMenu* pMenu, const MenuCommand& entry) {
         add(pMenu, tr(entry.text), QString::fromLatin1(entry.shortcut),
-            [this, name = CString(entry.command)] { Run(name); });
+            [name = CString(entry.command)] {
+                acedRunner().Give({name, OrderOrigin::Menu});
+            });
     };
     QMenu* const pFile = menuBar()->addMenu(tr("&File"));
     command(pFile, {"&New", "Ctrl+N", L"NEW"});
@@ -163,7 +165,8 @@ void Frame::MakeMenus() {
         [this] { m_pPane->GoToInput(); });
 
     QMenu* const pHelp = menuBar()->addMenu(tr("&Help"));
-    command(pHelp, {"&Commands", "F1", L"HELP"});
+    add(pHelp, tr("&Help"), QStringLiteral("F1"), [this] { OpenHelp(); });
+    command(pHelp, {"&Commands", "", L"HELP"});
 }
 
 void Frame::MakeThemeMenu(QMenu& menu) {
@@ -239,7 +242,7 @@ void Frame::FollowTheme() {
 // Where it was.
 
 void Frame::ApplyLayout(const Layout& layout) {
-    m_recent = layout.recent;
+    acedRunner().SetRecent(layout.recent);
     QStringList history;
     for (const CString& line : layout.history) {
         history.append(ToQt(line.View()));
@@ -267,7 +270,7 @@ Layout Frame::CurrentLayout() const {
     layout.window = RectOf(*this);
     layout.isMaximized = isMaximized();
     layout.panes = saveState(kPaneVersion).toStdString();
-    layout.recent = m_recent;
+    layout.recent = acedRunner().Recent();
     for (const QString& line : m_pPane->History()) {
         layout.history.push_back(FromQt(line));
     }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <exception>
 #include <map>
 #include <mutex>
 #include <new>
@@ -16,6 +15,7 @@
 #include "host/storage/ImportCheck.h"
 #include "host/storage/RowProgress.h"
 #include "host/storage/Shapes.h"
+#include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
 
@@ -154,8 +154,8 @@ AcDbImportResult Importer::Import(const wchar_t* path, const AcDbProgress& progr
         return ImportFile(native, progress);
     } catch (const std::bad_alloc&) {
         failed.reason = FileReason(native, L"there is not enough memory for it");
-    } catch (const std::exception& error) {
-        failed.reason = FileReason(native, Utf8ToWide(error.what()));
+    } catch (...) {
+        failed.reason = FileReason(native, CaughtReason());
     }
     return failed;
 }

@@ -1,6 +1,5 @@
 #include "host/storage/OpenAndSave.h"
 
-#include <exception>
 #include <filesystem>
 #include <map>
 #include <new>
@@ -13,6 +12,7 @@
 #include "host/storage/SourceCopy.h"
 #include "host/storage/UnfinishedFile.h"
 #include "platform/arx/DbDatabase.h"
+#include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -135,8 +135,8 @@ AcDbStorageResult Guarded(const std::string& path, Work work) {
         return work();
     } catch (const std::bad_alloc&) {
         return Refusal(path, L"there is not enough memory for it");
-    } catch (const std::exception& error) {
-        return Refusal(path, Utf8ToWide(error.what()));
+    } catch (...) {
+        return Refusal(path, CaughtReason());
     }
 }
 

@@ -16,12 +16,24 @@ ActivityScope::ActivityScope(const wchar_t* subject, const wchar_t* step)
     : m_pszSubject(subject), m_pszStep(step), m_nExceptions(std::uncaught_exceptions()) {}
 
 ActivityScope::~ActivityScope() {
+    if (std::uncaught_exceptions() > m_nExceptions) {
+        NoteInterruptedActivity(m_pszSubject, m_pszStep);
+    }
+}
+
+void NoteInterruptedActivity(const CString& subject, const wchar_t* step) {
     // The innermost scope is unwound first and has the most to tell.
-    if (std::uncaught_exceptions() > m_nExceptions && Interrupted().IsEmpty()) {
-        Interrupted().Format(L"%s: %s", m_pszSubject, m_pszStep);
+    if (Interrupted().IsEmpty()) {
+        Interrupted().Format(L"%s: %s", subject, step);
     }
 }
 
 CString TakeInterruptedActivity() {
     return std::exchange(Interrupted(), CString());
+}
+
+OwnActivities::OwnActivities() : m_strAside(TakeInterruptedActivity()) {}
+
+OwnActivities::~OwnActivities() {
+    Interrupted() = std::move(m_strAside);
 }

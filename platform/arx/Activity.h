@@ -21,6 +21,23 @@ private:
     int m_nExceptions;
 };
 
+/// The same for code that catches an exception to pass it on: keeps who was at work, unless
+/// somebody further inside has said so already.
+PLATFORM_API void NoteInterruptedActivity(const CString& subject, const wchar_t* step);
+
 /// The innermost activity that the last exception left, as "subject: step", and forgets it.
 /// Empty if there was none.
 PLATFORM_API CString TakeInterruptedActivity();
+
+/// Sets aside what is kept of an exception that is still on its way, or that somebody has caught
+/// meanwhile: what is kept in this scope is of what happens in it.
+class PLATFORM_API OwnActivities {
+public:
+    OwnActivities();
+    ~OwnActivities();
+    OwnActivities(const OwnActivities&) = delete;
+    OwnActivities& operator=(const OwnActivities&) = delete;
+
+private:
+    CString m_strAside;
+};

@@ -7,6 +7,7 @@
 #include "platform/arx/DrawingPath.h"
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdEditor.h"
+#include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
 
@@ -15,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const wchar_t* kNewName = L"Drawing%d";
+constexpr const wchar_t* kEvent = L"document event";
 
 bool IsSameFile(const CString& left, const CString& right) {
     std::error_code ignored;
@@ -82,7 +84,8 @@ void AcApDocManager::Tell(Call call) {
     const std::vector<AcApDocManagerReactor*> reactors = m_reactors;
     for (AcApDocManagerReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
-            call(*pReactor);
+            // Each keeps track of the same documents, so none may miss what another fails at.
+            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }
 }

@@ -17,6 +17,8 @@ inline constexpr int ACRX_CMD_NO_UNDO_GROUP = 2;
 /// The command works on the current drawing, so that lists of commands can tell why it cannot
 /// run now. It is not kept from running: the command itself says so, too.
 inline constexpr int ACRX_CMD_NEEDS_DRAWING = 4;
+/// Words may be typed behind the command's name; see acedCommandText.
+inline constexpr int ACRX_CMD_TAKES_TEXT = 8;
 
 using AcRxFunctionPtr = void (*)();
 
@@ -49,14 +51,11 @@ enum class CommandOutcome {
     Failed, ///< it ran, and said that it was not carried out
 };
 
-/// Says that the running command was not carried out, for commands that are plain functions;
-/// why is for the command to print. A script stops at it.
-PLATFORM_API void acedSetCommandFailed();
-
 /// What lists of commands show of one that a source has.
 struct EdSourceCommand {
-    CString name;  ///< as it can be typed
-    CString title; ///< what users call it; may be empty
+    CString name;    ///< as it can be typed
+    CString purpose; ///< heading under which it is listed
+    CString title;   ///< what users call it; may be empty
     CString description;
     CString whyNot; ///< why it cannot run now; empty if it can
 };
@@ -65,6 +64,7 @@ struct EdSourceCommand {
 class PLATFORM_API IEdCommandSource {
 public:
     virtual ~IEdCommandSource() = default;
+    /// Called by the command runner.
     /// \param name as it was typed
     virtual CommandOutcome Run(const wchar_t* name) = 0;
     virtual std::vector<EdSourceCommand> List() const = 0;
@@ -87,11 +87,6 @@ public:
     void addSource(IEdCommandSource* pSource) { m_sources.push_back(pSource); }
     void removeSource(IEdCommandSource* pSource) { std::erase(m_sources, pSource); }
     const std::vector<IEdCommandSource*>& sources() const { return m_sources; }
-
-    /// Runs a command by name: a registered one, else the first source's that has it. What it
-    /// changes in the drawing that is current now is one step of the undo history, under the
-    /// command's name; also if it throws.
-    CommandOutcome run(const wchar_t* name) const;
 
 private:
     std::vector<std::shared_ptr<const AcEdCommand>> m_commands;

@@ -4,9 +4,12 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 
 namespace {
+
+constexpr const wchar_t* kEvent = L"save event";
 
 AcRxClass* MakeClass(const wchar_t* name) {
     AcRxClass* const pClass = newAcRxClass(name, L"AcRxObject");
@@ -32,7 +35,8 @@ void AcEditor::Tell(Call call) {
     const std::vector<AcEditorReactor*> reactors = m_reactors;
     for (AcEditorReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
-            call(*pReactor);
+            // A save goes on, whoever fails: the drawing is the user's work.
+            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }
 }

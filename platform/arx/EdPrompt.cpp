@@ -2,12 +2,15 @@
 
 #include <algorithm>
 
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/HostPort.h"
 
 namespace {
 
 /// Title of messages that name none.
 constexpr std::wstring_view kMessageTitle = L"Tessaly";
+
+constexpr const wchar_t* kEscape = L"\x1B";
 
 AcColorSettings& Colors() {
     static AcColorSettings colors;
@@ -47,7 +50,12 @@ void AfxMessageBox(const wchar_t* message) {
 }
 
 void acedPostCommand(const wchar_t* text) {
-    HostPort().PostCommand(text ? text : L"");
+    const CString command(text ? text : L"");
+    if (command == kEscape) {
+        HostPort().Escape();
+    } else {
+        acedRunner().Post({command, OrderOrigin::Module});
+    }
 }
 
 bool acedGetCurrentColors(AcColorSettings* pColors) {

@@ -36,8 +36,8 @@ PLATFORM_API void acedAlert(const wchar_t* message);
 /// Shows a message box of the default style: the text and one button.
 PLATFORM_API void AfxMessageBox(const wchar_t* message);
 
-/// Has the host take a text as input once the running command has ended. One Escape
-/// character cancels what is still open.
+/// Has the host run the command of this name once the running one has ended. A single Escape
+/// character cancels what is still open instead.
 PLATFORM_API void acedPostCommand(const wchar_t* text);
 
 /// Colours of the host's own surfaces as 32-bit values, by their fixed places.

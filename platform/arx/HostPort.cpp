@@ -17,7 +17,7 @@ public:
         Print(text);
         Print(L"\n");
     }
-    void PostCommand(std::wstring_view) override {}
+    void Escape() override {}
 };
 
 IHostPort*& Current() {

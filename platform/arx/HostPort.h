@@ -1,6 +1,8 @@
 // What a host program has to provide so that modules can talk to the user.
 #pragma once
 
+#include <vector>
+
 #include "platform/win/String.h"
 
 /// How a prompt ended.
@@ -22,8 +24,22 @@ public:
     virtual PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) = 0;
     /// Shows a text until the user has taken note of it.
     virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
-    /// Has the host take a text as if the user had typed it, once the running command ended.
-    virtual void PostCommand(std::wstring_view text) = 0;
+    /// Writes a line of its own.
+    virtual void PrintLine(std::wstring_view text) {
+        Print(text);
+        Print(L"\n");
+    }
+    /// As the Escape key: cancels the prompt that is open, or the next one of the running
+    /// command.
+    virtual void Escape() = 0;
+
+    /// A prompt waits for the user, within a command or not.
+    virtual bool IsPrompting() const { return false; }
+    /// Cancels all prompts that wait, because another command is to run.
+    virtual void CancelPrompts() {}
+    /// What the next prompts are answered with, in this order. Replaces what is left of
+    /// earlier ones.
+    virtual void SetAnswers(const std::vector<CString>& /*answers*/) {}
 
     /// Shows how far long work is, in percent. False once the user wants it to stop. The
     /// first call, with 0, comes as the work begins; texts may be printed in between.

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/arx/Guard.h"
+
 namespace {
+
+constexpr const wchar_t* kEvent = L"closing event";
 
 std::vector<AcApHostReactor*>& Reactors() {
     static auto* const reactors = new std::vector<AcApHostReactor*>;
@@ -22,6 +26,11 @@ void acedRemoveHostReactor(AcApHostReactor* pReactor) {
 
 bool acedAskToClose() {
     const std::vector<AcApHostReactor*> reactors = Reactors();
-    return std::none_of(reactors.begin(), reactors.end(),
-                        [](AcApHostReactor* pReactor) { return pReactor->hostToClose(); });
+    return std::none_of(reactors.begin(), reactors.end(), [](AcApHostReactor* pReactor) {
+        bool isVeto = false;
+        // One that cannot answer must not hold the user.
+        Guarded(kEvent,
+                [&] { CallForeign(*pReactor, kEvent, [&] { isVeto = pReactor->hostToClose(); }); });
+        return isVeto;
+    });
 }

@@ -1,6 +1,8 @@
 // The toolkit behind the windows: when it comes to life, and whether there is a desktop.
 #pragma once
 
+#include <functional>
+
 #include "platform/Api.h"
 
 /// With a desktop, windows and message boxes wait for the user. Without one (the state at
@@ -23,6 +25,9 @@ PLATFORM_API void AfxStopToolkit();
 
 /// Runs what waits: posted messages, timers that are due, painting. Does not wait itself.
 PLATFORM_API void AfxPumpMessages();
+/// Has something called from the message loop, once what is going on now has returned to it.
+/// Does nothing before the toolkit is alive.
+PLATFORM_API void AfxCallSoon(std::function<void()> call);
 /// Runs what comes until a file (a terminal, a pipe) has something to read, so that timers
 /// and posted messages go on in a console. Does nothing before the toolkit is alive, nor
 /// within itself.

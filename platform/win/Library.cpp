@@ -59,6 +59,12 @@ void* GetProcAddress(HINSTANCE library, const char* name) {
     return isOwn ? address : nullptr;
 }
 
+CString LibraryOfAddress(const void* address) {
+    Dl_info found{};
+    const bool isFound = dladdr(address, &found) != 0 && found.dli_fname;
+    return isFound ? FileNameOf(CString(Utf8ToWide(found.dli_fname))) : CString();
+}
+
 bool FreeLibrary(HINSTANCE library) {
     return library && dlclose(library) == 0;
 }

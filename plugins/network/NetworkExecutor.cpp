@@ -1,7 +1,7 @@
 #include "plugins/network/NetworkExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/common/Prompts.h"
 #include "plugins/common/SystemNetwork.h"
 #include "plugins/common/SystemTexts.h"
@@ -15,15 +15,16 @@
 #include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscore/topology/Topology.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
+#include "workspacecore/commands/CommandScope.h"
 
 namespace Orvane::Network {
 
 using Plugins::Ask;
-using Plugins::CommandScope;
 using Plugins::FunctionName;
 using Plugins::OwnCommandId;
 using Plugins::PrintLine;
 using Plugins::Refuse;
+using Workspace::CommandScope;
 
 namespace {
 
@@ -145,12 +146,11 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
                           Workspace::CWsTreeItemData*) {
     auto result = Workspace::NeutralReturnValue();
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
-        const CommandScope scope(pCommand->id);
-        if (!acdbHostApplicationServices()->workingDatabase()) {
-            Refuse(L"No drawing is open.");
-            return result;
-        }
-        result->m_nStatus = pCommand->run() ? 1 : 0;
+        CommandScope::Run(pCommand->id, [&] {
+            const bool hasDrawing = acdbHostApplicationServices()->workingDatabase() != nullptr;
+            const bool isDone = hasDrawing ? pCommand->run() : Refuse(L"No drawing is open.");
+            result->m_nStatus = isDone ? 1 : 0;
+        });
     }
     return result;
 }

@@ -1,7 +1,8 @@
 #include "plugins/panels/PanelCommands.h"
 
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/panels/PanelTexts.h"
+#include "workspacecore/commands/CommandScope.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Panels {
@@ -26,8 +27,8 @@ CPanelExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*,
     const CString id = Plugins::OwnCommandId(lpszCommandId);
     ForEachCommand([&](const PanelCommand& command) {
         if (id == command.id) {
-            const Plugins::CommandScope scope(command.id);
-            result->m_nStatus = command.run() ? 1 : 0;
+            Workspace::CommandScope::Run(command.id,
+                                         [&] { result->m_nStatus = command.run() ? 1 : 0; });
         }
     });
     return result;

@@ -1,12 +1,13 @@
 #include "plugins/panels/PropertiesDialog.h"
 
 #include "platform/arx/ApDocManager.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/mfc/DataExchange.h"
-#include "plugins/common/CommandScope.h"
 #include "plugins/panels/EntityTexts.h"
 #include "plugins/panels/PanelTexts.h"
+#include "workspacecore/commands/CommandScope.h"
 
 namespace Orvane::Panels {
 
@@ -14,7 +15,6 @@ namespace {
 
 constexpr const wchar_t* kPropertyKey = L"PROPERTY";
 constexpr const wchar_t* kCommand = L"ENTITY_PROPERTIES";
-constexpr const wchar_t* kEscape = L"\x1B";
 
 } // namespace
 
@@ -136,8 +136,7 @@ void CPropertiesDialog::OnActivate(NMHDR*, LRESULT*) {
 
 void CPropertiesDialog::OnPick() {
     // The command brings this dialog back with what was picked.
-    acedPostCommand(kEscape);
-    acedPostCommand(kCommand);
+    acedRunner().Post({kCommand, OrderOrigin::Dialog});
 }
 
 bool CPropertiesDialog::PreTranslateMessage(MSG* pMsg) {
@@ -157,10 +156,12 @@ void CPropertiesDialog::OnSet() {
     const EntityProperty property = *pProperty;
     const CString text = m_value.GetWindowText();
     CString reason;
-    {
-        const Plugins::CommandScope scope(kCommand);
-        reason = SetProperty(FindEntity(m_id), property, text);
-    }
+    const auto set = [&] {
+        Workspace::CommandScope::Run(
+            kCommand, [&] { reason = SetProperty(FindEntity(m_id), property, text); });
+        return reason.IsEmpty() ? CommandOutcome::Done : CommandOutcome::Failed;
+    };
+    acedRunner().Run({kCommand, OrderOrigin::Dialog, set});
     if (!reason.IsEmpty()) {
         acedAlert(reason);
     }

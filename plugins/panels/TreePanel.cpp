@@ -1,7 +1,6 @@
 #include "plugins/panels/TreePanel.h"
 
 #include "platform/arx/ApDocManager.h"
-#include "platform/arx/EdPrompt.h"
 #include "platform/mfc/DataExchange.h"
 #include "platform/mfc/Menu.h"
 #include "plugins/panels/Resources.h"
@@ -20,13 +19,12 @@ namespace Orvane::Panels {
 namespace {
 
 using Workspace::CWsManager;
+using Workspace::CWsOrder;
 using Workspace::CWsTreeItemData;
 
 constexpr UINT kRefreshMessage = WM_USER + 1;
-constexpr UINT kOrderMessage = WM_USER + 2;
 constexpr int kF2 = VK_F1 + 1;
 constexpr int kF10 = VK_F1 + 9;
-constexpr const wchar_t* kEscape = L"\x1B";
 
 constexpr const wchar_t* kDialogIds[] = {L"DLG_TREE_SYSTEMS", L"DLG_TREE_DISK", L"DLG_TREE_NET"};
 
@@ -80,6 +78,11 @@ boost::shared_ptr<Query::CQueryDefinition> QueryOf(const CWsTreeItemData& node) 
         store ? store->GetItem(node.GetGuid()) : CRepositoryStore::ItemPtr());
 }
 
+/// From the message loop, since the command may change the tree that is being handled.
+void Give(const CWsOrder& order) {
+    acedRunner().Post(MakeCommandOrder(order));
+}
+
 void RemoveSystem(CWsTreeItemData& item, const System::CGisSystem* pSystem) {
     if (!pSystem || item.GetSystem() == pSystem) {
         item.SetSystem(nullptr);
@@ -115,7 +118,6 @@ const MessageMap* CTreePanel::GetMessageMap() const {
         MapMessage<&CTreePanel::OnMouseMove>(WM_MOUSEMOVE),
         MapMessage<&CTreePanel::OnLButtonUp>(WM_LBUTTONUP),
         MapMessage<&CTreePanel::OnRefresh>(kRefreshMessage),
-        MapMessage<&CTreePanel::OnRunOrder>(kOrderMessage),
         MapMessage<&CTreePanel::OnKeepFocus>(WM_ACAD_KEEPFOCUS),
         MapNotify<&CTreePanel::OnRightClick>(NM_RCLICK, kTree),
         MapNotify<&CTreePanel::OnDoubleClick>(NM_DBLCLK, kTree),
@@ -264,39 +266,8 @@ void CTreePanel::OnAcadDocumentToBeDestroyed(AcApDocument* pDoc) {
 
 void CTreePanel::GiveCommand(const CString& commandId, const PanelItem& item) {
     if (!commandId.IsEmpty()) {
-        CommandOrder order;
-        order.commandId = commandId;
-        order.item = LendItem(item);
-        Give(std::move(order));
+        Give({commandId, OrderOrigin::Tree, nullptr, {}, LendItem(item)});
     }
-}
-
-void CTreePanel::Give(CommandOrder order) {
-    m_order = std::move(order);
-    if (m_nRunning > 0) {
-        acedPostCommand(kEscape);
-    } else {
-        PostMessage(kOrderMessage);
-    }
-}
-
-void CTreePanel::OnAfterCommandCompleted(const wchar_t*) {
-    m_nRunning = std::max(0, m_nRunning - 1);
-    if (m_order && m_nRunning == 0) {
-        PostMessage(kOrderMessage);
-    }
-}
-
-LRESULT CTreePanel::OnRunOrder(WPARAM, LPARAM) {
-    if (m_order && m_nRunning == 0) {
-        const CommandOrder order = *std::exchange(m_order, std::nullopt);
-        const HWND self = GetSafeHwnd();
-        RunOrder(order);
-        if (IsWindow(self)) {
-            RequestRefresh();
-        }
-    }
-    return 0;
 }
 
 // Mouse and keyboard.
@@ -327,11 +298,7 @@ void CTreePanel::ShowMenu(const PanelItem& item, CPoint place) {
         menu.TrackPopupMenu(TPM_RIGHTBUTTON | TPM_RETURNCMD, place.x, place.y, this);
     Workspace::CWsCommand* const pCommand = chosen ? trees.GetMenuCommand(*chosen) : nullptr;
     if (pCommand && pCommand->GetCmdExecutor() && IsWindow(self)) {
-        CommandOrder order;
-        order.commandId = pCommand->GetId();
-        order.pExecutor = pCommand->GetCmdExecutor();
-        order.item = lent;
-        Give(std::move(order));
+        Give({pCommand->GetId(), OrderOrigin::Tree, pCommand->GetCmdExecutor(), {}, lent});
     }
 }
 
@@ -407,11 +374,7 @@ void CTreePanel::OnEndLabelEdit(NMHDR* pHeader, LRESULT* pResult) {
     }
     // Shown as typed until the command has run; then the tree shows what came of it.
     *pResult = 1;
-    CommandOrder order;
-    order.commandId = RenameCommand(*pItem);
-    order.item = LendItem(*pItem);
-    order.newName = name;
-    Give(std::move(order));
+    Give({RenameCommand(*pItem), OrderOrigin::Tree, nullptr, {}, LendItem(*pItem), name});
 }
 
 // Dragging.
@@ -448,15 +411,13 @@ void CTreePanel::OnLButtonUp(UINT, CPoint point) {
     if (plan.commandId.IsEmpty()) {
         return;
     }
-    CommandOrder order;
-    order.commandId = plan.commandId;
-    order.item = LendItem(*pTarget);
+    CWsOrder order{plan.commandId, OrderOrigin::Tree, nullptr, {}, LendItem(*pTarget)};
     if (plan.isQuery) {
         order.query = QueryOf(*dragged);
     } else {
-        order.dropped = dragged;
+        order.argument = std::shared_ptr<const CWsTreeItemData>(dragged);
     }
-    Give(std::move(order));
+    Give(order);
 }
 
 void CTreePanel::EndDrag() {

@@ -5,8 +5,9 @@
 
 #include "platform/mfc/TreeCtrl.h"
 #include "platform/xtp/XTPResize.h"
-#include "plugins/panels/CommandOrder.h"
+#include "plugins/panels/LentItems.h"
 #include "plugins/panels/TreeContent.h"
+#include "workspacecore/core/WsOrder.h"
 #include "workspacecore/dialogs/WsPanelDialog.h"
 
 namespace Orvane::Panels {
@@ -24,8 +25,6 @@ struct PanelItem : Workspace::CWsTreeItemData {
 /// Fills its tree from TreeContent, anew after everything that changes what the tree shows;
 /// what was open and selected stays so. Changes that come while a message is handled are
 /// shown once it has been, and not while a label is edited or a node dragged.
-///
-/// A command that is asked for while another one runs cancels that and runs after it.
 class CTreePanel final : public Workspace::CWsPanelDialog {
 public:
     CTreePanel(TreeKind kind, CWnd* parent);
@@ -52,7 +51,6 @@ private:
     void OnMouseMove(UINT flags, CPoint point);
     void OnLButtonUp(UINT flags, CPoint point);
     LRESULT OnRefresh(WPARAM wParam, LPARAM lParam);
-    LRESULT OnRunOrder(WPARAM wParam, LPARAM lParam);
     LRESULT OnKeepFocus(WPARAM wParam, LPARAM lParam);
 
     // Events.
@@ -80,8 +78,7 @@ private:
         RequestRefresh();
     }
     void OnAfterGeneralSettingsChanged() override { RequestRefresh(); }
-    void OnBeforeCommandActivated(const wchar_t*) override { ++m_nRunning; }
-    void OnAfterCommandCompleted(const wchar_t*) override;
+    void OnAfterCommandCompleted(const wchar_t*) override { RequestRefresh(); }
 
     void RegisterTree(CTreeCtrl* pTree) const;
     void RequestRefresh();
@@ -98,7 +95,6 @@ private:
     void ShowMenu(const PanelItem& item, CPoint place);
     /// Gives a command that has an id; a node without one does nothing.
     void GiveCommand(const CString& commandId, const PanelItem& item);
-    void Give(CommandOrder order);
     void EndDrag();
 
     TreeKind m_kind;
@@ -110,8 +106,6 @@ private:
     bool m_isRefreshWanted = false; ///< once nothing is edited or dragged
     bool m_isEditing = false;
     LentItem m_dragged;
-    int m_nRunning = 0; ///< commands, nested ones included
-    std::optional<CommandOrder> m_order;
 };
 
 } // namespace Orvane::Panels

@@ -1,7 +1,10 @@
 #include "plugins/repository/RepositoryExecutor.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/arx/EdPrompt.h"
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTarget.h"
 #include "plugins/repository/RepositoryTexts.h"
@@ -9,12 +12,14 @@
 #include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscore/utility/Guid.h"
+#include "workspacecore/commands/CommandScope.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Repository {
 
-using Plugins::CommandScope;
 using Plugins::OwnCommandId;
+using Workspace::CommandScope;
 
 namespace {
 
@@ -93,8 +98,7 @@ ItemPtr RenameItem(Call& call) {
     if (!item) {
         return {};
     }
-    const auto* const pNewName =
-        call.pNode ? static_cast<const CString*>(call.pNode->GetCustomData()) : nullptr;
+    const CString* const pNewName = Workspace::NewNameOf(call.pNode);
     const auto name = pNewName ? *pNewName : AskText(Text(Msg::Name), item->GetName());
     if (!name) {
         return {};
@@ -271,15 +275,19 @@ ResultPtr ResultOf(const CRepositoryItem& item, int count) {
 ResultPtr CBaseExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* pQuery,
                                  CWsTreeItemData* pItemData) {
     const CString id = OwnCommandId(lpszCommandId);
-    const CommandScope scope(id);
-    const auto order = OrderOf(id);
-    auto target = order ? TargetOf(order->command, pItemData) : std::nullopt;
-    if (!target) {
-        return Workspace::NeutralReturnValue();
-    }
-    Call call{*order->pFamily, std::move(*target), pItemData, pQuery};
-    const ItemPtr item = CarryOut(order->command.verb, call);
-    return item ? ResultOf(*item, call.count) : Workspace::NeutralReturnValue();
+    ResultPtr result = Workspace::NeutralReturnValue();
+    CommandScope::Run(id, [&] {
+        const auto order = OrderOf(id);
+        auto target = order ? TargetOf(order->command, pItemData) : std::nullopt;
+        if (!target) {
+            return;
+        }
+        Call call{*order->pFamily, std::move(*target), pItemData, pQuery};
+        if (const ItemPtr item = CarryOut(order->command.verb, call)) {
+            result = ResultOf(*item, call.count);
+        }
+    });
+    return result;
 }
 
 ResultPtr CBaseExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
@@ -287,20 +295,25 @@ ResultPtr CBaseExecutor::ExecuteExplicite(const wchar_t* lpszCommandId,
                                           Selection::CSelectionSet* /*pSelectionSet*/,
                                           void* /*pData*/) {
     const CString id = OwnCommandId(lpszCommandId);
-    const CommandScope scope(id);
-    const auto order = OrderOf(id);
-    const bool isOfFamily =
-        order && IsRun(order->command.verb) && pRepositoryItem &&
-        pRepositoryItem->GetRepositoryTag().CompareNoCase(order->command.tag) == 0;
-    if (!isOfFamily) {
-        if (order) {
-            Refuse(Text(Msg::NotHandedOver, id));
+    ResultPtr result = Workspace::NeutralReturnValue();
+    CommandScope::Run(id, [&] {
+        const auto order = OrderOf(id);
+        const bool isOfFamily =
+            order && IsRun(order->command.verb) && pRepositoryItem &&
+            pRepositoryItem->GetRepositoryTag().CompareNoCase(order->command.tag) == 0;
+        if (!isOfFamily) {
+            if (order) {
+                Refuse(Text(Msg::NotHandedOver, id));
+            }
+            return;
         }
-        return Workspace::NeutralReturnValue();
-    }
-    const auto count = RunOn(*order->pFamily, *pRepositoryItem,
-                             System::CSystemManager::Instance()->GetActiveSystem(), nullptr);
-    return count ? ResultOf(*pRepositoryItem, *count) : Workspace::NeutralReturnValue();
+        if (const auto count =
+                RunOn(*order->pFamily, *pRepositoryItem,
+                      System::CSystemManager::Instance()->GetActiveSystem(), nullptr)) {
+            result = ResultOf(*pRepositoryItem, *count);
+        }
+    });
+    return result;
 }
 
 } // namespace Orvane::Repository

@@ -6,6 +6,7 @@
 #include "siblings/giscore/repository/IRepositoryFamily.h"
 #include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscore/systems/SystemManager.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Repository {
@@ -113,8 +114,7 @@ CRepositoryStore::ItemPtr DroppedItem(const CString& tag, const CRepositoryItem*
     if (pQuery && pQuery->GetRepositoryTag().CompareNoCase(tag) == 0) {
         return ReadRepositoryItem(pQuery->GetXML(), tag, reason);
     }
-    const auto* const pDragged =
-        pNode ? static_cast<const CWsTreeItemData*>(pNode->GetCustomData()) : nullptr;
+    const CWsTreeItemData* const pDragged = Workspace::DroppedItemOf(pNode);
     const bool isOfFamily =
         pDragged && pDragged->GetPtrItemDefinition() &&
         pDragged->GetPtrItemDefinition()->GetRepositoryTag().CompareNoCase(tag) == 0;

@@ -1,7 +1,7 @@
 #include "plugins/repository/SystemExecutor.h"
 
 #include "platform/arx/EdPrompt.h"
-#include "plugins/common/CommandScope.h"
+#include "plugins/common/CommandIds.h"
 #include "plugins/repository/RepositoryFamilies.h"
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTarget.h"
@@ -10,12 +10,14 @@
 #include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
+#include "workspacecore/commands/CommandScope.h"
+#include "workspacecore/tree/ItemArgument.h"
 #include "workspacecore/tree/WsTreeItemData.h"
 
 namespace Orvane::Repository {
 
-using Plugins::CommandScope;
 using Plugins::OwnCommandId;
+using Workspace::CommandScope;
 
 namespace {
 
@@ -92,8 +94,7 @@ bool AddSystem(Call& call) {
 }
 
 bool RenameSystem(Call& call) {
-    const auto* const pNewName =
-        call.pNode ? static_cast<const CString*>(call.pNode->GetCustomData()) : nullptr;
+    const CString* const pNewName = Workspace::NewNameOf(call.pNode);
     const auto name =
         pNewName ? *pNewName : AskText(Text(Msg::SystemName), call.pSystem->GetSystemName());
     CString reason;
@@ -133,8 +134,7 @@ bool ToggleVisibility(Call& call) {
 
 /// The family of what is dropped; empty if there is nothing.
 CString DroppedTag(const Call& call) {
-    const auto* const pDragged =
-        call.pNode ? static_cast<const CWsTreeItemData*>(call.pNode->GetCustomData()) : nullptr;
+    const CWsTreeItemData* const pDragged = Workspace::DroppedItemOf(call.pNode);
     if (call.pQuery) {
         return call.pQuery->GetRepositoryTag();
     }
@@ -200,12 +200,13 @@ CSystemExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition* 
     const CString id = OwnCommandId(lpszCommandId);
     for (const auto& command : kCommands) {
         if (id == command.id) {
-            const CommandScope scope(command.id);
-            Call call{pItemData, pQuery};
-            if (FindSystem(call, command.otherwise) && command.run(call)) {
-                result->m_nStatus = 1;
-                result->m_strText1 = call.pSystem ? call.pSystem->GetSystemName() : CString();
-            }
+            CommandScope::Run(command.id, [&] {
+                Call call{pItemData, pQuery};
+                if (FindSystem(call, command.otherwise) && command.run(call)) {
+                    result->m_nStatus = 1;
+                    result->m_strText1 = call.pSystem ? call.pSystem->GetSystemName() : CString();
+                }
+            });
             break;
         }
     }

@@ -2,6 +2,7 @@
 #include "platform/arx/EdPrompt.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/giscore/systems/SystemManager.h"
+#include "workspacecore/commands/CommandScope.h"
 #include "workspacecore/core/WsManager.h"
 
 using namespace Orvane;
@@ -9,32 +10,21 @@ using namespace Orvane::Workspace;
 
 namespace {
 
-/// Listeners, the panel among them, learn that a command runs, and that it has ended, however
-/// it does.
-class CommandEvents {
-public:
-    explicit CommandEvents(const wchar_t* id) : m_id(id) {
-        CWsManager::Instance()->Raise_OnBeforeCommandActivated(m_id);
-    }
-    ~CommandEvents() { CWsManager::Instance()->Raise_OnAfterCommandCompleted(m_id); }
-    CommandEvents(const CommandEvents&) = delete;
-    CommandEvents& operator=(const CommandEvents&) = delete;
-
-private:
-    CString m_id;
-};
-
 /// Runs the commands. It is registered by pointer, so it has to live to the end.
 class HelloExecutor final : public IWsCommandExecutor {
 public:
     boost::shared_ptr<CExecutorReturnValue>
     Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*, CWsTreeItemData*) override {
-        const CommandEvents events(lpszCommandId);
-        const System::CGisSystem* const pSystem =
-            System::CSystemManager::Instance()->GetActiveSystem();
-        acutPrintf(L"Hello, %s!\n", pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
         auto result = NeutralReturnValue();
-        result->m_nStatus = 1; // carried out
+        // Listeners, the panel among them, learn that the command runs, and that it has ended,
+        // however it does.
+        CommandScope::Run(lpszCommandId, [&] {
+            const System::CGisSystem* const pSystem =
+                System::CSystemManager::Instance()->GetActiveSystem();
+            acutPrintf(L"Hello, %s!\n",
+                       pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
+            result->m_nStatus = 1; // carried out
+        });
         return result;
     }
 };

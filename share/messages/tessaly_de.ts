@@ -454,6 +454,81 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Name of a module</extracomment>
         <translation>Paneele</translation>
     </message>
+    <message id="900101">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netz einlesen</translation>
+    </message>
+    <message id="900102">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>erzeugt Systeme aus der Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM) oder aus Punkten, Linien und Flächen einer anderen Datei</translation>
+    </message>
+    <message id="900103">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netzstatistik</translation>
+    </message>
+    <message id="900104">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>nennt Anzahlen, Längen, Ausdehnung und zusammenhängende Teile jedes Netzes</translation>
+    </message>
+    <message id="900105">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Netz prüfen</translation>
+    </message>
+    <message id="900106">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>listet auf, was an jedem Netz nicht stimmt</translation>
+    </message>
+    <message id="900107">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Systeme auflisten</translation>
+    </message>
+    <message id="900108">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>listet die Systeme der Zeichnung auf</translation>
+    </message>
+    <message id="900109">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>System aktivieren</translation>
+    </message>
+    <message id="900110">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>macht ein System zum aktiven</translation>
+    </message>
+    <message id="900120">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>%s Flächen</translation>
+    </message>
+    <message id="900130">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Abfragen</translation>
+    </message>
+    <message id="900131">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Themen</translation>
+    </message>
+    <message id="900132">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Beschriftungen</translation>
+    </message>
+    <message id="900133">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Längsschnitte</translation>
+    </message>
     <message id="900200">
         <source></source>
         <extracomment>Name of a topology</extracomment>
@@ -569,81 +644,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Reason</extracomment>
         <translation>Die Topologie hat keine Funktion %d.</translation>
     </message>
-    <message id="900101">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Netz einlesen</translation>
-    </message>
-    <message id="900102">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>erzeugt Systeme aus der Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM) oder aus Punkten, Linien und Flächen einer anderen Datei</translation>
-    </message>
-    <message id="900103">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Netzstatistik</translation>
-    </message>
-    <message id="900104">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>nennt Anzahlen, Längen, Ausdehnung und zusammenhängende Teile jedes Netzes</translation>
-    </message>
-    <message id="900105">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Netz prüfen</translation>
-    </message>
-    <message id="900106">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>listet auf, was an jedem Netz nicht stimmt</translation>
-    </message>
-    <message id="900107">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Systeme auflisten</translation>
-    </message>
-    <message id="900108">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>listet die Systeme der Zeichnung auf</translation>
-    </message>
-    <message id="900109">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>System aktivieren</translation>
-    </message>
-    <message id="900110">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>macht ein System zum aktiven</translation>
-    </message>
-    <message id="900120">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>%s Flächen</translation>
-    </message>
-    <message id="900130">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Abfragen</translation>
-    </message>
-    <message id="900131">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Themen</translation>
-    </message>
-    <message id="900132">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Beschriftungen</translation>
-    </message>
-    <message id="900133">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Längsschnitte</translation>
-    </message>
     <message id="900310">
         <source></source>
         <extracomment>Reason</extracomment>
@@ -678,6 +678,61 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Reason</extracomment>
         <translation>Nur Konfigurationen eines Systems können Standard sein.</translation>
+    </message>
+    <message id="900331">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message id="900332">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Minuten zwischen Sicherungen (0: aus):</translation>
+    </message>
+    <message id="900333">
+        <source></source>
+        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <translation>Abf&amp;rage beim Ablegen ausführen</translation>
+    </message>
+    <message id="900334">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Farbe der Markierung:</translation>
+    </message>
+    <message id="900335">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Dezimalen gleicher Lagen:</translation>
+    </message>
+    <message id="900336">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Netzablage (Ordner):</translation>
+    </message>
+    <message id="900340">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="900341">
+        <source></source>
+        <extracomment>Button: chooses a colour</extracomment>
+        <translation>&amp;Wahl</translation>
+    </message>
+    <message id="900345">
+        <source></source>
+        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
+        <translation>&quot;%s&quot; ist eine ganze Zahl von %d bis %d.</translation>
+    </message>
+    <message id="900346">
+        <source></source>
+        <extracomment>Reason; with a setting</extracomment>
+        <translation>&quot;%s&quot; ist eine Zeile Text.</translation>
+    </message>
+    <message id="900347">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Einstellungen konnten nicht geschrieben werden: %s</translation>
     </message>
     <message id="900400">
         <source></source>
@@ -1054,36 +1109,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>In a list of templates; with topology and function</extracomment>
         <translation>System: %s, %s</translation>
     </message>
-    <message id="900590">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baumvorlagen</translation>
-    </message>
-    <message id="900591">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
-    </message>
-    <message id="900592">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baummenü</translation>
-    </message>
-    <message id="900593">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
-    </message>
-    <message id="900594">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Bäume</translation>
-    </message>
-    <message id="900595">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
-    </message>
     <message id="900540">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1304,6 +1329,36 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Property</extracomment>
         <translation>Fläche</translation>
     </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baumvorlagen</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baummenü</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Bäume</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
+    </message>
     <message id="900610">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1394,61 +1449,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Command</extracomment>
         <translation>zeigt, wofür die Farben der Zeichnung stehen</translation>
     </message>
-    <message id="900331">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Sprache:</translation>
-    </message>
-    <message id="900332">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Minuten zwischen Sicherungen (0: aus):</translation>
-    </message>
-    <message id="900333">
-        <source></source>
-        <extracomment>Check box in the general settings, with its letter</extracomment>
-        <translation>Abf&amp;rage beim Ablegen ausführen</translation>
-    </message>
-    <message id="900334">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Farbe der Markierung:</translation>
-    </message>
-    <message id="900335">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Dezimalen gleicher Lagen:</translation>
-    </message>
-    <message id="900336">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Netzablage (Ordner):</translation>
-    </message>
-    <message id="900340">
-        <source></source>
-        <extracomment>Button</extracomment>
-        <translation>Abbrechen</translation>
-    </message>
-    <message id="900341">
-        <source></source>
-        <extracomment>Button: chooses a colour</extracomment>
-        <translation>&amp;Wahl</translation>
-    </message>
-    <message id="900345">
-        <source></source>
-        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
-        <translation>&quot;%s&quot; ist eine ganze Zahl von %d bis %d.</translation>
-    </message>
-    <message id="900346">
-        <source></source>
-        <extracomment>Reason; with a setting</extracomment>
-        <translation>&quot;%s&quot; ist eine Zeile Text.</translation>
-    </message>
-    <message id="900347">
-        <source></source>
-        <extracomment>Reason</extracomment>
-        <translation>Die Einstellungen konnten nicht geschrieben werden: %s</translation>
-    </message>
     <message id="900638">
         <source></source>
         <extracomment>Command</extracomment>
@@ -1458,6 +1458,41 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Command</extracomment>
         <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
+    </message>
+    <message id="920001">
+        <source></source>
+        <extracomment>Report at a start; module, command</extracomment>
+        <translation>%s registriert den Befehl %s, den das Programm selbst hat. Eingetippt läuft der Befehl des Programms.</translation>
+    </message>
+    <message id="920002">
+        <source></source>
+        <extracomment>Report at a start; module, command, command</extracomment>
+        <translation>%s registriert den Befehl %s, der sich von %s nur in Groß- und Kleinschreibung unterscheidet.</translation>
+    </message>
+    <message id="920010">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Anlegen</translation>
+    </message>
+    <message id="920011">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="920012">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Löschen</translation>
+    </message>
+    <message id="920013">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Netze und Werkzeuge</translation>
+    </message>
+    <message id="920014">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Weitere Befehle</translation>
     </message>
     <message id="930000">
         <source></source>

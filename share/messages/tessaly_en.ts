@@ -454,6 +454,81 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Name of a module</extracomment>
         <translation>Panels</translation>
     </message>
+    <message id="900101">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Import network</translation>
+    </message>
+    <message id="900102">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>makes systems from a water (EPANET) or sewer (SWMM) network file, or from the points, lines and areas of any other file</translation>
+    </message>
+    <message id="900103">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Network statistics</translation>
+    </message>
+    <message id="900104">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>prints counts, lengths, extents and connected parts of each network</translation>
+    </message>
+    <message id="900105">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Check network</translation>
+    </message>
+    <message id="900106">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>lists what is wrong with each network</translation>
+    </message>
+    <message id="900107">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>List systems</translation>
+    </message>
+    <message id="900108">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>lists the systems of the drawing</translation>
+    </message>
+    <message id="900109">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>Activate system</translation>
+    </message>
+    <message id="900110">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>makes a system the active one</translation>
+    </message>
+    <message id="900120">
+        <source></source>
+        <extracomment>Network plug-in</extracomment>
+        <translation>%s polygons</translation>
+    </message>
+    <message id="900130">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Queries</translation>
+    </message>
+    <message id="900131">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Themes</translation>
+    </message>
+    <message id="900132">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Labels</translation>
+    </message>
+    <message id="900133">
+        <source></source>
+        <extracomment>Family of configurations</extracomment>
+        <translation>Longitudinal sections</translation>
+    </message>
     <message id="900200">
         <source></source>
         <extracomment>Name of a topology</extracomment>
@@ -569,81 +644,6 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Reason</extracomment>
         <translation>The topology has no function %d.</translation>
     </message>
-    <message id="900101">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Import network</translation>
-    </message>
-    <message id="900102">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>makes systems from a water (EPANET) or sewer (SWMM) network file, or from the points, lines and areas of any other file</translation>
-    </message>
-    <message id="900103">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Network statistics</translation>
-    </message>
-    <message id="900104">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>prints counts, lengths, extents and connected parts of each network</translation>
-    </message>
-    <message id="900105">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Check network</translation>
-    </message>
-    <message id="900106">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>lists what is wrong with each network</translation>
-    </message>
-    <message id="900107">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>List systems</translation>
-    </message>
-    <message id="900108">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>lists the systems of the drawing</translation>
-    </message>
-    <message id="900109">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>Activate system</translation>
-    </message>
-    <message id="900110">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>makes a system the active one</translation>
-    </message>
-    <message id="900120">
-        <source></source>
-        <extracomment>Network plug-in</extracomment>
-        <translation>%s polygons</translation>
-    </message>
-    <message id="900130">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Queries</translation>
-    </message>
-    <message id="900131">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Themes</translation>
-    </message>
-    <message id="900132">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Labels</translation>
-    </message>
-    <message id="900133">
-        <source></source>
-        <extracomment>Family of configurations</extracomment>
-        <translation>Longitudinal sections</translation>
-    </message>
     <message id="900310">
         <source></source>
         <extracomment>Reason</extracomment>
@@ -678,6 +678,61 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Reason</extracomment>
         <translation>Only configurations of a system can be the default.</translation>
+    </message>
+    <message id="900331">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message id="900332">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Minutes between autosaves (0: off):</translation>
+    </message>
+    <message id="900333">
+        <source></source>
+        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <translation>&amp;Run a query that is dropped on a dialog</translation>
+    </message>
+    <message id="900334">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>C&amp;olour of marks:</translation>
+    </message>
+    <message id="900335">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Decimals of equal positions:</translation>
+    </message>
+    <message id="900336">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Net repository (folder):</translation>
+    </message>
+    <message id="900340">
+        <source></source>
+        <extracomment>Button</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="900341">
+        <source></source>
+        <extracomment>Button: chooses a colour</extracomment>
+        <translation>&amp;Choose</translation>
+    </message>
+    <message id="900345">
+        <source></source>
+        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
+        <translation>&quot;%s&quot; is a whole number from %d to %d.</translation>
+    </message>
+    <message id="900346">
+        <source></source>
+        <extracomment>Reason; with a setting</extracomment>
+        <translation>&quot;%s&quot; is one line of text.</translation>
+    </message>
+    <message id="900347">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>The settings could not be written: %s</translation>
     </message>
     <message id="900400">
         <source></source>
@@ -1054,36 +1109,6 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>In a list of templates; with topology and function</extracomment>
         <translation>System: %s, %s</translation>
     </message>
-    <message id="900590">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Tree templates</translation>
-    </message>
-    <message id="900591">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints the templates of the system, disk and net trees</translation>
-    </message>
-    <message id="900592">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Tree menu</translation>
-    </message>
-    <message id="900593">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints the menu of a node of a tree, given by its path</translation>
-    </message>
-    <message id="900594">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Trees</translation>
-    </message>
-    <message id="900595">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints what the system, disk and net trees show</translation>
-    </message>
     <message id="900540">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1304,6 +1329,36 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Property</extracomment>
         <translation>Area</translation>
     </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree templates</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the templates of the system, disk and net trees</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree menu</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the menu of a node of a tree, given by its path</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Trees</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints what the system, disk and net trees show</translation>
+    </message>
     <message id="900610">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1394,61 +1449,6 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Command</extracomment>
         <translation>shows what the colours of the drawing stand for</translation>
     </message>
-    <message id="900331">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Language:</translation>
-    </message>
-    <message id="900332">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Minutes between autosaves (0: off):</translation>
-    </message>
-    <message id="900333">
-        <source></source>
-        <extracomment>Check box in the general settings, with its letter</extracomment>
-        <translation>&amp;Run a query that is dropped on a dialog</translation>
-    </message>
-    <message id="900334">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>C&amp;olour of marks:</translation>
-    </message>
-    <message id="900335">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Decimals of equal positions:</translation>
-    </message>
-    <message id="900336">
-        <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Net repository (folder):</translation>
-    </message>
-    <message id="900340">
-        <source></source>
-        <extracomment>Button</extracomment>
-        <translation>Cancel</translation>
-    </message>
-    <message id="900341">
-        <source></source>
-        <extracomment>Button: chooses a colour</extracomment>
-        <translation>&amp;Choose</translation>
-    </message>
-    <message id="900345">
-        <source></source>
-        <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
-        <translation>&quot;%s&quot; is a whole number from %d to %d.</translation>
-    </message>
-    <message id="900346">
-        <source></source>
-        <extracomment>Reason; with a setting</extracomment>
-        <translation>&quot;%s&quot; is one line of text.</translation>
-    </message>
-    <message id="900347">
-        <source></source>
-        <extracomment>Reason</extracomment>
-        <translation>The settings could not be written: %s</translation>
-    </message>
     <message id="900638">
         <source></source>
         <extracomment>Command</extracomment>
@@ -1458,6 +1458,41 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Command</extracomment>
         <translation>shows and changes language, colours, folders and the like</translation>
+    </message>
+    <message id="920001">
+        <source></source>
+        <extracomment>Report at a start; module, command</extracomment>
+        <translation>%s registers the command %s, which the program has itself. Typed, the program&apos;s command runs.</translation>
+    </message>
+    <message id="920002">
+        <source></source>
+        <extracomment>Report at a start; module, command, command</extracomment>
+        <translation>%s registers the command %s, which differs from %s only in upper and lower case.</translation>
+    </message>
+    <message id="920010">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Create</translation>
+    </message>
+    <message id="920011">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Edit</translation>
+    </message>
+    <message id="920012">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Delete</translation>
+    </message>
+    <message id="920013">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Networks and tools</translation>
+    </message>
+    <message id="920014">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Other commands</translation>
     </message>
     <message id="930000">
         <source></source>

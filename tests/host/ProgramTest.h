@@ -30,6 +30,23 @@ protected:
         m_folder.Write("script.scr", lines);
         return Run("--script " + m_folder.Native("script.scr"));
     }
+    /// An installation whose only plug-in is one of the tests'; run with "--install" and this.
+    std::string InstallOnly(const std::string& fixture) {
+        Run("", "QUIT\n"); // makes the settings
+        // The registry's names are relative to the modules' folder, so that one becomes "/".
+        m_folder.Write("support/ModuleRegistry.xml",
+                       "<moduleRegistry ><module on=\"1\" fileName=\"" TESSALY_FIXTURES_DIR "/" +
+                           fixture + "\" ></module></moduleRegistry>");
+        const std::string install = m_folder.Native("install");
+        std::filesystem::create_directories(install + TESSALY_FIXTURES_DIR);
+        for (const auto& entry : std::filesystem::directory_iterator(TESSALY_STAGE_DIR)) {
+            std::filesystem::create_symlink(entry.path(),
+                                            install + "/" + entry.path().filename().string());
+        }
+        std::filesystem::create_symlink(TESSALY_FIXTURES_DIR "/" + fixture,
+                                        install + TESSALY_FIXTURES_DIR "/" + fixture);
+        return install;
+    }
     bool Printed(const std::string& text) const { return m_output.find(text) != std::string::npos; }
 
     int Count(const std::string& text) const {

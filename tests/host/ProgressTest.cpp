@@ -143,7 +143,7 @@ TEST_F(ConsoleWorkTest, AnImportThatIsStoppedFailsAndChangesNothing) {
     AcApDocument* const pDoc = acDocManagerPtr()->newDocument();
     OneLine file(L"town.shp");
     m_port.SetInput(&file);
-    EXPECT_EQ(acedRegCmds()->run(L"import"), CommandOutcome::Failed);
+    EXPECT_EQ(acedRunner().Run({L"import"}), CommandOutcome::Failed);
     EXPECT_EQ(Output(), "File: town.shp: reading was stopped\nNothing was imported.\n");
     EXPECT_FALSE(pDoc->isModified());
     EXPECT_TRUE(IsDefault(SIGINT));

@@ -111,23 +111,78 @@ TEST_F(ProgramTest, ProblemsOfConfigurationsArePrintedOnce) {
 }
 
 TEST_F(ProgramTest, AThrowingPluginIsNamedAndTheCommandLineGoesOn) {
-    Run("", "QUIT\n");
-    m_folder.Write("support/ModuleRegistry.xml",
-                   "<moduleRegistry ><module on=\"1\" fileName=\"" TESSALY_FIXTURES_DIR
-                   "/ThrowsInHook3.arx\" ></module></moduleRegistry>");
-    // The registry's names are relative to the modules' folder, so that one becomes "/".
-    const std::string install = m_folder.Native("install");
-    std::filesystem::create_directories(install + TESSALY_FIXTURES_DIR);
-    for (const auto& entry : std::filesystem::directory_iterator(TESSALY_STAGE_DIR)) {
-        std::filesystem::create_symlink(entry.path(),
-                                        install + "/" + entry.path().filename().string());
+    const struct {
+        const char* module;
+        const char* line;
+    } cases[] = {
+        {"ThrowsInHook3.arx", "ThrowsInHook3.arx: PluginHook3 failed: no licence for this machine"},
+        {"ThrowingProvider.arx",
+         "ThrowingProvider.arx: ORVPluginInfoProvider failed: no provider today"},
+    };
+    for (const auto& row : cases) {
+        std::filesystem::remove_all(m_folder / "install");
+        EXPECT_EQ(Run("--install " + InstallOnly(row.module), "HELP\n"), 0);
+        EXPECT_TRUE(Printed(row.line)) << m_output;
+        EXPECT_TRUE(Printed("APPLOAD")) << m_output;
     }
-    std::filesystem::create_symlink(TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx",
-                                    install + TESSALY_FIXTURES_DIR "/ThrowsInHook3.arx");
-    EXPECT_EQ(Run("--install " + install, "HELP\n"), 0);
-    EXPECT_TRUE(Printed("ThrowsInHook3.arx: PluginHook3 failed: no licence for this machine"))
-        << m_output;
-    EXPECT_TRUE(Printed("APPLOAD")) << m_output;
+    std::filesystem::remove(m_folder / "install/ORVZWorkspaceCore.arx");
+    Run("--install " + m_folder.Native("install"), "QUIT\n");
+    EXPECT_TRUE(Printed("ORVZWorkspaceCore.arx was not loaded: ")) << m_output;
+}
+
+TEST_F(ProgramTest, WhatAPluginThrowsCostsNoWork) {
+    const std::string install = "--install " + InstallOnly("Throws.arx");
+    const std::string plan = m_folder.Native("plan.gpkg");
+    m_folder.Write("a.geojson", R"({"type": "Point", "coordinates": [3, 4]})");
+    EXPECT_EQ(Run(install, "THROW_NUMBER\nTHROW_AFTER\nTHROW_EVENTS\nIMPORT\n" +
+                               m_folder.Native("a.geojson") + "\nSAVEAS\n" + plan +
+                               "\nCLOSE\nNEW\nNEW\nCLOSE\nDRAWINGS\nQUIT\n"),
+              0);
+    for (const char* line : {
+             "Throws.arx: THROW_NUMBER failed: an exception without a text",
+             "Throws.arx: OnAfterCommandCompleted failed: after the command",
+             "Throws.arx: OnBeginSaveAcadDocument failed: begin of save",
+             "Throws.arx: OnSaveCompletedAcadDocument failed: end of save",
+             "Throws.arx: OnAcadDocumentToBeDestroyed failed: drawing goes",
+             "Throws.arx: OnAcadDocumentDestroyed failed: drawing gone",
+             "*  1  Drawing",
+             "Throws.arx registers the command SAVE, which the program has itself.",
+             "Throws.arx registers the command Throw_Number, which differs from THROW_NUMBER only",
+         }) {
+        EXPECT_TRUE(Printed(line)) << line << " in " << m_output;
+    }
+    EXPECT_TRUE(m_folder.Has("plan.gpkg"));
+    EXPECT_EQ(Run(plan, "QUIT\n"), 0);
+    EXPECT_TRUE(Printed("plan.gpkg: 1 entities.")) << m_output;
+}
+
+TEST_F(ProgramTest, AScriptNamesTheCommandThatThrewInsideTheTextConsole) {
+    const std::string install = "--install " + InstallOnly("Throws.arx");
+    m_folder.Write("script.scr", "NEW\ntest\nlist\nthrow_hidden\nexit\nNEW\n");
+    EXPECT_EQ(Run(install + " --script " + m_folder.Native("script.scr")), 1);
+    EXPECT_TRUE(Printed("THROW_HIDDEN (throws)")) << "the console lists hidden commands";
+    EXPECT_TRUE(Printed("Throws.arx: THROW_HIDDEN failed: an exception")) << m_output;
+    EXPECT_TRUE(Printed("script.scr:4: stopped at \"THROW_HIDDEN\"")) << m_output;
+}
+
+TEST_F(ProgramTest, HelpListsByPurposeAndExplainsOneAndHiddenCommandsAreNoneOfThem) {
+    EXPECT_EQ(RunScript("HELP\nHELP zoom\nhelp system_edit\n"), 0) << m_output;
+    std::size_t at = 0;
+    for (const char* text : {"Program\n  HELP ", "\nDrawings\n  OPEN ", "\nCreate\n",
+                             "ZOOM (View)\n  shows more", "SYSTEM_EDIT (Edit)\n  "}) {
+        at = m_output.find(text, at);
+        EXPECT_NE(at, std::string::npos) << text << " in " << m_output;
+    }
+    for (const char* hidden : {"SILENT_SYSTEM_DEL", "SYSTEM_DBLCLICK", "QRYDROP"}) {
+        EXPECT_FALSE(Printed(hidden)) << hidden;
+    }
+    EXPECT_EQ(RunScript("HELP silent_system_del\n"), 1);
+    EXPECT_EQ(RunScript(std::string(kImportTown) + "SILENT_SYSTEM_DEL\n"), 1);
+    EXPECT_TRUE(Printed("Unknown command \"SILENT_SYSTEM_DEL\"")) << m_output;
+    EXPECT_EQ(RunScript(std::string(kImportTown) +
+                        "SYSTEM_ACTIVATE\nTown\ntest\nsilent_system_del\nexit\nSYSTEM_LIST\n"),
+              0);
+    EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
 }
 
 TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {

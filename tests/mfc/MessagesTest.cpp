@@ -3,10 +3,13 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 
 #include "platform/mfc/AdUiBaseDialog.h"
 #include "platform/mfc/Button.h"
 #include "platform/mfc/DC.h"
+#include "platform/mfc/TreeCtrl.h"
+#include "tests/support/TestHost.h"
 
 namespace {
 
@@ -80,6 +83,32 @@ class MessagesTest : public WindowTest {
 protected:
     Log m_log;
 };
+
+TEST_F(MessagesTest, WhatAHandlerThrowsEndsThereWithALineForTheUser) {
+    struct Thrower final : CWnd {
+        const MessageMap* GetMessageMap() const override {
+            static constexpr MessageEntry kEntries[] = {
+                MapNotify<&Thrower::OnDoubleClick>(NM_DBLCLK, 7),
+                MapMessage<&Thrower::OnPosted>(WM_USER + 2)};
+            static const MessageMap kMap{CWnd::GetMessageMap(), kEntries};
+            return &kMap;
+        }
+        void OnDoubleClick(NMHDR*, LRESULT*) { throw std::runtime_error("double click"); }
+        LRESULT OnPosted(WPARAM, LPARAM) { throw 42; }
+    } window;
+    TestHost host;
+    window.Create(WS_POPUP, CRect(0, 0, 200, 200), nullptr);
+    CTreeCtrl tree;
+    tree.Create(WS_VISIBLE, CRect(0, 0, 200, 200), &window, 7);
+    const CRect label = tree.GetItemRect(tree.InsertItem(L"node", 0, 0), true);
+    window.ShowWindow(SW_SHOW);
+    QTest::mouseDClick(WidgetOf(tree), Qt::LeftButton, {}, {label.left + 4, label.top + 4});
+    EXPECT_NE(host.TakeOutput().find("window message failed: double click\n"), std::string::npos);
+    window.PostMessage(WM_USER + 2);
+    AfxPumpMessages();
+    EXPECT_NE(host.TakeOutput().find("failed: an exception without a text\n"), std::string::npos);
+    window.DestroyWindow();
+}
 
 TEST_F(MessagesTest, SentMessagesAnswerAndPostedOnesWait) {
     LoggingWnd wnd("w", m_log);

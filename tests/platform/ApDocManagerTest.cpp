@@ -3,6 +3,9 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <stdexcept>
+
+#include "tests/support/TestHost.h"
 
 namespace {
 
@@ -45,6 +48,23 @@ AcDbDatabase* WorkingDatabase() {
 }
 
 } // namespace
+
+TEST(Documents, EveryReactorHearsWhatAnotherOneThrowsAt) {
+    struct Thrower final : AcApDocManagerReactor {
+        void documentToBeDestroyed(AcApDocument*) override { throw std::runtime_error("going"); }
+        void documentDestroyed(const wchar_t*) override { throw 42; }
+    } thrower;
+    const TestHost host;
+    AcApDocManager manager;
+    manager.addReactor(&thrower);
+    Log log;
+    const Reactor reactor(manager, log, L"2");
+    AcApDocument* const pDoc = manager.newDocument(L"a");
+    log.clear();
+    EXPECT_TRUE(manager.closeDocument(pDoc));
+    EXPECT_EQ(log, (Log{L"2 left a", L"2 dying a", L"2 gone a", L"2 current none"}));
+    EXPECT_NE(host.Output().find("document event failed: going"), std::string::npos);
+}
 
 TEST(Documents, ReactorsHearEverythingInTheirOrder) {
     AcApDocManager manager;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/RxDynamicLinker.h"
 #include "tests/support/TestHost.h"
 
@@ -75,8 +76,8 @@ public:
 TEST(ArxApp, CommandsComeAndGoWithTheModule) {
     TestApp app;
     EXPECT_EQ(app.Dispatch(AcRx::kInitAppMsg, nullptr), AcRx::kRetOK);
-    EXPECT_EQ(acedRegCmds()->run(L"global"), CommandOutcome::Done);
-    EXPECT_EQ(acedRegCmds()->run(L"LOKAL"), CommandOutcome::Done);
+    EXPECT_EQ(acedRunner().Run({L"global"}), CommandOutcome::Done);
+    EXPECT_EQ(acedRunner().Run({L"LOKAL"}), CommandOutcome::Done);
     EXPECT_EQ(s_nRuns, 2);
     EXPECT_FALSE(acedRegCmds()->addCommand(L"group", L"Global", L"x", 0, &CountRun));
     EXPECT_TRUE(acedRegCmds()->addCommand(L"OTHER", L"Global", L"x", 0, &CountRun));
@@ -88,9 +89,9 @@ TEST(ArxApp, CommandsComeAndGoWithTheModule) {
     EXPECT_EQ(app.Dispatch(-1, nullptr), 0);
 
     EXPECT_EQ(app.Dispatch(AcRx::kUnloadAppMsg, nullptr), AcRx::kRetOK);
-    EXPECT_EQ(acedRegCmds()->run(L"Lokal"), CommandOutcome::Unknown);
+    EXPECT_EQ(acedRunner().Run({L"Lokal"}), CommandOutcome::Unknown);
     acedRegCmds()->removeGroup(L"other");
-    EXPECT_EQ(acedRegCmds()->run(L"Global"), CommandOutcome::Unknown);
+    EXPECT_EQ(acedRunner().Run({L"Global"}), CommandOutcome::Unknown);
 }
 
 TEST(CommandStack, SourcesAreAskedAfterTheCommandsAndInTheirOrder) {
@@ -100,9 +101,10 @@ TEST(CommandStack, SourcesAreAskedAfterTheCommandsAndInTheirOrder) {
     stack.addCommand(L"G", L"OWN", L"OWN", 0, &CountRun);
     stack.addSource(&first);
     stack.addSource(&second);
-    EXPECT_EQ(stack.run(L"own"), CommandOutcome::Done);
-    EXPECT_EQ(stack.run(L"BAD"), CommandOutcome::Failed);
-    EXPECT_EQ(stack.run(L"other"), CommandOutcome::Unknown);
+    CommandRunner runner(stack);
+    EXPECT_EQ(runner.Run({L"own"}), CommandOutcome::Done);
+    EXPECT_EQ(runner.Run({L"BAD"}), CommandOutcome::Failed);
+    EXPECT_EQ(runner.Run({L"other"}), CommandOutcome::Unknown);
     EXPECT_EQ(first.m_asked, (std::vector<CString>{L"BAD", L"other"}));
     EXPECT_EQ(second.m_asked, (std::vector<CString>{L"other"}));
 }

@@ -65,7 +65,7 @@ public:
     std::string Output() const { return WideToUtf8(m_output); }
     std::string TakeOutput() { return WideToUtf8(std::exchange(m_output, {})); }
     const std::vector<std::wstring>& Alerts() const { return m_alerts; }
-    const std::vector<std::wstring>& Posted() const { return m_posted; }
+    int Escapes() const { return m_nEscapes; }
     /// L"\x1B" answers with Escape.
     void Answer(std::initializer_list<const wchar_t*> answers) {
         m_answers.insert(m_answers.end(), answers.begin(), answers.end());
@@ -83,13 +83,19 @@ public:
         return answer == L"\x1B" ? PromptEnd::Cancelled : PromptEnd::Answered;
     }
     void Alert(std::wstring_view text, std::wstring_view) override { m_alerts.emplace_back(text); }
-    void PostCommand(std::wstring_view text) override { m_posted.emplace_back(text); }
+    void Escape() override { ++m_nEscapes; }
+    bool IsPrompting() const override { return m_isPrompting; }
+    void CancelPrompts() override { ++m_nCancelled; }
+
+    /// A prompt that waits outside of any command.
+    bool m_isPrompting = false;
+    int m_nCancelled = 0;
 
 private:
     TempFolder m_support;
     IHostPort* m_pBefore = nullptr;
     std::wstring m_output;
     std::vector<std::wstring> m_alerts;
-    std::vector<std::wstring> m_posted;
+    int m_nEscapes = 0;
     std::deque<CString> m_answers;
 };

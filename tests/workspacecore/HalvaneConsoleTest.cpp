@@ -62,7 +62,7 @@ TEST_F(ConsoleTest, OnlyExitAndQuitLeave) {
     }
     EXPECT_EQ(Run({L"\x1B", L"", L"quit", L"exit"}),
               "Command: Command: Unknown command!\nCommand: Unknown command!\nCommand: ");
-    EXPECT_EQ(m_host.Posted(), std::vector<std::wstring>(6, L"\x1B"));
+    EXPECT_EQ(m_host.Escapes(), 6);
 }
 
 TEST_F(ConsoleTest, ListsCommandsInTheOrderOfTheRegistry) {

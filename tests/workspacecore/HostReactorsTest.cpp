@@ -73,6 +73,21 @@ TEST_F(HostReactorsTest, ADocumentIsSetUpOnceForEachChange) {
     EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetAllowStopCommand(), 0);
 }
 
+TEST_F(HostReactorsTest, ADrawingBehindOneThatAListenerThrewAtIsSetUp) {
+    struct Thrower final : IWsListener {
+        void OnAcadDocumentDestroyed(const wchar_t*) override { throw 42; }
+    } thrower;
+    CWsManager::Instance()->RegisterWsListener(&thrower);
+    for (int i = 0; i < 20; ++i) { // the next one comes to lie at the same address
+        AcApDocument* const pDoc = Documents().newDocument(L"a");
+        EXPECT_EQ(m_notes.Take(), "a current active ");
+        EXPECT_TRUE(Documents().closeDocument(pDoc));
+        EXPECT_EQ(m_notes.Take(), "a leaves a goes a gone ");
+    }
+    EXPECT_NE(m_host.Output().find("OnAcadDocumentDestroyed failed"), std::string::npos);
+    CWsManager::Instance()->UnregisterWsListener(&thrower);
+}
+
 TEST_F(HostReactorsTest, PanelsRefreshEvenWhenTheHostIsClosing) {
     struct Counter final : Notification::CSubscriber {
         Counter() : CSubscriber(1) {}

@@ -12,6 +12,7 @@
 #include "siblings/networkcore/TopologyMultiStorage.h"
 #include "siblings/networkcore/TopologyStorage.h"
 #include "tests/support/TestHost.h"
+#include "workspacecore/commands/CommandScope.h"
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Workspace {
@@ -226,6 +227,47 @@ TEST_F(EventsTest, AnExceptionEndsTheDeliveryAndEventsNestDepthFirst) {
     m_log.clear();
     EXPECT_THROW(CWsManager::Instance()->Raise_OnSystemBecomeActive(m_pSystem), std::runtime_error);
     EXPECT_EQ(m_log, "1Active,object ");
+}
+
+TEST_F(EventsTest, ACommandHasItsEventsOnceHoweverItEnds) {
+    struct Log final : IWsListener {
+        void OnBeforeCommandActivated(const wchar_t* id) override { m_log += CString(id) + L"("; }
+        void OnAfterCommandCompleted(const wchar_t* id) override {
+            m_log += CString(L")");
+            if (CString(id) == L"BAD") {
+                throw std::runtime_error("listener");
+            }
+        }
+        CString m_log;
+    } log;
+    CWsManager::Instance()->RegisterWsListener(&log);
+    const auto nothing = [] {};
+    const struct {
+        const wchar_t* id;
+        std::function<void()> work;
+        const wchar_t* log;
+        const char* thrown;
+    } cases[] = {
+        {L"A", nothing, L"A()", ""},
+        {L"A", [&] { CommandScope::Run(L"A", nothing); }, L"A()", ""},
+        {L"A", [&] { CommandScope::Run(L"B", [&] { CommandScope::Run(L"A", nothing); }); },
+         L"A(B(A()))", ""},
+        {L"A", [] { throw std::runtime_error("work"); }, L"A()", "work"},
+        {L"BAD", nothing, L"BAD()", "listener"},
+        {L"BAD", [] { throw std::runtime_error("work"); }, L"BAD()", "work"},
+    };
+    for (const auto& row : cases) {
+        log.m_log.Empty();
+        std::string thrown;
+        try {
+            CommandScope::Run(row.id, row.work);
+        } catch (const std::runtime_error& error) {
+            thrown = error.what();
+        }
+        EXPECT_EQ(log.m_log.Str(), row.log);
+        EXPECT_EQ(thrown, row.thrown);
+    }
+    CWsManager::Instance()->UnregisterWsListener(&log);
 }
 
 TEST_F(EventsTest, AListenerThatBreaksItsContractLeadsNobodyIntoFreedMemory) {

@@ -147,6 +147,12 @@ TEST_F(PluginManagerTest, ARecordThatAHookAppendsIsLoadedInItsTurn) {
     EXPECT_NE(Commands().find("NORELEASE_6 "), std::string::npos);
 }
 
+TEST_F(PluginManagerTest, TheProviderIsAskedOnceForEachHook) {
+    WriteRegistry({{"CountsProviderCalls.arx"}});
+    EXPECT_NO_THROW(CWsManager::Instance());
+    EXPECT_EQ(States(), "on,loaded,handle ");
+}
+
 TEST_F(PluginManagerTest, AnExceptionOfAHookLeavesTheStartWithItsName) {
     WriteRegistry({{"ThrowsInHook3.arx"}, {"GoodPlugin.arx"}});
     EXPECT_THROW(CWsManager::Instance(), std::runtime_error);

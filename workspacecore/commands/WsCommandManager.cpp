@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/arx/Guard.h"
 #include "siblings/giscore/query/QueryDefinition.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "workspacecore/trace/Trace.h"
@@ -30,7 +31,11 @@ boost::shared_ptr<CExecutorReturnValue> CWsCommandManager::Execute(const wchar_t
         WS_TRACE_TEXT(pQuery->GetName());
     }
     IWsCommandExecutor* const pExecutor = FindExecutor(lpszCommandId);
-    return pExecutor ? pExecutor->Execute(lpszCommandId, pQuery, pItemData) : NeutralReturnValue();
+    if (!pExecutor) {
+        return NeutralReturnValue();
+    }
+    return CallForeign(*pExecutor, lpszCommandId,
+                       [&] { return pExecutor->Execute(lpszCommandId, pQuery, pItemData); });
 }
 
 boost::shared_ptr<CExecutorReturnValue>
@@ -40,9 +45,12 @@ CWsCommandManager::ExecuteExplicite(const wchar_t* lpszCommandId, CRepositoryIte
     WS_TRACE_SCOPE();
     WS_TRACE_TEXT(lpszCommandId);
     IWsCommandExecutor* const pExecutor = FindExecutor(lpszCommandId);
-    return pExecutor
-               ? pExecutor->ExecuteExplicite(lpszCommandId, pRepositoryItem, pSelectionSet, pData)
-               : NeutralReturnValue();
+    if (!pExecutor) {
+        return NeutralReturnValue();
+    }
+    return CallForeign(*pExecutor, lpszCommandId, [&] {
+        return pExecutor->ExecuteExplicite(lpszCommandId, pRepositoryItem, pSelectionSet, pData);
+    });
 }
 
 void CWsCommandManager::GetSetDataCommands(CWsCommandRegistry::CommandVector& commands,

@@ -78,11 +78,20 @@ void CWsDocumentReactor::documentDestroyed(const wchar_t* lpszFileName) {
     WS_TRACE_SCOPE();
     WS_TRACE_TEXT(lpszFileName);
     MarkIndexesChanged();
-    CWsManager::Instance()->Raise_OnAcadDocumentDestroyed(lpszFileName);
-    if (acDocManagerPtr()->documentCount() < 2) {
-        CloseAllWindows();
+    // Whatever listeners do: another document may come to lie at the same address.
+    const auto forget = [] {
+        if (acDocManagerPtr()->documentCount() < 2) {
+            CloseAllWindows();
+        }
+        s_pLastCurrentDocument = nullptr;
+    };
+    try {
+        CWsManager::Instance()->Raise_OnAcadDocumentDestroyed(lpszFileName);
+    } catch (...) {
+        forget();
+        throw;
     }
-    s_pLastCurrentDocument = nullptr;
+    forget();
 }
 
 } // namespace Orvane::Workspace

@@ -3,6 +3,7 @@
 
 #include "platform/arx/EdPrompt.h"
 #include "workspacecore/core/WsManager.h"
+#include "workspacecore/core/WsOrder.h"
 
 namespace Orvane::Workspace {
 
@@ -44,10 +45,11 @@ void PrintModules(const CWsModuleRegistry& registry) {
     }
 }
 
-void RunCommand(CWsCommandManager& commands, CString id) {
+/// What the command throws passes on and ends the console.
+void RunCommand(const CWsCommandManager& commands, CString id) {
     id.MakeUpper();
     if (commands.GetCommandRegistry()->GetWsCommandById(id)) {
-        commands.Execute(id, nullptr, nullptr);
+        acedRunner().RunInside(MakeCommandOrder({id, OrderOrigin::Console}));
     } else {
         acutPrintf(L"Unknown command!\n");
     }

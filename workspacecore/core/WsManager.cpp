@@ -8,6 +8,8 @@
 #include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscoreadds/InfoTooltipRegistry.h"
+#include "workspacecore/commands/CommandScope.h"
+#include "workspacecore/core/CommandIdReport.h"
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 #include "workspacecore/core/EditorReactor.h"
 #include "workspacecore/core/HostWillClose.h"
@@ -23,6 +25,17 @@ namespace {
 /// Characters that conversions may take without allocating while modules are loaded.
 constexpr int kConversionBuffer = 1024;
 
+class CommandEvents final : public ICommandEvents {
+public:
+    void RaiseBefore(const wchar_t* commandId) override {
+        CWsManager::Instance()->Raise_OnBeforeCommandActivated(commandId);
+    }
+    void RaiseAfter(const wchar_t* commandId) override {
+        CWsManager::Instance()->Raise_OnAfterCommandCompleted(commandId);
+    }
+};
+CommandEvents s_commandEvents;
+
 Notification::CPublisher* Publisher(const wchar_t* name) {
     return Notification::CNotificationFramework::Instance()->GetPublisher(name);
 }
@@ -35,6 +48,7 @@ CWsManager* CWsManager::Instance() {
     }
     // Stored before anything else happens: hooks call Instance while it is still starting.
     m_pInstance = new CWsManager;
+    CommandScope::SetEvents(&s_commandEvents);
     if (s_bHostWillClose) {
         return m_pInstance;
     }
@@ -86,7 +100,11 @@ CWsManager::~CWsManager() {
 }
 
 int CWsManager::RegisterWsCommand(boost::shared_ptr<CWsCommand> command) {
-    return m_CmdMgr.GetCommandRegistry()->AddWsCommand(command);
+    const int bTaken = m_CmdMgr.GetCommandRegistry()->AddWsCommand(command);
+    if (bTaken) {
+        ReportConfusingId(*m_CmdMgr.GetCommandRegistry(), *command);
+    }
+    return bTaken;
 }
 
 void CWsManager::RegisterWsTreeItem(boost::shared_ptr<CWsTreeItemDefinition> definition) {

@@ -131,7 +131,7 @@ public:
 private:
     CWsManager();
     template <auto Event, class... Args>
-    void Deliver(Args... args) const;
+    void Deliver(const wchar_t* event, Args... args) const;
 
     // In the order of construction: the plug-in manager reads its file first.
     CWsDocumentReactor* m_pDocumentReactor = nullptr;            ///< owned

@@ -1,4 +1,5 @@
 // The events: what each does besides telling the listeners.
+#include "platform/arx/Guard.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/data/DataConfiguration.h"
 #include "siblings/giscore/systems/GisSystem.h"
@@ -28,22 +29,32 @@ Topology::CTopologyStorage* MainTopology() {
 } // namespace
 
 template <auto Event, class... Args>
-void CWsManager::Deliver(Args... args) const {
+void CWsManager::Deliver(const wchar_t* event, Args... args) const {
     // The end is fixed in advance.
     const std::size_t count = m_Listeners.size();
     const unsigned int changes = m_nListenerChanges;
     IWsListener* const* const pFirst = m_Listeners.data();
-    for (IWsListener* const* pNext = pFirst; pNext != pFirst + count;) {
-        ((*pNext++)->*Event)(args...);
-        if (changes != m_nListenerChanges) [[unlikely]] {
-            // A listener broke its contract and registered or unregistered somebody: go on
-            // by index, so that it leads nobody into freed memory.
-            for (auto i = static_cast<std::size_t>(pNext - pFirst);
-                 i < count && i < m_Listeners.size(); ++i) {
-                (m_Listeners[i]->*Event)(args...);
+    const void* owner = nullptr; // whose listener is called; it may be gone once it has thrown
+    const auto call = [&](IWsListener* pListener) {
+        owner = ClassAddress(*pListener);
+        (pListener->*Event)(args...);
+    };
+    try {
+        for (IWsListener* const* pNext = pFirst; pNext != pFirst + count;) {
+            call(*pNext++);
+            if (changes != m_nListenerChanges) [[unlikely]] {
+                // A listener broke its contract and registered or unregistered somebody: go on
+                // by index, so that it leads nobody into freed memory.
+                for (auto i = static_cast<std::size_t>(pNext - pFirst);
+                     i < count && i < m_Listeners.size(); ++i) {
+                    call(m_Listeners[i]);
+                }
+                return;
             }
-            return;
         }
+    } catch (...) {
+        NoteInterruptedActivity(LibraryOfAddress(owner), event);
+        throw;
     }
 }
 
@@ -51,7 +62,9 @@ int CWsManager::Raise_OnBeforeAcadWillClose() {
     WS_TRACE_TEXT("CAD will close");
     const std::size_t count = m_Listeners.size();
     for (std::size_t i = 0; i < count && i < m_Listeners.size(); ++i) {
-        if (m_Listeners[i]->OnBeforeAcadWillClose()) {
+        IWsListener* const pListener = m_Listeners[i];
+        if (CallForeign(*pListener, L"OnBeforeAcadWillClose",
+                        [&] { return pListener->OnBeforeAcadWillClose(); })) {
             return 1;
         }
     }
@@ -61,12 +74,13 @@ int CWsManager::Raise_OnBeforeAcadWillClose() {
 
 void CWsManager::Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
     WS_TRACE_TEXT(lpszFileName);
-    Deliver<&IWsListener::OnBeginSaveAcadDocument>(pDb, lpszFileName);
+    Deliver<&IWsListener::OnBeginSaveAcadDocument>(L"OnBeginSaveAcadDocument", pDb, lpszFileName);
 }
 
 void CWsManager::Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName) {
     WS_TRACE_TEXT(lpszFileName);
-    Deliver<&IWsListener::OnSaveCompletedAcadDocument>(pDb, lpszFileName);
+    Deliver<&IWsListener::OnSaveCompletedAcadDocument>(L"OnSaveCompletedAcadDocument", pDb,
+                                                       lpszFileName);
 }
 
 void CWsManager::Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc) {
@@ -79,12 +93,14 @@ void CWsManager::Raise_OnAcadDocumentBecomeCurrent(AcApDocument* pActivatedDoc) 
         Data::CDataConfiguration::Instance()->SetFloatToStrPrecision_Point(
             CModuleConfiguration::Instance()->GetNodeIndexCoorPrecision());
     }
-    Deliver<&IWsListener::OnAcadDocumentBecomeCurrent>(pActivatedDoc);
+    Deliver<&IWsListener::OnAcadDocumentBecomeCurrent>(L"OnAcadDocumentBecomeCurrent",
+                                                       pActivatedDoc);
 }
 
 void CWsManager::Raise_OnAcadDocumentToBeDeactivated(AcApDocument* pDoc) {
     if (!s_bHostWillClose) {
-        Deliver<&IWsListener::OnAcadDocumentToBeDeactivated>(pDoc);
+        Deliver<&IWsListener::OnAcadDocumentToBeDeactivated>(L"OnAcadDocumentToBeDeactivated",
+                                                             pDoc);
     }
 }
 
@@ -92,7 +108,8 @@ void CWsManager::Raise_OnAcadDocumentToBeDestroyed(AcApDocument* pDocToDestroy) 
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("pDocToDestroy", pDocToDestroy);
     if (!s_bHostWillClose) {
-        Deliver<&IWsListener::OnAcadDocumentToBeDestroyed>(pDocToDestroy);
+        Deliver<&IWsListener::OnAcadDocumentToBeDestroyed>(L"OnAcadDocumentToBeDestroyed",
+                                                           pDocToDestroy);
     }
 }
 
@@ -100,14 +117,14 @@ void CWsManager::Raise_OnAcadDocumentDestroyed(const wchar_t* lpszFileName) {
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("lpszFileName", lpszFileName);
     if (!s_bHostWillClose) {
-        Deliver<&IWsListener::OnAcadDocumentDestroyed>(lpszFileName);
+        Deliver<&IWsListener::OnAcadDocumentDestroyed>(L"OnAcadDocumentDestroyed", lpszFileName);
     }
 }
 
 void CWsManager::Raise_OnSystemChanged(System::CGisSystem* pSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver<&IWsListener::OnSystemChanged>(pSystem);
+    Deliver<&IWsListener::OnSystemChanged>(L"OnSystemChanged", pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActive) {
@@ -122,40 +139,40 @@ void CWsManager::Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActi
     Data::CLinearDataManager::Instance()->RefreshLinearDataDefinitions();
     MainTopology()->RefreshNameRules();
     MainTopology()->LoadCountersFromSystem(pSysToBecomeActive);
-    Deliver<&IWsListener::OnSystemBecomeActive>(pSysToBecomeActive);
+    Deliver<&IWsListener::OnSystemBecomeActive>(L"OnSystemBecomeActive", pSysToBecomeActive);
 }
 
 void CWsManager::Raise_OnSystemBecomeInactive(System::CGisSystem* pSystem) {
     MainTopology()->SaveCountersToSystem(pSystem);
-    Deliver<&IWsListener::OnSystemBecomeInactive>(pSystem);
+    Deliver<&IWsListener::OnSystemBecomeInactive>(L"OnSystemBecomeInactive", pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeHidden(System::CGisSystem* pSystem) {
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver<&IWsListener::OnSystemBecomeHidden>(pSystem);
+    Deliver<&IWsListener::OnSystemBecomeHidden>(L"OnSystemBecomeHidden", pSystem);
 }
 
 void CWsManager::Raise_OnSystemBecomeShown(System::CGisSystem* pSystem) {
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver<&IWsListener::OnSystemBecomeShown>(pSystem);
+    Deliver<&IWsListener::OnSystemBecomeShown>(L"OnSystemBecomeShown", pSystem);
 }
 
 void CWsManager::Raise_OnBeforeSystemDelete(System::CGisSystem* pSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_SYSTEM_NAME(pSystem);
-    Deliver<&IWsListener::OnBeforeSystemDelete>(pSystem);
+    Deliver<&IWsListener::OnBeforeSystemDelete>(L"OnBeforeSystemDelete", pSystem);
 }
 
 void CWsManager::Raise_OnAfterSystemDelete() {
     WS_TRACE_TEXT("Marker");
-    Deliver<&IWsListener::OnAfterSystemDelete>();
+    Deliver<&IWsListener::OnAfterSystemDelete>(L"OnAfterSystemDelete");
 }
 
 void CWsManager::Raise_OnNewSystemCreated(System::CGisSystem* pNewSystem) {
     WS_TRACE_SCOPE();
     WS_TRACE_VALUE("pNewSystem", pNewSystem);
     WS_TRACE_SYSTEM_NAME(pNewSystem);
-    Deliver<&IWsListener::OnNewSystemCreated>(pNewSystem);
+    Deliver<&IWsListener::OnNewSystemCreated>(L"OnNewSystemCreated", pNewSystem);
 }
 
 void CWsManager::Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
@@ -165,13 +182,13 @@ void CWsManager::Raise_OnNewConfigDefinitionAdded(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszNewDefinitionGuid", lpszNewDefinitionGuid);
     }
-    Deliver<&IWsListener::OnNewConfigDefinitionAdded>(pSystem, lpszRepositoryTag,
-                                                      lpszNewDefinitionGuid);
+    Deliver<&IWsListener::OnNewConfigDefinitionAdded>(L"OnNewConfigDefinitionAdded", pSystem,
+                                                      lpszRepositoryTag, lpszNewDefinitionGuid);
 }
 
 void CWsManager::Raise_OnTemporaryDataRefreshed() {
     if (!s_bHostWillClose) {
-        Deliver<&IWsListener::OnTemporaryDataRefreshed>();
+        Deliver<&IWsListener::OnTemporaryDataRefreshed>(L"OnTemporaryDataRefreshed");
     }
 }
 
@@ -182,7 +199,8 @@ void CWsManager::Raise_OnBeforeConfigDefinitionDeleted(
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszDefinitionGuidToBeDeleted", lpszDefinitionGuidToBeDeleted);
     }
-    Deliver<&IWsListener::OnBeforeConfigDefinitionDeleted>(pSystem, lpszRepositoryTag,
+    Deliver<&IWsListener::OnBeforeConfigDefinitionDeleted>(L"OnBeforeConfigDefinitionDeleted",
+                                                           pSystem, lpszRepositoryTag,
                                                            lpszDefinitionGuidToBeDeleted);
 }
 
@@ -193,8 +211,8 @@ void CWsManager::Raise_OnConfigDefinitionChanged(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpsChangedDefinitionGuid", lpsChangedDefinitionGuid);
     }
-    Deliver<&IWsListener::OnConfigDefinitionChanged>(pSystem, lpszRepositoryTag,
-                                                     lpsChangedDefinitionGuid);
+    Deliver<&IWsListener::OnConfigDefinitionChanged>(L"OnConfigDefinitionChanged", pSystem,
+                                                     lpszRepositoryTag, lpsChangedDefinitionGuid);
 }
 
 void CWsManager::Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem,
@@ -204,15 +222,15 @@ void CWsManager::Raise_OnConfigBecomeDefault(System::CGisSystem* pSystem,
         WS_TRACE_VALUE("lpszRepositoryTag", lpszRepositoryTag);
         WS_TRACE_VALUE("lpszDefaultDefinitionGuid", lpszDefaultDefinitionGuid);
     }
-    Deliver<&IWsListener::OnConfigBecomeDefault>(pSystem, lpszRepositoryTag,
-                                                 lpszDefaultDefinitionGuid);
+    Deliver<&IWsListener::OnConfigBecomeDefault>(L"OnConfigBecomeDefault", pSystem,
+                                                 lpszRepositoryTag, lpszDefaultDefinitionGuid);
 }
 
 void CWsManager::Raise_OnBeforeCommandActivated(const wchar_t* lpszCommandId) {
     WS_TRACE_SCOPE();
     if (!s_bHostWillClose) {
         WS_TRACE_TEXT(lpszCommandId);
-        Deliver<&IWsListener::OnBeforeCommandActivated>(lpszCommandId);
+        Deliver<&IWsListener::OnBeforeCommandActivated>(L"OnBeforeCommandActivated", lpszCommandId);
     }
 }
 
@@ -220,13 +238,13 @@ void CWsManager::Raise_OnAfterCommandCompleted(const wchar_t* lpszCommandId) {
     WS_TRACE_SCOPE();
     if (!s_bHostWillClose) {
         WS_TRACE_TEXT(lpszCommandId);
-        Deliver<&IWsListener::OnAfterCommandCompleted>(lpszCommandId);
+        Deliver<&IWsListener::OnAfterCommandCompleted>(L"OnAfterCommandCompleted", lpszCommandId);
     }
 }
 
 void CWsManager::Raise_OnAfterGeneralSettingsChanged() {
     WS_TRACE_TEXT("Marker");
-    Deliver<&IWsListener::OnAfterGeneralSettingsChanged>();
+    Deliver<&IWsListener::OnAfterGeneralSettingsChanged>(L"OnAfterGeneralSettingsChanged");
 }
 
 } // namespace Orvane::Workspace

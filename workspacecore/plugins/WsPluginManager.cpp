@@ -50,11 +50,23 @@ constexpr Hook kSingleFileHooks[] = {
     {&IPluginInfo::RegisterCatalogExtenders, L"RegisterCatalogExtenders"},
 };
 
-void RunHooks(PluginInfoProvider provider, const wchar_t* fileName, std::span<const Hook> hooks) {
+IPluginInfo* CallProvider(PluginInfoProvider provider, const wchar_t* fileName) {
+    const ActivityScope activity(fileName, L"ORVPluginInfoProvider");
+    return provider();
+}
+
+/// Asks the provider anew for each hook, as plug-ins expect. False if it has nothing to hand out
+/// for the first one, which means that the module is no plug-in.
+bool RunHooks(PluginInfoProvider provider, const wchar_t* fileName, std::span<const Hook> hooks) {
     for (const Hook& hook : hooks) {
+        IPluginInfo* const pInfo = CallProvider(provider, fileName);
+        if (!pInfo) {
+            return &hook != &hooks.front();
+        }
         const ActivityScope activity(fileName, hook.name);
-        (provider()->*hook.call)();
+        (pInfo->*hook.call)();
     }
+    return true;
 }
 
 void TakeLibrary(CWsModule& module, HINSTANCE library) {
@@ -62,11 +74,6 @@ void TakeLibrary(CWsModule& module, HINSTANCE library) {
     module.SetPluginInfo(
         reinterpret_cast<PluginInfoProvider>(GetProcAddress(library, kProviderEntry)));
     module.SetReleaseModule(GetProcAddress(library, kReleaseEntry));
-}
-
-/// It has a provider, and the provider has something to hand out.
-bool IsPlugin(const CWsModule& module) {
-    return module.GetPluginInfo() && module.GetPluginInfo()();
 }
 
 void DropLibrary(CWsModule& module) {
@@ -141,12 +148,13 @@ int CWsPluginManager::LoadModules() {
         TakeLibrary(*module, library);
         WS_TRACE_TEXT(module->GetPluginInfo() ? "Plugin entry found"
                                               : "***Plugin entry NOT found***");
-        if (IsPlugin(*module)) {
-            bAnyAccepted = 1;
+        if (module->GetPluginInfo()) {
             module->SetLoaded(1);
-            RunHooks(module->GetPluginInfo(), fileName, kStartHooks);
+            module->SetLoaded(RunHooks(module->GetPluginInfo(), fileName, kStartHooks) ? 1 : 0);
         }
-        if (!module->GetLoaded()) {
+        if (module->GetLoaded()) {
+            bAnyAccepted = 1;
+        } else {
             DropLibrary(*module);
             module->SetOn(0);
         }
@@ -172,12 +180,12 @@ int CWsPluginManager::LoadModule(const wchar_t* lpszFile) {
     module->SetFileName(lpszFile);
     module->SetOn(1);
     TakeLibrary(*module, library);
-    if (!IsPlugin(*module)) {
+    module->SetLoaded(1);
+    if (!module->GetPluginInfo() ||
+        !RunHooks(module->GetPluginInfo(), module->GetFileName(), kSingleFileHooks)) {
         DropLibrary(*module);
         return 0;
     }
-    module->SetLoaded(1);
-    RunHooks(module->GetPluginInfo(), module->GetFileName(), kSingleFileHooks);
     m_pModuleRegistry->AddWsModule(module);
     return 1;
 }

@@ -13,6 +13,7 @@
 #include <QSocketNotifier>
 #include <QUrl>
 
+#include "platform/arx/Guard.h"
 #include "platform/mfc/WaitCursor.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
@@ -105,6 +106,13 @@ int VirtualKeyOf(int key) {
 }
 
 bool Application::notify(QObject* pReceiver, QEvent* pEvent) {
+    // Nothing may be thrown through the toolkit's event loop: that would end the program.
+    bool isTaken = true;
+    Guarded(L"A window", [&] { isTaken = NotifyUnguarded(pReceiver, pEvent); });
+    return isTaken;
+}
+
+bool Application::NotifyUnguarded(QObject* pReceiver, QEvent* pEvent) {
     // A popup (an open list, a menu) has the keyboard and the mouse to itself.
     if (IsTranslated(pEvent->type()) && pReceiver->isWidgetType() && !activePopupWidget() &&
         (m_inputs.empty() || m_inputs.back()->pEvent != pEvent)) {
@@ -256,6 +264,12 @@ void AfxPumpMessages() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void AfxCallSoon(std::function<void()> call) {
+    if (QCoreApplication* const pApplication = QCoreApplication::instance()) {
+        QMetaObject::invokeMethod(pApplication, std::move(call), Qt::QueuedConnection);
+    }
 }
 
 void AfxWaitForInput(int file) {

@@ -45,6 +45,7 @@ private:
         enmOutcome outcome;
     };
 
+    bool NotifyUnguarded(QObject* pReceiver, QEvent* pEvent);
     bool NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent);
     bool TakeTranslated(const QEvent* pEvent, enmOutcome& outcome);
 

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QUrl>
 
+#include "platform/arx/Guard.h"
 #include "platform/mfc/toolkit/Application.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/DroppedFiles.h"
@@ -19,6 +20,9 @@
 #include "platform/mfc/toolkit/Stacking.h"
 
 namespace {
+
+/// What is said to fail when a window does.
+constexpr const wchar_t* kStep = L"window message";
 
 /// Never destroyed: windows may be static objects.
 auto& CoresByHandle() {
@@ -236,10 +240,15 @@ void WindowCore::WidgetGone() {
     Detach();
 }
 
+LRESULT WindowCore::CallWindow(const MSG& msg) {
+    return CallForeign(*m_pWnd, kStep,
+                       [&] { return m_pWnd->WindowProc(msg.message, msg.wParam, msg.lParam); });
+}
+
 LRESULT WindowCore::Deliver(const MSG& msg, ToolkitDefault* pDefault) {
     const std::shared_ptr<WindowCore> keep = shared_from_this();
     const Frame frame(this, msg, pDefault);
-    return m_pWnd ? m_pWnd->WindowProc(msg.message, msg.wParam, msg.lParam) : 0;
+    return m_pWnd ? CallWindow(msg) : 0;
 }
 
 bool WindowCore::DeliverEvent(enmWidgetPart part, QEvent* pEvent, ToolkitDefault& toolkit) {
@@ -252,7 +261,7 @@ bool WindowCore::DeliverEvent(enmWidgetPart part, QEvent* pEvent, ToolkitDefault
     }
     const std::shared_ptr<WindowCore> keep = shared_from_this();
     Frame frame(this, msg, &toolkit);
-    m_pWnd->WindowProc(msg.message, msg.wParam, msg.lParam);
+    CallWindow(msg);
     if (pEvent->type() == QEvent::Close) {
         // Whether the window goes is for the handlers alone; it has gone if they wanted it.
         pEvent->ignore();
@@ -391,7 +400,8 @@ bool WindowCore::PreTranslate(MSG& msg) {
     const std::shared_ptr<WindowCore> keep = shared_from_this();
     for (HWND next = m_handle; WindowCore* const pCore = Find(next);) {
         next = pCore->m_outer && pCore->m_outer->isWindow() ? nullptr : pCore->m_parent;
-        if (pCore->m_pWnd && pCore->m_pWnd->PreTranslateMessage(&msg)) {
+        CWnd* const pWnd = pCore->m_pWnd;
+        if (pWnd && CallForeign(*pWnd, kStep, [&] { return pWnd->PreTranslateMessage(&msg); })) {
             return true;
         }
     }

@@ -104,6 +104,7 @@ protected:
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
 private:
+    LRESULT CallWindow(const MSG& msg);
     class Frame;
     WindowCore() = default;
     bool Translate(enmWidgetPart part, QEvent* pEvent, MSG& msg) const;

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "host/HostCommands.h"
+#include "host/Session.h"
 #include "host/desktop/CommandPane.h"
 #include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
@@ -43,20 +44,20 @@ protected:
         // No modules: the host alone.
         SetHostOption(kHostOptionInstall, m_folder.Wide("none/"));
         m_pFrame = std::make_unique<Frame>();
-        m_pBefore = SetHostPort(&m_pFrame->Port());
-        m_pDisplay = std::make_unique<FrameDisplay>(*m_pFrame);
+        m_pPort = std::make_unique<DesktopPort>(*m_pFrame, m_pFrame->Pane());
+        m_pBefore = SetHostPort(m_pPort.get());
+        m_pDisplay = std::make_unique<FrameDisplay>(*m_pFrame, *m_pPort);
         m_pFrame->ApplyLayout({});
         m_pFrame->show();
-        m_pSession = std::make_unique<Session>(m_pFrame->Port());
+        m_pSession = std::make_unique<Session>();
         m_pSession->Start({});
-        m_pFrame->SetSession(m_pSession.get());
         m_pInput = m_pFrame->Pane().findChild<QLineEdit*>();
     }
     ~FrameTest() override {
-        m_pFrame->SetSession(nullptr);
         m_pSession.reset();
         m_pDisplay.reset();
         SetHostPort(m_pBefore);
+        m_pPort.reset();
         m_pFrame.reset();
         EXPECT_EQ(Warnings(), std::vector<std::string>());
         for (const QWidget* const pWindow : QApplication::topLevelWidgets()) {
@@ -80,6 +81,7 @@ protected:
 
     TempFolder m_folder;
     std::unique_ptr<Frame> m_pFrame;
+    std::unique_ptr<DesktopPort> m_pPort;
     std::unique_ptr<FrameDisplay> m_pDisplay;
     std::unique_ptr<Session> m_pSession;
     IHostPort* m_pBefore = nullptr;

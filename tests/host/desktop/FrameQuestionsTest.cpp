@@ -13,7 +13,7 @@ class FrameQuestionsTest : public FrameTest {
 protected:
     CString Ask(const wchar_t* prompt) {
         CString answer;
-        m_pFrame->Port().GetString(true, prompt, answer);
+        m_pPort->GetString(true, prompt, answer);
         return answer;
     }
     static int Pick() {
@@ -46,14 +46,14 @@ TEST_F(FrameQuestionsTest, WhatAPanelAsksEndsBeforeACommandRuns) {
     const int before = Drawings();
     int meanwhile = 0;
     Later([&] {
-        m_pFrame->Run(L"NEW");
+        acedRunner().Give({L"NEW", OrderOrigin::Menu});
         meanwhile = Drawings();
     });
     EXPECT_EQ(Ask(L"Panel:").Str(), L"");
     EXPECT_EQ(meanwhile, before) << "nothing runs inside of the prompt";
     QApplication::processEvents();
     EXPECT_EQ(Drawings(), before + 1);
-    Later([&] { m_pFrame->Run(L"NEW"); });
+    Later([&] { acedRunner().Give({L"NEW", OrderOrigin::Menu}); });
     EXPECT_EQ(Pick(), RTCAN);
     QApplication::processEvents();
     EXPECT_EQ(Drawings(), before + 2);
@@ -80,7 +80,7 @@ TEST_F(FrameQuestionsTest, AClickAnswersTheInnerPickAlone) {
         inner = Pick();
         Later([&] {
             goesOn = m_pFrame->CurrentView()->IsPicking();
-            m_pFrame->Port().Cancel();
+            m_pPort->Escape();
         });
     });
     EXPECT_EQ(Pick(), RTCAN);

@@ -19,12 +19,12 @@ TEST_F(FrameTest, CommandsAreTypedAndTheirPromptsAnswered) {
     EXPECT_TRUE(Said("Unknown command \"no_such\""));
     m_folder.Write("a.geojson", R"({"type": "Point", "coordinates": [3, 4]})");
     Later([&] {
-        EXPECT_TRUE(m_pFrame->IsRunning());
-        EXPECT_TRUE(m_pFrame->Port().IsPrompting());
+        EXPECT_TRUE(acedRunner().IsBusy());
+        EXPECT_TRUE(m_pPort->IsPrompting());
         Type(m_folder.Native("a.geojson").c_str());
     });
     Type("import");
-    EXPECT_FALSE(m_pFrame->IsRunning());
+    EXPECT_FALSE(acedRunner().IsBusy());
     EXPECT_TRUE(Said("1 points"));
     EXPECT_TRUE(Tabs().tabText(0).endsWith('*'));
     EXPECT_TRUE(m_pFrame->isWindowModified());
@@ -41,7 +41,7 @@ TEST_F(FrameTest, CommandsAreTypedAndTheirPromptsAnswered) {
 }
 
 TEST_F(FrameTest, ACommandThatIsAskedForMeanwhileCancelsThePromptAndRunsThen) {
-    Later([&] { m_pFrame->Run(L"DRAWINGS"); });
+    Later([&] { acedRunner().Give({L"DRAWINGS", OrderOrigin::Menu}); });
     Type("OPEN");
     QApplication::processEvents();
     EXPECT_TRUE(Said("Nothing was opened."));
@@ -121,7 +121,7 @@ TEST_F(FrameTest, AnEntityIsPickedInTheViewOrByAScriptsNumber) {
     EXPECT_EQ(pick([&] { QTest::mouseClick(&view, Qt::LeftButton, {}, at(20, 25)); }).first,
               RTERROR);
     EXPECT_EQ(pick([&] { QTest::keyClick(m_pInput, Qt::Key_Escape); }).first, RTCAN);
-    m_pFrame->Port().QueueAnswer(CString(std::to_wstring(line.number())));
+    m_pPort->SetAnswers({CString(std::to_wstring(line.number()))});
     EXPECT_EQ(pick([] {}), std::pair(RTNORM, line));
 }
 

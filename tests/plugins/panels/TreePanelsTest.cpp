@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QMenu>
 
+#include "platform/arx/CommandRunner.h"
+#include "platform/arx/DbUndo.h"
 #include "siblings/giscore/notification/Publisher.h"
 #include "siblings/giscore/repository/RepositoryFactory.h"
 #include "siblings/giscore/repository/RepositoryManager.h"
@@ -232,13 +234,52 @@ TEST_F(TreePanels, ADraggedConfigurationIsCopiedToWhereItFits) {
 }
 
 TEST_F(TreePanels, ACommandThatIsAskedForDuringAnotherCancelsItAndRunsAfterIt) {
-    Workspace().Raise_OnBeforeCommandActivated(L"LONG");
-    DoubleClick(Town());
-    EXPECT_EQ(Systems().GetActiveSystem(), nullptr);
-    EXPECT_EQ(m_host.Posted(), std::vector<std::wstring>{L"\x1B"});
-    Workspace().Raise_OnAfterCommandCompleted(L"LONG");
+    const System::CGisSystem* pMeanwhile = m_pSystem;
+    acedRunner().Run({L"LONG", OrderOrigin::Script, [&] {
+                          DoubleClick(Town());
+                          pMeanwhile = Systems().GetActiveSystem();
+                          return CommandOutcome::Done;
+                      }});
+    EXPECT_EQ(pMeanwhile, nullptr);
+    EXPECT_EQ(m_host.m_nCancelled, 1);
     Settle();
     EXPECT_EQ(Systems().GetActiveSystem(), m_pSystem);
+}
+
+TEST_F(TreePanels, ACommandOfAPluginIsOneStepAndMayThrow) {
+    struct Executor final : Workspace::IWsCommandExecutor {
+        boost::shared_ptr<Workspace::CExecutorReturnValue>
+        Execute(const wchar_t*, Query::CQueryDefinition*, Workspace::CWsTreeItemData*) override {
+            AcDbDatabase& drawing = *acDocManagerPtr()->curDocument()->database();
+            drawing.appendEntity(std::make_unique<AcDbPoint>());
+            drawing.appendEntity(std::make_unique<AcDbPoint>());
+            if (m_throws) {
+                throw 42;
+            }
+            return Workspace::NeutralReturnValue();
+        }
+        bool m_throws = false;
+    } executor;
+    Workspace()
+        .CmdMgr()
+        ->GetCommandRegistry()
+        ->GetWsCommandById(L"SYSTEM_DBLCLICK")
+        ->SetCmdExecutor(&executor);
+    AcDbDatabase& drawing = *acDocManagerPtr()->curDocument()->database();
+    const auto before = drawing.entityCount();
+    for (const bool throws : {false, true}) {
+        executor.m_throws = throws;
+        m_host.TakeOutput();
+        DoubleClick(Town());
+        EXPECT_EQ(drawing.entityCount(), before + 2);
+        EXPECT_EQ(m_host.Output().find("SYSTEM_DBLCLICK failed: an exception without a text") !=
+                      std::string::npos,
+                  throws)
+            << m_host.Output();
+        EXPECT_TRUE(drawing.undo().undo());
+        EXPECT_EQ(drawing.entityCount(), before) << "one step, though the executor makes none";
+        EXPECT_NE(Find(Tree(), {L"Systems", L"Town"}), nullptr);
+    }
 }
 
 TEST_F(TreePanels, APanelThatGoesTakesItsTreeAlong) {

@@ -131,11 +131,11 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     EXPECT_EQ(Base(L"SENDTO_QUERY", {}, &node), guid);
     EXPECT_TRUE(Base(L"SENDTO_QUERY", {}, &node).IsEmpty()) << "it is there, and the same";
 
-    CString typed = L"renamed\nin place";
-    node.SetCustomData(&typed);
+    ItemArgument typed = CString(L"renamed\nin place");
+    WrapArgument(node, &typed);
     EXPECT_EQ(Base(L"REN_QUERY", {}, &node), guid);
     EXPECT_EQ(InSystem(L"QUERY")->GetItem(guid)->GetName(), L"renamed in place");
-    node.SetCustomData(nullptr);
+    WrapArgument(node, nullptr);
     EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"no"}, &node).IsEmpty());
     EXPECT_EQ(Base(L"SENDTO_QUERY", {L"yes"}, &node), guid);
     const auto disk = Family(L"QUERY").GetDiskStore();
@@ -151,12 +151,13 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     CWsTreeItemData dragged =
         Node(L"QUERY", Workspace::WsItemRepositoryConfiguration, nullptr, guid);
     EXPECT_EQ(Run(L"RUN_QUERY", &dragged), 5) << "on the active system";
+    ItemArgument dropped = std::make_shared<const CWsTreeItemData>(dragged);
     CWsTreeItemData target = Node(L"QUERY", Workspace::WsItemSystemRepository, &m_system);
-    target.SetCustomData(&dragged);
+    WrapArgument(target, &dropped);
     EXPECT_EQ(Base(L"RPODROP_QUERY", {}, &target), guid);
     System::CGisSystem& other = MakeSystem(L"Other");
     CWsTreeItemData system = Node(L"", Workspace::WsItemSystem, &other);
-    system.SetCustomData(&dragged);
+    WrapArgument(system, &dropped);
     EXPECT_EQ(System(L"SYSTEM_DROPITEM", {}, &system), 1);
     EXPECT_EQ(Family(L"QUERY").GetSystemStore(&other)->GetItems().size(), 1U);
 }

@@ -4,6 +4,7 @@
 #include <boost/make_shared.hpp>
 
 #include "host/storage/OpenAndSave.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/DbUndo.h"
 #include "plugins/repository/LabelFamily.h"
 #include "plugins/repository/RepositoryExecutor.h"
@@ -17,11 +18,12 @@
 #include "siblings/giscoreadds/SelectionSet.h"
 #include "tests/support/TestDrawing.h"
 #include "workspacecore/core/WsManager.h"
-#include "workspacecore/tree/WsTreeItemData.h"
+#include "workspacecore/tree/ItemArgument.h"
 
 using namespace Orvane;
 using namespace Orvane::Repository;
 using Workspace::CWsTreeItemData;
+using Workspace::ItemArgument;
 
 inline constexpr const wchar_t* kEscape = L"\x1B";
 
@@ -86,11 +88,22 @@ protected:
         return Node(tag, Workspace::WsItemSystemConfiguration, &m_system, guid, type);
     }
 
+    /// As the host runs a command, which makes it one step of the history.
+    template <class Call>
+    static boost::shared_ptr<Workspace::CExecutorReturnValue> InOrder(const wchar_t* id,
+                                                                      Call call) {
+        boost::shared_ptr<Workspace::CExecutorReturnValue> result;
+        acedRunner().RunInside({id, OrderOrigin::Console, [&] {
+                                    result = call();
+                                    return CommandOutcome::Done;
+                                }});
+        return result;
+    }
     /// GUID of the item that a command was about; empty if it was not carried out.
     CString Base(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
                  CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
         Host().Answer(answers);
-        const auto result = m_base.Execute(id, pQuery, pNode);
+        const auto result = InOrder(id, [&] { return m_base.Execute(id, pQuery, pNode); });
         EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
         EXPECT_EQ(result->m_nStatus == 0, result->m_strText1.IsEmpty());
         return result->m_strText1;
@@ -98,13 +111,14 @@ protected:
     /// How many entities a run was about; -1 if it was not carried out.
     static int Run(const wchar_t* id, CWsTreeItemData* pNode,
                    Query::CQueryDefinition* pQuery = nullptr) {
-        const auto result = CBaseExecutor().Execute(id, pQuery, pNode);
+        const auto result = InOrder(id, [&] { return CBaseExecutor().Execute(id, pQuery, pNode); });
         return result->m_nStatus ? result->m_nNumber : -1;
     }
     int System(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
                CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
         Host().Answer(answers);
-        const int status = m_systemExecutor.Execute(id, pQuery, pNode)->m_nStatus;
+        const int status =
+            InOrder(id, [&] { return m_systemExecutor.Execute(id, pQuery, pNode); })->m_nStatus;
         EXPECT_TRUE(Host().AllAnswered()) << Host().Output();
         return status;
     }

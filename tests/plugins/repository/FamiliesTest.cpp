@@ -54,7 +54,8 @@ TEST_F(Executors, NothingComesToStandWhereItsTopologyIsMissing) {
             InSystem(test.tag)->Rename(item.GetGuid(), pTarget == &target ? L"one" : L"two");
             Host().Answer(test.expected ? std::initializer_list<const wchar_t*>{L"yes"}
                                         : std::initializer_list<const wchar_t*>{});
-            pTarget->SetCustomData(&item);
+            ItemArgument dropped = std::make_shared<const CWsTreeItemData>(item);
+            WrapArgument(*pTarget, &dropped);
             const int done = pTarget == &target ? !Base(test.drop, {}, pTarget).IsEmpty()
                                                 : System(L"SYSTEM_DROPITEM", {}, pTarget);
             EXPECT_EQ(done, test.expected) << WideToUtf8(test.drop);
@@ -160,7 +161,8 @@ TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
     CWsTreeItemData dragged =
         Node(L"NOTE", Workspace::WsItemRepositoryConfiguration, nullptr, item->GetGuid());
     CWsTreeItemData target = Node(L"NOTE", Workspace::WsItemSystemEntityFolder, &other);
-    target.SetCustomData(&dragged);
+    ItemArgument dropped = std::make_shared<const CWsTreeItemData>(dragged);
+    WrapArgument(target, &dropped);
     EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_1", nullptr, &target)->m_nStatus, 0);
     EXPECT_EQ(commands.Execute(L"RPODROP_NOTE_2", nullptr, &target)->m_nStatus, 1);
     EXPECT_EQ(Family(L"NOTE").GetSystemStore(&other)->GetHeads(EntitySection).size(), 1U);

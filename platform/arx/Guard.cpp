@@ -1,0 +1,27 @@
+#include "platform/arx/Guard.h"
+
+#include <exception>
+
+#include "platform/arx/EdPrompt.h"
+#include "platform/win/CodePage.h"
+
+CString CaughtReason() {
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        return Utf8ToWide(error.what());
+    } catch (...) {
+        return L"an exception without a text";
+    }
+}
+
+void ReportCaught(const wchar_t* what) noexcept {
+    try {
+        const CString reason = CaughtReason();
+        const CString activity = TakeInterruptedActivity();
+        acutPrintf(L"\n%s failed: %s\n", activity.IsEmpty() ? what : activity.GetString(), reason);
+    } catch (...) {
+        // There is no memory for the message, or nowhere to print it.
+        return;
+    }
+}

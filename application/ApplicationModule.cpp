@@ -8,6 +8,7 @@
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxArxApp.h"
+#include "platform/win/MessageCatalogue.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
@@ -76,6 +77,13 @@ public:
     bool hostToClose() override { return CWsManager::Instance()->Raise_OnBeforeAcadWillClose(); }
 };
 
+/// Messages to the user; their texts are in share/messages.
+enum class AppMsg : int {
+    NoModule = 910200, // why a command cannot run
+    NeedsDrawing = 911158,
+    NoModuleList = 910201, // with the file
+};
+
 /// The heading under which HELP lists a command, as a number of the message catalogue.
 int PurposeOf(const Workspace::CWsCommand& command) {
     if (command.GetCmdGroup() == Workspace::CommandGroupRun &&
@@ -125,9 +133,9 @@ public:
             if (IsHidden(*command)) {
                 continue;
             }
-            const wchar_t* const whyNot = !command->GetCmdExecutor() ? L"No module carries it out"
-                                          : hasDrawing               ? L""
-                                                                     : L"No drawing is open";
+            const CString whyNot = !command->GetCmdExecutor() ? MessageText(AppMsg::NoModule)
+                                   : hasDrawing               ? CString()
+                                                              : MessageText(AppMsg::NeedsDrawing);
             list.push_back({command->GetId(), messages.GetMsg(PurposeOf(*command)),
                             command->GetName(), command->GetDescription(), whyNot});
         }
@@ -180,8 +188,9 @@ public:
         CWsManager::Instance();
         s_problems.Begin();
         if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
-            acutPrintf(L"%sModuleRegistry.xml: no list of modules; there are no plug-ins.\n",
-                       CModuleConfiguration::Instance()->GetPath(L"support"));
+            acutPrintf(L"%s\n", MessageText(AppMsg::NoModuleList,
+                                            CModuleConfiguration::Instance()->GetPath(L"support") +
+                                                L"ModuleRegistry.xml"));
         }
         return result;
     }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "host/ExitStatus.h"
+#include "host/Texts.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/win/ErrorText.h"
 
@@ -78,8 +79,7 @@ int CommandLines::RunLines(IInputLines& input, Mode mode) {
         if (!IsComment(*line) && !RunLine(*line)) {
             status = kExitCommandFailed;
             if (mode == Mode::StopAtFailure) {
-                acutPrintf(L"%s:%d: stopped at \"%s\"\n", input.Name(), m_failure->line,
-                           m_failure->command);
+                PrintText(Msg::StoppedAt, input.Name(), m_failure->line, m_failure->command);
             }
         }
     }

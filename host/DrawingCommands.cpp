@@ -4,8 +4,8 @@
 #include <cwchar>
 #include <filesystem>
 
-#include "host/Dialog.h"
 #include "host/ImportCommand.h"
+#include "host/Prompts.h"
 #include "platform/arx/DbUndo.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/win/File.h"
@@ -14,24 +14,21 @@ namespace Tessaly {
 
 namespace {
 
-constexpr const wchar_t* kAskFile = L"File: ";
-constexpr const wchar_t* kNotSaved = L"The drawing was not saved.";
-
 bool IsFolder(const CString& path) {
     std::error_code ignored;
     return std::filesystem::is_directory(NativePath(path), ignored);
 }
 
 AcDbProgress WritingProgress(const CString& path) {
-    return acedProgress(L"Writing " + FileNameOf(path));
+    return acedProgress(Text(Msg::Writing, FileNameOf(path)));
 }
 
 bool TellSaved(const AcDbStorageResult& result, const AcApDocument& document) {
     PrintWarnings(result.warnings);
     if (!result.ok()) {
-        return Refuse(result.reason, kNotSaved);
+        return Refuse(result.reason, Msg::NotSaved);
     }
-    acutPrintf(L"Saved: %s\n", document.path());
+    PrintText(Msg::Saved, document.path());
     return true;
 }
 
@@ -40,19 +37,17 @@ bool MayReplace(const CString& path) {
     if (!FileExists(path) || IsFolder(path) || acDocManagerPtr()->documentOf(path)) {
         return true;
     }
-    CString prompt;
-    prompt.Format(L"%s exists. Replace it? [Yes/No] <No>: ", path);
-    return AskChoice(prompt, Choice::No) == Choice::Yes;
+    return acedAskYes(Text(Msg::ReplaceFile, path));
 }
 
 bool SaveUnder(AcApDocument& document) {
-    const std::optional<CString> answer = AskText(kAskFile);
+    const std::optional<CString> answer = AskText(Msg::File);
     const CString path = answer ? acDocManagerPtr()->drawingPath(*answer) : CString();
     if (path.IsEmpty()) {
-        return Refuse(L"", kNotSaved);
+        return Refuse(Msg::NotSaved);
     }
     if (!MayReplace(path)) {
-        return Refuse(path + L" stays as it is.", kNotSaved);
+        return Refuse(Text(Msg::LeftUnchanged, path), Msg::NotSaved);
     }
     return TellSaved(acDocManagerPtr()->saveDocumentAs(&document, path, WritingProgress(path)),
                      document);
@@ -71,29 +66,26 @@ bool MayGo(AcApDocument& document) {
     if (!document.isModified()) {
         return true;
     }
-    CString prompt;
-    prompt.Format(L"Save the changes to %s? [Yes/No/Cancel] <Cancel>: ", document.title());
-    switch (AskChoice(prompt, Choice::Cancel)) {
-    case Choice::Yes:
-        return SaveDrawing(document);
-    case Choice::No:
-        return true;
-    default:
-        return false;
-    }
+    constexpr std::size_t kYes = 0;
+    constexpr std::size_t kNo = 1;
+    constexpr std::size_t kCancel = 2;
+    const auto choice = acedAskChoice({Text(Msg::SaveChanges, document.title()),
+                                       {YesChoice(), NoChoice(), CancelChoice()},
+                                       kCancel});
+    return choice == kNo || (choice == kYes && SaveDrawing(document));
 }
 
 void TellCurrent() {
     if (const AcApDocument* const pDoc = acDocManagerPtr()->curDocument()) {
-        acutPrintf(L"The current drawing is %s.\n", pDoc->title());
+        PrintText(Msg::CurrentDrawing, pDoc->title());
     } else {
-        acutPrintf(L"No drawing is open.\n");
+        PrintText(Msg::NoDrawing);
     }
 }
 
 bool Open() {
-    const std::optional<CString> path = AskText(kAskFile);
-    return path ? OpenDrawing(*path) : Refuse(L"", L"Nothing was opened.");
+    const std::optional<CString> path = AskText(Msg::File);
+    return path ? OpenDrawing(*path) : Refuse(Msg::NothingOpened);
 }
 
 bool New() {
@@ -118,13 +110,13 @@ bool Close() {
         return false;
     }
     if (!MayGo(*pDoc)) {
-        return Refuse(L"", L"The drawing stays open.");
+        return Refuse(Msg::DrawingStaysOpen);
     }
     const CString title = pDoc->title();
     if (!acDocManagerPtr()->closeDocument(pDoc)) {
-        return Refuse(title + L": a command works on it.", L"The drawing stays open.");
+        return Refuse(Text(Msg::DrawingInUse, title), Msg::DrawingStaysOpen);
     }
-    acutPrintf(L"%s is closed.\n", title);
+    PrintText(Msg::DrawingClosed, title);
     TellCurrent();
     return true;
 }
@@ -137,12 +129,13 @@ bool Drawings() {
     for (const auto& document : acDocManagerPtr()->documents()) {
         const bool isCurrent = document.get() == acDocManagerPtr()->curDocument();
         acutPrintf(L"%s %2d  %s%s\n", isCurrent ? L"*" : L" ", ++number, document->fileName(),
-                   document->isModified() ? L", modified" : L"");
+                   document->isModified() ? Text(Msg::IsModified) : CString());
     }
     return true;
 }
 
-/// By number in the list of drawings, by name, or by file. Null, and said so, if it is none.
+/// By number in the list of drawings, by name, or by file. Prints a message and returns null if
+/// there is no such drawing.
 AcApDocument* FindDrawing(const CString& answer) {
     const auto& documents = acDocManagerPtr()->documents();
     wchar_t* end = nullptr;
@@ -158,11 +151,11 @@ AcApDocument* FindDrawing(const CString& answer) {
     };
     const auto hit = std::find_if(documents.begin(), documents.end(), isCalled);
     if (hit == documents.end()) {
-        acutPrintf(L"There is no drawing \"%s\". DRAWINGS lists them.\n", answer);
+        PrintText(Msg::NoSuchDrawing, answer);
         return nullptr;
     }
     if (std::find_if(hit + 1, documents.end(), isCalled) != documents.end()) {
-        acutPrintf(L"Several drawings are called %s. Give the number.\n", answer);
+        PrintText(Msg::SeveralDrawings, answer);
         return nullptr;
     }
     return hit->get();
@@ -172,7 +165,7 @@ bool Switch() {
     if (!CurrentDrawing()) {
         return false;
     }
-    const std::optional<CString> answer = AskText(L"Drawing (number or name): ");
+    const std::optional<CString> answer = AskText(Msg::WhichDrawing);
     AcApDocument* const pDoc = answer ? FindDrawing(*answer) : nullptr;
     if (pDoc && pDoc != acDocManagerPtr()->curDocument()) {
         acDocManagerPtr()->setCurDocument(pDoc);
@@ -185,13 +178,11 @@ bool Switch() {
 struct Step {
     const CString* (AcDbUndo::*name)() const;
     bool (AcDbUndo::*take)();
-    const wchar_t* done;
-    const wchar_t* nothing;
+    Msg done;
+    Msg nothing;
 };
-constexpr Step kUndo = {&AcDbUndo::undoName, &AcDbUndo::undo, L"Undone: %s\n",
-                        L"There is nothing to undo."};
-constexpr Step kRedo = {&AcDbUndo::redoName, &AcDbUndo::redo, L"Redone: %s\n",
-                        L"There is nothing to redo."};
+constexpr Step kUndo = {&AcDbUndo::undoName, &AcDbUndo::undo, Msg::Undone, Msg::NothingToUndo};
+constexpr Step kRedo = {&AcDbUndo::redoName, &AcDbUndo::redo, Msg::Redone, Msg::NothingToRedo};
 
 bool Take(const Step& step) {
     AcApDocument* const pDoc = CurrentDrawing();
@@ -201,13 +192,13 @@ bool Take(const Step& step) {
     AcDbUndo& undo = pDoc->database()->undo();
     const CString* const pName = (undo.*step.name)();
     if (!pName) {
-        return Refuse(L"", step.nothing);
+        return Refuse(step.nothing);
     }
-    const CString name = pName->IsEmpty() ? CString(L"a change") : *pName;
+    const CString name = pName->IsEmpty() ? Text(Msg::AChange) : *pName;
     if (!(undo.*step.take)()) {
-        return Refuse(L"", L"This has to wait until the running command has ended.");
+        return Refuse(Msg::CommandRuns);
     }
-    acutPrintf(step.done, name);
+    PrintText(step.done, name);
     return true;
 }
 
@@ -219,26 +210,22 @@ bool Redo() {
     return Take(kRedo);
 }
 
-constexpr const wchar_t* kDrawings = L"Drawings";
-constexpr const wchar_t* kHistory = L"History";
+constexpr Msg kDrawings = Msg::OfDrawings;
+constexpr Msg kHistory = Msg::OfHistory;
 constexpr int kNoGroup = ACRX_CMD_NO_UNDO_GROUP;
 constexpr int kOnDrawing = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_NEEDS_DRAWING;
 
 constexpr HostCommand kDrawingCommands[] = {
-    {L"OPEN", RunHostCommand<Open>, L"opens a drawing", kNoGroup, kDrawings},
-    {L"NEW", RunHostCommand<New>, L"begins a new drawing", kNoGroup, kDrawings},
-    {L"SAVE", RunHostCommand<Save>, L"writes the drawing into its file", kOnDrawing, kDrawings},
-    {L"SAVEAS", RunHostCommand<SaveAs>, L"writes the drawing into another file", kOnDrawing,
-     kDrawings},
-    {L"CLOSE", RunHostCommand<Close>, L"closes the drawing", kOnDrawing, kDrawings},
-    {L"DRAWINGS", RunHostCommand<Drawings>, L"lists the open drawings", kNoGroup, kDrawings},
-    {L"SWITCH", RunHostCommand<Switch>, L"makes another drawing the current one", kOnDrawing,
-     kDrawings},
-    {L"UNDO", RunHostCommand<Undo>, L"takes back what the last command changed", kOnDrawing,
-     kHistory},
-    {L"REDO", RunHostCommand<Redo>, L"brings back what UNDO took", kOnDrawing, kHistory},
-    {L"IMPORT", RunHostCommand<Import>, L"brings a file of another program into the drawing",
-     ACRX_CMD_NEEDS_DRAWING, kDrawings},
+    {L"OPEN", RunHostCommand<Open>, Msg::OpenDoes, kNoGroup, kDrawings},
+    {L"NEW", RunHostCommand<New>, Msg::NewDoes, kNoGroup, kDrawings},
+    {L"SAVE", RunHostCommand<Save>, Msg::SaveDoes, kOnDrawing, kDrawings},
+    {L"SAVEAS", RunHostCommand<SaveAs>, Msg::SaveAsDoes, kOnDrawing, kDrawings},
+    {L"CLOSE", RunHostCommand<Close>, Msg::CloseDoes, kOnDrawing, kDrawings},
+    {L"DRAWINGS", RunHostCommand<Drawings>, Msg::DrawingsDoes, kNoGroup, kDrawings},
+    {L"SWITCH", RunHostCommand<Switch>, Msg::SwitchDoes, kOnDrawing, kDrawings},
+    {L"UNDO", RunHostCommand<Undo>, Msg::UndoDoes, kOnDrawing, kHistory},
+    {L"REDO", RunHostCommand<Redo>, Msg::RedoDoes, kOnDrawing, kHistory},
+    {L"IMPORT", RunHostCommand<Import>, Msg::ImportDoes, ACRX_CMD_NEEDS_DRAWING, kDrawings},
 };
 
 } // namespace
@@ -251,18 +238,18 @@ bool OpenDrawing(const wchar_t* path) {
     const CString file = acDocManagerPtr()->drawingPath(path);
     const bool wasOpen = acDocManagerPtr()->documentOf(file) != nullptr;
     AcApDocument* pDoc = nullptr;
-    const AcDbStorageResult result =
-        acDocManagerPtr()->openDocument(file, acedProgress(L"Reading " + FileNameOf(file)), pDoc);
+    const AcDbStorageResult result = acDocManagerPtr()->openDocument(
+        file, acedProgress(Text(Msg::Reading, FileNameOf(file))), pDoc);
     PrintWarnings(result.warnings);
     if (!result.ok()) {
-        return Refuse(result.reason, L"Nothing was opened.");
+        return Refuse(result.reason, Msg::NothingOpened);
     }
     if (wasOpen) {
-        acutPrintf(L"%s is open already.\n", pDoc->title());
+        PrintText(Msg::AlreadyOpen, pDoc->title());
         TellCurrent();
     } else {
-        acutPrintf(L"%s: %d entities.\n", pDoc->title(),
-                   static_cast<int>(pDoc->database()->entityCount()));
+        PrintText(Msg::EntityCount, pDoc->title(),
+                  static_cast<int>(pDoc->database()->entityCount()));
     }
     return true;
 }
@@ -280,7 +267,7 @@ bool AskAboutUnsavedDrawings() {
 void NameUnsavedDrawings() {
     for (const auto& document : acDocManagerPtr()->documents()) {
         if (document->isModified()) {
-            acutPrintf(L"%s has changes that were not saved.\n", document->title());
+            PrintText(Msg::HasUnsavedChanges, document->title());
         }
     }
 }

@@ -38,7 +38,7 @@ bool FillSupportFolder(const CString& defaults, const CString& support) {
     const fs::path target = NativePath(support);
     fs::create_directories(target, error);
     if (error) {
-        SetLastErrorText(support + L": " + CString(Utf8ToWide(error.message())));
+        SetLastErrorText(support + L": " + ErrorNumberText(error.value()));
         return false;
     }
     for (const fs::directory_entry& file : fs::directory_iterator(NativePath(defaults), error)) {
@@ -47,7 +47,7 @@ bool FillSupportFolder(const CString& defaults, const CString& support) {
         if (!fs::exists(copy)) {
             fs::copy(file.path(), copy, fs::copy_options::recursive, error);
             if (error) {
-                SetLastErrorText(ToText(copy) + L": " + CString(Utf8ToWide(error.message())));
+                SetLastErrorText(ToText(copy) + L": " + ErrorNumberText(error.value()));
                 return false;
             }
         }

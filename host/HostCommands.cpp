@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/Dialog.h"
 #include "host/DrawingCommands.h"
+#include "host/Prompts.h"
 #include "host/ViewCommands.h"
 #include "platform/arx/HostReactor.h"
 #include "platform/arx/RxDynamicLinker.h"
@@ -15,40 +15,37 @@ namespace Tessaly {
 namespace {
 
 constexpr const wchar_t* kGroup = L"TESSALY";
-constexpr const wchar_t* kProgram = L"Program";
-constexpr const wchar_t* kOfModules = L"Support";
 
 bool Quit() {
     if (!AskAboutUnsavedDrawings()) {
-        return Refuse(L"", L"The program stays open.");
+        return Refuse(Msg::ProgramStaysOpen);
     }
     if (!acedAskToClose()) {
-        return Refuse(L"", L"The program stays open: a module does not want to end now.");
+        return Refuse(Msg::ModuleRefusedToEnd);
     }
     acedRunner().Stop();
     return true;
 }
 
 bool LoadApplication() {
-    const std::optional<CString> file = AskText(L"Module file: ");
+    const std::optional<CString> file = AskText(Msg::ModuleFile);
     if (!file) {
-        return Refuse(L"", L"Nothing was loaded.");
+        return Refuse(Msg::NothingLoaded);
     }
     if (!acrxDynamicLinker()->loadModule(*file)) {
-        acutPrintf(L"Not loaded: %s\n", LastErrorText());
+        PrintText(Msg::NotLoaded, LastErrorText());
         return false;
     }
-    acutPrintf(L"%s loaded.\n", *file);
+    PrintText(Msg::Loaded, *file);
     return true;
 }
 
 bool Help();
 
 constexpr HostCommand kProgramCommands[] = {
-    {L"HELP", RunHostCommand<Help>, L"lists the commands; HELP and a name explains one",
-     ACRX_CMD_TAKES_TEXT, kProgram},
-    {L"APPLOAD", RunHostCommand<LoadApplication>, L"loads a host module", 0, kProgram},
-    {L"QUIT", RunHostCommand<Quit>, L"leaves the program", ACRX_CMD_NO_UNDO_GROUP, kProgram},
+    {L"HELP", RunHostCommand<Help>, Msg::HelpDoes, ACRX_CMD_TAKES_TEXT, Msg::OfProgram},
+    {L"APPLOAD", RunHostCommand<LoadApplication>, Msg::ApploadDoes, 0, Msg::OfProgram},
+    {L"QUIT", RunHostCommand<Quit>, Msg::QuitDoes, ACRX_CMD_NO_UNDO_GROUP, Msg::OfProgram},
 };
 
 /// All of the host's own, in the order in which they are listed.
@@ -62,15 +59,15 @@ void ForEachHostCommand(Use use) {
 
 /// A command of the stack; those of modules stand under the name of their group.
 ListedCommand Listed(const AcEdCommand& command, bool hasDrawing) {
-    ListedCommand listed{command.globalName(), command.group(), CString(), kOfModules};
+    ListedCommand listed{command.globalName(), command.group(), CString(), Text(Msg::OfModules)};
     ForEachHostCommand([&](const HostCommand& own) {
         if (command.globalName() == own.name) {
-            listed.description = own.description;
-            listed.purpose = own.purpose;
+            listed.description = Text(own.description);
+            listed.purpose = Text(own.purpose);
         }
     });
     if (!hasDrawing && (command.commandFlags() & ACRX_CMD_NEEDS_DRAWING)) {
-        listed.whyNot = L"No drawing is open";
+        listed.whyNot = Text(Msg::NeedsDrawing);
     }
     return listed;
 }
@@ -86,12 +83,12 @@ bool Explain(const CString& name) {
         if (command.name.CompareNoCase(name) == 0) {
             acutPrintf(L"%s (%s)\n  %s\n", command.name, command.purpose, command.description);
             if (!command.whyNot.IsEmpty()) {
-                acutPrintf(L"  It cannot run now: %s.\n", command.whyNot);
+                acutPrintf(L"  %s\n", Text(Msg::CannotRunNow, command.whyNot));
             }
             return true;
         }
     }
-    acutPrintf(L"There is no command \"%s\". HELP lists the commands.\n", name);
+    PrintText(Msg::NoSuchCommand, name);
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "host/Texts.h"
 #include "platform/arx/CommandRunner.h"
 
 namespace Tessaly {
@@ -10,9 +11,9 @@ namespace Tessaly {
 struct HostCommand {
     const wchar_t* name;
     AcRxFunctionPtr function;
-    const wchar_t* description;
+    Msg description;
     int flags;
-    const wchar_t* purpose; ///< heading under which it is listed
+    Msg purpose; ///< heading under which it is listed
 };
 
 /// A command that answers whether it was carried out, as the command stack wants one.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/Dialog.h"
+#include "host/Prompts.h"
 #include "host/storage/CoordinateSystem.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/win/File.h"
@@ -70,8 +70,8 @@ std::vector<CString> CountLines(const std::vector<AcDbImportLayer>& layers) {
             ++counts[static_cast<std::size_t>(feature.kind)];
         }
         CString line;
-        line.Format(L"  %s: %d points, %d lines, %d polygons\n", layer.name, counts[0], counts[1],
-                    counts[2]);
+        line.Format(L"  %s\n",
+                    Text(Msg::ImportedLayer, layer.name, counts[0], counts[1], counts[2]));
         lines.push_back(line);
     }
     return lines;
@@ -88,12 +88,9 @@ std::vector<CString> CoordinateWarnings(const AcDbDatabase& database,
             IsSameCoordinateSystem(own, layer.coordinateSystem)) {
             continue;
         }
-        CString warning;
-        warning.Format(L"%s: its coordinate system is %s, that of the drawing is %s; positions "
-                       L"are taken as they are",
-                       layer.name, CoordinateSystemName(layer.coordinateSystem),
-                       CoordinateSystemName(own));
-        warnings.push_back(warning);
+        warnings.push_back(Text(Msg::OtherCoordinateSystem, layer.name,
+                                CoordinateSystemName(layer.coordinateSystem),
+                                CoordinateSystemName(own)));
     }
     return warnings;
 }
@@ -117,28 +114,27 @@ void AddToDrawing(AcDbDatabase& database, std::vector<AcDbImportLayer> layers) {
 }
 
 bool Import() {
-    constexpr const wchar_t* kNothing = L"Nothing was imported.";
     AcApDocument* const pDoc = CurrentDrawing();
     if (!pDoc) {
         return false;
     }
-    const std::optional<CString> file = AskText(L"File: ");
+    const std::optional<CString> file = AskText(Msg::File);
     if (!file || !acdbImporter()) {
-        return Refuse(L"", kNothing);
+        return Refuse(Msg::NothingImported);
     }
     AcDbImportResult result =
-        acdbImporter()->Import(*file, acedProgress(L"Reading " + FileNameOf(*file)));
+        acdbImporter()->Import(*file, acedProgress(Text(Msg::Reading, FileNameOf(*file))));
     PrintWarnings(result.warnings);
     if (!result.ok()) {
-        return Refuse(result.reason, kNothing);
+        return Refuse(result.reason, Msg::NothingImported);
     }
     if (result.layers.empty()) {
-        return Refuse(*file + L": there is nothing in it that can be drawn", kNothing);
+        return Refuse(Text(Msg::NothingToDraw, *file), Msg::NothingImported);
     }
     PrintWarnings(CoordinateWarnings(*pDoc->database(), result.layers));
     const std::vector<CString> lines = CountLines(result.layers);
     AddToDrawing(*pDoc->database(), std::move(result.layers));
-    acutPrintf(L"Imported from %s:\n", FileNameOf(*file));
+    PrintText(Msg::ImportedFrom, FileNameOf(*file));
     for (const CString& line : lines) {
         acutPrint(line.View());
     }

@@ -1,11 +1,13 @@
 // A host port that obeys lines of input, such as those of a script.
 #pragma once
 
-#include <exception>
 #include <optional>
+#include <stdexcept>
 
+#include "host/Texts.h"
 #include "host/console/InputLines.h"
 #include "platform/arx/HostPort.h"
+#include "platform/win/CodePage.h"
 
 namespace Tessaly {
 
@@ -19,10 +21,8 @@ public:
 };
 
 /// Thrown when a command goes on prompting although the input has long ended.
-struct InputEnded final : std::exception {
-    const char* what() const noexcept override {
-        return "it goes on asking although the input has ended";
-    }
+struct InputEnded final : std::runtime_error {
+    InputEnded() : std::runtime_error(WideToUtf8(Text(Msg::KeepsPrompting).View())) {}
 };
 
 /// What prompts get when nobody is left to answer them. A command that asks once hears that it

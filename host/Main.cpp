@@ -5,6 +5,7 @@
 #include "host/Folders.h"
 #include "host/Options.h"
 #include "host/Session.h"
+#include "host/Texts.h"
 #include "host/console/ConsolePort.h"
 #include "host/desktop/Desktop.h"
 #include "platform/arx/EdPrompt.h"
@@ -15,23 +16,34 @@
 
 namespace {
 
+using Tessaly::Msg;
+using Tessaly::PrintText;
+using Tessaly::Text;
+
 /// Relative paths are the caller's, as everywhere on a command line.
 CString FolderOr(const CString& given, const CString& fallback) {
     return given.IsEmpty() ? fallback : WithSeparator(given);
 }
 
-bool SetUpFolders(const Tessaly::Options& options) {
+/// Before anything is printed: the language is one of the user's settings.
+void FindFolders(const Tessaly::Options& options) {
     const CString install = FolderOr(options.install, Tessaly::ProgramFolder());
     const CString support = FolderOr(options.support, Tessaly::UserSupportFolder());
     SetHostOption(kHostOptionInstall, install);
     SetHostOption(kHostOptionSupport, support);
+    UseLanguageOf(support + L"Settings.ini", install + L"share/messages/");
+}
+
+bool SetUpFolders(const Tessaly::Options& options) {
+    const CString install = GetHostOption(kHostOptionInstall);
+    const CString support = GetHostOption(kHostOptionSupport);
     SetHostOption(kHostOptionTrace, options.trace);
     if (!options.trace.IsEmpty() && !OpenFile(options.trace, "ab")) {
         acutPrintf(L"%s: %s\n", options.trace, LastErrorText());
         return false;
     }
     if (!Tessaly::FillSupportFolder(install + L"share/support/", support)) {
-        acutPrintf(L"The settings cannot be set up: %s\n", LastErrorText());
+        PrintText(Msg::NoSettingsFolder, LastErrorText());
         return false;
     }
     return true;
@@ -55,7 +67,7 @@ bool HasDesktop(const Tessaly::Options& options) {
         return true;
     }
     AfxSetDesktopMode(false);
-    acutPrintf(L"There is no display that can be used: the console is started instead.\n");
+    PrintText(Msg::NoDisplay);
     return false;
 }
 
@@ -71,7 +83,7 @@ int Run(const Tessaly::Options& options, Tessaly::ConsolePort& port) {
         if (options.first) {
             lines.RunScript(*options.first);
         }
-        acutPrintf(L"\nTessaly. HELP lists the commands, QUIT leaves.\n");
+        acutPrintf(L"\n%s\n", Text(Msg::Welcome));
         const auto input = Tessaly::StreamLines(stdin);
         lines.RunPrompt(*input);
     }
@@ -87,13 +99,15 @@ int main(int argc, char** argv) {
     Tessaly::ConsolePort port(stdout);
     SetHostPort(&port);
 
-    const auto [options, error] = Tessaly::ReadOptions({argv + 1, argv + argc});
-    if (!error.IsEmpty()) {
-        acutPrintf(L"%s\n%s", error, Tessaly::UsageText());
+    const Tessaly::OptionsResult result = Tessaly::ReadOptions({argv + 1, argv + argc});
+    const Tessaly::Options& options = result.options;
+    FindFolders(options);
+    if (result.problem) {
+        acutPrintf(L"%s\n%s", result.Error(), Text(Msg::Usage));
         return Tessaly::kExitBadUsage;
     }
     if (options.help) {
-        acutPrintf(L"%s", Tessaly::UsageText());
+        acutPrint(Text(Msg::Usage).View());
         return Tessaly::kExitDone;
     }
     int status = Tessaly::kExitBadUsage;

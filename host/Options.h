@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/win/String.h"
+#include "host/Texts.h"
 
 namespace Tessaly {
 
@@ -25,12 +25,15 @@ struct Options {
 
 struct OptionsResult {
     Options options;
-    CString error; ///< empty if the command line made sense
+    std::optional<Msg> problem; ///< the first one, if the command line made no sense
+    CString argument;           ///< that is to blame
+
+    /// Formatted late: the user's language is known only once the options are. Empty if there
+    /// is no problem.
+    CString Error() const { return problem ? Text(*problem, argument) : CString(); }
 };
 
+/// Reads on after a problem, so that the folder of the settings is known in any case.
 OptionsResult ReadOptions(const std::vector<std::string>& arguments);
-
-/// How to call the program.
-const wchar_t* UsageText();
 
 } // namespace Tessaly

@@ -2,6 +2,7 @@
 
 #include "host/DrawingCommands.h"
 #include "host/HostCommands.h"
+#include "host/Texts.h"
 #include "host/storage/Import.h"
 #include "host/storage/OpenAndSave.h"
 #include "platform/arx/Activity.h"
@@ -47,7 +48,7 @@ bool Session::Start(const CString& drawing) {
         const CString path = GetHostOption(kHostOptionInstall) + module;
         Guarded(module, [&] {
             if (!acrxDynamicLinker()->loadModule(path)) {
-                acutPrintf(L"%s was not loaded: %s\n", path, LastErrorText());
+                PrintText(Msg::ModuleNotLoaded, path, LastErrorText());
             }
         });
     }

@@ -1,6 +1,6 @@
 #include "host/ViewCommands.h"
 
-#include "host/Dialog.h"
+#include "host/Prompts.h"
 #include "platform/arx/EdDisplay.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/Number.h"
@@ -9,29 +9,25 @@ namespace Tessaly {
 
 namespace {
 
-/// Null, and said so, without a drawing or a view of it.
+/// Prints a message and returns null without a drawing or a view of it.
 IDrawingDisplay* View() {
     if (!CurrentDrawing()) {
         return nullptr;
     }
     if (!DrawingDisplay()) {
-        Refuse(L"", L"The console shows no drawing.");
+        Refuse(Msg::NoView);
     }
     return DrawingDisplay();
-}
-
-bool IsBeginOf(const CString& answer, const wchar_t* word) {
-    return CString(word).Left(answer.GetLength()).CompareNoCase(answer) == 0;
 }
 
 bool ZoomToPicked(IDrawingDisplay& view) {
     AcDbObjectId id;
     AcGePoint3d place;
     constexpr double kRoom = 1.5;
-    if (acedEntSel(L"Point at an entity: ", id, place) != RTNORM) {
-        return Refuse(L"", L"No entity was picked.");
+    if (acedEntSel(Text(Msg::PickEntity), id, place) != RTNORM) {
+        return Refuse(Msg::NothingPicked);
     }
-    return view.ZoomTo({&id, 1}, kRoom) || Refuse(L"", L"The entity has no place.");
+    return view.ZoomTo({&id, 1}, kRoom) || Refuse(Msg::HasNoPosition);
 }
 
 bool Zoom() {
@@ -39,18 +35,26 @@ bool Zoom() {
     if (!pView) {
         return false;
     }
-    const CString answer =
-        AskText(L"[Extents/Object] or a factor, as 2 or 0.5 <Extents>: ").value_or(CString());
-    if (IsBeginOf(answer, L"Extents")) {
+    constexpr std::size_t kExtents = 0;
+    const ChoicePrompt prompt = {
+        Text(Msg::ZoomFactor),
+        {{L"Extents", Text(Msg::ZoomExtents)}, {L"Object", Text(Msg::ZoomObject)}},
+        kExtents,
+        true};
+    std::size_t choice = kExtents;
+    CString answer;
+    const int result = acedGetChoice(prompt, choice, answer);
+    if (result != RTERROR && choice == kExtents) {
         pView->ZoomExtents();
         return true;
     }
-    if (IsBeginOf(answer, L"Object")) {
+    if (result == RTNORM) {
         return ZoomToPicked(*pView);
     }
     const std::optional<double> factor = TextToReal(WideToUtf8(answer.View()));
     if (!factor || *factor <= 0) {
-        return Refuse(answer, L"This is neither a choice nor a factor.");
+        PrintText(Msg::NotAZoom, answer);
+        return false;
     }
     pView->ZoomBy(*factor);
     return true;
@@ -64,12 +68,12 @@ bool Redraw() {
     return pView != nullptr;
 }
 
-constexpr const wchar_t* kView = L"View";
+constexpr Msg kView = Msg::OfView;
 constexpr int kOnDrawing = ACRX_CMD_NO_UNDO_GROUP | ACRX_CMD_NEEDS_DRAWING;
 
 constexpr HostCommand kViewCommands[] = {
-    {L"ZOOM", RunHostCommand<Zoom>, L"shows more or less of the drawing", kOnDrawing, kView},
-    {L"REDRAW", RunHostCommand<Redraw>, L"draws anew, without marks", kOnDrawing, kView},
+    {L"ZOOM", RunHostCommand<Zoom>, Msg::ZoomDoes, kOnDrawing, kView},
+    {L"REDRAW", RunHostCommand<Redraw>, Msg::RedrawDoes, kOnDrawing, kView},
 };
 
 } // namespace

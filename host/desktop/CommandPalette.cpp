@@ -93,16 +93,16 @@ CommandPalette::CommandPalette(QWidget* pParent)
     : QFrame(pParent), m_pInput(new QLineEdit), m_pList(new QListView), m_pModel(new Model(this)) {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    setAccessibleName(tr("Command palette"));
-    m_pInput->setPlaceholderText(tr("Name or description of a command"));
-    m_pInput->setAccessibleName(tr("Search"));
+    setAccessibleName(QtText(Msg::CommandPalette));
+    m_pInput->setPlaceholderText(QtText(Msg::FindACommand));
+    m_pInput->setAccessibleName(QtText(Msg::SearchName));
     m_pInput->installEventFilter(this);
     m_pList->setModel(m_pModel);
     m_pList->setItemDelegate(new EntryDelegate(m_pList));
     m_pList->setUniformItemSizes(true);
     m_pList->setFocusPolicy(Qt::NoFocus);
     m_pList->setFrameShape(QFrame::NoFrame);
-    m_pList->setAccessibleName(tr("Commands"));
+    m_pList->setAccessibleName(QtText(Msg::CommandsName));
     auto* const pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(6, 6, 6, 6);
     pLayout->addWidget(m_pInput);

@@ -13,6 +13,8 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "host/desktop/QtTexts.h"
+
 namespace Tessaly {
 
 namespace {
@@ -32,11 +34,11 @@ CommandPane::CommandPane(QWidget* pParent)
     m_pText->setFont(font);
     m_pText->setFrameShape(QFrame::NoFrame);
     m_pText->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_pText->setAccessibleName(tr("Messages"));
+    m_pText->setAccessibleName(QtText(Msg::MessagesName));
     m_pInput->setFont(font);
     m_pInput->setFrame(false);
-    m_pInput->setAccessibleName(tr("Command line"));
-    m_pInput->setPlaceholderText(tr("Type a command, or press Ctrl+Shift+P"));
+    m_pInput->setAccessibleName(QtText(Msg::CommandLine));
+    m_pInput->setPlaceholderText(QtText(Msg::TypeACommand));
     m_pPrompt->setFont(font);
     m_pPrompt->setBuddy(m_pInput);
     m_pInput->installEventFilter(this);

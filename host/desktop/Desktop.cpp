@@ -11,6 +11,7 @@
 #include "host/ExitStatus.h"
 #include "host/HostCommands.h"
 #include "host/Session.h"
+#include "host/Texts.h"
 #include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/FrameDisplay.h"
@@ -35,8 +36,8 @@ constexpr int kLongestWait = 30'000;
 
 /// Standard output says nothing in a desktop, but who starts it without a display, or with
 /// a wrong option, has to read why nothing is seen.
-void Complain(const char* text) {
-    std::fprintf(stderr, "tessaly: %s\n", text);
+void Complain(const CString& text) {
+    std::fprintf(stderr, "tessaly: %s\n", WideToUtf8(text.View()).c_str());
 }
 
 CString LayoutPath() {
@@ -47,7 +48,7 @@ void SaveLayout(const Frame& frame) {
     const CString problem = WriteLayout(LayoutPath(), frame.CurrentLayout());
     if (!problem.IsEmpty()) {
         // The command line has gone from sight already.
-        Complain(WideToUtf8((L"the layout of the windows is not kept: " + problem).View()).c_str());
+        Complain(Text(Msg::LayoutNotSaved, problem));
     }
 }
 
@@ -82,7 +83,7 @@ int TakePicture(Frame& frame, const CString& path) {
         pView->CompletePicture();
     }
     if (!frame.grab().save(ToQt(path.View()))) {
-        Complain("the picture cannot be written");
+        Complain(Text(Msg::ScreenshotNotSaved));
         return kExitBadUsage;
     }
     return kExitDone;
@@ -111,7 +112,7 @@ int Run(const Options& options, Frame& frame, DesktopPort& port, Session& sessio
 int RunDesktop(const Options& options) {
     AfxStartToolkit();
     if (QRawFont::fromFont(QApplication::font()).fontTable("head").isEmpty()) {
-        Complain("there is no font, so that letters are boxes (Debian: fonts-dejavu-core)");
+        Complain(Text(Msg::NoFont));
     }
     QApplication::setApplicationName(QStringLiteral("Tessaly"));
     Frame frame;

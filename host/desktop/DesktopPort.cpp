@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "host/Texts.h"
 #include "host/desktop/CommandPane.h"
 #include "host/desktop/PromptWindow.h"
 #include "host/desktop/QtTexts.h"
@@ -19,14 +20,8 @@ namespace {
 constexpr const wchar_t* kEscape = L"\x1B";
 constexpr const wchar_t* kTitle = L"Tessaly";
 constexpr std::wstring_view kBlanks = L" \t";
-constexpr const wchar_t* kQuestion = L"[Yes/No";
-
-/// Which button stands for the choice in angle brackets, where nothing else was said.
-UINT DefaultOf(const CString& prompt) {
-    return prompt.Find(L"<No>") >= 0    ? MB_DEFBUTTON2
-           : prompt.Find(L"<Yes>") >= 0 ? MB_DEFBUTTON1
-                                        : MB_DEFBUTTON3;
-}
+/// More choices are asked for at the command line.
+constexpr std::size_t kMostButtons = 5;
 
 /// What a box stands on: whatever is in front, or else the frame.
 CWnd* Over() {
@@ -83,14 +78,18 @@ std::optional<CString> DesktopPort::NextLine(std::wstring_view prompt) {
     return line;
 }
 
-PromptEnd DesktopPort::AskInBox(const CString& prompt, CString& answer) {
-    const bool canCancel = prompt.Find(L"/Cancel") >= 0;
-    const CString question = prompt.Left(prompt.Find(L'[')).Trim();
-    const int pressed = ShowMessageBox(Over(), question, kTitle,
-                                       MB_ICONQUESTION | (canCancel ? MB_YESNOCANCEL : MB_YESNO) |
-                                           DefaultOf(prompt));
-    answer = pressed == IDYES ? L"Yes" : pressed == IDNO ? L"No" : L"";
-    return answer.IsEmpty() ? PromptEnd::Cancelled : PromptEnd::Answered;
+PromptEnd DesktopPort::GetChoice(const ChoicePrompt& prompt, CString& answer) {
+    const bool fitsBox = !prompt.takesOther && prompt.choices.size() <= kMostButtons;
+    const std::optional<CString> line = TakeLine();
+    if (line) {
+        m_answers.push_front(*line);
+    }
+    if (line || !fitsBox || !IsAttended()) {
+        return GetString(true, PromptText(prompt).View(), answer);
+    }
+    const std::optional<std::size_t> choice = ShowChoiceBox(Over(), prompt, kTitle);
+    answer = choice ? KeywordAnswer(prompt.choices[*choice]) : CString();
+    return choice ? PromptEnd::Answered : PromptEnd::Cancelled;
 }
 
 PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) {
@@ -99,15 +98,12 @@ PromptEnd DesktopPort::GetString(bool allowBlanks, std::wstring_view prompt, CSt
     if (!line && !IsAttended()) {
         return m_behindEnd.Answer(answer);
     }
-    if (!line && CString(prompt).Find(kQuestion) >= 0) {
-        return AskInBox(CString(prompt), answer);
-    }
     if (!line) {
         Question question;
         Wait(question, ToQt(prompt));
         line = question.answer;
     }
-    PrintLine((CString(prompt) + (line ? *line : CString(L"*Cancel*"))).View());
+    PrintLine((CString(prompt) + (line ? *line : Text(Msg::CancelledAnswer))).View());
     if (!line || *line == kEscape) {
         return PromptEnd::Cancelled;
     }

@@ -39,6 +39,8 @@ public:
     /// What is printed next begins a line.
     void EndLine();
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
+    /// Few choices are buttons of a box, unless an input answers.
+    PromptEnd GetChoice(const ChoicePrompt& prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void Escape() override { Cancel(); }
     bool ShowProgress(std::wstring_view what, int percent) override;
@@ -67,7 +69,6 @@ private:
     void Cancel();
     bool IsAttended() const;
     std::optional<CString> TakeLine();
-    PromptEnd AskInBox(const CString& prompt, CString& answer);
 
     IPromptWindow& m_window;
     IInputLines* m_pInput = nullptr;

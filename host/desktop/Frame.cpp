@@ -38,9 +38,11 @@ constexpr int kTitleInterval = 500; // ms
 /// Between two looks at what the user does while long work goes on.
 constexpr int kEventInterval = 40; // ms
 constexpr const wchar_t* kHelpPage = L"help/index.htm";
-constexpr const wchar_t* kFirstWords = L"Tessaly. HELP lists the commands, QUIT leaves.\n";
 
-const QString kDrawingFilter = QStringLiteral("Drawings (*.gpkg);;All files (*)");
+QString DrawingFilter() {
+    return QtText(Msg::DrawingFiles) + QStringLiteral(" (*.gpkg);;") + QtText(Msg::AllFiles) +
+           QStringLiteral(" (*)");
+}
 
 /// A single "&" would underline the next letter.
 QString TabText(const AcApDocument& document) {
@@ -67,7 +69,7 @@ Frame::Frame() {
     m_pTabs->setDocumentMode(true);
     m_pTabs->setTabsClosable(true);
     m_pTabs->setMovable(false);
-    m_pTabs->setAccessibleName(tr("Drawings"));
+    m_pTabs->setAccessibleName(QtText(Msg::DrawingsName));
     setCentralWidget(m_pTabs);
     connect(m_pTabs, &QTabWidget::currentChanged, this, &Frame::OnTabChanged);
     connect(m_pTabs, &QTabWidget::tabCloseRequested, this, [this](int index) {
@@ -92,7 +94,7 @@ Frame::Frame() {
     acedSetAcadFrame(&m_window);
     resize(1280, 860);
     UpdateTitles();
-    ShowText(ToQt(kFirstWords));
+    ShowText(QtText(Msg::Welcome) + QLatin1Char('\n'));
 }
 
 Frame::~Frame() {
@@ -196,7 +198,7 @@ void Frame::UpdateCompletions() {
 
 void Frame::OpenWithDialog() {
     const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open a drawing"), {}, kDrawingFilter);
+        QFileDialog::getOpenFileName(this, QtText(Msg::OpenTitle), {}, DrawingFilter());
     if (!file.isEmpty()) {
         acedRunner().Give({L"OPEN", OrderOrigin::Menu, nullptr, {FromQt(file)}});
     }
@@ -204,15 +206,16 @@ void Frame::OpenWithDialog() {
 
 void Frame::SaveAsWithDialog() {
     const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save the drawing as"), {}, kDrawingFilter);
+        QFileDialog::getSaveFileName(this, QtText(Msg::SaveAsTitle), {}, DrawingFilter());
     if (!file.isEmpty()) {
         // The dialog has asked already whether a file may be replaced.
-        acedRunner().Give({L"SAVEAS", OrderOrigin::Menu, nullptr, {FromQt(file), L"Yes"}});
+        acedRunner().Give(
+            {L"SAVEAS", OrderOrigin::Menu, nullptr, {FromQt(file), KeywordAnswer(YesChoice())}});
     }
 }
 
 void Frame::ImportWithDialog() {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Import a file"));
+    const QString file = QFileDialog::getOpenFileName(this, QtText(Msg::ImportTitle));
     if (!file.isEmpty()) {
         acedRunner().Give({L"IMPORT", OrderOrigin::Menu, nullptr, {FromQt(file)}});
     }
@@ -223,7 +226,7 @@ void Frame::OpenHelp() {
     const QUrl address = QUrl::fromLocalFile(ToQt(page.View()));
     if (!QFileInfo::exists(address.toLocalFile()) ||
         !AfxOpenAddress(FromQt(address.toString(QUrl::FullyEncoded)))) {
-        acutPrintf(L"The help could not be opened: %s\n", page);
+        PrintText(Msg::HelpNotOpened, page);
     }
 }
 

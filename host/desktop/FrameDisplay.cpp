@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+#include "host/Texts.h"
 #include "host/desktop/CommandPane.h"
 #include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
@@ -78,8 +79,8 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
 
 void FrameDisplay::Report(const wchar_t* prompt, PickOutcome outcome, AcDbObjectId id) {
     const CString text = outcome == PickOutcome::Picked   ? FormatText(L"%u", id.number())
-                         : outcome == PickOutcome::Missed ? CString(L"*Nothing there*")
-                                                          : CString(L"*Cancel*");
+                         : outcome == PickOutcome::Missed ? Text(Msg::MissedAnswer)
+                                                          : Text(Msg::CancelledAnswer);
     m_port.PrintLine((CString(prompt) + text).View());
 }
 

@@ -73,7 +73,7 @@ void FocusInside(QWidget& pane) {
 
 /// What a menu entry does: a command of the host.
 struct MenuCommand {
-    const char* text;
+    Msg text;
     const char* shortcut;
     const wchar_t* command;
 };
@@ -82,7 +82,7 @@ struct MenuCommand {
 
 void Frame::MakePanes() {
     m_pPane = new CommandPane;
-    m_pCommandDock = new QDockWidget(tr("Command line"), this);
+    m_pCommandDock = new QDockWidget(QtText(Msg::CommandLine), this);
     m_pCommandDock->setObjectName(QStringLiteral("CommandLine"));
     m_pCommandDock->setWidget(m_pPane);
     m_pCommandDock->setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
@@ -101,7 +101,7 @@ void Frame::MakeStatusBar() {
     m_pProgress = new QProgressBar;
     m_pProgress->setRange(0, 100);
     m_pProgress->setMaximumWidth(240);
-    m_pStop = new QPushButton(tr("Stop"));
+    m_pStop = new QPushButton(QtText(Msg::StopWork));
     for (QWidget* const pWidget :
          {static_cast<QWidget*>(m_pWork), static_cast<QWidget*>(m_pProgress),
           static_cast<QWidget*>(m_pStop)}) {
@@ -120,60 +120,63 @@ void Frame::MakeMenus() {
         return pAction;
     };
     const auto command = [&](QMenu* pMenu, const MenuCommand& entry) {
-        add(pMenu, tr(entry.text), QString::fromLatin1(entry.shortcut),
+        add(pMenu, QtText(entry.text), QString::fromLatin1(entry.shortcut),
             [name = CString(entry.command)] {
                 acedRunner().Give({name, OrderOrigin::Menu});
             });
     };
-    QMenu* const pFile = menuBar()->addMenu(tr("&File"));
-    command(pFile, {"&New", "Ctrl+N", L"NEW"});
-    add(pFile, tr("&Open…"), QStringLiteral("Ctrl+O"), [this] { OpenWithDialog(); });
-    command(pFile, {"&Save", "Ctrl+S", L"SAVE"});
-    add(pFile, tr("Save &as…"), QStringLiteral("Ctrl+Shift+S"), [this] { SaveAsWithDialog(); });
-    add(pFile, tr("&Import…"), QStringLiteral("Ctrl+I"), [this] { ImportWithDialog(); });
-    command(pFile, {"&Close", "Ctrl+W", L"CLOSE"});
+    QMenu* const pFile = menuBar()->addMenu(QtText(Msg::MenuFile));
+    command(pFile, {Msg::MenuNew, "Ctrl+N", L"NEW"});
+    add(pFile, QtText(Msg::MenuOpen), QStringLiteral("Ctrl+O"), [this] { OpenWithDialog(); });
+    command(pFile, {Msg::MenuSave, "Ctrl+S", L"SAVE"});
+    add(pFile, QtText(Msg::MenuSaveAs), QStringLiteral("Ctrl+Shift+S"),
+        [this] { SaveAsWithDialog(); });
+    add(pFile, QtText(Msg::MenuImport), QStringLiteral("Ctrl+I"), [this] { ImportWithDialog(); });
+    command(pFile, {Msg::MenuClose, "Ctrl+W", L"CLOSE"});
     pFile->addSeparator();
-    command(pFile, {"&Quit", "Ctrl+Q", L"QUIT"});
+    command(pFile, {Msg::MenuQuit, "Ctrl+Q", L"QUIT"});
 
-    QMenu* const pEdit = menuBar()->addMenu(tr("&Edit"));
-    command(pEdit, {"&Undo", "Ctrl+Z", L"UNDO"});
-    command(pEdit, {"&Redo", "Ctrl+Shift+Z", L"REDO"});
+    QMenu* const pEdit = menuBar()->addMenu(QtText(Msg::MenuEdit));
+    command(pEdit, {Msg::MenuUndo, "Ctrl+Z", L"UNDO"});
+    command(pEdit, {Msg::MenuRedo, "Ctrl+Shift+Z", L"REDO"});
 
-    QMenu* const pView = menuBar()->addMenu(tr("&View"));
-    add(pView, tr("Zoom &extents"), QStringLiteral("Ctrl+0"), [this] {
+    QMenu* const pView = menuBar()->addMenu(QtText(Msg::MenuView));
+    add(pView, QtText(Msg::MenuZoomExtents), QStringLiteral("Ctrl+0"), [this] {
         if (DrawingView* const pDrawing = CurrentView()) {
             pDrawing->ZoomExtents();
         }
     });
     pView->addSeparator();
-    QMenu* const pPanes = pView->addMenu(tr("&Panes"));
+    QMenu* const pPanes = pView->addMenu(QtText(Msg::MenuPanes));
     connect(pPanes, &QMenu::aboutToShow, this, [this, pPanes] { FillPaneMenu(*pPanes); });
     // Floating panes are windows of their own, and are left by the same keys.
-    add(pView, tr("Ne&xt pane"), QStringLiteral("F6"), [this] {
+    add(pView, QtText(Msg::MenuNextPane), QStringLiteral("F6"), [this] {
         GoToPane(1);
     })->setShortcutContext(Qt::ApplicationShortcut);
-    add(pView, tr("P&revious pane"), QStringLiteral("Shift+F6"), [this] {
+    add(pView, QtText(Msg::MenuPreviousPane), QStringLiteral("Shift+F6"), [this] {
         GoToPane(-1);
     })->setShortcutContext(Qt::ApplicationShortcut);
-    add(pView, tr("&Bring all windows here"), QStringLiteral("Ctrl+Shift+B"),
+    add(pView, QtText(Msg::MenuBringWindows), QStringLiteral("Ctrl+Shift+B"),
         [this] { BringAllWindowsHere(); });
-    MakeThemeMenu(*pView->addMenu(tr("&Theme")));
+    MakeThemeMenu(*pView->addMenu(QtText(Msg::MenuTheme)));
 
-    QMenu* const pTools = menuBar()->addMenu(tr("&Tools"));
-    add(pTools, tr("Command &palette…"), QStringLiteral("Ctrl+Shift+P"), [this] { ShowPalette(); });
-    add(pTools, tr("Go to the command &line"), QStringLiteral("Ctrl+L"),
+    QMenu* const pTools = menuBar()->addMenu(QtText(Msg::MenuTools));
+    add(pTools, QtText(Msg::MenuPalette), QStringLiteral("Ctrl+Shift+P"),
+        [this] { ShowPalette(); });
+    add(pTools, QtText(Msg::MenuCommandLine), QStringLiteral("Ctrl+L"),
         [this] { m_pPane->GoToInput(); });
 
-    QMenu* const pHelp = menuBar()->addMenu(tr("&Help"));
-    add(pHelp, tr("&Help"), QStringLiteral("F1"), [this] { OpenHelp(); });
-    command(pHelp, {"&Commands", "", L"HELP"});
+    QMenu* const pHelp = menuBar()->addMenu(QtText(Msg::MenuHelp));
+    add(pHelp, QtText(Msg::MenuHelp), QStringLiteral("F1"), [this] { OpenHelp(); });
+    command(pHelp, {Msg::MenuCommands, "", L"HELP"});
 }
 
 void Frame::MakeThemeMenu(QMenu& menu) {
-    const std::pair<const char*, const wchar_t*> themes[] = {
-        {"As the &system", L""}, {"&Light", L"light"}, {"&Dark", L"dark"}};
+    const std::pair<Msg, const wchar_t*> themes[] = {{Msg::MenuThemeOfSystem, L""},
+                                                     {Msg::MenuThemeLight, L"light"},
+                                                     {Msg::MenuThemeDark, L"dark"}};
     for (const auto& [text, theme] : themes) {
-        connect(menu.addAction(tr(text)), &QAction::triggered, this,
+        connect(menu.addAction(QtText(text)), &QAction::triggered, this,
                 [this, name = CString(theme)] { SetTheme(name); });
     }
 }
@@ -187,9 +190,9 @@ void Frame::FillPaneMenu(QMenu& menu) {
     menu.addSeparator();
     for (QDockWidget* const pDock : docks) {
         if (pDock->isVisibleTo(this)) {
-            const QString text = pDock->isFloating() ? tr("Dock %1") : tr("Float %1");
-            connect(menu.addAction(text.arg(pDock->windowTitle())), &QAction::triggered, pDock,
-                    [pDock] { pDock->setFloating(!pDock->isFloating()); });
+            const Msg text = pDock->isFloating() ? Msg::DockPane : Msg::FloatPane;
+            connect(menu.addAction(QtText(text, FromQt(pDock->windowTitle()))), &QAction::triggered,
+                    pDock, [pDock] { pDock->setFloating(!pDock->isFloating()); });
         }
     }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "host/Texts.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
@@ -111,8 +112,8 @@ bool ReadEntry(std::string_view key, const std::string& value, Layout& layout) {
 }
 
 /// Nothing, with a reason, for a text that is no whole layout.
-std::optional<Layout> Parse(std::string_view text, const wchar_t*& reason) {
-    reason = L"it is cut, or was written by another version";
+std::optional<Layout> Parse(std::string_view text, Msg& reason) {
+    reason = Msg::LayoutIsCut;
     Layout layout;
     bool isFirst = true;
     while (!text.empty()) {
@@ -133,7 +134,7 @@ std::optional<Layout> Parse(std::string_view text, const wchar_t*& reason) {
             const std::size_t equals = line.find('=');
             if (equals == std::string_view::npos ||
                 !ReadEntry(line.substr(0, equals), std::string(line.substr(equals + 1)), layout)) {
-                reason = L"a value in it is none";
+                reason = Msg::LayoutValue;
                 return std::nullopt;
             }
         }
@@ -181,10 +182,10 @@ std::optional<Layout> ReadLayout(const CString& path, CString& problem) {
         problem = path + L": " + LastErrorText();
         return std::nullopt;
     }
-    const wchar_t* reason = nullptr;
+    Msg reason = Msg::LayoutIsCut;
     std::optional<Layout> layout = Parse(*text, reason);
     if (!layout) {
-        problem.Format(L"%s: the layout is not used: %s", path, reason);
+        problem = Text(Msg::LayoutNotUsed, path, Text(reason));
     }
     return layout;
 }

@@ -2,6 +2,7 @@
 
 #include <ogr_spatialref.h>
 
+#include "host/Texts.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -47,7 +48,7 @@ bool IsSameCoordinateSystem(const CString& left, const CString& right) {
 CString CoordinateSystemName(const CString& wkt) {
     OGRSpatialReference reference;
     const char* const name = Read(wkt, reference) ? reference.GetName() : nullptr;
-    return name ? CString(Utf8ToWide(name)) : CString(L"unknown");
+    return name ? CString(Utf8ToWide(name)) : Text(Msg::UnknownCoordinateSystem);
 }
 
 } // namespace Tessaly

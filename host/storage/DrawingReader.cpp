@@ -40,7 +40,7 @@ CString DrawingReader::Read(const AcDbDatabase& empty) {
     ReadOwnTables();
     ReadForeignTables();
     if (m_rows->IsStopped()) {
-        return L"reading was stopped";
+        return Text(Msg::ReadingStopped);
     }
     return m_errors.HasFailed() ? m_errors.Reason() : CString();
 }
@@ -130,7 +130,7 @@ void DrawingReader::ReadOwnTable(OGRLayer& layer, EntityKind kind) {
     while (m_rows->Step() && row.Next()) {
         ReadOwnRow(table, row, misfits);
     }
-    Warn(layer.GetName(), L"have a geometry that their table cannot have", misfits);
+    Warn(layer.GetName(), Msg::GeometryMisfit, misfits);
 }
 
 void DrawingReader::ReadOwnRow(const EntityTable& table, const StoredRows& row,
@@ -206,11 +206,10 @@ void DrawingReader::ReadForeignTable(OGRLayer& layer, std::uint32_t table) {
         }
         TakeForeignRow(source, row, maker.Entities());
     }
-    Warn(source.name, L"have no geometry", source.empty);
-    Warn(source.name, L"have a position that is none", source.misfits);
+    Warn(source.name, Msg::NoGeometry, source.empty);
+    Warn(source.name, Msg::InvalidPosition, source.misfits);
     for (const std::string& column : binary) {
-        m_warnings.push_back(
-            Utf8ToWide(source.name + ": the column " + column + " holds binary data"));
+        m_warnings.push_back(Text(Msg::BinaryColumn, source.name, column));
     }
 }
 
@@ -272,17 +271,13 @@ void DrawingReader::TakeCoordinateSystem(OGRLayer& layer) {
     if (*m_coordinateSystem != wkt &&
         (drawing.importFromWkt(m_coordinateSystem->c_str()) != OGRERR_NONE ||
          !drawing.IsSame(layer.GetSpatialRef()))) {
-        m_warnings.push_back(Utf8ToWide(std::string(layer.GetName()) +
-                                        ": its coordinate system is not the drawing's"));
+        m_warnings.push_back(Text(Msg::TableCoordinateSystem, layer.GetName()));
     }
 }
 
-void DrawingReader::Warn(const std::string& table, const wchar_t* what, const PassedOver& rows) {
+void DrawingReader::Warn(const std::string& table, Msg what, const PassedOver& rows) {
     if (rows.count > 0) {
-        CString text;
-        text.Format(L"%hs: %d rows are passed over, which %s (the first is row %d)", table,
-                    rows.count, what, rows.firstFid);
-        m_warnings.push_back(text);
+        m_warnings.push_back(Text(Msg::SkippedRows, table, rows.count, Text(what), rows.firstFid));
     }
 }
 

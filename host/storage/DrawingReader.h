@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "host/Texts.h"
 #include "host/storage/Columns.h"
 #include "host/storage/GdalErrors.h"
 #include "host/storage/LoadedObjects.h"
@@ -71,7 +72,7 @@ private:
                         std::vector<std::unique_ptr<AcDbEntity>>& entities);
     AcDbObjectId ForeignId(ForeignTable& source);
     void TakeCoordinateSystem(OGRLayer& layer);
-    void Warn(const std::string& table, const wchar_t* what, const PassedOver& rows);
+    void Warn(const std::string& table, Msg what, const PassedOver& rows);
     bool MayGoOn() const { return !m_errors.HasFailed() && !m_rows->IsStopped(); }
 
     OpenGeoPackage& m_file;

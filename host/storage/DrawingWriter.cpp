@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "host/Texts.h"
 #include "host/storage/EntityRows.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "host/storage/StoredExtent.h"
@@ -91,14 +92,14 @@ CString DrawingWriter::FailureReason() {
     if (!m_strRefusal.IsEmpty()) {
         return m_strRefusal;
     }
-    return m_progress.IsStopped() ? CString(L"saving was stopped") : m_errors.Reason();
+    return m_progress.IsStopped() ? Text(Msg::SavingStopped) : m_errors.Reason();
 }
 
 bool DrawingWriter::WriteAll() {
     // Another drawing may have been saved to the same file since, with more objects.
     m_nNextId = std::max(m_database.nextId(), m_schema.nextId);
     if (std::int64_t{m_nNextId} > kHighestId) {
-        m_strRefusal = L"it has more objects than a file can hold";
+        m_strRefusal = Text(Msg::TooManyObjects);
         return false;
     }
     if (!CreateSchema(m_file) || !MoveRenumbered()) {
@@ -275,8 +276,8 @@ bool DrawingWriter::PutRow(Table& table, const AcDbEntity& entity, bool isNewRow
     OGRFeature& row = *table.row;
     OGRLayer& layer = table.columns.Layer();
     if (!FillRow(table.columns, entity, row)) {
-        m_strRefusal.Format(L"the object %d on layer \"%s\" has a position that is none",
-                            entity.objectId().number(), entity.layer().GetString());
+        m_strRefusal =
+            Text(Msg::ObjectPosition, entity.objectId().number(), entity.layer().GetString());
         return false;
     }
     const auto nameOf = [&](AcDbObjectId id) -> AcDbValue {

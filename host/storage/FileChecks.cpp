@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "host/Texts.h"
 #include "host/storage/Journals.h"
 #include "host/storage/SystemFile.h"
 #include "platform/win/File.h"
@@ -63,26 +64,22 @@ std::string AbsolutePath(const wchar_t* path) {
 CString WhyNoDatabase(const std::string& path) {
     struct stat info {};
     if (stat(path.c_str(), &info) != 0) {
-        return errno == ENOENT ? CString(L"there is no such file") : ErrnoText(errno);
+        return errno == ENOENT ? Text(Msg::NoSuchFile) : ErrnoText(errno);
     }
     if (!S_ISREG(info.st_mode)) {
-        return S_ISDIR(info.st_mode) ? L"it is a folder" : L"it is no ordinary file";
+        return S_ISDIR(info.st_mode) ? Text(Msg::IsFolder) : Text(Msg::NotRegularFile);
     }
     if (access(path.c_str(), R_OK) != 0) {
         return ErrnoText(errno);
     }
     const Header header(path);
     if (!header.IsDatabase()) {
-        return info.st_size == 0 ? L"it is empty"
-                                 : L"it is no GeoPackage (IMPORT reads other files)";
+        return info.st_size == 0 ? Text(Msg::IsEmpty) : Text(Msg::NotAGeoPackage);
     }
     // What another write has in its journal makes the size of the file itself meaningless.
     const bool isSettled = !IsNotEmpty(BehindLinks(path) + "-wal") && !HasHotJournal(path);
     if (isSettled && header.StatedSize() > info.st_size) {
-        CString reason;
-        reason.Format(L"it is cut short: %d of %d bytes are there",
-                      static_cast<std::int64_t>(info.st_size), header.StatedSize());
-        return reason;
+        return Text(Msg::CutShort, static_cast<std::int64_t>(info.st_size), header.StatedSize());
     }
     return {};
 }
@@ -92,11 +89,11 @@ CString WhyNotWritable(const std::string& path) {
         return access(checked.c_str(), W_OK) != 0 && errno != ENOENT;
     };
     if (isProtected(path)) {
-        return L"it is write-protected";
+        return Text(Msg::WriteProtected);
     }
     // Every write keeps a journal beside the file.
     return isProtected(fs::path(BehindLinks(path)).parent_path().string())
-               ? CString(L"its folder is write-protected")
+               ? Text(Msg::FolderProtected)
                : CString();
 }
 

@@ -3,6 +3,7 @@
 #include <cpl_conv.h>
 #include <cpl_error.h>
 
+#include "host/Texts.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -14,19 +15,20 @@ constexpr std::size_t kMostFailures = 8;
 /// What SQLite and GDAL say, and what it means to a user. The first that fits counts.
 struct Meaning {
     const char* part;
-    const wchar_t* text;
+    Msg text;
 };
 constexpr Meaning kMeanings[] = {
-    {"locked", L"another program has locked it"},
-    {"SQLITE_BUSY", L"another program has locked it"},
-    {"disk is full", L"the disk is full"},
-    {"No space left", L"the disk is full"},
-    {"readonly database", L"it is write-protected"},
-    {"read-only", L"it is write-protected"},
-    {"unable to open database file", L"it cannot be opened, or its folder cannot be written to"},
-    {"malformed", L"it is damaged"},
-    {"not a database", L"it is damaged, or no GeoPackage"},
-    {"disk I/O error", L"reading or writing the disk failed"},
+    {"locked", Msg::IsLocked},
+    {"SQLITE_BUSY", Msg::IsLocked},
+    {"disk is full", Msg::DiskFull},
+    {"No space left", Msg::DiskFull},
+    {"readonly database", Msg::WriteProtected},
+    {"read-only", Msg::WriteProtected},
+    {"unable to open database file", Msg::CannotOpenOrWrite},
+    {"malformed", Msg::IsDamaged},
+    {"not a database", Msg::DamagedOrOther},
+    {"disk I/O error", Msg::DiskFailed},
+    {"not recognized as", Msg::DamagedOrUnknown},
 };
 
 void CPL_STDCALL Catch(CPLErr errorClass, CPLErrorNum, const char* message) {
@@ -59,11 +61,11 @@ CString GdalErrors::Reason() const {
     for (const Meaning& meaning : kMeanings) {
         for (const std::string& failure : m_failures) {
             if (failure.find(meaning.part) != std::string::npos) {
-                return CString(meaning.text) + L" (" + CString(Utf8ToWide(failure)) + L")";
+                return Text(meaning.text);
             }
         }
     }
-    return m_failures.empty() ? CString(L"it is damaged, or of a kind that is not known")
+    return m_failures.empty() ? Text(Msg::DamagedOrUnknown)
                               : CString(Utf8ToWide(m_failures.front()));
 }
 

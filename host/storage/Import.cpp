@@ -8,6 +8,7 @@
 #include <new>
 #include <ogrsf_frmts.h>
 
+#include "host/Texts.h"
 #include "host/storage/Columns.h"
 #include "host/storage/CoordinateSystem.h"
 #include "host/storage/FileChecks.h"
@@ -153,7 +154,7 @@ AcDbImportResult Importer::Import(const wchar_t* path, const AcDbProgress& progr
     try {
         return ImportFile(native, progress);
     } catch (const std::bad_alloc&) {
-        failed.reason = FileReason(native, L"there is not enough memory for it");
+        failed.reason = FileReason(native, Text(Msg::NoMemory));
     } catch (...) {
         failed.reason = FileReason(native, CaughtReason());
     }
@@ -187,17 +188,15 @@ AcDbImportResult Reading::Run() {
         ReadInTurn();
     }
     if (m_result.ok() && m_rows.IsStopped()) {
-        m_result.reason = FileReason(m_path, L"reading was stopped");
+        m_result.reason = FileReason(m_path, Text(Msg::ReadingStopped));
     }
     if (m_result.ok() && m_errors.HasFailed()) {
         m_result.reason = m_errors.Reason(m_path);
     }
     for (Source& source : m_sources) {
         if (source.empty > 0) {
-            CString text;
-            text.Format(L"%s: %d rows are passed over, which have no geometry",
-                        source.layer.name.GetString(), source.empty);
-            m_result.warnings.push_back(FileReason(m_path, text));
+            m_result.warnings.push_back(FileReason(
+                m_path, Text(Msg::SkippedWithoutGeometry, source.layer.name, source.empty)));
         }
         if (m_result.ok() && !source.layer.features.empty()) {
             m_result.layers.push_back(std::move(source.layer));
@@ -220,8 +219,8 @@ void Reading::ReadInTurn() {
         }
         if (pLayer->GetLayerDefn()->GetFieldIndex(kTextColumn) >= 0) {
             // A drawing of ours: its texts are no points.
-            m_result.warnings.push_back(FileReason(m_path, CString(Utf8ToWide(pLayer->GetName())) +
-                                                               L": texts are not imported"));
+            m_result.warnings.push_back(
+                FileReason(m_path, Text(Msg::TextsNotImported, pLayer->GetName())));
             continue;
         }
         pLayer->ResetReading();
@@ -232,7 +231,7 @@ void Reading::ReadInTurn() {
         }
         if (m_errors.HasFailed() || IsCut(*pLayer)) {
             Refuse(SourceOf(*pLayer),
-                   m_errors.HasFailed() ? m_errors.Reason() : CString(L"it is cut short"));
+                   m_errors.HasFailed() ? m_errors.Reason() : Text(Msg::IsCutShort));
             return;
         }
     }
@@ -290,7 +289,7 @@ bool Reading::TakeRow(OGRLayer& layer, const OGRFeature& row) {
                                : pGeometry        ? ReadShapes(*pGeometry, maker)
                                                   : ShapeResult::Empty;
     if (shapes == ShapeResult::NotPlace) {
-        Refuse(source, L"it has a position that is none");
+        Refuse(source, Text(Msg::InvalidPosition));
         return false;
     }
     source.empty += shapes == ShapeResult::Empty ? 1 : 0;
@@ -298,10 +297,8 @@ bool Reading::TakeRow(OGRLayer& layer, const OGRFeature& row) {
 }
 
 void Reading::Refuse(const Source& source, const CString& reason) {
-    CString text;
-    text.Format(L"layer \"%s\", row %d: %s", source.layer.name.GetString(), source.rows,
-                reason.GetString());
-    m_result.reason = FileReason(m_path, text);
+    m_result.reason =
+        FileReason(m_path, Text(Msg::LayerRow, source.layer.name, source.rows, reason));
 }
 
 } // namespace

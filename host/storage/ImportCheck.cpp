@@ -5,6 +5,7 @@
 #include <fstream>
 #include <gdal_priv.h>
 
+#include "host/Texts.h"
 #include "host/storage/FileChecks.h"
 
 namespace Tessaly {
@@ -19,7 +20,7 @@ CString WhyNoDxf(std::ifstream& file) {
     while (file.read(part.data(), part.size()), file.gcount() > 0) {
         const std::string_view read(part.data(), static_cast<std::size_t>(file.gcount()));
         if (read.find('\0') != read.npos) {
-            return L"it is damaged, or a binary DXF";
+            return Text(Msg::BadDxf);
         }
         tail += read.substr(read.size() - std::min<std::size_t>(read.size(), 100));
         tail.erase(0, tail.size() - std::min<std::size_t>(tail.size(), 100));
@@ -27,19 +28,19 @@ CString WhyNoDxf(std::ifstream& file) {
     const std::size_t end = tail.find_last_not_of(" \t\r\n");
     const bool isWhole =
         end != tail.npos && end >= 2 && tail.compare(end - 2, 3, "EOF") == 0 && tail.back() != '\r';
-    return isWhole ? CString() : CString(L"it is cut short: its last line is not EOF");
+    return isWhole ? CString() : Text(Msg::DxfIsCut);
 }
 
 CString WhyNoFile(const std::string& path) {
     constexpr std::string_view kDatabase = "SQLite";
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        return L"it cannot be opened";
+        return Text(Msg::CannotOpen);
     }
     std::array<char, kDatabase.size()> start{};
     file.read(start.data(), start.size());
     if (file.gcount() == 0) {
-        return L"it is empty";
+        return Text(Msg::IsEmpty);
     }
     if (std::string_view(start.data(), start.size()) == kDatabase) {
         return WhyNoDatabase(path);
@@ -61,14 +62,13 @@ CString WhyNotImportable(const std::string& path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (!std::filesystem::exists(status)) {
-        return L"there is no such file";
+        return Text(Msg::NoSuchFile);
     }
     if (std::filesystem::is_directory(status)) {
         return {};
     }
     // A pipe would be waited for.
-    return std::filesystem::is_regular_file(status) ? WhyNoFile(path)
-                                                    : CString(L"it is no ordinary file");
+    return std::filesystem::is_regular_file(status) ? WhyNoFile(path) : Text(Msg::NotRegularFile);
 }
 
 } // namespace Tessaly

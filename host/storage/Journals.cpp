@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "host/Texts.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "host/storage/SystemFile.h"
 
@@ -48,8 +49,7 @@ CString SettleJournal(const std::string& path) {
     if (file.IsOpen() && !HasHotJournal(path)) {
         return {};
     }
-    return CString(L"an unfinished write has to be taken back first, and cannot be: ") +
-           errors.Reason();
+    return Text(Msg::UnfinishedWrite, errors.Reason());
 }
 
 CString ClearJournals(const std::string& path) {
@@ -65,7 +65,7 @@ CString ClearJournals(const std::string& path) {
         RemoveColdJournal(path);
         file.Execute("COMMIT");
     }
-    return HasJournal(path) ? CString(L"another program has it open") : CString();
+    return HasJournal(path) ? Text(Msg::OpenElsewhere) : CString();
 }
 
 } // namespace Tessaly

@@ -4,6 +4,7 @@
 #include <map>
 #include <new>
 
+#include "host/Texts.h"
 #include "host/storage/DrawingReader.h"
 #include "host/storage/DrawingWriter.h"
 #include "host/storage/FileChecks.h"
@@ -74,10 +75,7 @@ CString Write(const std::string& path, Mode mode, Scope scope, const AcDbDatabas
         writer.Update(remembered);
     }
     if (writer.UnknownCount() > 0) {
-        CString text;
-        text.Format(L"%d objects are not saved, since no file can hold their class",
-                    writer.UnknownCount());
-        warnings.push_back(text);
+        warnings.push_back(Text(Msg::UnsupportedTypes, writer.UnknownCount()));
     }
     return reason;
 }
@@ -93,15 +91,13 @@ CString WhyNotTheSame(const std::string& path, const RememberedFile& remembered)
     Schema schema;
     const bool isOlder = file.IsOpen() && LoadSchema(file, schema).IsEmpty() &&
                          schema.nextId < remembered.firstUnwritten;
-    return isOlder ? L"another or an older file has taken its place" : CString();
+    return isOlder ? Text(Msg::FileReplaced) : CString();
 }
 
 void WarnOfOthers(const std::string& path, const RememberedFile& remembered,
                   std::vector<CString>& warnings) {
     if (remembered.changeCounter != ChangeCounter(path)) {
-        warnings.push_back(
-            FileReason(path, L"another program has changed it since it was opened; what that "
-                             L"did to other objects is kept, and seen when it is opened again"));
+        warnings.push_back(FileReason(path, Text(Msg::FileChanged)));
     }
 }
 
@@ -118,10 +114,10 @@ CString WhyNotTarget(const std::string& path) {
     std::error_code ignored;
     const std::filesystem::path target(path);
     if (!std::filesystem::is_directory(target.parent_path(), ignored)) {
-        return L"its folder is not there";
+        return Text(Msg::NoFolder);
     }
     if (std::filesystem::is_directory(target, ignored)) {
-        return L"it is a folder";
+        return Text(Msg::IsFolder);
     }
     const CString reason = WhyNotWritable(path);
     return reason.IsEmpty() ? ClearJournals(path) : reason;
@@ -134,7 +130,7 @@ AcDbStorageResult Guarded(const std::string& path, Work work) {
     try {
         return work();
     } catch (const std::bad_alloc&) {
-        return Refusal(path, L"there is not enough memory for it");
+        return Refusal(path, Text(Msg::NoMemory));
     } catch (...) {
         return Refusal(path, CaughtReason());
     }
@@ -205,7 +201,7 @@ RememberedFile* GeoPackageStorage::FileOf(const AcDbDatabase& database, const st
 AcDbStorageResult GeoPackageStorage::SaveChanges(AcDbDatabase& database, const std::string& native,
                                                  const AcDbProgress& progress) {
     RememberedFile* pFile = FileOf(database, native);
-    CString reason = pFile ? WhyNoDatabase(native) : CString(L"the drawing is not from this file");
+    CString reason = pFile ? WhyNoDatabase(native) : Text(Msg::NotOpenedFromFile);
     if (reason.IsEmpty()) {
         reason = Tessaly::WhyNotWritable(native);
     }
@@ -256,12 +252,11 @@ AcDbStorageResult GeoPackageStorage::SaveTo(AcDbDatabase& database, const wchar_
     if (!sourceReason.IsEmpty()) {
         // The drawing is in memory as a whole: it must not be lost with its file.
         AcDbStorageResult result = SaveWhole(database, target, progress);
-        result.warnings.push_back(
-            FileReason(source, sourceReason + L"; what it held beside the drawing is not copied"));
+        result.warnings.push_back(FileReason(source, Text(Msg::ContentsNotCopied, sourceReason)));
         return result;
     }
     if (!pFile) {
-        return Refusal(source, L"the drawing is not from this file");
+        return Refusal(source, Text(Msg::NotOpenedFromFile));
     }
     return SaveCopy(database, source, target, progress);
 }

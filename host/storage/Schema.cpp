@@ -5,6 +5,7 @@
 #include <map>
 #include <ogrsf_frmts.h>
 
+#include "host/Texts.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "platform/win/CodePage.h"
 
@@ -70,15 +71,9 @@ std::int64_t WholeOf(const std::string& text) {
 CString CheckVersion(const std::string& version) {
     const std::int64_t number = WholeOf(version);
     if (number < 1) {
-        return L"it is damaged: its table orv_meta states no version";
+        return Text(Msg::SchemaWithoutVersion);
     }
-    CString reason;
-    if (number > kSchemaVersion) {
-        reason.Format(L"it was written by a newer program: its version is %d, and %d is the "
-                      L"newest that this program knows",
-                      number, kSchemaVersion);
-    }
-    return reason;
+    return number > kSchemaVersion ? Text(Msg::SchemaIsNewer, number, kSchemaVersion) : CString();
 }
 
 bool LoadNotes(OpenGeoPackage& file, Schema& schema) {
@@ -145,7 +140,7 @@ CString LoadSchema(OpenGeoPackage& file, Schema& schema) {
         return {};
     }
     std::map<std::string, std::string> meta;
-    CString damaged = L"it is damaged: its own tables cannot be read";
+    CString damaged = Text(Msg::SchemaUnreadable);
     if (!ForEachRow(file, kMetaTable, [&](const OGRFeature& row) {
             meta[FieldText(row, "key")] = FieldText(row, "value");
         })) {
@@ -157,7 +152,7 @@ CString LoadSchema(OpenGeoPackage& file, Schema& schema) {
     }
     const std::int64_t nextId = WholeOf(meta["next_id"]);
     if (nextId < 1 || nextId > kHighestId) {
-        return L"it is damaged: its table orv_meta states an impossible next id";
+        return Text(Msg::SchemaNextId);
     }
     schema.exists = true;
     schema.nextId = static_cast<std::uint32_t>(nextId);

@@ -2,10 +2,11 @@
 
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
+#include <unistd.h>
 
-#include "platform/win/CodePage.h"
+#include "host/Texts.h"
+#include "platform/win/ErrorText.h"
 
 namespace Tessaly {
 
@@ -14,9 +15,7 @@ constexpr std::array<const char*, 4> kCompanions = {"", "-journal", "-wal", "-sh
 } // namespace
 
 CString ErrnoText(int number) {
-    return number == ENOSPC || number == EFBIG
-               ? CString(L"the disk is full")
-               : CString(Utf8ToWide(std::strerror(number))); // NOLINT(concurrency-mt-unsafe)
+    return number == ENOSPC || number == EFBIG ? Text(Msg::DiskFull) : ErrorNumberText(number);
 }
 
 std::string BehindLinks(const std::string& path) {

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <vector>
 
+#include "host/Texts.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "host/storage/SystemFile.h"
 
@@ -94,7 +95,7 @@ CString UnfinishedFile::CopyFrom(const std::string& source) const {
         const ssize_t sent =
             sendfile(to.Number(), from.Number(), nullptr, static_cast<std::size_t>(left));
         if (sent <= 0) {
-            return sent < 0 ? ErrnoText(errno) : CString(L"it was cut while it was copied");
+            return sent < 0 ? ErrnoText(errno) : Text(Msg::CutWhileCopied);
         }
         left -= sent;
     }

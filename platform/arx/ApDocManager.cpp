@@ -10,22 +10,24 @@
 #include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const wchar_t* kNewName = L"Drawing%d";
-constexpr const wchar_t* kEvent = L"document event";
+CString EventName() {
+    return MessageText(PlatformMsg::DocumentEvent);
+}
 
 bool IsSameFile(const CString& left, const CString& right) {
     std::error_code ignored;
     return left == right || fs::equivalent(NativePath(left), NativePath(right), ignored);
 }
 
-AcDbStorageResult Refusal(const wchar_t* file, const wchar_t* reason) {
+AcDbStorageResult Refusal(const wchar_t* file, PlatformMsg reason) {
     AcDbStorageResult result;
-    result.reason.Format(L"%s: %s", file, reason);
+    result.reason.Format(L"%s: %s", file, MessageText(reason));
     return result;
 }
 
@@ -85,7 +87,8 @@ void AcApDocManager::Tell(Call call) {
     for (AcApDocManagerReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
             // Each keeps track of the same documents, so none may miss what another fails at.
-            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
+            Guarded(EventName(),
+                    [&] { CallForeign(*pReactor, EventName(), [&] { call(*pReactor); }); });
         }
     }
 }
@@ -125,7 +128,7 @@ AcApDocument* AcApDocManager::newDocument() {
     CString name;
     const auto hasName = [&name](const auto& entry) { return entry->title() == name; };
     do {
-        name.Format(kNewName, ++m_nLastNew);
+        name = MessageText(PlatformMsg::NewDrawing, ++m_nLastNew);
     } while (std::any_of(m_documents.begin(), m_documents.end(), hasName));
     return newDocument(name);
 }
@@ -141,7 +144,7 @@ AcDbStorageResult AcApDocManager::openDocument(const wchar_t* path, const AcDbPr
     }
     const CString file = drawingPath(path);
     if (!m_pStorage || file.IsEmpty()) {
-        return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be opened");
+        return Refusal(file, m_pStorage ? PlatformMsg::NoFileNamed : PlatformMsg::CannotOpen);
     }
     auto pNew = std::make_unique<AcApDocument>(L"");
     AcDbStorageResult result = m_pStorage->Read(*pNew->database(), file, progress);
@@ -176,7 +179,7 @@ AcDbStorageResult AcApDocManager::Save(AcApDocument& document, const CString& pa
 AcDbStorageResult AcApDocManager::saveDocument(AcApDocument* pDoc, const AcDbProgress& progress) {
     if (!m_pStorage || !IsOpen(pDoc) || !pDoc->hasFile()) {
         return Refusal(IsOpen(pDoc) ? pDoc->fileName() : L"",
-                       m_pStorage ? L"the drawing has no file yet" : L"no drawings can be saved");
+                       m_pStorage ? PlatformMsg::HasNoFile : PlatformMsg::CannotSave);
     }
     const CString path = pDoc->path();
     return Save(*pDoc, path, [&] { return m_pStorage->Save(*pDoc->database(), path, progress); });
@@ -186,11 +189,11 @@ AcDbStorageResult AcApDocManager::saveDocumentAs(AcApDocument* pDoc, const wchar
                                                  const AcDbProgress& progress) {
     const CString file = drawingPath(path);
     if (!m_pStorage || !IsOpen(pDoc) || file.IsEmpty()) {
-        return Refusal(file, m_pStorage ? L"no file was named" : L"no drawings can be saved");
+        return Refusal(file, m_pStorage ? PlatformMsg::NoFileNamed : PlatformMsg::CannotSave);
     }
     const AcApDocument* const pOwner = documentOf(file);
     if (pOwner && pOwner != pDoc) {
-        return Refusal(file, L"another open drawing is kept in this file");
+        return Refusal(file, PlatformMsg::FileInUse);
     }
     const CString from = pDoc->path();
     return Save(*pDoc, file,

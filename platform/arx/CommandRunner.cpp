@@ -10,6 +10,7 @@
 #include "platform/arx/Guard.h"
 #include "platform/arx/HostPort.h"
 #include "platform/mfc/WinApp.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -139,7 +140,7 @@ CommandOutcome CommandRunner::Run(const CommandOrder& order) {
     CommandOutcome outcome = CommandOutcome::Failed;
     const bool ended = Guarded(order.id, [&] { outcome = RunInside(order); });
     if (ended && outcome == CommandOutcome::Unknown) {
-        acutPrintf(L"Unknown command \"%s\". HELP lists the commands.\n", order.id);
+        acutPrintf(L"%s\n", MessageText(PlatformMsg::UnknownCommand, order.id));
     }
     return outcome;
 }

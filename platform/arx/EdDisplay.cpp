@@ -5,6 +5,7 @@
 #include "platform/arx/DbDatabase.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/win/Number.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -14,7 +15,8 @@ constexpr int kHighlightColor = 1; // red
 /// Without a display an entity is told by its number.
 int AskForNumber(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) {
     CString answer;
-    if (acedGetString(0, CString(prompt) + L"Entity number: ", answer) != RTNORM) {
+    if (acedGetString(0, CString(prompt) + MessageText(PlatformMsg::EntityNumber) + L": ",
+                      answer) != RTNORM) {
         return RTCAN;
     }
     const AcDbDatabase* const pDatabase = acdbHostApplicationServices()->workingDatabase();

@@ -6,10 +6,13 @@
 
 #include "platform/arx/Guard.h"
 #include "platform/win/CodePage.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
-constexpr const wchar_t* kEvent = L"save event";
+CString EventName() {
+    return MessageText(PlatformMsg::SaveEvent);
+}
 
 AcRxClass* MakeClass(const wchar_t* name) {
     AcRxClass* const pClass = newAcRxClass(name, L"AcRxObject");
@@ -36,7 +39,8 @@ void AcEditor::Tell(Call call) {
     for (AcEditorReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
             // A save goes on, whoever fails: the drawing is the user's work.
-            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
+            Guarded(EventName(),
+                    [&] { CallForeign(*pReactor, EventName(), [&] { call(*pReactor); }); });
         }
     }
 }

@@ -4,6 +4,7 @@
 
 #include "platform/arx/CommandRunner.h"
 #include "platform/arx/HostPort.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -39,6 +40,52 @@ int acedGetString(int flags, const wchar_t* prompt, wchar_t* buffer, std::size_t
     std::copy_n(answer.GetString(), length, buffer);
     buffer[length] = L'\0';
     return result;
+}
+
+std::optional<CString> acedAskText(const CString& label, const CString& current) {
+    const CString prompt = label + (current.IsEmpty() ? L"" : L" <" + current + L">") + L": ";
+    CString answer;
+    if (acedGetString(kGetStringAllowBlanks, prompt, answer) != RTNORM) {
+        return std::nullopt;
+    }
+    answer.Trim();
+    return answer.IsEmpty() ? current : answer;
+}
+
+int acedGetChoice(const ChoicePrompt& prompt, std::size_t& choice, CString& other) {
+    if (HostPort().GetChoice(prompt, other) != PromptEnd::Answered) {
+        return RTCAN;
+    }
+    const std::optional<std::size_t> found = FindChoice(prompt, other.Trim());
+    choice = found.value_or(choice);
+    return found ? RTNORM : RTERROR;
+}
+
+std::optional<std::size_t> acedAskChoice(const ChoicePrompt& prompt) {
+    std::size_t choice = 0;
+    CString other;
+    const int result = acedGetChoice(prompt, choice, other);
+    if (result == RTERROR) {
+        acutPrint(MessageText(PlatformMsg::NotAChoice, other, ChoicesText(prompt)).View());
+        acutPrint(L"\n");
+    }
+    return result == RTNORM ? std::optional(choice) : std::nullopt;
+}
+
+bool acedAskYes(const CString& question) {
+    return acedAskChoice({question, {YesChoice(), NoChoice()}, 1}) == 0U;
+}
+
+PromptChoice YesChoice() {
+    return {L"Yes", MessageText(PlatformMsg::Yes)};
+}
+
+PromptChoice NoChoice() {
+    return {L"No", MessageText(PlatformMsg::No)};
+}
+
+PromptChoice CancelChoice() {
+    return {L"Cancel", MessageText(PlatformMsg::Cancel)};
 }
 
 void acedAlert(const wchar_t* message) {

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/win/String.h"
+#include "platform/arx/PromptChoices.h"
 
 /// Results of prompts.
 inline constexpr int RTNORM = 5100;   ///< answered
@@ -30,6 +30,25 @@ PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, wchar_t* buffer
                                std::size_t bufferSize);
 /// The same for an answer of any length.
 PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, CString& answer);
+
+/// Asks "label <current>: " for a text, trimmed; an empty answer stands for the current one.
+/// Nothing if the user cancelled.
+PLATFORM_API std::optional<CString> acedAskText(const CString& label, const CString& current = {});
+
+/// Asks for one of several choices. RTNORM with the number of the choice; RTERROR with the
+/// answer in `other` if it is none of them; RTCAN.
+PLATFORM_API int acedGetChoice(const ChoicePrompt& prompt, std::size_t& choice, CString& other);
+/// The same for a prompt that takes nothing else. Nothing if the user cancelled or, which is
+/// reported, gave another answer: it is not repeated, since the next line of a script is
+/// hardly an answer.
+PLATFORM_API std::optional<std::size_t> acedAskChoice(const ChoicePrompt& prompt);
+/// Asks "question [Yes/No] <No>: ".
+PLATFORM_API bool acedAskYes(const CString& question);
+
+/// "Yes" and "No", and "Cancel" in the user's language.
+PLATFORM_API PromptChoice YesChoice();
+PLATFORM_API PromptChoice NoChoice();
+PLATFORM_API PromptChoice CancelChoice();
 
 /// Shows a message until the user has taken note of it.
 PLATFORM_API void acedAlert(const wchar_t* message);

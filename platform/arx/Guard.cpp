@@ -4,6 +4,7 @@
 
 #include "platform/arx/EdPrompt.h"
 #include "platform/win/CodePage.h"
+#include "platform/win/PlatformTexts.h"
 
 CString CaughtReason() {
     try {
@@ -11,7 +12,7 @@ CString CaughtReason() {
     } catch (const std::exception& error) {
         return Utf8ToWide(error.what());
     } catch (...) {
-        return L"an exception without a text";
+        return MessageText(PlatformMsg::UnknownException);
     }
 }
 
@@ -19,7 +20,9 @@ void ReportCaught(const wchar_t* what) noexcept {
     try {
         const CString reason = CaughtReason();
         const CString activity = TakeInterruptedActivity();
-        acutPrintf(L"\n%s failed: %s\n", activity.IsEmpty() ? what : activity.GetString(), reason);
+        acutPrintf(L"\n%s\n",
+                   MessageText(PlatformMsg::Failed,
+                               activity.IsEmpty() ? what : activity.GetString(), reason));
     } catch (...) {
         // There is no memory for the message, or nowhere to print it.
         return;

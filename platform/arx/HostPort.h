@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/win/String.h"
+#include "platform/arx/PromptChoices.h"
 
 /// How a prompt ended.
 enum class PromptEnd {
@@ -22,6 +22,11 @@ public:
     /// Shows a prompt and waits for an answer, while the host's own events go on.
     /// \param allowBlanks false: a blank ends the answer.
     virtual PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) = 0;
+    /// Shows a question with its choices, if need be as buttons, and waits for an answer: one
+    /// that FindChoice understands, or anything else that was typed.
+    virtual PromptEnd GetChoice(const ChoicePrompt& prompt, CString& answer) {
+        return GetString(true, PromptText(prompt).View(), answer);
+    }
     /// Shows a text until the user has taken note of it.
     virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
     /// Writes a line of its own.

@@ -4,10 +4,13 @@
 #include <vector>
 
 #include "platform/arx/Guard.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
-constexpr const wchar_t* kEvent = L"closing event";
+CString EventName() {
+    return MessageText(PlatformMsg::ClosingEvent);
+}
 
 std::vector<AcApHostReactor*>& Reactors() {
     static auto* const reactors = new std::vector<AcApHostReactor*>;
@@ -29,8 +32,9 @@ bool acedAskToClose() {
     return std::none_of(reactors.begin(), reactors.end(), [](AcApHostReactor* pReactor) {
         bool isVeto = false;
         // One that cannot answer must not hold the user.
-        Guarded(kEvent,
-                [&] { CallForeign(*pReactor, kEvent, [&] { isVeto = pReactor->hostToClose(); }); });
+        Guarded(EventName(), [&] {
+            CallForeign(*pReactor, EventName(), [&] { isVeto = pReactor->hostToClose(); });
+        });
         return isVeto;
     });
 }

@@ -5,6 +5,7 @@
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 #include "platform/win/Library.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -15,10 +16,9 @@ bool SpeaksOurProtocol(HINSTANCE library, const wchar_t* path) {
     const auto version = reinterpret_cast<ApiVersion>(GetProcAddress(library, "acrxGetApiVersion"));
     CString reason;
     if (!GetProcAddress(library, "acrxEntryPoint") || !version) {
-        reason.Format(L"%s: no module entry point", path);
+        reason = MessageText(PlatformMsg::NoEntryPoint, path);
     } else if (version() != kRxApiVersion) {
-        reason.Format(L"%s: made for interface version %d, this is %d", path, version(),
-                      kRxApiVersion);
+        reason = MessageText(PlatformMsg::OtherInterface, path, version(), kRxApiVersion);
     }
     SetLastErrorText(reason);
     return reason.IsEmpty();
@@ -64,7 +64,7 @@ bool AcRxDynamicLinker::loadModule(const wchar_t* path) {
     if (Send(*pModule, AcRx::kInitAppMsg) == AcRx::kRetError) {
         std::erase_if(m_modules, [&](const auto& module) { return module.get() == pModule; });
         FreeLibrary(library);
-        SetLastErrorText(CString(path) + L": the module refused to start");
+        SetLastErrorText(MessageText(PlatformMsg::RefusedToStart, path));
         return false;
     }
     return true;

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <functional>
 
@@ -16,6 +17,7 @@
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/win/Number.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -95,14 +97,14 @@ bool IsColor(int color) {
 }
 
 bool AskForColor(int& color) {
-    CString answer;
-    const CString prompt = FormatText(L"Colour, 1 to %d <%d>: ", kLastColor, color);
-    if (acedGetString(0, prompt, answer) != RTNORM) {
+    const std::optional<CString> answer =
+        acedAskText(MessageText(PlatformMsg::ColorNumber, kLastColor), FormatText(L"%d", color));
+    if (!answer) {
         return false;
     }
-    const int chosen = answer.IsEmpty() ? color : TextToInt(answer.View());
+    const int chosen = TextToInt(answer->View());
     if (!IsColor(chosen)) {
-        acutPrintf(L"\"%s\" is no colour.\n", answer);
+        acutPrintf(L"%s\n", MessageText(PlatformMsg::NotAColor, *answer));
         return false;
     }
     color = chosen;
@@ -117,11 +119,14 @@ bool acedSetColorDialog(int& nColor, bool, int) {
     }
     AfxStartToolkit();
     const QPointer<QDialog> dialog = new QDialog(QApplication::activeWindow());
-    dialog->setWindowTitle(QStringLiteral("Colour"));
+    dialog->setWindowTitle(ToQString(MessageText(PlatformMsg::Color).View()));
     auto* const pTable = new ColorTable(IsColor(nColor) ? nColor : 7);
     auto* const pNumber = new QLabel;
     auto* const pButtons =
         new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
+    pButtons->button(QDialogButtonBox::Ok)->setText(ToQString(MessageText(PlatformMsg::Ok).View()));
+    pButtons->button(QDialogButtonBox::Cancel)
+        ->setText(ToQString(MessageText(PlatformMsg::Cancel).View()));
     pTable->onChange = [pTable, pNumber] { pNumber->setText(QString::number(pTable->Chosen())); };
     pTable->onAccept = [pDialog = dialog.data()] { pDialog->accept(); };
     pTable->onChange();

@@ -4,15 +4,20 @@
 #include <array>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 
+#include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostPort.h"
 #include "platform/mfc/WinApp.h"
 #include "platform/mfc/toolkit/Convert.h"
 #include "platform/mfc/toolkit/WindowCore.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -22,14 +27,21 @@ constexpr int kMostAsked = 5;
 
 struct BoxButton {
     int id;
-    QMessageBox::StandardButton button;
-    const wchar_t* word; ///< at a prompt; its first letter alone will do
+    const wchar_t* keyword;
+    PlatformMsg text;
 };
 
-constexpr BoxButton kOk{IDOK, QMessageBox::Ok, L"OK"};
-constexpr BoxButton kCancel{IDCANCEL, QMessageBox::Cancel, L"Cancel"};
-constexpr BoxButton kYes{IDYES, QMessageBox::Yes, L"Yes"};
-constexpr BoxButton kNo{IDNO, QMessageBox::No, L"No"};
+constexpr BoxButton kOk{IDOK, L"OK", PlatformMsg::Ok};
+constexpr BoxButton kCancel{IDCANCEL, L"Cancel", PlatformMsg::Cancel};
+constexpr BoxButton kYes{IDYES, L"Yes", PlatformMsg::Yes};
+constexpr BoxButton kNo{IDNO, L"No", PlatformMsg::No};
+
+/// The toolkit gives these the places that the desktop has for them.
+constexpr std::pair<const wchar_t*, QMessageBox::StandardButton> kStandardButtons[] = {
+    {L"OK", QMessageBox::Ok},
+    {L"Cancel", QMessageBox::Cancel},
+    {L"Yes", QMessageBox::Yes},
+    {L"No", QMessageBox::No}};
 
 /// The last one is the answer of those who give none.
 std::span<const BoxButton> ButtonsOf(UINT type) {
@@ -64,6 +76,59 @@ QMessageBox::Icon BoxIcon(UINT type) {
     }
 }
 
+std::vector<PromptChoice> ChoicesOf(std::span<const BoxButton> buttons) {
+    std::vector<PromptChoice> choices;
+    for (const BoxButton& button : buttons) {
+        choices.push_back({button.keyword, MessageText(button.text)});
+    }
+    return choices;
+}
+
+QAbstractButton* AddButton(QMessageBox& box, const PromptChoice& choice) {
+    for (const auto& [keyword, standard] : kStandardButtons) {
+        if (choice.keyword == keyword) {
+            QPushButton* const pButton = box.addButton(standard);
+            pButton->setText(ToQString(choice.text.View()));
+            return pButton;
+        }
+    }
+    return box.addButton(ToQString(choice.text.View()), QMessageBox::ActionRole);
+}
+
+/// What is not over a modal dialog could not be answered before that is closed.
+QWidget* ParentOf(CWnd* pParent) {
+    if (QWidget* const pModal = QApplication::activeModalWidget()) {
+        return pModal;
+    }
+    return pParent && pParent->Core() ? pParent->Core()->Outer() : QApplication::activeWindow();
+}
+
+/// Nothing if the user gave no answer.
+std::optional<std::size_t> ShowBox(CWnd* pParent, const ChoicePrompt& prompt,
+                                   const wchar_t* caption, QMessageBox::Icon icon) {
+    AfxStartToolkit();
+    // Guarded: the parent may be destroyed with all its children while the box waits.
+    const QPointer<QMessageBox> box = new QMessageBox(ParentOf(pParent));
+    box->setIcon(icon);
+    box->setWindowTitle(ToQString(caption));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(ToQString(prompt.question.View()));
+    std::vector<QAbstractButton*> buttons;
+    for (const PromptChoice& choice : prompt.choices) {
+        buttons.push_back(AddButton(*box, choice));
+    }
+    const std::size_t preset = prompt.fallback.value_or(buttons.size() - 1);
+    box->setDefaultButton(qobject_cast<QPushButton*>(buttons[preset]));
+    const bool canLeave = box->standardButtons() != QMessageBox::NoButton;
+    box->setEscapeButton(canLeave ? buttons.back() : AddButton(*box, CancelChoice()));
+    box->exec();
+    const QAbstractButton* const pClicked = box ? box->clickedButton() : nullptr;
+    const auto place = std::find(buttons.begin(), buttons.end(), pClicked) - buttons.begin();
+    const auto chosen = static_cast<std::size_t>(place);
+    delete box.data();
+    return chosen < buttons.size() ? std::optional(chosen) : std::nullopt;
+}
+
 int AskAtPrompt(const wchar_t* text, const wchar_t* caption, UINT type) {
     const std::span<const BoxButton> buttons = ButtonsOf(type);
     if (buttons.size() == 1) {
@@ -71,21 +136,14 @@ int AskAtPrompt(const wchar_t* text, const wchar_t* caption, UINT type) {
         return IDOK;
     }
     HostPort().Print(std::wstring(L"\n") + caption + L": " + text + L"\n");
-    std::wstring prompt = L"[";
-    for (const BoxButton& button : buttons) {
-        prompt += button.word;
-        prompt += &button == &buttons.back() ? L"]: " : L"/";
-    }
+    const ChoicePrompt prompt{CString(), ChoicesOf(buttons)};
     for (int asked = 0; asked < kMostAsked; ++asked) {
         CString answer;
-        if (HostPort().GetString(false, prompt, answer) != PromptEnd::Answered) {
+        if (HostPort().GetChoice(prompt, answer) != PromptEnd::Answered) {
             break;
         }
-        for (const BoxButton& button : buttons) {
-            if (answer.CompareNoCase(button.word) == 0 ||
-                answer.CompareNoCase(CString(button.word).Left(1)) == 0) {
-                return button.id;
-            }
+        if (const std::optional<std::size_t> choice = FindChoice(prompt, answer)) {
+            return buttons[*choice].id;
         }
     }
     return buttons.back().id;
@@ -99,34 +157,16 @@ int ShowMessageBox(CWnd* pParent, const wchar_t* text, const wchar_t* caption, U
     if (!AfxIsDesktopMode()) {
         return AskAtPrompt(text, caption, type);
     }
-    AfxStartToolkit();
-    // What is not over a modal dialog could not be answered before that has gone.
-    QWidget* pOver = QApplication::activeModalWidget();
-    if (!pOver) {
-        pOver =
-            pParent && pParent->Core() ? pParent->Core()->Outer() : QApplication::activeWindow();
-    }
-    // Guarded: the parent may go away with all that stands on it while the box waits.
-    const QPointer<QMessageBox> box = new QMessageBox(pOver);
-    box->setIcon(BoxIcon(type));
-    box->setWindowTitle(ToQString(caption));
-    box->setTextFormat(Qt::PlainText);
-    box->setText(ToQString(text));
     const std::span<const BoxButton> buttons = ButtonsOf(type);
-    for (const BoxButton& button : buttons) {
-        box->addButton(button.button);
-    }
     const std::size_t preset = (type & MB_DEFMASK) / MB_DEFBUTTON2;
-    box->setDefaultButton(buttons[std::min(preset, buttons.size() - 1)].button);
-    box->setEscapeButton(buttons.back().button);
-    const int chosen = box->exec();
-    delete box.data();
-    for (const BoxButton& button : buttons) {
-        if (button.button == chosen) {
-            return button.id;
-        }
-    }
-    return buttons.back().id;
+    const ChoicePrompt prompt{text, ChoicesOf(buttons), std::min(preset, buttons.size() - 1)};
+    const auto chosen = ShowBox(pParent, prompt, caption, BoxIcon(type));
+    return buttons[chosen.value_or(buttons.size() - 1)].id;
+}
+
+std::optional<std::size_t> ShowChoiceBox(CWnd* pParent, const ChoicePrompt& prompt,
+                                         const wchar_t* caption) {
+    return ShowBox(pParent, prompt, caption, QMessageBox::Question);
 }
 
 int AfxMessageBox(const wchar_t* text, UINT type) {

@@ -1,7 +1,7 @@
 // Messages and questions to the user.
 #pragma once
 
-#include "platform/Api.h"
+#include "platform/arx/PromptChoices.h"
 #include "platform/win/Types.h"
 
 class CWnd;
@@ -26,5 +26,9 @@ inline constexpr UINT MB_DEFMASK = 0x300;
 /// IDNO where there is no cancel button
 PLATFORM_API int ShowMessageBox(CWnd* pParent, const wchar_t* text, const wchar_t* caption,
                                 UINT type);
-/// The same over the active window, under the product's name.
+/// Shows a question with a button for each choice, on the desktop. Nothing if the user gave no
+/// answer.
+PLATFORM_API std::optional<std::size_t> ShowChoiceBox(CWnd* pParent, const ChoicePrompt& prompt,
+                                                      const wchar_t* caption);
+/// A message box over the active window, under the product's name.
 PLATFORM_API int AfxMessageBox(const wchar_t* text, UINT type);

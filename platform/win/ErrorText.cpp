@@ -1,8 +1,9 @@
 #include "platform/win/ErrorText.h"
 
+#include <cerrno>
 #include <system_error>
 
-#include "platform/win/CodePage.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -27,7 +28,32 @@ CString* Last() {
     return &last.text;
 }
 
+struct ErrorName {
+    int number;
+    PlatformMsg text;
+};
+/// The system's own texts follow its locale, not the language of this program.
+constexpr ErrorName kErrors[] = {
+    {ENOENT, PlatformMsg::NoSuchFile},        {EACCES, PlatformMsg::NoPermission},
+    {EPERM, PlatformMsg::NoPermission},       {EISDIR, PlatformMsg::IsFolder},
+    {ENOTDIR, PlatformMsg::IsNotFolder},      {EEXIST, PlatformMsg::Exists},
+    {ENOSPC, PlatformMsg::DiskFull},          {EROFS, PlatformMsg::ReadOnly},
+    {ENAMETOOLONG, PlatformMsg::NameTooLong}, {EIO, PlatformMsg::InputOutput},
+    {ELOOP, PlatformMsg::TooManyLinks},       {EMFILE, PlatformMsg::TooManyFiles},
+    {EFBIG, PlatformMsg::TooLarge},           {EBUSY, PlatformMsg::Busy},
+    {ENOTEMPTY, PlatformMsg::NotEmpty},
+};
+
 } // namespace
+
+CString ErrorNumberText(int number) {
+    for (const ErrorName& error : kErrors) {
+        if (error.number == number) {
+            return MessageText(error.text);
+        }
+    }
+    return MessageText(PlatformMsg::OtherError, number, std::generic_category().message(number));
+}
 
 CString LastErrorText() {
     const CString* const pText = Last();
@@ -41,5 +67,5 @@ void SetLastErrorText(CString text) {
 }
 
 void SetLastErrorNumber(int number) {
-    SetLastErrorText(Utf8ToWide(std::generic_category().message(number)));
+    SetLastErrorText(ErrorNumberText(number));
 }

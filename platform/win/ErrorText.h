@@ -8,5 +8,7 @@ PLATFORM_API CString LastErrorText();
 
 /// Notes a reason of the platform's own, where the operating system has none.
 PLATFORM_API void SetLastErrorText(CString text);
+/// The operating system's text for an error number, in the user's language.
+PLATFORM_API CString ErrorNumberText(int number);
 /// Notes the operating system's text for an error number.
 PLATFORM_API void SetLastErrorNumber(int number);

@@ -4,6 +4,7 @@
 
 #include "platform/win/CodePage.h"
 #include "platform/win/File.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -54,11 +55,9 @@ void IniFile::ReadLine(std::string_view line, int number, const wchar_t* name) {
     }
     const int equals = text.Find(L'=');
     if (equals <= 0 || m_sections.empty()) {
-        CString problem;
-        problem.Format(equals <= 0 ? L"%s:%d: not a \"key=value\" line"
-                                   : L"%s:%d: a value before the first section",
-                       name, number);
-        m_problems.push_back(problem);
+        m_problems.push_back(
+            MessageText(equals <= 0 ? PlatformMsg::NotKeyAndValue : PlatformMsg::ValueBeforeSection,
+                        name, number));
         return;
     }
     m_sections.back().entries.push_back(

@@ -7,6 +7,7 @@
 #include "platform/win/ElfFile.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -18,10 +19,9 @@ bool HasItsWholeLength(const wchar_t* path) {
     const std::optional<ElfFile> elf = ElfFile::Read(file.get());
     CString reason;
     if (!elf) {
-        reason.Format(L"%s: not a shared library of this machine", path);
+        reason = MessageText(PlatformMsg::NotALibrary, path);
     } else if (elf->IsCut()) {
-        reason.Format(L"%s: cut short, %u of at least %u bytes", path, elf->fileLength,
-                      elf->loadedEnd);
+        reason = MessageText(PlatformMsg::LibraryIsCut, path, elf->fileLength, elf->loadedEnd);
     }
     SetLastErrorText(reason);
     return reason.IsEmpty();

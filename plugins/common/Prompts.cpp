@@ -8,14 +8,6 @@ void PrintLine(const std::string& line) {
     acutPrintf(L"%s\n", line);
 }
 
-CString Ask(const wchar_t* prompt) {
-    CString answer;
-    if (acedGetString(kGetStringAllowBlanks, prompt, answer) != RTNORM) {
-        answer.Empty();
-    }
-    return answer.Trim();
-}
-
 bool Refuse(const CString& reason) {
     acutPrintf(L"%s\n", reason);
     return false;

@@ -8,9 +8,7 @@
 namespace Orvane::Plugins {
 
 void PrintLine(const std::string& line);
-/// The answer of a prompt without blanks around it; empty if it was cancelled.
-CString Ask(const wchar_t* prompt);
-/// Tells why a command is not carried out. Always false.
+/// Prints why a command is not carried out. Always false.
 bool Refuse(const CString& reason);
 
 } // namespace Orvane::Plugins

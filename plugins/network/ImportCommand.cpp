@@ -9,6 +9,7 @@
 #include "platform/win/File.h"
 #include "platform/win/Number.h"
 #include "plugins/common/Prompts.h"
+#include "plugins/common/Texts.h"
 #include "plugins/network/NetworkDrawing.h"
 #include "plugins/network/NetworkFormats.h"
 #include "plugins/network/NetworkLayers.h"
@@ -19,26 +20,34 @@
 
 namespace Orvane::Network {
 
-using Plugins::Ask;
+using Plugins::Msg;
 using Plugins::PrintLine;
 using Plugins::Refuse;
+using Plugins::Text;
 
 namespace {
 
 void PrintImported(const CString& name, std::size_t nodes, std::size_t sections,
                    const ImportedSystems& imported, std::size_t polygons) {
+    CString line;
     if (imported.pNetwork) {
-        acutPrintf(L"%s: %u nodes, %u sections", name, nodes, sections);
+        line = Text(Msg::ImportedNetwork, name, nodes, sections);
     }
     if (imported.pPolygons) {
-        acutPrintf(L"%s%s: %u polygons", imported.pNetwork ? L"; " : L"",
-                   imported.pPolygons->GetSystemName(), polygons);
+        line += line.IsEmpty() ? L"" : L"; ";
+        line += Text(Msg::ImportedPolygons, imported.pPolygons->GetSystemName(), polygons);
     }
-    acutPrintf(L".\n");
+    acutPrintf(L"%s.\n", line);
+}
+
+/// Prints why, and that nothing was imported. Always false.
+bool RefuseImport(const CString& reason) {
+    const CString nothing = Text(Msg::NothingImported);
+    return Refuse(reason.IsEmpty() ? nothing : reason + L" " + nothing);
 }
 
 bool ImportNetworkFile(const NetworkFormat& format, const CString& file, const CString& name) {
-    ImportProgress progress(acedProgress(L"Importing " + FileNameOf(file)));
+    ImportProgress progress(acedProgress(Text(Msg::Importing, FileNameOf(file))));
     const NetworkFile read = format.read(file, progress.Reading());
     for (const std::string& warning : read.warnings) {
         PrintLine(warning);
@@ -47,12 +56,12 @@ bool ImportNetworkFile(const NetworkFormat& format, const CString& file, const C
         for (const std::string& error : read.errors) {
             PrintLine(error);
         }
-        return Refuse(L"Nothing was imported.");
+        return RefuseImport({});
     }
     ImportedSystems imported;
     const CString reason = AddToDrawing(read.model, read.function, name, imported, progress);
     if (!reason.IsEmpty()) {
-        return Refuse(reason + L" Nothing was imported.");
+        return RefuseImport(reason);
     }
     PrintImported(name, read.model.nodes.size(), read.model.sections.size(), imported,
                   read.model.polygons.size());
@@ -66,74 +75,69 @@ std::optional<int> AskFunction() {
         return 0;
     }
     const std::vector<CTopologyFunction>& functions = pLines->GetTopologyFunctionVector();
-    CString prompt = L"Kind of network [";
+    ChoicePrompt prompt{Text(Msg::KindOfNetwork), {}, 0};
     for (const CTopologyFunction& function : functions) {
-        prompt.AppendFormat(L"%s%d %s", &function == &functions.front() ? L"" : L"/",
-                            function.GetId(), function.GetName());
+        prompt.choices.push_back({FormatText(L"%d", function.GetId()), function.GetName()});
     }
-    prompt.AppendFormat(L"] <%d>: ", functions.front().GetId());
-    const CString answer = Ask(prompt);
-    for (const CTopologyFunction& function : functions) {
-        CString number;
-        number.Format(L"%d", function.GetId());
-        if (answer == number || answer.CompareNoCase(function.GetName()) == 0) {
-            return function.GetId();
-        }
-    }
-    return answer.IsEmpty() ? std::optional(functions.front().GetId()) : std::nullopt;
+    const auto choice = acedAskChoice(prompt);
+    return choice ? std::optional(functions[*choice].GetId()) : std::nullopt;
 }
 
-/// Asks how near ends have to be to meet; nothing if the answer is no distance.
+/// Asks how near ends have to be to meet. Nothing if the user cancelled or, which is reported,
+/// the answer is not a distance.
 std::optional<double> AskTolerance(double usual) {
-    CString prompt;
-    prompt.Format(L"Ends up to this distance apart meet in one node <%s>: ", RealToText(usual));
-    const CString answer = Ask(prompt);
-    const auto distance =
-        answer.IsEmpty() ? std::optional(usual) : TextToReal(WideToUtf8(answer.View()));
-    return distance && *distance >= 0 ? distance : std::nullopt;
+    const auto answer = acedAskText(Text(Msg::JoinDistance), CString(RealToText(usual)));
+    const auto distance = answer ? TextToReal(WideToUtf8(answer->View())) : std::nullopt;
+    if (answer && (!distance || *distance < 0)) {
+        Refuse(Text(Msg::NoDistance, *answer));
+        return std::nullopt;
+    }
+    return distance;
 }
 
 /// Anything that the host can read: points and lines become a network, areas polygons.
 bool ImportLayers(const CString& file, const CString& name) {
-    auto progress = std::make_unique<ImportProgress>(acedProgress(L"Reading " + FileNameOf(file)));
+    auto progress =
+        std::make_unique<ImportProgress>(acedProgress(Text(Msg::Reading, FileNameOf(file))));
     const AcDbImportResult read = acdbImporter()->Import(file, progress->Reading());
     for (const CString& warning : read.warnings) {
         acutPrintf(L"%s\n", warning);
     }
     progress.reset(); // the user is asked now
     if (!read.ok()) {
-        return Refuse(read.reason + L"\nNothing was imported.");
+        Refuse(read.reason);
+        return RefuseImport({});
     }
     const LayerContents contents(read);
     const bool hasNetwork = !contents.points.empty() || !contents.lines.empty();
     if (!hasNetwork && contents.polygons.empty()) {
-        return Refuse(file + L": there are no points, lines or areas in it. Nothing was imported.");
+        return RefuseImport(Text(Msg::NoFeatures, file));
     }
     const std::optional<int> function = hasNetwork ? AskFunction() : 0;
     if (!function) {
-        return Refuse(L"There is no such kind of network. Nothing was imported.");
+        return RefuseImport({});
     }
     const std::optional<double> tolerance =
         contents.lines.empty() ? 0.0 : AskTolerance(UsualTolerance(contents.places, contents.ends));
     if (!tolerance) {
-        return Refuse(L"This is no distance. Nothing was imported.");
+        return RefuseImport({});
     }
     const bool isFirst = acdbHostApplicationServices()->workingDatabase()->entityCount() == 0;
-    progress = std::make_unique<ImportProgress>(acedProgress(L"Adding " + name));
+    progress = std::make_unique<ImportProgress>(acedProgress(Text(Msg::Adding, name)));
     ImportedSystems imported;
     LayerCounts counts;
     const CString reason =
         AddToDrawing(contents, *tolerance, *function, name, imported, counts, *progress);
     progress.reset();
     if (!reason.IsEmpty()) {
-        return Refuse(reason + L" Nothing was imported.");
+        return RefuseImport(reason);
     }
     for (const CString& warning : TakeCoordinateSystem(read, isFirst)) {
         acutPrintf(L"%s\n", warning);
     }
     PrintImported(name, counts.nodes, counts.sections, imported, counts.polygons);
     if (counts.foundNodes > 0) {
-        acutPrintf(L"%u of the nodes were made where lines end.\n", counts.foundNodes);
+        acutPrintf(L"%s\n", Text(Msg::MadeNodes, counts.foundNodes));
     }
     return true;
 }
@@ -141,20 +145,19 @@ bool ImportLayers(const CString& file, const CString& name) {
 } // namespace
 
 bool ImportNetwork() {
-    const CString file = Ask(L"Network file: ");
+    const CString file = acedAskText(Text(Msg::NetworkFile)).value_or(CString());
     if (file.IsEmpty()) {
-        return Refuse(L"No file: nothing was imported.");
+        return RefuseImport(Text(Msg::NoFileGiven));
     }
     if (!FileExists(file)) {
-        return Refuse(file + L": there is no such file. Nothing was imported.");
+        return RefuseImport(Text(Msg::NoSuchFile, file));
     }
-    const CString name = Ask(L"Name of the system: ");
+    const CString name = acedAskText(Text(Msg::SystemName)).value_or(CString());
     if (name.IsEmpty()) {
-        return Refuse(L"No name: nothing was imported.");
+        return RefuseImport(Text(Msg::NoNameGiven));
     }
     if (const auto* const pOther = System::CSystemManager::Instance()->GetSystemByName(name)) {
-        return Refuse(FormatText(L"The drawing has a system \"%s\" already. Nothing was imported.",
-                                 pOther->GetSystemName()));
+        return RefuseImport(Text(Msg::SystemExists, pOther->GetSystemName()));
     }
     const NetworkFormat* const pFormat = NetworkFormatOf(file);
     if (!pFormat && acdbImporter()) {

@@ -12,7 +12,6 @@ class CGisSystem;
 namespace Orvane::Network {
 
 /// The reason of an import that the user ended.
-inline constexpr const wchar_t* kStopped = L"The import was stopped.";
 
 /// What an import added. Null where there was nothing of the kind.
 struct ImportedSystems {

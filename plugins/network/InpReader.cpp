@@ -10,6 +10,9 @@
 
 namespace Orvane::Network {
 
+using Plugins::Msg;
+using Plugins::TextUtf8;
+
 namespace {
 
 using FileSections = std::vector<InpFileSection>;
@@ -35,16 +38,16 @@ bool IsBlankText(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
-/// What kind of file it cannot be, from its first bytes; empty if nothing speaks against it.
-std::string_view FaultOfWhole(std::string_view bytes) {
+/// What kind of file it cannot be, from its first bytes; nothing if it may be one.
+std::optional<Msg> FaultOfWhole(std::string_view bytes) {
     if (IsBlankText(bytes)) {
-        return "the file is empty";
+        return Msg::FileIsEmpty;
     }
     if (bytes.size() > kLargestFile) {
-        return "the file is larger than 4 GB";
+        return Msg::FileIsTooLarge;
     }
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
-        return "the file is in UTF-16; save it as UTF-8";
+        return Msg::FileIsUtf16;
     }
     return {};
 }
@@ -121,7 +124,7 @@ private:
             return; // a node may lack its position for a reason that was told already
         }
         if (m_model.nodes.size() == 0) {
-            m_context.problems.Fail(1, "the file has no nodes");
+            m_context.problems.Fail(1, TextUtf8(Msg::FileWithoutNodes));
         } else {
             m_nodes.DropUnplaced(line);
         }
@@ -165,15 +168,14 @@ void ReadUtf8(std::string_view text, InpContext& context, InpResult& result,
         return; // the columns of such a file mean nothing
     }
     if (!HasNetwork(sections)) {
-        context.problems.Fail(1, "this is no network file, it has no section [JUNCTIONS] or "
-                                 "another one with nodes");
+        context.problems.Fail(1, TextUtf8(Msg::NotANetworkFile));
         return;
     }
     context.format = FormatOf(sections);
     result.format = context.format;
     result.title = TitleOf(sections);
     if (!ModelReader(sections, context, result.model).Run(progress)) {
-        context.problems.Fail(0, "reading was stopped");
+        context.problems.Fail(0, TextUtf8(Msg::ReadingStopped));
     }
 }
 
@@ -192,8 +194,8 @@ InpResult ReadInp(std::string_view bytes, std::string_view fileName,
     InpResult result;
     result.file = fileName;
     InpContext context;
-    if (const std::string_view fault = FaultOfWhole(bytes); !fault.empty()) {
-        context.problems.Fail(1, std::string(fault));
+    if (const std::optional<Msg> fault = FaultOfWhole(bytes)) {
+        context.problems.Fail(1, TextUtf8(*fault));
     } else if (IsUtf8(bytes)) {
         ReadUtf8(bytes, context, result, progress);
     } else {
@@ -211,7 +213,7 @@ InpResult ReadInpFile(const wchar_t* path, const std::function<bool(int percent)
     InpResult result;
     result.file = name;
     InpContext context;
-    context.problems.Fail(0, "the file cannot be read: " + WideToUtf8(LastErrorText().View()));
+    context.problems.Fail(0, TextUtf8(Msg::CannotReadFile, LastErrorText()));
     Finish(context, result);
     return result;
 }
@@ -230,7 +232,7 @@ std::vector<std::string> ProblemTexts(const InpResult& result, Severity severity
     }
     const std::size_t all = severity == Severity::Error ? result.errorCount : result.warningCount;
     if (all > texts.size()) {
-        texts.push_back("... and " + std::to_string(all - texts.size()) + " more");
+        texts.push_back(TextUtf8(Msg::MoreProblems, all - texts.size()));
     }
     return texts;
 }

@@ -7,35 +7,33 @@
 
 namespace Orvane::Network {
 
+using Plugins::Msg;
+using Plugins::Text;
+using Plugins::TextUtf8;
+
 bool InpContext::HasColumns(const InpSectionRule& rule, std::uint32_t line,
                             const InpColumns& columns) {
     if (columns.size() >= rule.fewestColumns) {
         return true;
     }
-    std::string reason = "the line of [";
-    reason.append(rule.heading).append("] has ").append(std::to_string(columns.size()));
-    reason.append(columns.size() == 1 ? " column" : " columns").append(", fewer than the ");
-    reason.append(std::to_string(rule.fewestColumns)).append(" needed (");
-    reason.append(rule.columns).append(")");
-    problems.Fail(line, std::move(reason));
+    problems.Fail(line, TextUtf8(Msg::FewColumns, std::string(rule.heading), columns.size(),
+                                 unsigned{rule.fewestColumns}, Text(rule.columns)));
     return false;
 }
 
-std::optional<double> InpContext::Number(std::uint32_t line, std::string_view what,
-                                         std::string_view text) {
+std::optional<double> InpContext::Number(std::uint32_t line, Msg what, std::string_view text) {
     const std::optional<double> number = TextToReal(text);
     if (number && std::abs(*number) <= kLargestNumber) {
         return number;
     }
-    std::string reason = "the ";
-    reason.append(what).append(" ").append(Quoted(text));
-    problems.Fail(line, reason.append(number ? " is larger than 1e15" : " is no number"));
+    problems.Fail(
+        line, TextUtf8(number ? Msg::TooLargeNumber : Msg::NotANumber, Text(what), Quoted(text)));
     return std::nullopt;
 }
 
 std::optional<Point> InpContext::Place(std::uint32_t line, std::string_view x, std::string_view y) {
-    const std::optional<double> first = Number(line, "x coordinate", x);
-    const std::optional<double> second = Number(line, "y coordinate", y);
+    const std::optional<double> first = Number(line, Msg::XWord, x);
+    const std::optional<double> second = Number(line, Msg::YWord, y);
     return first && second ? std::optional(Point{*first, *second}) : std::nullopt;
 }
 
@@ -64,16 +62,13 @@ std::uint32_t InpNames::FindOrAdd(TextColumn& names, std::string_view name, std:
 }
 
 std::optional<std::uint32_t> InpNames::AddNew(TextColumn& names, std::string_view name,
-                                              std::uint32_t line, std::string_view what,
-                                              InpProblems& problems) {
+                                              std::uint32_t line, Msg what, InpProblems& problems) {
     const std::size_t before = names.size();
     const std::uint32_t number = FindOrAdd(names, name, line);
     if (number == before) {
         return number;
     }
-    std::string reason = "the ";
-    reason.append(what).append(" ").append(Quoted(name)).append(" stands in line ");
-    problems.Fail(line, reason.append(std::to_string(m_lines[number])).append(" already"));
+    problems.Fail(line, TextUtf8(Msg::NameTaken, Text(what), Quoted(name), m_lines[number]));
     return std::nullopt;
 }
 

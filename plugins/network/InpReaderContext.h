@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "plugins/common/Texts.h"
 #include "plugins/network/InpReaderText.h"
 #include "plugins/network/NetworkModel.h"
 
@@ -24,8 +25,8 @@ public:
     /// Notes an error and answers false if a line has fewer columns than its section needs.
     bool HasColumns(const InpSectionRule& rule, std::uint32_t line, const InpColumns& columns);
 
-    /// The number of a column; nothing, and an error, if it is none. `what` names it.
-    std::optional<double> Number(std::uint32_t line, std::string_view what, std::string_view text);
+    /// The number of a column; nothing, and an error, if it is not a number.
+    std::optional<double> Number(std::uint32_t line, Plugins::Msg what, std::string_view text);
     /// The place in two columns.
     std::optional<Point> Place(std::uint32_t line, std::string_view x, std::string_view y);
 
@@ -45,10 +46,9 @@ public:
     }
     /// Adds a name unless it is known; returns its number in both cases.
     std::uint32_t FindOrAdd(TextColumn& names, std::string_view name, std::uint32_t line);
-    /// Adds a name that must be new. Nothing, and an error, if it is not; `what` tells
-    /// what has the name.
+    /// Adds a name that must be new. Nothing, and an error, if it is not.
     std::optional<std::uint32_t> AddNew(TextColumn& names, std::string_view name,
-                                        std::uint32_t line, std::string_view what,
+                                        std::uint32_t line, Plugins::Msg what,
                                         InpProblems& problems);
     std::uint32_t LineOf(std::uint32_t number) const { return m_lines[number]; }
 

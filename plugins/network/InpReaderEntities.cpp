@@ -5,16 +5,20 @@
 
 namespace Orvane::Network {
 
+using Plugins::Msg;
+using Plugins::Text;
+using Plugins::TextUtf8;
+
 void InpNodes::ReadNodes(const InpFileSection& section) {
     const InpSectionRule& rule = *section.rule;
-    const char* what = rule.nodeKind == NodeKind::Reservoir ? "head" : "elevation";
+    const Msg what = rule.nodeKind == NodeKind::Reservoir ? Msg::HeadWord : Msg::ElevationWord;
     ForEachRow(section, [&](std::uint32_t line, const InpColumns& columns) {
         if (!m_context.HasColumns(rule, line, columns)) {
             return;
         }
         const auto elevation = m_context.Number(line, what, columns[1]);
         const auto number =
-            m_names.AddNew(m_nodes.names, columns[0], line, "node", m_context.problems);
+            m_names.AddNew(m_nodes.names, columns[0], line, Msg::NodeWord, m_context.problems);
         if (!number) {
             return;
         }
@@ -33,12 +37,10 @@ void InpNodes::ReadCoordinates(const InpFileSection& section) {
         const auto place = m_context.Place(line, columns[1], columns[2]);
         const auto node = Find(columns[0]);
         if (!node) {
-            m_context.problems.Warn(line, "the coordinates belong to the unknown node " +
-                                              Quoted(columns[0]));
+            m_context.problems.Warn(line, TextUtf8(Msg::CoordinatesOfUnknown, Quoted(columns[0])));
         } else if (place) {
             if (IsPlace(m_nodes.positions[*node])) {
-                m_context.problems.Warn(line, "the node " + Quoted(columns[0]) +
-                                                  " has coordinates already; these ones count");
+                m_context.problems.Warn(line, TextUtf8(Msg::CoordinatesAgain, Quoted(columns[0])));
             }
             m_nodes.positions[*node] = *place;
         }
@@ -54,7 +56,7 @@ void InpNodes::DropUnplaced(std::uint32_t coordinatesLine) {
         }
     }
     if (count == 0) {
-        m_context.problems.Fail(coordinatesLine, "no node has coordinates");
+        m_context.problems.Fail(coordinatesLine, TextUtf8(Msg::NoCoordinates));
     } else if (count < m_nodes.size()) {
         Keep(newNumbers, count);
     }
@@ -68,8 +70,7 @@ void InpNodes::Keep(const std::vector<std::uint32_t>& newNumbers, std::size_t co
         const std::string_view name = m_nodes.names[node];
         const std::uint32_t line = m_names.LineOf(node);
         if (newNumbers[node] == AttributeTable::kDropped) {
-            m_context.problems.Warn(line, "the node " + Quoted(name) +
-                                              " has no coordinates and is left out");
+            m_context.problems.Warn(line, TextUtf8(Msg::NodeLeftOut, Quoted(name)));
             continue;
         }
         names.FindOrAdd(kept.names, name, line);
@@ -93,10 +94,10 @@ void InpSections::ReadSections(const InpFileSection& section) {
 
 void InpSections::ReadRow(const InpSectionRule& rule, std::uint32_t line,
                           const InpColumns& columns) {
-    const double length = ReadSize(line, "length", columns, rule.lengthColumn);
-    const double diameter = ReadSize(line, "diameter", columns, rule.diameterColumn);
+    const double length = ReadSize(line, Msg::LengthWord, columns, rule.lengthColumn);
+    const double diameter = ReadSize(line, Msg::DiameterWord, columns, rule.diameterColumn);
     const auto number =
-        m_names.AddNew(m_sections.names, columns[0], line, "section", m_context.problems);
+        m_names.AddNew(m_sections.names, columns[0], line, Msg::SectionWord, m_context.problems);
     if (!number) {
         return;
     }
@@ -116,24 +117,23 @@ std::int32_t InpSections::FindNode(std::uint32_t line, const InpColumns& columns
     if (const auto node = m_nodes.Find(columns[column])) {
         return static_cast<std::int32_t>(*node);
     }
-    m_context.problems.Warn(line, "the section " + Quoted(columns[0]) + " names the missing node " +
-                                      Quoted(columns[column]));
+    m_context.problems.Warn(
+        line, TextUtf8(Msg::SectionLacksNode, Quoted(columns[0]), Quoted(columns[column])));
     m_sections.missingKeys.push_back((m_sections.kinds.size() - 1) * std::uint64_t{2} +
                                      (column - 1));
     m_sections.missingNames.Add(columns[column]);
     return kMissingNode;
 }
 
-double InpSections::ReadSize(std::uint32_t line, std::string_view what, const InpColumns& columns,
+double InpSections::ReadSize(std::uint32_t line, Msg what, const InpColumns& columns,
                              std::size_t column) {
     if (column == kNoColumn) {
         return kNotStated;
     }
     const auto size = m_context.Number(line, what, columns[column]);
     if (size && *size < 0) {
-        std::string reason = "the ";
-        reason.append(what).append(" ").append(Quoted(columns[column])).append(" is negative");
-        m_context.problems.Warn(line, std::move(reason));
+        m_context.problems.Warn(line,
+                                TextUtf8(Msg::NegativeNumber, Text(what), Quoted(columns[column])));
     }
     return size.value_or(kNotStated);
 }
@@ -153,8 +153,7 @@ void InpSections::ReadCrossSections(const InpFileSection& section) {
         }
         const auto number = Find(columns[0]);
         if (!number) {
-            m_context.problems.Warn(line, "the cross section belongs to the unknown section " +
-                                              Quoted(columns[0]));
+            m_context.problems.Warn(line, TextUtf8(Msg::CrossSectionOfUnknown, Quoted(columns[0])));
             return;
         }
         m_context.AddAttribute(m_sections.attributes, *number, "Shape", columns[1]);
@@ -162,7 +161,7 @@ void InpSections::ReadCrossSections(const InpFileSection& section) {
             return;
         }
         if (IsRoundShape(columns[1])) {
-            m_sections.diameters[*number] = ReadSize(line, "diameter", columns, 2);
+            m_sections.diameters[*number] = ReadSize(line, Msg::DiameterWord, columns, 2);
         } else {
             // The name of a street or of a measured profile stands here as well.
             m_context.AddAttribute(m_sections.attributes, *number, "Height", columns[2]);
@@ -178,8 +177,7 @@ void InpSections::ReadVertices(const InpFileSection& section) {
         const auto place = m_context.Place(line, columns[1], columns[2]);
         const auto number = Find(columns[0]);
         if (!number) {
-            m_context.problems.Warn(line, "the vertex belongs to the unknown section " +
-                                              Quoted(columns[0]));
+            m_context.problems.Warn(line, TextUtf8(Msg::VertexOfUnknown, Quoted(columns[0])));
         } else if (place) {
             m_vertices.Add(*number, *place);
         }
@@ -219,10 +217,9 @@ void InpPolygons::Finish() {
             points = points.first(points.size() - 1); // some programs repeat the first point
         }
         if (points.size() < 3) {
-            m_context.problems.Warn(m_ringNames.LineOf(ring),
-                                    "the polygon " + Quoted(m_rings[ring]) + " has " +
-                                        std::to_string(points.size()) +
-                                        " points, fewer than 3, and is left out");
+            m_context.problems.Warn(
+                m_ringNames.LineOf(ring),
+                TextUtf8(Msg::PolygonLeftOut, Quoted(m_rings[ring]), points.size()));
         } else {
             Add(ring, points);
         }
@@ -242,7 +239,7 @@ void InpPolygons::Add(std::uint32_t ring, std::span<const Point> points) {
         }
     } else if (!m_nodes.Find(name)) { // storage units may have an outline, too
         m_context.problems.Warn(m_ringNames.LineOf(ring),
-                                "the polygon belongs to the unknown subcatchment " + Quoted(name));
+                                TextUtf8(Msg::PolygonOfUnknown, Quoted(name)));
     }
 }
 
@@ -273,8 +270,9 @@ void ReadInpTags(InpContext& context, const InpFileSection& section, const InpNo
             AttributeTable& table = isNode ? model.nodes.attributes : model.sections.attributes;
             context.AddAttribute(table, *owner, "Tag", columns[2]);
         } else {
-            context.problems.Warn(line, std::string("the tag belongs to the unknown ") +
-                                            (isNode ? "node " : "section ") + Quoted(columns[1]));
+            context.problems.Warn(
+                line, TextUtf8(isNode ? Msg::TagOfUnknownNode : Msg::TagOfUnknownSection,
+                               Quoted(columns[1])));
         }
     });
 }

@@ -53,7 +53,7 @@ public:
 private:
     void ReadRow(const InpSectionRule& rule, std::uint32_t line, const InpColumns& columns);
     std::int32_t FindNode(std::uint32_t line, const InpColumns& columns, std::size_t column);
-    double ReadSize(std::uint32_t line, std::string_view what, const InpColumns& columns,
+    double ReadSize(std::uint32_t line, Plugins::Msg what, const InpColumns& columns,
                     std::size_t column);
     void AddPumpAttributes(std::uint32_t number, const InpColumns& columns);
 

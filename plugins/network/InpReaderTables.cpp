@@ -6,6 +6,8 @@
 
 namespace Orvane::Network {
 
+using Plugins::Msg;
+
 namespace {
 
 using Names = std::string_view;
@@ -27,7 +29,7 @@ constexpr Names kOrifice[] = {"Type", "Offset", "DischargeCoefficient"};
 constexpr Names kOutlet[] = {"Offset", "Type"};
 constexpr Names kSubcatchment[] = {"RainGage", "Outlet", "Area", "Impervious", "Width", "Slope"};
 
-constexpr InpSectionRule Plain(Names heading, InpRole role, std::uint8_t fewest, Names columns) {
+constexpr InpSectionRule Plain(Names heading, InpRole role, std::uint8_t fewest, Msg columns) {
     InpSectionRule rule;
     rule.heading = heading;
     rule.role = role;
@@ -40,7 +42,7 @@ constexpr InpSectionRule Node(Names heading, NodeKind kind, std::span<const Name
                               std::span<const Names> swmmAttributes = {}) {
     const bool isReservoir = kind == NodeKind::Reservoir;
     InpSectionRule rule =
-        Plain(heading, InpRole::Nodes, 2, isReservoir ? "name, head" : "name, elevation");
+        Plain(heading, InpRole::Nodes, 2, isReservoir ? Msg::HeadColumns : Msg::ElevationColumns);
     rule.nodeKind = kind;
     rule.attributeColumn = 2;
     rule.attributes = attributes;
@@ -48,7 +50,7 @@ constexpr InpSectionRule Node(Names heading, NodeKind kind, std::span<const Name
     return rule;
 }
 
-constexpr InpSectionRule Line(Names heading, SectionKind kind, std::uint8_t fewest, Names columns,
+constexpr InpSectionRule Line(Names heading, SectionKind kind, std::uint8_t fewest, Msg columns,
                               std::size_t lengthColumn, std::size_t diameterColumn,
                               std::span<const Names> attributes,
                               std::span<const Names> swmmAttributes = {}) {
@@ -63,13 +65,13 @@ constexpr InpSectionRule Line(Names heading, SectionKind kind, std::uint8_t fewe
 }
 
 constexpr InpSectionRule Subcatchments() {
-    InpSectionRule rule = Plain("SUBCATCHMENTS", InpRole::Subcatchments, 1, "name");
+    InpSectionRule rule = Plain("SUBCATCHMENTS", InpRole::Subcatchments, 1, Msg::NameColumn);
     rule.attributeColumn = 1;
     rule.attributes = kSubcatchment;
     return rule;
 }
 
-constexpr Names kLineColumns = "name, start node, end node";
+constexpr Msg kLineColumns = Msg::LineColumns;
 
 constexpr InpSectionRule kRules[] = {
     Node("JUNCTIONS", NodeKind::Junction, kJunction, kManhole),
@@ -78,25 +80,22 @@ constexpr InpSectionRule kRules[] = {
     Node("OUTFALLS", NodeKind::Outfall, kOutfall),
     Node("STORAGE", NodeKind::Storage, kStorage),
     Node("DIVIDERS", NodeKind::Divider, kDivider),
-    Line("PIPES", SectionKind::Pipe, 5, "name, start node, end node, length, diameter", 3, 4,
-         kPipe),
+    Line("PIPES", SectionKind::Pipe, 5, Msg::PipeColumns, 3, 4, kPipe),
     Line("PUMPS", SectionKind::Pump, 3, kLineColumns, kNoColumn, kNoColumn, {}, kSwmmPump),
-    Line("VALVES", SectionKind::Valve, 4, "name, start node, end node, diameter", kNoColumn, 3,
-         kValve),
-    Line("CONDUITS", SectionKind::Conduit, 4, "name, start node, end node, length", 3, kNoColumn,
-         kConduit),
+    Line("VALVES", SectionKind::Valve, 4, Msg::ValveColumns, kNoColumn, 3, kValve),
+    Line("CONDUITS", SectionKind::Conduit, 4, Msg::ConduitColumns, 3, kNoColumn, kConduit),
     Line("WEIRS", SectionKind::Weir, 3, kLineColumns, kNoColumn, kNoColumn, kWeir),
     Line("ORIFICES", SectionKind::Orifice, 3, kLineColumns, kNoColumn, kNoColumn, kOrifice),
     Line("OUTLETS", SectionKind::Outlet, 3, kLineColumns, kNoColumn, kNoColumn, kOutlet),
-    Plain("COORDINATES", InpRole::Coordinates, 3, "node, x, y"),
-    Plain("VERTICES", InpRole::Vertices, 3, "name, x, y"),
-    Plain("XSECTIONS", InpRole::CrossSections, 2, "name, shape"),
+    Plain("COORDINATES", InpRole::Coordinates, 3, Msg::CoordinateColumns),
+    Plain("VERTICES", InpRole::Vertices, 3, Msg::VertexColumns),
+    Plain("XSECTIONS", InpRole::CrossSections, 2, Msg::ShapeColumns),
     Subcatchments(),
-    Plain("POLYGONS", InpRole::Polygons, 3, "name, x, y"),
-    Plain("LABELS", InpRole::Labels, 3, "x, y, text"),
-    Plain("TAGS", InpRole::Tags, 3, "kind, name, tag"),
-    Plain("TITLE", InpRole::Title, 0, ""),
-    Plain("END", InpRole::End, 0, ""),
+    Plain("POLYGONS", InpRole::Polygons, 3, Msg::VertexColumns),
+    Plain("LABELS", InpRole::Labels, 3, Msg::LabelColumns),
+    Plain("TAGS", InpRole::Tags, 3, Msg::TagColumns),
+    Plain("TITLE", InpRole::Title, 0, Msg::NameColumn),
+    Plain("END", InpRole::End, 0, Msg::NameColumn),
 };
 
 constexpr Names kIgnoredHeadings[] = {

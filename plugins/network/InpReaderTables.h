@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "plugins/common/Texts.h"
 #include "plugins/network/InpReader.h"
 
 namespace Orvane::Network {
@@ -30,9 +31,9 @@ inline constexpr std::size_t kNoColumn = 0xFF;
 
 /// A section of the file by its heading. Columns count from 0.
 struct InpSectionRule {
-    std::string_view heading;                     ///< upper case, without brackets
-    std::string_view columns;                     ///< names of those that a line needs, for people
-    std::span<const std::string_view> attributes; ///< in EPANET's files and by default
+    std::string_view heading;                         ///< upper case, without brackets
+    Plugins::Msg columns = Plugins::Msg::NameColumn;  ///< names of those that a line needs
+    std::span<const std::string_view> attributes;     ///< in EPANET's files and by default
     std::span<const std::string_view> swmmAttributes; ///< in SWMM's files if they differ
     std::size_t attributeColumn = 0; ///< the columns from here on have the names above
     std::size_t lengthColumn = kNoColumn;

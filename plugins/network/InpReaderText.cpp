@@ -1,10 +1,14 @@
 #include "plugins/network/InpReaderText.h"
 
+#include "plugins/common/Texts.h"
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 namespace Orvane::Network {
+
+using Plugins::Msg;
+using Plugins::TextUtf8;
 
 namespace {
 
@@ -52,12 +56,12 @@ public:
 private:
     bool IsUsable(std::string_view line) {
         if (line.size() > kLongestLine && CountCharacters(line) > kLongestLine) {
-            m_problems.Fail(m_line, "the line has " + std::to_string(CountCharacters(line)) +
-                                        " characters, more than " + std::to_string(kLongestLine));
+            m_problems.Fail(m_line,
+                            TextUtf8(Msg::LineTooLong, CountCharacters(line), kLongestLine));
             return false;
         }
         if (line.find('\0') != std::string_view::npos) {
-            m_problems.Fail(m_line, "the line holds a zero byte, so this is no text file");
+            m_problems.Fail(m_line, TextUtf8(Msg::ZeroByte));
             return false;
         }
         return true;
@@ -70,7 +74,7 @@ private:
         } else if (m_sections.empty() && !m_isSkipping && !line.empty() && line[0] != ';' &&
                    !m_isTextBeforeTold) {
             m_isTextBeforeTold = true;
-            m_problems.Warn(m_line, "text before the first section is ignored");
+            m_problems.Warn(m_line, TextUtf8(Msg::TextBeforeSection));
         }
     }
 
@@ -78,13 +82,13 @@ private:
         const std::size_t end = line.find(']');
         m_isSkipping = true;
         if (end == std::string_view::npos) {
-            m_problems.Fail(m_line, "the section heading " + Quoted(line) + " is cut off");
+            m_problems.Fail(m_line, TextUtf8(Msg::HeadingIsCut, Quoted(line)));
             return;
         }
         const std::string_view heading = line.substr(1, end - 1);
         const InpSectionRule* rule = FindInpSection(heading);
         if (!rule) {
-            m_problems.Warn(m_line, "the unknown section " + Quoted(heading) + " is ignored");
+            m_problems.Warn(m_line, TextUtf8(Msg::UnknownHeading, Quoted(heading)));
             return;
         }
         m_isSkipping = false;

@@ -7,19 +7,18 @@
 #include <tuple>
 #include <utility>
 
+#include "plugins/common/Texts.h"
 #include "plugins/network/NetworkCrossings.h"
 #include "plugins/network/NodeGrid.h"
 
 namespace Orvane::Network {
 
+using Plugins::Msg;
+using Plugins::TextUtf8;
+
 namespace {
 
 constexpr Point kNowhere{kNotStated, kNotStated};
-
-constexpr std::array<std::string_view, kFindingKindCount> kKindNames = {
-    "isolated nodes",       "coincident nodes",
-    "zero-length sections", "sections that name a missing node",
-    "parallel sections",    "crossings without a node"};
 
 /// Counts all findings and keeps as many of each kind as are wanted.
 class Findings {
@@ -162,42 +161,20 @@ std::string PlaceText(const Point& place) {
     return {buffer, end};
 }
 
-std::string MissingNodeText(const Finding& finding, const INetworkNames& names) {
+std::string MissingNodeText(const std::string& section, const Finding& finding,
+                            const INetworkNames& names) {
     const std::string start = names.MissingStart(finding.entity);
     const std::string end = names.MissingEnd(finding.entity);
     if (start.empty() && end.empty()) {
-        return "lacks a node";
+        return TextUtf8(Msg::LacksNode, section);
     }
     if (start.empty() || end.empty() || start == end) {
-        return "names the missing node " + (start.empty() ? end : start);
+        return TextUtf8(Msg::MissingNode, section, start.empty() ? end : start);
     }
-    return "names the missing nodes " + start + " and " + end;
-}
-
-std::string ReasonText(const Finding& finding, const INetworkNames& names) {
-    switch (finding.kind) {
-    case FindingKind::IsolatedNode:
-        return "isolated node, no section starts or ends here";
-    case FindingKind::CoincidentNode:
-        return "coincident node, lies where " + names.NodeName(finding.other) + " lies";
-    case FindingKind::ZeroLengthSection:
-        return "zero-length section";
-    case FindingKind::MissingNode:
-        return MissingNodeText(finding, names);
-    case FindingKind::ParallelSection:
-        return "parallel section, joins the same nodes as " + names.SectionName(finding.other);
-    case FindingKind::Crossing:
-        return "crosses " + names.SectionName(finding.other) + " without a node at " +
-               PlaceText(finding.place);
-    }
-    return {};
+    return TextUtf8(Msg::MissingNodes, section, start, end);
 }
 
 } // namespace
-
-std::string_view KindName(FindingKind kind) {
-    return kKindNames[static_cast<std::size_t>(kind)];
-}
 
 CheckResult CheckNetwork(const NetworkGeometry& geometry, const CheckOptions& options) {
     Findings findings(options.mostListed);
@@ -213,8 +190,24 @@ CheckResult CheckNetwork(const NetworkGeometry& geometry, const CheckOptions& op
 std::string FindingText(const Finding& finding, const INetworkNames& names) {
     const bool isNode =
         finding.kind == FindingKind::IsolatedNode || finding.kind == FindingKind::CoincidentNode;
-    return (isNode ? names.NodeName(finding.entity) : names.SectionName(finding.entity)) + ": " +
-           ReasonText(finding, names);
+    const std::string entity =
+        isNode ? names.NodeName(finding.entity) : names.SectionName(finding.entity);
+    switch (finding.kind) {
+    case FindingKind::IsolatedNode:
+        return TextUtf8(Msg::IsolatedNode, entity);
+    case FindingKind::CoincidentNode:
+        return TextUtf8(Msg::CoincidentNode, entity, names.NodeName(finding.other));
+    case FindingKind::ZeroLengthSection:
+        return TextUtf8(Msg::ZeroLength, entity);
+    case FindingKind::MissingNode:
+        return MissingNodeText(entity, finding, names);
+    case FindingKind::ParallelSection:
+        return TextUtf8(Msg::ParallelSection, entity, names.SectionName(finding.other));
+    case FindingKind::Crossing:
+        return TextUtf8(Msg::Crossing, entity, names.SectionName(finding.other),
+                        PlaceText(finding.place));
+    }
+    return {};
 }
 
 } // namespace Orvane::Network

@@ -22,9 +22,6 @@ enum class FindingKind : std::uint8_t {
 };
 inline constexpr std::size_t kFindingKindCount = 6;
 
-/// "isolated nodes", "crossings without a node"; in the plural, for headings and sums.
-std::string_view KindName(FindingKind kind);
-
 inline constexpr std::uint32_t kNoEntity = 0xFFFFFFFF;
 
 /// `entity` and `other` are numbers of nodes for the two kinds of nodes, and numbers of

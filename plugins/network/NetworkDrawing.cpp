@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win/CodePage.h"
+#include "plugins/common/Texts.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
@@ -116,7 +117,7 @@ CString AddToDrawing(const NetworkModel& model, int systemFunction, const CStrin
     }
     if (progress.IsStopped()) {
         imported = {};
-        return kStopped;
+        return Plugins::Text(Plugins::Msg::ImportStopped);
     }
     systems.Keep();
     return {};

@@ -5,6 +5,7 @@
 #include "plugins/common/Prompts.h"
 #include "plugins/common/SystemNetwork.h"
 #include "plugins/common/SystemTexts.h"
+#include "plugins/common/Texts.h"
 #include "plugins/network/ImportCommand.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkReport.h"
@@ -19,11 +20,12 @@
 
 namespace Orvane::Network {
 
-using Plugins::Ask;
 using Plugins::FunctionName;
+using Plugins::Msg;
 using Plugins::OwnCommandId;
 using Plugins::PrintLine;
 using Plugins::Refuse;
+using Plugins::Text;
 using Workspace::CommandScope;
 
 namespace {
@@ -45,7 +47,7 @@ bool ForEachNetwork(Call call) {
                                *pSystem));
         }
     }
-    return count > 0 || Refuse(L"The drawing has no networks. NETWORK_IMPORT brings one in.");
+    return count > 0 || Refuse(Text(Msg::NoNetworks));
 }
 
 /// Count and extents of a system of polygons.
@@ -95,24 +97,23 @@ bool ListSystems() {
     const System::CGisSystem* const pActive = System::CSystemManager::Instance()->GetActiveSystem();
     for (const System::CGisSystem* const pSystem : Systems()) {
         acutPrintf(L"%c %s (%s)%s\n", pSystem == pActive ? L'*' : L' ', pSystem->GetSystemName(),
-                   FunctionName(*pSystem), pSystem->GetVisibility() ? L"" : L", off");
+                   FunctionName(*pSystem), pSystem->GetVisibility() ? CString() : Text(Msg::IsOff));
     }
     if (Systems().empty()) {
-        acutPrintf(L"The drawing has no systems.\n");
+        acutPrintf(L"%s\n", Text(Msg::NoSystems));
     }
     return true;
 }
 
 bool ActivateSystem() {
-    const CString name = Ask(L"Name of the system: ");
+    const CString name = acedAskText(Text(Msg::SystemName)).value_or(CString());
     System::CSystemManager& systems = *System::CSystemManager::Instance();
     System::CGisSystem* const pSystem = systems.GetSystemByName(name);
     if (!pSystem) {
-        return Refuse(
-            FormatText(L"The drawing has no system \"%s\". SYSTEM_LIST shows them.", name));
+        return Refuse(Text(Msg::UnknownSystem, name));
     }
     systems.SetSystemActive(pSystem);
-    acutPrintf(L"%s is the active system.\n", pSystem->GetSystemName());
+    acutPrintf(L"%s\n", Text(Msg::IsActive, pSystem->GetSystemName()));
     return true;
 }
 
@@ -148,7 +149,7 @@ CNetworkExecutor::Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*
     if (const NetworkCommand* const pCommand = FindCommand(lpszCommandId)) {
         CommandScope::Run(pCommand->id, [&] {
             const bool hasDrawing = acdbHostApplicationServices()->workingDatabase() != nullptr;
-            const bool isDone = hasDrawing ? pCommand->run() : Refuse(L"No drawing is open.");
+            const bool isDone = hasDrawing ? pCommand->run() : Refuse(Text(Msg::NoDrawing));
             result->m_nStatus = isDone ? 1 : 0;
         });
     }

@@ -5,6 +5,7 @@
 
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
+#include "plugins/common/Texts.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/networkcore/TopologyMultiStorage.h"
 
@@ -212,7 +213,7 @@ CString AddToDrawing(const LayerContents& contents, double tolerance, int system
         counts.polygons = contents.polygons.size();
     }
     if (progress.IsStopped()) {
-        return kStopped;
+        return Plugins::Text(Plugins::Msg::ImportStopped);
     }
     systems.Keep();
     imported = made;
@@ -231,11 +232,9 @@ std::vector<CString> TakeCoordinateSystem(const AcDbImportResult& result, bool i
         if (own.IsEmpty() && isFirst) {
             database.setCoordinateSystem(layer.coordinateSystem);
         } else if (!importer.IsSameCoordinateSystem(own, layer.coordinateSystem)) {
-            warnings.push_back(FormatText(L"%s: its coordinate system is %s, that of the drawing "
-                                          L"is %s; positions are taken as they are",
-                                          layer.name,
-                                          importer.CoordinateSystemName(layer.coordinateSystem),
-                                          importer.CoordinateSystemName(own)));
+            warnings.push_back(Plugins::Text(Plugins::Msg::OtherCoordinateSystem, layer.name,
+                                             importer.CoordinateSystemName(layer.coordinateSystem),
+                                             importer.CoordinateSystemName(own)));
         }
     }
     return warnings;

@@ -20,7 +20,6 @@ namespace Orvane::Panels {
 
 namespace {
 
-using Plugins::Ask;
 using Plugins::Refuse;
 
 constexpr std::size_t kMostPrinted = 100;
@@ -40,28 +39,18 @@ bool HasDrawing() {
     return acdbHostApplicationServices()->workingDatabase() || Refuse(Text(Msg::NoDrawing));
 }
 
-/// Empty for everywhere; nothing, and the user is told, for what is no place.
 std::optional<SearchIn> AskWhere() {
-    CString choices;
+    ChoicePrompt prompt{Text(Msg::AskFindWhere), {}, 0};
     for (const auto& place : kPlaces) {
-        choices += (choices.IsEmpty() ? L"" : L"/") + Text(place.shown);
+        prompt.choices.push_back({place.word, Text(place.shown)});
     }
-    const CString answer = Ask(Text(Msg::AskFindWhere, choices));
-    int number = 0;
-    for (const auto& place : kPlaces) {
-        if (answer.IsEmpty() || answer.CompareNoCase(place.word) == 0 ||
-            answer.CompareNoCase(Text(place.shown)) == 0) {
-            return static_cast<SearchIn>(number);
-        }
-        ++number;
-    }
-    Refuse(Text(Msg::NoSuchPlace, answer, choices));
-    return std::nullopt;
+    const auto choice = acedAskChoice(prompt);
+    return choice ? std::optional(static_cast<SearchIn>(*choice)) : std::nullopt;
 }
 
 /// 0 for all systems.
 std::optional<int> AskSystem() {
-    const CString name = Ask(Text(Msg::AskFindIn));
+    const CString name = acedAskText(Text(Msg::AskFindIn)).value_or(CString());
     if (name.IsEmpty()) {
         return 0;
     }
@@ -76,7 +65,7 @@ std::optional<int> AskSystem() {
 
 bool SearchAtPrompt() {
     EntitySearch search;
-    search.text = Ask(Text(Msg::AskFindWhat));
+    search.text = acedAskText(Text(Msg::AskFindWhat)).value_or(CString());
     const auto system = AskSystem();
     const auto where = system ? AskWhere() : std::nullopt;
     if (!where) {
@@ -107,7 +96,7 @@ bool ChangeAtPrompt(const Topology::CEntity& entity) {
     for (const EntityProperty& property : properties) {
         acutPrintf(L"%s: %s\n", property.label, property.value);
     }
-    const CString label = Ask(Text(Msg::AskProperty));
+    const CString label = acedAskText(Text(Msg::AskProperty)).value_or(CString());
     if (label.IsEmpty()) {
         return true;
     }

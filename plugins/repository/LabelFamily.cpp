@@ -131,11 +131,12 @@ void LabelDefinition::WriteContent(XmlElement& root) const {
 CString LabelDefinition::ReadContent(const XmlElement& root) {
     const auto stated = HeightOf(root.Get(kHeight));
     if (!stated) {
-        return L"its height is none";
+        return Text(Msg::InvalidHeight);
     }
     pattern = root.Get(kPattern);
     height = *stated;
-    return Utf8ToWide(LabelPattern(WideToUtf8(pattern.View())).Fault());
+    const std::optional<Msg> fault = LabelPattern(WideToUtf8(pattern.View())).Fault();
+    return fault ? Text(*fault) : CString();
 }
 
 boost::shared_ptr<CRepositoryItem> LabelFamily::CreateItem(const wchar_t* guid,
@@ -147,16 +148,16 @@ boost::shared_ptr<CRepositoryItem> LabelFamily::CreateItem(const wchar_t* guid,
 
 bool LabelFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* /*pSystem*/) {
     auto& label = static_cast<LabelDefinition&>(item);
-    const auto pattern = AskText(Text(Msg::Pattern), label.pattern);
+    const auto pattern = acedAskText(Text(Msg::Pattern), label.pattern);
     if (!pattern) {
         return false;
     }
     const LabelPattern parsed(WideToUtf8(pattern->View()));
-    if (*parsed.Fault()) {
-        return Refuse(Text(Msg::NoSense, parsed.Fault()));
+    if (const std::optional<Msg> fault = parsed.Fault()) {
+        return Refuse(Text(Msg::NoSense, Text(*fault)));
     }
     label.pattern = *pattern;
-    const auto answer = AskText(Text(Msg::TextHeight), RealToText(label.height));
+    const auto answer = acedAskText(Text(Msg::TextHeight), RealToText(label.height));
     const auto height = answer ? HeightOf(*answer) : std::nullopt;
     label.height = height.value_or(label.height);
     return height || (answer && Refuse(Text(Msg::NoHeight, *answer)));

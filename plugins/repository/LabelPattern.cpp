@@ -32,15 +32,15 @@ LabelPattern::LabelPattern(std::string_view pattern) {
             AddAttribute(pattern.substr(1, end - 1));
             pattern.remove_prefix(end + 1);
         } else if (!pattern.empty()) {
-            m_fault = "a brace has no other one that belongs to it";
+            m_fault = Plugins::Msg::UnmatchedBrace;
             AddText(pattern.substr(0, 1));
             pattern.remove_prefix(1);
         }
     }
     const bool hasAttribute = std::any_of(m_pieces.begin(), m_pieces.end(),
                                           [](const Piece& piece) { return piece.isAttribute; });
-    if (!hasAttribute && !*m_fault) {
-        m_fault = "there is no attribute in it, such as {NAME}";
+    if (!hasAttribute && !m_fault) {
+        m_fault = Plugins::Msg::NoAttributeInIt;
     }
 }
 
@@ -58,11 +58,13 @@ void LabelPattern::AddAttribute(std::string_view inBraces) {
         const std::string_view digits = inBraces.substr(colon + 1);
         const bool isDigit = digits.size() == 1 && digits[0] >= '0' && digits[0] <= '9';
         piece.decimals = isDigit ? digits[0] - '0' : -1;
-        m_fault = isDigit ? m_fault : "the decimal places are no digit";
+        if (!isDigit) {
+            m_fault = Plugins::Msg::DecimalsNotADigit;
+        }
     }
     const std::string_view name = inBraces.substr(0, colon);
     if (name.empty()) {
-        m_fault = "an attribute has no name";
+        m_fault = Plugins::Msg::AttributeWithoutName;
         return;
     }
     piece.attribute = AcDbIntern(name);

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/arx/DbAttributes.h"
+#include "plugins/common/Texts.h"
 
 namespace Orvane::Repository {
 
@@ -18,7 +20,7 @@ public:
     explicit LabelPattern(std::string_view pattern);
 
     /// Empty, or why the pattern makes no labels.
-    const char* Fault() const { return m_fault; }
+    std::optional<Plugins::Msg> Fault() const { return m_fault; }
     /// The label of an entity; empty if none of its attributes has a value.
     std::string Text(const std::function<AcDbValue(AcDbNameId)>& valueOf) const;
 
@@ -33,7 +35,7 @@ private:
     void AddAttribute(std::string_view inBraces);
 
     std::vector<Piece> m_pieces;
-    const char* m_fault = "";
+    std::optional<Plugins::Msg> m_fault;
 };
 
 } // namespace Orvane::Repository

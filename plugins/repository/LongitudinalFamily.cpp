@@ -28,7 +28,7 @@ constexpr const wchar_t* kDepthAttribute = L"depth";
 std::optional<std::int32_t> FindNode(const SystemNetwork& network, const System::CGisSystem& system,
                                      Msg label, CString& name) {
     if (name.IsEmpty()) {
-        name = AskText(Text(label), L"").value_or(L"");
+        name = acedAskText(Text(label), L"").value_or(L"");
     }
     if (name.IsEmpty()) {
         return std::nullopt;
@@ -82,7 +82,7 @@ CString LongitudinalDefinition::ReadContent(const XmlElement& root) {
     to = root.Get(kTo);
     heightAttribute = root.Get(kHeightAttribute);
     depthAttribute = root.Get(kDepthAttribute);
-    return heightAttribute.IsEmpty() ? L"it names no attribute of the height" : L"";
+    return heightAttribute.IsEmpty() ? Text(Msg::NoHeightAttribute) : CString();
 }
 
 boost::shared_ptr<CRepositoryItem> LongitudinalFamily::CreateItem(const wchar_t* guid,

@@ -7,6 +7,7 @@
 
 #include "platform/win/CodePage.h"
 #include "platform/win/TextFormat.h"
+#include "plugins/common/Texts.h"
 
 namespace Orvane::Repository {
 
@@ -153,7 +154,10 @@ std::vector<std::string> ProfileLines(const std::vector<ProfileStation>& station
         line += hasGround || hasInvert ? FormatText(L"%10s", slope) : L"";
         lines.push_back(WideToUtf8(line) + "  " + name);
     };
-    add(L"chainage", L"ground", L"invert", L"slope %", "node");
+    using Plugins::Msg;
+    using Plugins::Text;
+    add(Text(Msg::Chainage).Str(), Text(Msg::Ground).Str(), Text(Msg::Invert).Str(),
+        Text(Msg::Slope).Str() + L" %", Plugins::TextUtf8(Msg::NodeColumn));
     for (std::size_t i = 0; i < stations.size(); ++i) {
         const ProfileStation& at = stations[i];
         const auto slope = i > 0 ? SlopeOf(stations[i - 1], at) : std::nullopt;

@@ -22,7 +22,7 @@ constexpr enmEntityType kQueried[] = {EntityNone, EntityNode, EntitySection, Ent
 
 bool AskQueriedType(CQueryDefinition& query, const System::CGisSystem* pSystem) {
     const auto& topologies = *CModuleConfiguration::Instance()->GetTopologyConfiguration();
-    std::vector<Choice> choices = {
+    std::vector<PromptChoice> choices = {
         {L"all", Text(Msg::Everything)},
         {L"node", topologies.GetEntityTypeName(EntityNode, pSystem)},
         {L"section", topologies.GetEntityTypeName(EntitySection, nullptr)},
@@ -30,7 +30,7 @@ bool AskQueriedType(CQueryDefinition& query, const System::CGisSystem* pSystem) 
     const auto* const pCurrent =
         std::find(std::begin(kQueried), std::end(kQueried), query.GetQueriedType());
     const std::size_t current = pCurrent == std::end(kQueried) ? 0 : pCurrent - kQueried;
-    const auto choice = AskChoice(Text(Msg::QueriedEntities), choices, current);
+    const auto choice = acedAskChoice({Text(Msg::QueriedEntities), choices, current});
     if (choice) {
         query.SetQueriedType(kQueried[*choice]);
     }
@@ -38,9 +38,10 @@ bool AskQueriedType(CQueryDefinition& query, const System::CGisSystem* pSystem) 
 }
 
 bool AskMatch(CQueryDefinition& query) {
-    const auto choice = AskChoice(
-        Text(Msg::Match), {{L"all", Text(Msg::AllConditions)}, {L"any", Text(Msg::AnyCondition)}},
-        query.GetMatchAny() ? 1 : 0);
+    const auto choice =
+        acedAskChoice({Text(Msg::Match),
+                       {{L"all", Text(Msg::AllConditions)}, {L"any", Text(Msg::AnyCondition)}},
+                       query.GetMatchAny() ? 1 : 0});
     query.SetMatchAny(choice == 1U);
     return choice.has_value();
 }

@@ -65,7 +65,7 @@ ItemPtr AddItem(Call& call) {
     if (!HasPlaceFor(call.family, call.target.entityType, call.target.store->GetSystem())) {
         return {};
     }
-    const auto name = AskText(Text(Msg::Name), L"");
+    const auto name = acedAskText(Text(Msg::Name), L"");
     if (!name) {
         return {};
     }
@@ -87,7 +87,7 @@ ItemPtr EditItem(Call& call) {
 
 ItemPtr DeleteItem(Call& call) {
     const ItemPtr item = ItemOf(call.target);
-    if (!item || !AskYes(Text(Msg::ReallyDelete, item->GetName()))) {
+    if (!item || !acedAskYes(Text(Msg::ReallyDelete, item->GetName()))) {
         return {};
     }
     return Done(*call.target.store, call.target.store->Remove(item->GetGuid()), Msg::Deleted, item);
@@ -99,7 +99,7 @@ ItemPtr RenameItem(Call& call) {
         return {};
     }
     const CString* const pNewName = Workspace::NewNameOf(call.pNode);
-    const auto name = pNewName ? *pNewName : AskText(Text(Msg::Name), item->GetName());
+    const auto name = pNewName ? *pNewName : acedAskText(Text(Msg::Name), item->GetName());
     if (!name) {
         return {};
     }
@@ -113,7 +113,7 @@ ItemPtr CopyItem(Call& call) {
         return {};
     }
     const CString free = FreeItemName(*call.target.store, item->GetEntityType(), item->GetName());
-    const auto name = AskText(Text(Msg::Name), free);
+    const auto name = acedAskText(Text(Msg::Name), free);
     if (!name) {
         return {};
     }
@@ -140,19 +140,18 @@ CRepositoryFactory::StorePtr AskDestination(const Call& call) {
     }
     System::CGisSystem* const pSystem = call.target.pSystem;
     const CString usual = isFromSystem || !pSystem ? Text(Msg::Disk) : pSystem->GetSystemName();
-    const auto answer = AskText(Text(Msg::SendWhere), usual);
+    const auto answer = acedAskText(Text(Msg::SendWhere), usual);
     if (!answer) {
         return {};
     }
-    const auto is = [&](const wchar_t* word, Msg shown) {
-        return answer->CompareNoCase(word) == 0 || answer->CompareNoCase(Text(shown)) == 0;
-    };
-    const bool isNet = is(L"net", Msg::Net);
-    auto store =
-        isNet ? factory.GetNetStore()
-        : is(L"disk", Msg::Disk)
-            ? factory.GetDiskStore()
-            : factory.GetSystemStore(System::CSystemManager::Instance()->GetSystemByName(*answer));
+    auto* const pNamed = System::CSystemManager::Instance()->GetSystemByName(*answer);
+    const ChoicePrompt folders{
+        CString(), {{L"net", Text(Msg::Net)}, {L"disk", Text(Msg::Disk)}}, std::nullopt};
+    const auto folder = pNamed ? std::nullopt : FindChoice(folders, *answer);
+    const bool isNet = folder == 0U;
+    auto store = isNet    ? factory.GetNetStore()
+                 : folder ? factory.GetDiskStore()
+                          : factory.GetSystemStore(pNamed);
     if (!store) {
         Refuse(isNet ? Text(Msg::NoNet) : Text(Msg::NoPlace, *answer));
     }

@@ -7,42 +7,9 @@
 
 namespace Orvane::Repository {
 
-std::optional<CString> AskText(const CString& label, const CString& current) {
-    const CString prompt = label + (current.IsEmpty() ? L"" : L" <" + current + L">") + L": ";
-    CString answer;
-    if (acedGetString(kGetStringAllowBlanks, prompt, answer) != RTNORM) {
-        return std::nullopt;
-    }
-    answer.Trim();
-    return answer.IsEmpty() ? current : answer;
-}
-
 std::optional<CString> AskTextOrNone(const CString& label, const CString& current) {
-    const auto answer = AskText(label, current);
+    const auto answer = acedAskText(label, current);
     return answer && *answer == L"-" ? CString() : answer;
-}
-
-std::optional<std::size_t> AskChoice(const CString& label, const std::vector<Choice>& choices,
-                                     std::size_t current) {
-    CString list;
-    for (const Choice& choice : choices) {
-        list += (list.IsEmpty() ? L"" : L"/") + choice.shown;
-    }
-    const auto answer = AskText(label + L" [" + list + L"]", choices[current].shown);
-    for (std::size_t i = 0; answer && i < choices.size(); ++i) {
-        if (answer->CompareNoCase(choices[i].shown) == 0 ||
-            answer->CompareNoCase(choices[i].word) == 0) {
-            return i;
-        }
-    }
-    if (answer) {
-        Refuse(Text(Msg::NoChoice, *answer, list));
-    }
-    return std::nullopt;
-}
-
-bool AskYes(const CString& label) {
-    return AskChoice(label, {{L"yes", Text(Msg::Yes)}, {L"no", Text(Msg::No)}}, 1) == 0U;
 }
 
 std::optional<std::vector<double>> NumbersOf(const CString& text) {

@@ -1,5 +1,6 @@
 #include "plugins/repository/RepositoryTarget.h"
 
+#include "platform/arx/EdPrompt.h"
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTexts.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
@@ -99,7 +100,7 @@ CRepositoryStore::ItemPtr ItemOf(RepositoryTarget& target) {
             name = std::exchange(item, nullptr)->GetName();
         }
     } else {
-        name = AskText(Text(Msg::Name), L"").value_or(L"");
+        name = acedAskText(Text(Msg::Name), L"").value_or(L"");
         item = name.IsEmpty() ? item : FindByName(target, name);
     }
     if (!item && !name.IsEmpty()) {
@@ -142,7 +143,7 @@ bool PutItem(CRepositoryStore& store, const CRepositoryItem& item) {
     if (old && old->GetXML() == item.GetXML()) {
         return Refuse(Text(Msg::SameItem, item.GetName()));
     }
-    if (old && !AskYes(Text(Msg::ReplaceThere, old->GetName()))) {
+    if (old && !acedAskYes(Text(Msg::ReplaceThere, old->GetName()))) {
         return false;
     }
     const CString reason = old ? store.Replace(item) : store.Add(item);

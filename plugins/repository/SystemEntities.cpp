@@ -78,7 +78,7 @@ std::optional<CString> AttributeInUse(const System::CGisSystem& system, enmEntit
 
 std::optional<CString> AskAttribute(const CString& label, const CString& current,
                                     const System::CGisSystem* pSystem, enmEntityType type) {
-    auto name = AskText(label, current);
+    auto name = acedAskText(label, current);
     if (!name || name->IsEmpty()) {
         return std::nullopt;
     }

@@ -39,7 +39,7 @@ struct Call {
 CGisSystem* AskSystem() {
     const CGisSystem* const pActive = Systems().GetActiveSystem();
     const auto name =
-        AskText(Text(Msg::SystemName), pActive ? pActive->GetSystemName() : CString());
+        acedAskText(Text(Msg::SystemName), pActive ? pActive->GetSystemName() : CString());
     CGisSystem* const pSystem = name ? Systems().GetSystemByName(*name) : nullptr;
     if (!pSystem && name && !name->IsEmpty()) {
         Refuse(Text(Msg::UnknownSystem, *name));
@@ -49,7 +49,7 @@ CGisSystem* AskSystem() {
 
 const CTopology* AskTopology() {
     std::vector<const CTopology*> topologies;
-    std::vector<Choice> choices;
+    std::vector<PromptChoice> choices;
     for (const CTopology& topology :
          CModuleConfiguration::Instance()->GetTopologyConfiguration()->GetTopologyVector()) {
         if (topology.GetOnOff()) {
@@ -59,7 +59,7 @@ const CTopology* AskTopology() {
         }
     }
     const auto choice = choices.empty() ? std::optional<std::size_t>()
-                                        : AskChoice(Text(Msg::SystemKind), choices, 0);
+                                        : acedAskChoice({Text(Msg::SystemKind), choices, 0});
     return choice ? topologies[*choice] : nullptr;
 }
 
@@ -68,17 +68,17 @@ std::optional<int> AskFunction(const CTopology& topology) {
     if (!topology.GetHasFunctions()) {
         return 0;
     }
-    std::vector<Choice> choices;
+    std::vector<PromptChoice> choices;
     for (const CTopologyFunction& function : topology.GetTopologyFunctionVector()) {
         choices.push_back({FormatText(L"%d", function.GetId()), function.GetName()});
     }
-    const auto choice = AskChoice(Text(Msg::SystemFunction), choices, 0);
+    const auto choice = acedAskChoice({Text(Msg::SystemFunction), choices, 0});
     return choice ? std::optional(topology.GetTopologyFunctionVector()[*choice].GetId())
                   : std::nullopt;
 }
 
 bool AddSystem(Call& call) {
-    const auto name = AskText(Text(Msg::SystemName), L"");
+    const auto name = acedAskText(Text(Msg::SystemName), L"");
     const CTopology* const pTopology = name ? AskTopology() : nullptr;
     const auto function = pTopology ? AskFunction(*pTopology) : std::nullopt;
     if (!function) {
@@ -96,7 +96,7 @@ bool AddSystem(Call& call) {
 bool RenameSystem(Call& call) {
     const CString* const pNewName = Workspace::NewNameOf(call.pNode);
     const auto name =
-        pNewName ? *pNewName : AskText(Text(Msg::SystemName), call.pSystem->GetSystemName());
+        pNewName ? *pNewName : acedAskText(Text(Msg::SystemName), call.pSystem->GetSystemName());
     CString reason;
     if (!name || !Systems().RenameSystem(call.pSystem, *name, &reason)) {
         return name && Refuse(reason);
@@ -114,7 +114,7 @@ bool DeleteSystem(Call& call) {
 }
 
 bool DeleteAskedSystem(Call& call) {
-    return AskYes(Text(Msg::ReallyDelete, call.pSystem->GetSystemName())) && DeleteSystem(call);
+    return acedAskYes(Text(Msg::ReallyDelete, call.pSystem->GetSystemName())) && DeleteSystem(call);
 }
 
 bool ActivateSystem(Call& call) {

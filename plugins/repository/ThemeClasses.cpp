@@ -127,20 +127,20 @@ ThemeResult ClassifyRanges(std::span<const ThemeValue> values, const ThemeRule& 
 
 } // namespace
 
-const char* ThemeRuleFault(const ThemeRule& rule) {
+std::optional<Plugins::Msg> ThemeRuleFault(const ThemeRule& rule) {
     const auto isNoColor = [](int color) { return color < 1 || color > 255; };
     if (std::any_of(rule.colors.begin(), rule.colors.end(), isNoColor)) {
-        return "a colour is none from 1 to 255";
+        return Plugins::Msg::ColorRange;
     }
     if (rule.classCount < 1 || rule.classCount > kMostThemeClasses) {
-        return "the number of classes is none from 1 to 12";
+        return Plugins::Msg::ClassCountRange;
     }
     const auto isNotLess = [](double left, double right) { return !(left < right); };
     if (std::adjacent_find(rule.breaks.begin(), rule.breaks.end(), isNotLess) !=
         rule.breaks.end()) {
-        return "the breaks do not ascend";
+        return Plugins::Msg::BreaksNotAscending;
     }
-    return "";
+    return std::nullopt;
 }
 
 std::size_t ThemeResult::CountWithout() const {

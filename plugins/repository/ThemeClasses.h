@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "plugins/common/Texts.h"
+
 namespace Orvane::Repository {
 
 enum class ThemeMode {
@@ -29,7 +31,7 @@ struct ThemeRule {
 inline constexpr int kMostThemeClasses = 12;
 
 /// Empty, or why a rule makes no sense.
-const char* ThemeRuleFault(const ThemeRule& rule);
+std::optional<Plugins::Msg> ThemeRuleFault(const ThemeRule& rule);
 
 /// The value of an entity: an empty text for none, and the number that it is.
 struct ThemeValue {

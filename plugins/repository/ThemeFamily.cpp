@@ -42,11 +42,11 @@ CString ColorsText(const std::vector<int>& colors) {
 }
 
 bool AskClasses(ThemeRule& rule) {
-    const auto mode = AskChoice(Text(Msg::Classes),
-                                {{kModes[0], Text(Msg::UniqueValues)},
-                                 {kModes[1], Text(Msg::Ranges)},
-                                 {kModes[2], Text(Msg::LayerColor)}},
-                                static_cast<std::size_t>(rule.mode));
+    const auto mode = acedAskChoice({Text(Msg::Classes),
+                                     {{kModes[0], Text(Msg::UniqueValues)},
+                                      {kModes[1], Text(Msg::Ranges)},
+                                      {kModes[2], Text(Msg::LayerColor)}},
+                                     static_cast<std::size_t>(rule.mode)});
     if (mode) {
         rule.mode = static_cast<ThemeMode>(*mode);
     }
@@ -66,7 +66,7 @@ bool AskRanges(ThemeRule& rule) {
     if (!rule.breaks.empty()) {
         return true;
     }
-    const auto count = AskText(Text(Msg::ClassCount), FormatText(L"%d", rule.classCount));
+    const auto count = acedAskText(Text(Msg::ClassCount), FormatText(L"%d", rule.classCount));
     rule.classCount = count ? WholeNumber(count->View()).value_or(0) : 0;
     return count.has_value();
 }
@@ -146,15 +146,16 @@ CString ThemeDefinition::ReadContent(const XmlElement& root) {
     const auto breaks = NumbersOf(root.Get(kBreaks));
     const auto colors = ColorsOf(root.Get(kColors));
     if (pMode == std::end(kModes) || !breaks || !colors) {
-        return L"its classes are none";
+        return Text(Msg::InvalidClasses);
     }
     attribute = root.Get(kAttribute);
     rule = {static_cast<ThemeMode>(pMode - kModes), root.GetInt(kCount).value_or(0), *breaks,
             *colors};
     if (attribute.IsEmpty() && rule.mode != ThemeMode::None) {
-        return L"it names no attribute";
+        return Text(Msg::NoAttribute);
     }
-    return Utf8ToWide(ThemeRuleFault(rule));
+    const std::optional<Msg> fault = ThemeRuleFault(rule);
+    return fault ? Text(*fault) : CString();
 }
 
 boost::shared_ptr<CRepositoryItem> ThemeFamily::CreateItem(const wchar_t* guid,
@@ -180,8 +181,8 @@ bool ThemeFamily::EditContent(CRepositoryItem& item, const System::CGisSystem* p
         !AskColors(theme.rule)) {
         return false;
     }
-    const char* const fault = ThemeRuleFault(theme.rule);
-    return !*fault || Refuse(Text(Msg::NoSense, fault));
+    const std::optional<Msg> fault = ThemeRuleFault(theme.rule);
+    return !fault || Refuse(Text(Msg::NoSense, Text(*fault)));
 }
 
 std::optional<int> ThemeFamily::Run(const CRepositoryItem& item, System::CGisSystem& system,

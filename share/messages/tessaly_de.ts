@@ -106,12 +106,12 @@
     <message id="4994">
         <source></source>
         <extracomment>Column of the system manager: a count</extracomment>
-        <translation>Abschnitte</translation>
+        <translation>Leitungen</translation>
     </message>
     <message id="5082">
         <source></source>
         <extracomment>Column of the system manager: a count</extracomment>
-        <translation>Polygone</translation>
+        <translation>Flächen</translation>
     </message>
     <message id="5247">
         <source></source>
@@ -132,12 +132,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="5362">
         <source></source>
         <extracomment>Tooltip of the main panel</extracomment>
-        <translation>Temporäre Polygone löschen</translation>
+        <translation>Temporäre Flächen löschen</translation>
     </message>
     <message id="5368">
         <source></source>
         <extracomment>Question</extracomment>
-        <translation>Alle temporären Polygone des aktiven Systems löschen?</translation>
+        <translation>Alle temporären Flächen des aktiven Systems löschen?</translation>
     </message>
     <message id="5376">
         <source></source>
@@ -322,7 +322,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="10805">
         <source></source>
         <extracomment>Statistic of a network: a count</extracomment>
-        <translation>Abschnitte</translation>
+        <translation>Leitungen</translation>
     </message>
     <message id="10806">
         <source></source>
@@ -387,12 +387,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="10818">
         <source></source>
         <extracomment>Statistic of a polygon system: a count</extracomment>
-        <translation>Polygone</translation>
+        <translation>Flächen</translation>
     </message>
     <message id="10819">
         <source></source>
         <extracomment>Statistic of a polygon system: a count</extracomment>
-        <translation>Polygonknoten</translation>
+        <translation>Flächenknoten</translation>
     </message>
     <message id="10820">
         <source></source>
@@ -457,12 +457,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900101">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>Netz einlesen</translation>
+        <translation>Netz importieren</translation>
     </message>
     <message id="900102">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>erzeugt Systeme aus der Datei eines Wasser- (EPANET) oder Kanalnetzes (SWMM) oder aus Punkten, Linien und Flächen einer anderen Datei</translation>
+        <translation>erzeugt Systeme aus einer Wassernetz- (EPANET) oder Kanalnetzdatei (SWMM) oder aus den Punkten, Linien und Flächen einer anderen Datei</translation>
     </message>
     <message id="900103">
         <source></source>
@@ -472,7 +472,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900104">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>nennt Anzahlen, Längen, Ausdehnung und zusammenhängende Teile jedes Netzes</translation>
+        <translation>gibt Anzahlen, Längen, Ausdehnung und Teilnetze jedes Netzes aus</translation>
     </message>
     <message id="900105">
         <source></source>
@@ -482,7 +482,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900106">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>listet auf, was an jedem Netz nicht stimmt</translation>
+        <translation>listet die Mängel jedes Netzes auf</translation>
     </message>
     <message id="900107">
         <source></source>
@@ -502,7 +502,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900110">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>macht ein System zum aktiven</translation>
+        <translation>aktiviert ein System</translation>
     </message>
     <message id="900120">
         <source></source>
@@ -537,7 +537,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900201">
         <source></source>
         <extracomment>Name of a topology</extracomment>
-        <translation>Polygone</translation>
+        <translation>Flächen</translation>
     </message>
     <message id="900202">
         <source></source>
@@ -557,17 +557,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900221">
         <source></source>
         <extracomment>Kind of entity</extracomment>
-        <translation>Abschnitt</translation>
+        <translation>Leitung</translation>
     </message>
     <message id="900222">
         <source></source>
         <extracomment>Kind of entity</extracomment>
-        <translation>Polygon</translation>
+        <translation>Fläche</translation>
     </message>
     <message id="900223">
         <source></source>
         <extracomment>Kind of entity</extracomment>
-        <translation>Polygonknoten</translation>
+        <translation>Flächenknoten</translation>
     </message>
     <message id="900224">
         <source></source>
@@ -622,7 +622,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900300">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Es gibt keine Zeichnung.</translation>
+        <translation>Keine Zeichnung ist geöffnet.</translation>
     </message>
     <message id="900301">
         <source></source>
@@ -652,12 +652,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900311">
         <source></source>
         <extracomment>Reason; with the name</extracomment>
-        <translation>Es gibt eine andere Konfiguration namens &quot;%s&quot;.</translation>
+        <translation>Es gibt eine andere Konfiguration namens „%s“.</translation>
     </message>
     <message id="900312">
         <source></source>
         <extracomment>Reason; with the name</extracomment>
-        <translation>&quot;%s&quot; gibt es dort schon.</translation>
+        <translation>„%s“ gibt es dort bereits.</translation>
     </message>
     <message id="900313">
         <source></source>
@@ -667,12 +667,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900314">
         <source></source>
         <extracomment>Reason; with the name and why</extracomment>
-        <translation>&quot;%s&quot; konnte nicht geschrieben werden: %s</translation>
+        <translation>„%s“ konnte nicht geschrieben werden: %s</translation>
     </message>
     <message id="900315">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Die Zeichnung ist in Arbeit und kann jetzt nicht geändert werden.</translation>
+        <translation>Die Zeichnung ist gerade in Benutzung und kann nicht geändert werden.</translation>
     </message>
     <message id="900316">
         <source></source>
@@ -687,22 +687,22 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900332">
         <source></source>
         <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Minuten zwischen Sicherungen (0: aus):</translation>
+        <translation>&amp;Minuten zwischen automatischen Sicherungen (0 = aus):</translation>
     </message>
     <message id="900333">
         <source></source>
         <extracomment>Check box in the general settings, with its letter</extracomment>
-        <translation>Abf&amp;rage beim Ablegen ausführen</translation>
+        <translation>Abf&amp;ragen beim Ablegen ausführen</translation>
     </message>
     <message id="900334">
         <source></source>
         <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Farbe der Markierung:</translation>
+        <translation>&amp;Farbe der Hervorhebung:</translation>
     </message>
     <message id="900335">
         <source></source>
         <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Dezimalen gleicher Lagen:</translation>
+        <translation>&amp;Dezimalstellen gleicher Lagen:</translation>
     </message>
     <message id="900336">
         <source></source>
@@ -722,12 +722,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900345">
         <source></source>
         <extracomment>Reason; with a setting, the lowest and the highest number</extracomment>
-        <translation>&quot;%s&quot; ist eine ganze Zahl von %d bis %d.</translation>
+        <translation>„%s“ muss eine ganze Zahl von %d bis %d sein.</translation>
     </message>
     <message id="900346">
         <source></source>
         <extracomment>Reason; with a setting</extracomment>
-        <translation>&quot;%s&quot; ist eine Zeile Text.</translation>
+        <translation>„%s“ muss eine einzelne Textzeile sein.</translation>
     </message>
     <message id="900347">
         <source></source>
@@ -747,7 +747,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900402">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Erfüllte Bedingungen</translation>
+        <translation>Zutreffend (alle oder eine Bedingung)</translation>
     </message>
     <message id="900403">
         <source></source>
@@ -757,7 +757,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900404">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>&quot;%s&quot; ist keine Bedingung. Schreiben Sie ein Attribut, eines von = &lt;&gt; &lt; &lt;= &gt; &gt;= contains empty und einen Wert.</translation>
+        <translation>„%s“ ist keine Bedingung. Geben Sie ein Attribut, eines von = &lt;&gt; &lt; &lt;= &gt; &gt;= contains empty und einen Wert ein.</translation>
     </message>
     <message id="900405">
         <source></source>
@@ -767,7 +767,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900406">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Hinweis: Kein solches Objekt von %s hat ein Attribut &quot;%s&quot;.</translation>
+        <translation>Hinweis: In %s hat kein Objekt dieser Art ein Attribut „%s“.</translation>
     </message>
     <message id="900407">
         <source></source>
@@ -782,62 +782,62 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900409">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Klassengrenzen, mit Leerzeichen getrennt (- für berechnete)</translation>
+        <translation>Klassengrenzen, durch Leerzeichen getrennt (- für berechnete)</translation>
     </message>
     <message id="900410">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Farben von 1 bis 255, mit Leerzeichen getrennt (- für die üblichen)</translation>
+        <translation>Farben 1 bis 255, durch Leerzeichen getrennt (- für die Vorgaben)</translation>
     </message>
     <message id="900411">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>&quot;%s&quot; ist keine Liste von Zahlen.</translation>
+        <translation>„%s“ ist keine Liste von Zahlen.</translation>
     </message>
     <message id="900412">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Text mit Attributen in Klammern</translation>
+        <translation>Text mit Attributen in geschweiften Klammern</translation>
     </message>
     <message id="900413">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Texthöhe (0: wie in der Ansicht)</translation>
+        <translation>Texthöhe (0 = automatisch)</translation>
     </message>
     <message id="900414">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>&quot;%s&quot; ist keine Texthöhe.</translation>
+        <translation>„%s“ ist keine gültige Texthöhe.</translation>
     </message>
     <message id="900415">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Von Knoten (- um jedes Mal gefragt zu werden)</translation>
+        <translation>Von Knoten (- für Rückfrage bei jeder Ausführung)</translation>
     </message>
     <message id="900416">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Bis Knoten (- um jedes Mal gefragt zu werden)</translation>
+        <translation>Bis Knoten (- für Rückfrage bei jeder Ausführung)</translation>
     </message>
     <message id="900417">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Attribut der Höhe</translation>
+        <translation>Attribut für die Höhe</translation>
     </message>
     <message id="900418">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Attribut der Tiefe (- für keines)</translation>
+        <translation>Attribut für die Tiefe (- für keines)</translation>
     </message>
     <message id="900419">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>&quot;%s&quot; ist keines von %s.</translation>
+        <translation>„%s“ ist nicht unter %s.</translation>
     </message>
     <message id="900420">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Das ergibt keinen Sinn: %s.</translation>
+        <translation>Ungültige Eingabe: %s.</translation>
     </message>
     <message id="900421">
         <source></source>
@@ -867,12 +867,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900427">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>%s löschen</translation>
+        <translation>%s löschen?</translation>
     </message>
     <message id="900428">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>%s gibt es dort schon. Ersetzen</translation>
+        <translation>%s gibt es dort bereits. Ersetzen?</translation>
     </message>
     <message id="900429">
         <source></source>
@@ -882,27 +882,27 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900430">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>&quot;%s&quot; ist weder Platte noch Netz noch ein System der Zeichnung.</translation>
+        <translation>„%s“ ist weder Platte noch Netz noch ein System der Zeichnung.</translation>
     </message>
     <message id="900431">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Es gibt keine Ablage im Netz. Die Einstellung NET_REPOSITORY nennt ihren Ordner.</translation>
+        <translation>Es ist keine Netzablage eingerichtet. Geben Sie in NET_REPOSITORY deren Ordner an.</translation>
     </message>
     <message id="900432">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Kein System ist aktiv. SYSTEM_ACTIVATE aktiviert eines.</translation>
+        <translation>Kein System ist aktiv. Verwenden Sie SYSTEM_ACTIVATE.</translation>
     </message>
     <message id="900433">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Es gibt keine Konfiguration &quot;%s&quot;.</translation>
+        <translation>Es gibt keine Konfiguration „%s“.</translation>
     </message>
     <message id="900434">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s hat keine Objekte dieser Art.</translation>
+        <translation>%s enthält keine Objekte dieser Art.</translation>
     </message>
     <message id="900435">
         <source></source>
@@ -932,12 +932,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900440">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s hat keinen Knoten &quot;%s&quot;.</translation>
+        <translation>%s hat keinen Knoten „%s“.</translation>
     </message>
     <message id="900441">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Von %s führt kein Weg nach %s.</translation>
+        <translation>Es gibt keinen Weg von %s nach %s.</translation>
     </message>
     <message id="900442">
         <source></source>
@@ -947,7 +947,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900443">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Es wurde nichts abgelegt, was hierher gehört.</translation>
+        <translation>Das Abgelegte kann hier nicht verwendet werden.</translation>
     </message>
     <message id="900445">
         <source></source>
@@ -962,12 +962,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900447">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Wofür es ist</translation>
+        <translation>Verwendung</translation>
     </message>
     <message id="900449">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Die Zeichnung hat kein System &quot;%s&quot;. SYSTEM_LIST zeigt sie.</translation>
+        <translation>Die Zeichnung hat kein System „%s“. SYSTEM_LIST zeigt sie.</translation>
     </message>
     <message id="900450">
         <source></source>
@@ -977,17 +977,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900451">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s wird gezeigt.</translation>
+        <translation>%s ist eingeblendet.</translation>
     </message>
     <message id="900452">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s ist verborgen.</translation>
+        <translation>%s ist ausgeblendet.</translation>
     </message>
     <message id="900453">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s gibt es dort schon mit demselben Inhalt.</translation>
+        <translation>%s gibt es dort bereits mit demselben Inhalt.</translation>
     </message>
     <message id="900460">
         <source></source>
@@ -1077,22 +1077,22 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900521">
         <source></source>
         <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
-        <translation>Es gibt kein &quot;%s&quot; in &quot;%s&quot;.</translation>
+        <translation>Es gibt kein „%s“ in „%s“.</translation>
     </message>
     <message id="900522">
         <source></source>
         <extracomment>With the names of nodes</extracomment>
-        <translation>Es gibt: %s</translation>
+        <translation>Vorhanden: %s</translation>
     </message>
     <message id="900523">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Darunter liegt nichts.</translation>
+        <translation>Der Knoten hat keine Unterknoten.</translation>
     </message>
     <message id="900524">
         <source></source>
         <extracomment>With a node of a tree</extracomment>
-        <translation>&quot;%s&quot; hat keine Befehle.</translation>
+        <translation>„%s“ hat keine Befehle.</translation>
     </message>
     <message id="900525">
         <source></source>
@@ -1108,6 +1108,36 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>In a list of templates; with topology and function</extracomment>
         <translation>System: %s, %s</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baumvorlagen</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baummenü</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Bäume</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
     </message>
     <message id="900540">
         <source></source>
@@ -1144,11 +1174,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Choice in the find dialog</extracomment>
         <translation>Überall</translation>
     </message>
-    <message id="900547">
-        <source></source>
-        <extracomment>Choice in the find dialog; a property</extracomment>
-        <translation>Name</translation>
-    </message>
     <message id="900548">
         <source></source>
         <extracomment>Choice in the find dialog; a property</extracomment>
@@ -1167,7 +1192,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900551">
         <source></source>
         <extracomment>Result; with a count, and how many of them are shown</extracomment>
-        <translation>%d gefunden, %d gezeigt</translation>
+        <translation>%d gefunden, %d angezeigt</translation>
     </message>
     <message id="900552">
         <source></source>
@@ -1197,22 +1222,22 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900557">
         <source></source>
         <extracomment>Result</extracomment>
-        <translation>Es ist nicht mehr da</translation>
+        <translation>Gibt es nicht mehr</translation>
     </message>
     <message id="900558">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>Suche nach: </translation>
+        <translation>Suche nach</translation>
     </message>
     <message id="900559">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>System (alle): </translation>
+        <translation>System (leer für alle)</translation>
     </message>
     <message id="900560">
         <source></source>
         <extracomment>Prompt; with the choices</extracomment>
-        <translation>Wo (%s): </translation>
+        <translation>Wo</translation>
     </message>
     <message id="900561">
         <source></source>
@@ -1222,12 +1247,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900562">
         <source></source>
         <extracomment>Reason; with a name</extracomment>
-        <translation>Es gibt kein System &quot;%s&quot;.</translation>
-    </message>
-    <message id="900563">
-        <source></source>
-        <extracomment>Reason; with what was typed and the choices</extracomment>
-        <translation>&quot;%s&quot; ist nichts von: %s</translation>
+        <translation>Es gibt kein System „%s“.</translation>
     </message>
     <message id="900570">
         <source></source>
@@ -1247,17 +1267,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900573">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>Auf ein Objekt zeigen: </translation>
+        <translation>Objekt wählen: </translation>
     </message>
     <message id="900574">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Das ist kein Objekt eines Systems.</translation>
+        <translation>Das Objekt gehört zu keinem System.</translation>
     </message>
     <message id="900575">
         <source></source>
         <extracomment>Reason; with the property</extracomment>
-        <translation>&quot;%s&quot; kann nicht geändert werden.</translation>
+        <translation>„%s“ kann nicht geändert werden.</translation>
     </message>
     <message id="900576">
         <source></source>
@@ -1267,27 +1287,27 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900577">
         <source></source>
         <extracomment>Reason; with the property</extracomment>
-        <translation>&quot;%s&quot; konnte nicht geändert werden.</translation>
+        <translation>„%s“ konnte nicht geändert werden.</translation>
     </message>
     <message id="900578">
         <source></source>
         <extracomment>Reason; with what was typed, and the property</extracomment>
-        <translation>&quot;%s&quot; ist keine Zahl, und &quot;%s&quot; muss eine sein.</translation>
+        <translation>„%s“ ist keine Zahl; %s muss eine sein.</translation>
     </message>
     <message id="900579">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Ein Name wird gebraucht.</translation>
+        <translation>Ein Name ist erforderlich.</translation>
     </message>
     <message id="900580">
         <source></source>
         <extracomment>In the properties dialog, as long as it shows nothing</extracomment>
-        <translation>Kein Objekt ist gewählt.</translation>
+        <translation>Es ist kein Objekt ausgewählt.</translation>
     </message>
     <message id="900581">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>Zu ändernde Eigenschaft (keine): </translation>
+        <translation>Zu ändernde Eigenschaft (leer für keine)</translation>
     </message>
     <message id="900582">
         <source></source>
@@ -1297,7 +1317,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900583">
         <source></source>
         <extracomment>Reason; with what was typed</extracomment>
-        <translation>Es gibt keine Eigenschaft &quot;%s&quot;.</translation>
+        <translation>Es gibt keine Eigenschaft „%s“.</translation>
     </message>
     <message id="900584">
         <source></source>
@@ -1329,36 +1349,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Property</extracomment>
         <translation>Fläche</translation>
     </message>
-    <message id="900590">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baumvorlagen</translation>
-    </message>
-    <message id="900591">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
-    </message>
-    <message id="900592">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baummenü</translation>
-    </message>
-    <message id="900593">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
-    </message>
-    <message id="900594">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Bäume</translation>
-    </message>
-    <message id="900595">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
-    </message>
     <message id="900610">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1367,12 +1357,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900611">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Es gibt kein aktives System.</translation>
+        <translation>Kein System ist aktiv.</translation>
     </message>
     <message id="900612">
         <source></source>
         <extracomment>Headline of a report; with the system</extracomment>
-        <translation>Kennzahlen von %s</translation>
+        <translation>Statistik für %s</translation>
     </message>
     <message id="900613">
         <source></source>
@@ -1397,7 +1387,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900617">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Keine Zeichnung ist offen.</translation>
+        <translation>Keine Zeichnung ist geöffnet.</translation>
     </message>
     <message id="900618">
         <source></source>
@@ -1407,7 +1397,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900619">
         <source></source>
         <extracomment>Report</extracomment>
-        <translation>Die Zeichnung zeigt nichts.</translation>
+        <translation>Die Zeichnung ist leer.</translation>
     </message>
     <message id="900630">
         <source></source>
@@ -1417,7 +1407,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900631">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>findet Knoten, Abschnitte und Polygone nach dem, was in ihnen steht, und zeigt sie</translation>
+        <translation>findet Knoten, Leitungen und Flächen anhand von Namen und Attributen</translation>
     </message>
     <message id="900632">
         <source></source>
@@ -1427,7 +1417,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900633">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>zeigt, was von einem Objekt bekannt ist, und ändert es</translation>
+        <translation>zeigt und ändert die Eigenschaften eines Objekts</translation>
     </message>
     <message id="900634">
         <source></source>
@@ -1437,7 +1427,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900635">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>zeigt die Kennzahlen des aktiven Systems</translation>
+        <translation>zeigt die Statistik des aktiven Systems</translation>
     </message>
     <message id="900636">
         <source></source>
@@ -1447,7 +1437,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900637">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>zeigt, wofür die Farben der Zeichnung stehen</translation>
+        <translation>erläutert die Farben der Zeichnung</translation>
     </message>
     <message id="900638">
         <source></source>
@@ -1457,7 +1447,1913 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900639">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
+        <translation>ändert Sprache, Farben, Ordner und andere Einstellungen</translation>
+    </message>
+    <message id="910000">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message id="910001">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message id="910002">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Ist ein Ordner</translation>
+    </message>
+    <message id="910003">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Ist kein Ordner</translation>
+    </message>
+    <message id="910004">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Datei ist bereits vorhanden</translation>
+    </message>
+    <message id="910005">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Kein Platz mehr auf dem Datenträger</translation>
+    </message>
+    <message id="910006">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Schreibgeschütztes Dateisystem</translation>
+    </message>
+    <message id="910007">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Dateiname zu lang</translation>
+    </message>
+    <message id="910008">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message id="910009">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Zu viele symbolische Verknüpfungen hintereinander</translation>
+    </message>
+    <message id="910010">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Zu viele geöffnete Dateien</translation>
+    </message>
+    <message id="910011">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Datei zu groß</translation>
+    </message>
+    <message id="910012">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Gerät oder Ressource belegt</translation>
+    </message>
+    <message id="910013">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>Ordner nicht leer</translation>
+    </message>
+    <message id="910014">
+        <source></source>
+        <extracomment>Number of the error, and the operating system's own text</extracomment>
+        <translation>Fehler %d des Betriebssystems (%s)</translation>
+    </message>
+    <message id="910015">
+        <source></source>
+        <extracomment>Name of a new drawing; number</extracomment>
+        <translation>Zeichnung%d</translation>
+    </message>
+    <message id="910020">
+        <source></source>
+        <extracomment>File, line</extracomment>
+        <translation>%s:%d: keine Zeile der Form „Schlüssel=Wert“</translation>
+    </message>
+    <message id="910021">
+        <source></source>
+        <extracomment>File, line</extracomment>
+        <translation>%s:%d: ein Wert vor dem ersten Abschnitt</translation>
+    </message>
+    <message id="910022">
+        <source></source>
+        <extracomment>Module file</extracomment>
+        <translation>%s: keine Bibliothek für diesen Rechner</translation>
+    </message>
+    <message id="910023">
+        <source></source>
+        <extracomment>Module file, its size, the size needed</extracomment>
+        <translation>%s: abgeschnitten, %u von mindestens %u Bytes</translation>
+    </message>
+    <message id="910024">
+        <source></source>
+        <extracomment>Module file</extracomment>
+        <translation>%s: kein Einsprungpunkt für Module</translation>
+    </message>
+    <message id="910025">
+        <source></source>
+        <extracomment>Module file, its version, the program's</extracomment>
+        <translation>%s: für Schnittstellenversion %d gebaut, dieses Programm hat Version %d</translation>
+    </message>
+    <message id="910026">
+        <source></source>
+        <extracomment>Module file</extracomment>
+        <translation>%s: Das Modul hat den Start verweigert</translation>
+    </message>
+    <message id="910030">
+        <source></source>
+        <extracomment>Follows a file name and a colon</extracomment>
+        <translation>kein Dateiname angegeben</translation>
+    </message>
+    <message id="910031">
+        <source></source>
+        <extracomment>Follows a file name and a colon</extracomment>
+        <translation>dieses Programm kann keine Zeichnungen öffnen</translation>
+    </message>
+    <message id="910032">
+        <source></source>
+        <extracomment>Follows a file name and a colon</extracomment>
+        <translation>die Zeichnung hat noch keine Datei</translation>
+    </message>
+    <message id="910033">
+        <source></source>
+        <extracomment>Follows a file name and a colon</extracomment>
+        <translation>dieses Programm kann keine Zeichnungen speichern</translation>
+    </message>
+    <message id="910034">
+        <source></source>
+        <extracomment>Follows a file name and a colon</extracomment>
+        <translation>die Datei gehört zu einer anderen geöffneten Zeichnung</translation>
+    </message>
+    <message id="910035">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Objektnummer</translation>
+    </message>
+    <message id="910036">
+        <source></source>
+        <extracomment>Prompt; highest number</extracomment>
+        <translation>Farbe, 1 bis %d</translation>
+    </message>
+    <message id="910037">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>„%s“ ist keine Farbe.</translation>
+    </message>
+    <message id="910038">
+        <source></source>
+        <extracomment>Title of a dialog</extracomment>
+        <translation>Farbe</translation>
+    </message>
+    <message id="910041">
+        <source></source>
+        <extracomment>What failed</extracomment>
+        <translation>Zeichnungsereignis</translation>
+    </message>
+    <message id="910042">
+        <source></source>
+        <extracomment>What failed</extracomment>
+        <translation>Speicherereignis</translation>
+    </message>
+    <message id="910043">
+        <source></source>
+        <extracomment>What failed</extracomment>
+        <translation>Ereignis beim Beenden</translation>
+    </message>
+    <message id="910044">
+        <source></source>
+        <extracomment>What failed</extracomment>
+        <translation>Fensternachricht</translation>
+    </message>
+    <message id="910100">
+        <source></source>
+        <extracomment>File, line, text</extracomment>
+        <translation>%s:%d: „%s“ ist keine ganze Zahl</translation>
+    </message>
+    <message id="910101">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: unbekannter Schlüssel „%s“</translation>
+    </message>
+    <message id="910102">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: weder number noch text: „%s“</translation>
+    </message>
+    <message id="910103">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Art der abgefragten Objekte fehlt</translation>
+    </message>
+    <message id="910104">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>eine Bedingung ist ungültig</translation>
+    </message>
+    <message id="910105">
+        <source></source>
+        <extracomment>Reason; GUID</extracomment>
+        <translation>sie hat die GUID „%s“</translation>
+    </message>
+    <message id="910106">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein anderer Eintrag hat dieselbe GUID</translation>
+    </message>
+    <message id="910107">
+        <source></source>
+        <extracomment>Folder</extracomment>
+        <translation>%s: Den Ordner gibt es nicht</translation>
+    </message>
+    <message id="910108">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>der Name ist keine GUID</translation>
+    </message>
+    <message id="910109">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>zu lang</translation>
+    </message>
+    <message id="910110">
+        <source></source>
+        <extracomment>Reason; names of XML elements</extracomment>
+        <translation>die Wurzel ist „%s“ statt „%s“</translation>
+    </message>
+    <message id="910111">
+        <source></source>
+        <extracomment>Reason; name of a family</extracomment>
+        <translation>gehört zur Familie „%s“</translation>
+    </message>
+    <message id="910112">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>hat keinen Namen</translation>
+    </message>
+    <message id="910113">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Objektart ist keine Zahl</translation>
+    </message>
+    <message id="910114">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>hat keine GUID</translation>
+    </message>
+    <message id="910115">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>kein Modul ist für diese Familie zuständig</translation>
+    </message>
+    <message id="910116">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: unbekannte Topologie „%s“</translation>
+    </message>
+    <message id="910117">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: ein zweiter Abschnitt „%s“</translation>
+    </message>
+    <message id="910118">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: „%s“ hat keinen Wert</translation>
+    </message>
+    <message id="910119">
+        <source></source>
+        <extracomment>File, line, text</extracomment>
+        <translation>%s:%d: „%s“ ist weder 0 noch 1</translation>
+    </message>
+    <message id="910120">
+        <source></source>
+        <extracomment>File, line</extracomment>
+        <translation>%s:%d: Die Nummer einer Funktion muss größer als 0 sein</translation>
+    </message>
+    <message id="910121">
+        <source></source>
+        <extracomment>File, line, number</extracomment>
+        <translation>%s:%d: eine zweite Funktion %d</translation>
+    </message>
+    <message id="910122">
+        <source></source>
+        <extracomment>File, line, number</extracomment>
+        <translation>%s:%d: Es gibt keine Objektart %d</translation>
+    </message>
+    <message id="910123">
+        <source></source>
+        <extracomment>File, line, number</extracomment>
+        <translation>%s:%d: eine zweite Objektart %d</translation>
+    </message>
+    <message id="910124">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s: keine Topologie; die Vorgaben werden verwendet</translation>
+    </message>
+    <message id="910125">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: weder default noch eine Topologie mit oder ohne Funktion: „%s“</translation>
+    </message>
+    <message id="910126">
+        <source></source>
+        <extracomment>File, line, word</extracomment>
+        <translation>%s:%d: weder node noch section noch polygon: „%s“</translation>
+    </message>
+    <message id="910127">
+        <source></source>
+        <extracomment>File, line, text</extracomment>
+        <translation>%s:%d: kein Name mit einem Platz für eine Nummer wie J%%d oder J%%04d: „%s“</translation>
+    </message>
+    <message id="910128">
+        <source></source>
+        <extracomment>Line, reason</extracomment>
+        <translation>Zeile %d: kein wohlgeformtes XML</translation>
+    </message>
+    <message id="910129">
+        <source></source>
+        <extracomment>Name of a system that has none; number</extracomment>
+        <translation>System %d</translation>
+    </message>
+    <message id="910130">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein Dokumenttyp ist nicht erlaubt</translation>
+    </message>
+    <message id="910131">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Elemente sind zu tief geschachtelt</translation>
+    </message>
+    <message id="910132">
+        <source></source>
+        <extracomment>Line, reason</extracomment>
+        <translation>Zeile %d: %s</translation>
+    </message>
+    <message id="910140">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Leitungen</translation>
+    </message>
+    <message id="910141">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Achsen</translation>
+    </message>
+    <message id="910142">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="910143">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Texte</translation>
+    </message>
+    <message id="910144">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Flächen</translation>
+    </message>
+    <message id="910145">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>temporäre Flächen</translation>
+    </message>
+    <message id="910146">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Punkte</translation>
+    </message>
+    <message id="910147">
+        <source></source>
+        <extracomment>Name of a layer, after the system's</extracomment>
+        <translation>Schema</translation>
+    </message>
+    <message id="910200">
+        <source></source>
+        <extracomment>Why a command cannot run</extracomment>
+        <translation>Kein Modul führt ihn aus</translation>
+    </message>
+    <message id="910201">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s: keine Modulliste; es werden keine Module geladen.</translation>
+    </message>
+    <message id="911000">
+        <source></source>
+        <translation>Keine nutzbare Anzeige; stattdessen startet die Konsole.</translation>
+    </message>
+    <message id="911001">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Der Einstellungsordner kann nicht angelegt werden: %s</translation>
+    </message>
+    <message id="911002">
+        <source></source>
+        <extracomment>First line of a run</extracomment>
+        <translation>Tessaly. HELP listet die Befehle auf, QUIT beendet das Programm.</translation>
+    </message>
+    <message id="911003">
+        <source></source>
+        <extracomment>Answer to --help</extracomment>
+        <translation>tessaly [--console] [Optionen] [Zeichnung]
+  Zeichnung       ein GeoPackage (.gpkg), das beim Start geöffnet wird
+  --console       Befehlszeile auf Standardeingabe und -ausgabe
+  --script DATEI  führt die Befehle einer Datei aus, einen je Zeile, und endet mit
+                  dem Status des ersten Befehls, der fehlschlägt
+  --first DATEI   führt die Befehle einer Datei aus und macht dann an der
+                  Eingabeaufforderung weiter
+  --snapshot DATEI  speichert ohne Anzeige ein Bild des Desktops und endet
+  --transcript DATEI  schreibt den Text der Befehlszeile des Desktops in eine Datei
+  --theme NAME    light (hell) oder dark (dunkel), unabhängig vom System
+  --trace DATEI   schreibt das Entwicklerprotokoll in eine Datei
+  --support ORDNER  der Ordner der Benutzereinstellungen
+  --install ORDNER  der Ordner der Module
+</translation>
+    </message>
+    <message id="911004">
+        <source></source>
+        <extracomment>Option</extracomment>
+        <translation>%s verlangt einen Wert</translation>
+    </message>
+    <message id="911005">
+        <source></source>
+        <extracomment>Option</extracomment>
+        <translation>%s: unbekannte Option</translation>
+    </message>
+    <message id="911006">
+        <source></source>
+        <extracomment>Argument</extracomment>
+        <translation>%s: Es kann nur eine Zeichnung angegeben werden</translation>
+    </message>
+    <message id="911007">
+        <source></source>
+        <extracomment>Value of the option</extracomment>
+        <translation>--theme %s: Möglich sind light und dark</translation>
+    </message>
+    <message id="911010">
+        <source></source>
+        <extracomment>Follows the name of a command and a colon</extracomment>
+        <translation>er fragt weiter, obwohl die Eingabe zu Ende ist</translation>
+    </message>
+    <message id="911011">
+        <source></source>
+        <extracomment>Follows the name of a command and a colon</extracomment>
+        <translation>unbekannte Ausnahme</translation>
+    </message>
+    <message id="911012">
+        <source></source>
+        <extracomment>Command or module, reason</extracomment>
+        <translation>%s ist fehlgeschlagen: %s</translation>
+    </message>
+    <message id="911013">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Nicht geladen: %s</translation>
+    </message>
+    <message id="911014">
+        <source></source>
+        <extracomment>File, line, command</extracomment>
+        <translation>%s:%d: angehalten bei „%s“</translation>
+    </message>
+    <message id="911015">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>Unbekannter Befehl „%s“. HELP listet die Befehle auf.</translation>
+    </message>
+    <message id="911020">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Datei</translation>
+    </message>
+    <message id="911021">
+        <source></source>
+        <translation>Die Zeichnung wurde nicht gespeichert.</translation>
+    </message>
+    <message id="911022">
+        <source></source>
+        <extracomment>Progress; file</extracomment>
+        <translation>%s wird geschrieben</translation>
+    </message>
+    <message id="911023">
+        <source></source>
+        <extracomment>Progress; file</extracomment>
+        <translation>%s wird gelesen</translation>
+    </message>
+    <message id="911024">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>Gespeichert: %s</translation>
+    </message>
+    <message id="911025">
+        <source></source>
+        <extracomment>Question; file</extracomment>
+        <translation>%s ist bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message id="911026">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s bleibt unverändert.</translation>
+    </message>
+    <message id="911027">
+        <source></source>
+        <extracomment>Question; drawing</extracomment>
+        <translation>Änderungen an %s speichern?</translation>
+    </message>
+    <message id="911028">
+        <source></source>
+        <extracomment>Drawing</extracomment>
+        <translation>Die aktuelle Zeichnung ist %s.</translation>
+    </message>
+    <message id="911030">
+        <source></source>
+        <translation>Es wurde nichts geöffnet.</translation>
+    </message>
+    <message id="911031">
+        <source></source>
+        <translation>Die Zeichnung bleibt geöffnet.</translation>
+    </message>
+    <message id="911032">
+        <source></source>
+        <extracomment>Drawing</extracomment>
+        <translation>%s wird gerade von einem Befehl benutzt.</translation>
+    </message>
+    <message id="911033">
+        <source></source>
+        <extracomment>Drawing</extracomment>
+        <translation>%s ist geschlossen.</translation>
+    </message>
+    <message id="911034">
+        <source></source>
+        <extracomment>Follows the name of a drawing</extracomment>
+        <translation>, geändert</translation>
+    </message>
+    <message id="911035">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>Es gibt keine Zeichnung „%s“. DRAWINGS listet sie auf.</translation>
+    </message>
+    <message id="911036">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Mehrere Zeichnungen heißen %s. Geben Sie die Nummer an.</translation>
+    </message>
+    <message id="911037">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Zeichnung (Nummer oder Name)</translation>
+    </message>
+    <message id="911038">
+        <source></source>
+        <extracomment>Name of a command</extracomment>
+        <translation>Rückgängig gemacht: %s</translation>
+    </message>
+    <message id="911039">
+        <source></source>
+        <extracomment>Name of a command</extracomment>
+        <translation>Wiederhergestellt: %s</translation>
+    </message>
+    <message id="911040">
+        <source></source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message id="911041">
+        <source></source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message id="911042">
+        <source></source>
+        <extracomment>In place of a command's name</extracomment>
+        <translation>eine Änderung</translation>
+    </message>
+    <message id="911043">
+        <source></source>
+        <translation>Nicht möglich, solange ein Befehl läuft.</translation>
+    </message>
+    <message id="911044">
+        <source></source>
+        <extracomment>Drawing</extracomment>
+        <translation>%s ist bereits geöffnet.</translation>
+    </message>
+    <message id="911045">
+        <source></source>
+        <extracomment>Drawing, count</extracomment>
+        <translation>%s: %d Objekte.</translation>
+    </message>
+    <message id="911046">
+        <source></source>
+        <extracomment>Drawing</extracomment>
+        <translation>%s hat nicht gespeicherte Änderungen.</translation>
+    </message>
+    <message id="911047">
+        <source></source>
+        <extracomment>Count</extracomment>
+        <translation>... und %d weitere Warnungen.</translation>
+    </message>
+    <message id="911050">
+        <source></source>
+        <translation>Die Konsole hat keine Ansicht der Zeichnung.</translation>
+    </message>
+    <message id="911051">
+        <source></source>
+        <extracomment>Prompt, a position in the drawing is asked for</extracomment>
+        <translation>Objekt wählen: </translation>
+    </message>
+    <message id="911052">
+        <source></source>
+        <translation>Es wurde kein Objekt gewählt.</translation>
+    </message>
+    <message id="911053">
+        <source></source>
+        <translation>Das Objekt hat keine Lage.</translation>
+    </message>
+    <message id="911054">
+        <source></source>
+        <extracomment>Prompt; the choices follow</extracomment>
+        <translation>Zoomfaktor wie 2 oder 0.5, oder</translation>
+    </message>
+    <message id="911055">
+        <source></source>
+        <extracomment>Choice of ZOOM</extracomment>
+        <translation>Alles</translation>
+    </message>
+    <message id="911056">
+        <source></source>
+        <extracomment>Choice of ZOOM</extracomment>
+        <translation>Objekt</translation>
+    </message>
+    <message id="911057">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>„%s“ ist weder eine Auswahl noch ein Zoomfaktor.</translation>
+    </message>
+    <message id="911060">
+        <source></source>
+        <extracomment>Layer and counts</extracomment>
+        <translation>%s: %d Punkte, %d Linien, %d Flächen</translation>
+    </message>
+    <message id="911061">
+        <source></source>
+        <extracomment>Layer, its coordinate system, the drawing's</extracomment>
+        <translation>%s: Das Koordinatensystem ist %s, das der Zeichnung %s; Lagen werden nicht umgerechnet</translation>
+    </message>
+    <message id="911062">
+        <source></source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message id="911063">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s: enthält nichts, was sich zeichnen lässt</translation>
+    </message>
+    <message id="911064">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>Importiert aus %s:</translation>
+    </message>
+    <message id="911065">
+        <source></source>
+        <extracomment>In place of a coordinate system's name</extracomment>
+        <translation>unbekannt</translation>
+    </message>
+    <message id="911070">
+        <source></source>
+        <translation>Das Programm bleibt geöffnet.</translation>
+    </message>
+    <message id="911071">
+        <source></source>
+        <translation>Nicht beendet: Ein Modul verweigert das Beenden.</translation>
+    </message>
+    <message id="911072">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Moduldatei</translation>
+    </message>
+    <message id="911073">
+        <source></source>
+        <translation>Es wurde nichts geladen.</translation>
+    </message>
+    <message id="911074">
+        <source></source>
+        <extracomment>Module file</extracomment>
+        <translation>%s geladen.</translation>
+    </message>
+    <message id="911080">
+        <source></source>
+        <extracomment>What HELP does</extracomment>
+        <translation>listet die Befehle auf; HELP NAME erläutert einen</translation>
+    </message>
+    <message id="911081">
+        <source></source>
+        <extracomment>What APPLOAD does</extracomment>
+        <translation>lädt ein Modul</translation>
+    </message>
+    <message id="911082">
+        <source></source>
+        <extracomment>What QUIT does</extracomment>
+        <translation>beendet das Programm</translation>
+    </message>
+    <message id="911083">
+        <source></source>
+        <extracomment>What OPEN does</extracomment>
+        <translation>öffnet eine Zeichnung</translation>
+    </message>
+    <message id="911084">
+        <source></source>
+        <extracomment>What NEW does</extracomment>
+        <translation>legt eine neue Zeichnung an</translation>
+    </message>
+    <message id="911085">
+        <source></source>
+        <extracomment>What SAVE does</extracomment>
+        <translation>speichert die Zeichnung in ihre Datei</translation>
+    </message>
+    <message id="911086">
+        <source></source>
+        <extracomment>What SAVEAS does</extracomment>
+        <translation>speichert die Zeichnung in eine andere Datei</translation>
+    </message>
+    <message id="911087">
+        <source></source>
+        <extracomment>What CLOSE does</extracomment>
+        <translation>schließt die Zeichnung</translation>
+    </message>
+    <message id="911088">
+        <source></source>
+        <extracomment>What DRAWINGS does</extracomment>
+        <translation>listet die geöffneten Zeichnungen auf</translation>
+    </message>
+    <message id="911089">
+        <source></source>
+        <extracomment>What SWITCH does</extracomment>
+        <translation>wechselt zu einer anderen geöffneten Zeichnung</translation>
+    </message>
+    <message id="911090">
+        <source></source>
+        <extracomment>What UNDO does</extracomment>
+        <translation>macht den letzten Befehl rückgängig</translation>
+    </message>
+    <message id="911091">
+        <source></source>
+        <extracomment>What REDO does</extracomment>
+        <translation>stellt wieder her, was UNDO rückgängig gemacht hat</translation>
+    </message>
+    <message id="911092">
+        <source></source>
+        <extracomment>What IMPORT does</extracomment>
+        <translation>importiert eine Datei eines anderen Programms</translation>
+    </message>
+    <message id="911093">
+        <source></source>
+        <extracomment>What ZOOM does</extracomment>
+        <translation>zoomt die Ansicht</translation>
+    </message>
+    <message id="911094">
+        <source></source>
+        <extracomment>What REDRAW does</extracomment>
+        <translation>zeichnet die Ansicht neu und entfernt Markierungen</translation>
+    </message>
+    <message id="911100">
+        <source></source>
+        <extracomment>Reason, after a file name and a colon</extracomment>
+        <translation>beschädigt: Tabelle orv_meta nennt keine Version</translation>
+    </message>
+    <message id="911101">
+        <source></source>
+        <extracomment>Reason; version of the file, highest version</extracomment>
+        <translation>von einem neueren Programm geschrieben: Version %d, dieses Programm liest Versionen bis %d</translation>
+    </message>
+    <message id="911102">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>beschädigt: Die eigenen Tabellen sind nicht lesbar</translation>
+    </message>
+    <message id="911103">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>beschädigt: Tabelle orv_meta nennt eine ungültige nächste Nummer</translation>
+    </message>
+    <message id="911104">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das Speichern wurde abgebrochen</translation>
+    </message>
+    <message id="911105">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Zeichnung hat mehr Objekte, als eine Datei aufnehmen kann</translation>
+    </message>
+    <message id="911106">
+        <source></source>
+        <extracomment>Reason; object, layer</extracomment>
+        <translation>Objekt %d auf Layer „%s“ hat eine ungültige Lage</translation>
+    </message>
+    <message id="911107">
+        <source></source>
+        <extracomment>Count</extracomment>
+        <translation>%d Objekte nicht unterstützter Typen wurden nicht gespeichert</translation>
+    </message>
+    <message id="911108">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie wurde durch eine andere oder ältere Datei ersetzt</translation>
+    </message>
+    <message id="911109">
+        <source></source>
+        <extracomment>Warning, after a file name and a colon</extracomment>
+        <translation>ein anderes Programm hat sie seit dem Öffnen geändert; dessen übrige Änderungen bleiben erhalten und erscheinen beim nächsten Öffnen</translation>
+    </message>
+    <message id="911110">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>der Ordner existiert nicht</translation>
+    </message>
+    <message id="911111">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message id="911112">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>der Arbeitsspeicher reicht nicht aus</translation>
+    </message>
+    <message id="911113">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Zeichnung stammt nicht aus dieser Datei</translation>
+    </message>
+    <message id="911114">
+        <source></source>
+        <extracomment>Reason and what it means</extracomment>
+        <translation>%s; der übrige Inhalt der Datei wurde nicht kopiert</translation>
+    </message>
+    <message id="911115">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein anderes Programm hat sie gesperrt</translation>
+    </message>
+    <message id="911116">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message id="911117">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist schreibgeschützt</translation>
+    </message>
+    <message id="911118">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie kann nicht geöffnet werden, oder in den Ordner kann nicht geschrieben werden</translation>
+    </message>
+    <message id="911119">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist beschädigt</translation>
+    </message>
+    <message id="911120">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist beschädigt oder kein GeoPackage</translation>
+    </message>
+    <message id="911121">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Lesen oder Schreiben auf dem Datenträger ist fehlgeschlagen</translation>
+    </message>
+    <message id="911122">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist beschädigt oder von unbekannter Art</translation>
+    </message>
+    <message id="911123">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das Lesen wurde abgebrochen</translation>
+    </message>
+    <message id="911124">
+        <source></source>
+        <extracomment>Table, count, why, number of a row</extracomment>
+        <translation>%s: %d Zeilen übersprungen: %s (die erste ist Zeile %d)</translation>
+    </message>
+    <message id="911125">
+        <source></source>
+        <extracomment>Why rows are skipped</extracomment>
+        <translation>die Geometrie passt nicht zur Tabelle</translation>
+    </message>
+    <message id="911126">
+        <source></source>
+        <extracomment>Why rows are skipped</extracomment>
+        <translation>keine Geometrie</translation>
+    </message>
+    <message id="911127">
+        <source></source>
+        <extracomment>Why rows are skipped, or a file is refused</extracomment>
+        <translation>ungültige Lage</translation>
+    </message>
+    <message id="911128">
+        <source></source>
+        <extracomment>Table, column</extracomment>
+        <translation>%s: Spalte %s enthält Binärdaten</translation>
+    </message>
+    <message id="911129">
+        <source></source>
+        <extracomment>Table</extracomment>
+        <translation>%s: Das Koordinatensystem ist nicht das der Zeichnung</translation>
+    </message>
+    <message id="911130">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message id="911131">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message id="911132">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist leer</translation>
+    </message>
+    <message id="911133">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist kein GeoPackage (IMPORT liest andere Dateien)</translation>
+    </message>
+    <message id="911134">
+        <source></source>
+        <extracomment>Reason; size, size it should have</extracomment>
+        <translation>sie ist abgeschnitten: %d von %d Bytes</translation>
+    </message>
+    <message id="911135">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>der Ordner ist schreibgeschützt</translation>
+    </message>
+    <message id="911136">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie wurde beim Kopieren abgeschnitten</translation>
+    </message>
+    <message id="911137">
+        <source></source>
+        <extracomment>Reason; reason of that</extracomment>
+        <translation>ein unvollendeter Schreibvorgang muss erst zurückgenommen werden, was fehlschlug: %s</translation>
+    </message>
+    <message id="911138">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein anderes Programm hat sie geöffnet</translation>
+    </message>
+    <message id="911140">
+        <source></source>
+        <extracomment>Layer</extracomment>
+        <translation>%s: Texte werden nicht importiert</translation>
+    </message>
+    <message id="911141">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist abgeschnitten</translation>
+    </message>
+    <message id="911142">
+        <source></source>
+        <extracomment>Layer, count</extracomment>
+        <translation>%s: %d Zeilen ohne Geometrie übersprungen</translation>
+    </message>
+    <message id="911143">
+        <source></source>
+        <extracomment>Layer, row, reason</extracomment>
+        <translation>Layer „%s“, Zeile %d: %s</translation>
+    </message>
+    <message id="911144">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist beschädigt oder ein binäres DXF</translation>
+    </message>
+    <message id="911145">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie kann nicht geöffnet werden</translation>
+    </message>
+    <message id="911146">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist abgeschnitten: Die letzte Zeile ist nicht EOF</translation>
+    </message>
+    <message id="911150">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Programm</translation>
+    </message>
+    <message id="911151">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message id="911152">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="911153">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Ansicht</translation>
+    </message>
+    <message id="911154">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Diagnose</translation>
+    </message>
+    <message id="911155">
+        <source></source>
+        <extracomment>Why a command cannot run</extracomment>
+        <translation>Jetzt nicht ausführbar: %s.</translation>
+    </message>
+    <message id="911156">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>Es gibt keinen Befehl „%s“. HELP listet die Befehle auf.</translation>
+    </message>
+    <message id="911157">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Die Hilfe konnte nicht geöffnet werden: %s</translation>
+    </message>
+    <message id="911158">
+        <source></source>
+        <extracomment>Why a command cannot run</extracomment>
+        <translation>Keine Zeichnung ist geöffnet</translation>
+    </message>
+    <message id="911159">
+        <source></source>
+        <extracomment>Module, reason</extracomment>
+        <translation>%s wurde nicht geladen: %s</translation>
+    </message>
+    <message id="911300">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="911301">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message id="911302">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message id="911303">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message id="911304">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message id="911305">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message id="911306">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message id="911307">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="911308">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="911309">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message id="911310">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message id="911311">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message id="911312">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Auf &amp;alles zoomen</translation>
+    </message>
+    <message id="911313">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message id="911314">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Nä&amp;chstes Fenster</translation>
+    </message>
+    <message id="911315">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Vo&amp;riges Fenster</translation>
+    </message>
+    <message id="911316">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Alle Fenster &amp;hierher holen</translation>
+    </message>
+    <message id="911317">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Farb&amp;schema</translation>
+    </message>
+    <message id="911318">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message id="911319">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message id="911320">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message id="911321">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message id="911322">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Befehls&amp;palette …</translation>
+    </message>
+    <message id="911323">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>Zur Befehls&amp;zeile</translation>
+    </message>
+    <message id="911324">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="911325">
+        <source></source>
+        <extracomment>Menu</extracomment>
+        <translation>&amp;Befehle</translation>
+    </message>
+    <message id="911326">
+        <source></source>
+        <extracomment>Menu; title of a pane</extracomment>
+        <translation>%s andocken</translation>
+    </message>
+    <message id="911327">
+        <source></source>
+        <extracomment>Menu; title of a pane</extracomment>
+        <translation>%s ablösen</translation>
+    </message>
+    <message id="911330">
+        <source></source>
+        <extracomment>Title of a pane, and name of its input</extracomment>
+        <translation>Befehlszeile</translation>
+    </message>
+    <message id="911331">
+        <source></source>
+        <extracomment>Button beside the progress bar</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="911332">
+        <source></source>
+        <extracomment>Name of a text area</extracomment>
+        <translation>Meldungen</translation>
+    </message>
+    <message id="911333">
+        <source></source>
+        <extracomment>In an empty input</extracomment>
+        <translation>Befehl eingeben oder Strg+Umschalt+P drücken</translation>
+    </message>
+    <message id="911334">
+        <source></source>
+        <extracomment>Name of a list of commands</extracomment>
+        <translation>Befehlspalette</translation>
+    </message>
+    <message id="911335">
+        <source></source>
+        <extracomment>In an empty input</extracomment>
+        <translation>Name oder Beschreibung eines Befehls</translation>
+    </message>
+    <message id="911336">
+        <source></source>
+        <extracomment>Name of an input</extracomment>
+        <translation>Suche</translation>
+    </message>
+    <message id="911337">
+        <source></source>
+        <extracomment>Name of a list</extracomment>
+        <translation>Befehle</translation>
+    </message>
+    <message id="911338">
+        <source></source>
+        <extracomment>Name of the tabs</extracomment>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message id="911339">
+        <source></source>
+        <extracomment>Title of a dialog</extracomment>
+        <translation>Zeichnung öffnen</translation>
+    </message>
+    <message id="911340">
+        <source></source>
+        <extracomment>Title of a dialog</extracomment>
+        <translation>Zeichnung speichern unter</translation>
+    </message>
+    <message id="911341">
+        <source></source>
+        <extracomment>Title of a dialog</extracomment>
+        <translation>Datei importieren</translation>
+    </message>
+    <message id="911342">
+        <source></source>
+        <extracomment>Kinds of files in a dialog, followed by a pattern</extracomment>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message id="911343">
+        <source></source>
+        <extracomment>In place of an answer</extracomment>
+        <translation>*Abbruch*</translation>
+    </message>
+    <message id="911344">
+        <source></source>
+        <extracomment>In place of an answer</extracomment>
+        <translation>*Dort ist nichts*</translation>
+    </message>
+    <message id="911345">
+        <source></source>
+        <extracomment>Name of the view</extracomment>
+        <translation>Zeichnung</translation>
+    </message>
+    <message id="911350">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Fensteranordnung konnte nicht gespeichert werden: %s</translation>
+    </message>
+    <message id="911351">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist abgeschnitten oder von einer anderen Version geschrieben</translation>
+    </message>
+    <message id="911352">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie enthält einen ungültigen Wert</translation>
+    </message>
+    <message id="911353">
+        <source></source>
+        <extracomment>File, reason</extracomment>
+        <translation>%s: Die Fensteranordnung wird nicht verwendet: %s</translation>
+    </message>
+    <message id="911354">
+        <source></source>
+        <extracomment>Warning</extracomment>
+        <translation>keine Schrift gefunden; Texte erscheinen als Kästchen</translation>
+    </message>
+    <message id="911355">
+        <source></source>
+        <extracomment>Warning</extracomment>
+        <translation>das Bildschirmfoto konnte nicht gespeichert werden</translation>
+    </message>
+    <message id="911356">
+        <source></source>
+        <extracomment>Kinds of files in a dialog, followed by a pattern</extracomment>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message id="912000">
+        <source></source>
+        <extracomment>Problem of a network file</extracomment>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message id="912001">
+        <source></source>
+        <extracomment>Problem of a network file</extracomment>
+        <translation>die Datei ist größer als 4 GB</translation>
+    </message>
+    <message id="912002">
+        <source></source>
+        <extracomment>Problem of a network file</extracomment>
+        <translation>die Datei ist in UTF-16; speichern Sie sie als UTF-8</translation>
+    </message>
+    <message id="912003">
+        <source></source>
+        <extracomment>Problem of a network file</extracomment>
+        <translation>die Datei hat keine Knoten</translation>
+    </message>
+    <message id="912004">
+        <source></source>
+        <extracomment>Problem of a network file</extracomment>
+        <translation>keine Netzdatei: Es fehlt der Abschnitt [JUNCTIONS] oder ein anderer mit Knoten</translation>
+    </message>
+    <message id="912006">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Datei kann nicht gelesen werden: %s</translation>
+    </message>
+    <message id="912007">
+        <source></source>
+        <extracomment>Count; ends a list</extracomment>
+        <translation>... und %u weitere</translation>
+    </message>
+    <message id="912010">
+        <source></source>
+        <extracomment>Heading, count, count needed, names of the columns</extracomment>
+        <translation>zu wenige Spalten in [%s]: %u statt %u (%s)</translation>
+    </message>
+    <message id="912011">
+        <source></source>
+        <extracomment>Kind of number, text</extracomment>
+        <translation>%s %s ist keine Zahl</translation>
+    </message>
+    <message id="912012">
+        <source></source>
+        <extracomment>Kind of number, text</extracomment>
+        <translation>%s %s ist größer als 1e15</translation>
+    </message>
+    <message id="912013">
+        <source></source>
+        <extracomment>Kind of number, text</extracomment>
+        <translation>%s %s ist negativ</translation>
+    </message>
+    <message id="912014">
+        <source></source>
+        <extracomment>Kind of entity, name, line</extracomment>
+        <translation>%s %s ist bereits in Zeile %u definiert</translation>
+    </message>
+    <message id="912020">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="912021">
+        <source></source>
+        <extracomment>Kind of entity</extracomment>
+        <translation>Leitung</translation>
+    </message>
+    <message id="912022">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>Höhe</translation>
+    </message>
+    <message id="912023">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>Druckhöhe</translation>
+    </message>
+    <message id="912024">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>Länge</translation>
+    </message>
+    <message id="912025">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>Durchmesser</translation>
+    </message>
+    <message id="912026">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>x-Koordinate</translation>
+    </message>
+    <message id="912027">
+        <source></source>
+        <extracomment>Kind of number</extracomment>
+        <translation>y-Koordinate</translation>
+    </message>
+    <message id="912030">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Koordinaten für den unbekannten Knoten %s</translation>
+    </message>
+    <message id="912031">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Knoten %s hat bereits Koordinaten; diese ersetzen sie</translation>
+    </message>
+    <message id="912032">
+        <source></source>
+        <translation>kein Knoten hat Koordinaten</translation>
+    </message>
+    <message id="912033">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Knoten %s hat keine Koordinaten und wurde weggelassen</translation>
+    </message>
+    <message id="912034">
+        <source></source>
+        <extracomment>Names of section and node</extracomment>
+        <translation>Leitung %s verweist auf den fehlenden Knoten %s</translation>
+    </message>
+    <message id="912035">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Profil für die unbekannte Leitung %s</translation>
+    </message>
+    <message id="912036">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Stützpunkt für die unbekannte Leitung %s</translation>
+    </message>
+    <message id="912037">
+        <source></source>
+        <extracomment>Name, count</extracomment>
+        <translation>Fläche %s hat nur %u Punkte und wurde weggelassen</translation>
+    </message>
+    <message id="912038">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Fläche für das unbekannte Teileinzugsgebiet %s</translation>
+    </message>
+    <message id="912039">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Kennzeichen für den unbekannten Knoten %s</translation>
+    </message>
+    <message id="912040">
+        <source></source>
+        <extracomment>Name</extracomment>
+        <translation>Kennzeichen für die unbekannte Leitung %s</translation>
+    </message>
+    <message id="912041">
+        <source></source>
+        <extracomment>Count, limit</extracomment>
+        <translation>die Zeile hat %u Zeichen, mehr als %u</translation>
+    </message>
+    <message id="912042">
+        <source></source>
+        <translation>die Zeile enthält ein Nullbyte, dies ist also keine Textdatei</translation>
+    </message>
+    <message id="912043">
+        <source></source>
+        <translation>Text vor dem ersten Abschnitt wird nicht beachtet</translation>
+    </message>
+    <message id="912044">
+        <source></source>
+        <extracomment>Heading</extracomment>
+        <translation>die Überschrift %s ist abgeschnitten</translation>
+    </message>
+    <message id="912045">
+        <source></source>
+        <extracomment>Heading</extracomment>
+        <translation>der unbekannte Abschnitt %s wird nicht beachtet</translation>
+    </message>
+    <message id="912050">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="912051">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Druckhöhe</translation>
+    </message>
+    <message id="912052">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Höhe</translation>
+    </message>
+    <message id="912053">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Anfangsknoten, Endknoten</translation>
+    </message>
+    <message id="912054">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Anfangsknoten, Endknoten, Länge, Durchmesser</translation>
+    </message>
+    <message id="912055">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Anfangsknoten, Endknoten, Durchmesser</translation>
+    </message>
+    <message id="912056">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Anfangsknoten, Endknoten, Länge</translation>
+    </message>
+    <message id="912057">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Knoten, x, y</translation>
+    </message>
+    <message id="912058">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, x, y</translation>
+    </message>
+    <message id="912059">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Name, Form</translation>
+    </message>
+    <message id="912060">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>x, y, Text</translation>
+    </message>
+    <message id="912061">
+        <source></source>
+        <extracomment>Columns of a file</extracomment>
+        <translation>Art, Name, Kennzeichen</translation>
+    </message>
+    <message id="912070">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="912071">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Leitungen</translation>
+    </message>
+    <message id="912072">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>gezeichnete Länge</translation>
+    </message>
+    <message id="912073">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>angegebene Länge</translation>
+    </message>
+    <message id="912074">
+        <source></source>
+        <extracomment>Length, count</extracomment>
+        <translation>%.2f, für %u Leitungen</translation>
+    </message>
+    <message id="912075">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Teilnetze</translation>
+    </message>
+    <message id="912076">
+        <source></source>
+        <extracomment>Counts</extracomment>
+        <translation>%u, das größte mit %u Knoten</translation>
+    </message>
+    <message id="912077">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Ausdehnung</translation>
+    </message>
+    <message id="912078">
+        <source></source>
+        <extracomment>Two corners</extracomment>
+        <translation>%.2f, %.2f bis %.2f, %.2f</translation>
+    </message>
+    <message id="912079">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Höhen</translation>
+    </message>
+    <message id="912080">
+        <source></source>
+        <extracomment>Lowest, highest</extracomment>
+        <translation>%.2f bis %.2f</translation>
+    </message>
+    <message id="912081">
+        <source></source>
+        <extracomment>Label in a report</extracomment>
+        <translation>Flächen</translation>
+    </message>
+    <message id="912082">
+        <source></source>
+        <extracomment>Sum of a check</extracomment>
+        <translation>keine Befunde</translation>
+    </message>
+    <message id="912085">
+        <source></source>
+        <extracomment>Kind of findings, followed by their count</extracomment>
+        <translation>isolierte Knoten</translation>
+    </message>
+    <message id="912086">
+        <source></source>
+        <extracomment>Kind of findings</extracomment>
+        <translation>deckungsgleiche Knoten</translation>
+    </message>
+    <message id="912087">
+        <source></source>
+        <extracomment>Kind of findings</extracomment>
+        <translation>Leitungen der Länge null</translation>
+    </message>
+    <message id="912088">
+        <source></source>
+        <extracomment>Kind of findings</extracomment>
+        <translation>Leitungen mit fehlendem Knoten</translation>
+    </message>
+    <message id="912089">
+        <source></source>
+        <extracomment>Kind of findings</extracomment>
+        <translation>parallele Leitungen</translation>
+    </message>
+    <message id="912090">
+        <source></source>
+        <extracomment>Kind of findings</extracomment>
+        <translation>Kreuzungen ohne Knoten</translation>
+    </message>
+    <message id="912095">
+        <source></source>
+        <extracomment>Finding; node</extracomment>
+        <translation>%s: isolierter Knoten, hier beginnt oder endet keine Leitung</translation>
+    </message>
+    <message id="912096">
+        <source></source>
+        <extracomment>Finding; nodes</extracomment>
+        <translation>%s: deckungsgleicher Knoten, liegt wie %s</translation>
+    </message>
+    <message id="912097">
+        <source></source>
+        <extracomment>Finding; section</extracomment>
+        <translation>%s: Leitung der Länge null</translation>
+    </message>
+    <message id="912098">
+        <source></source>
+        <extracomment>Finding; section</extracomment>
+        <translation>%s: ein Knoten fehlt</translation>
+    </message>
+    <message id="912099">
+        <source></source>
+        <extracomment>Finding; section, node</extracomment>
+        <translation>%s: verweist auf den fehlenden Knoten %s</translation>
+    </message>
+    <message id="912100">
+        <source></source>
+        <extracomment>Finding; section, nodes</extracomment>
+        <translation>%s: verweist auf die fehlenden Knoten %s und %s</translation>
+    </message>
+    <message id="912101">
+        <source></source>
+        <extracomment>Finding; sections</extracomment>
+        <translation>%s: parallele Leitung, verbindet dieselben Knoten wie %s</translation>
+    </message>
+    <message id="912102">
+        <source></source>
+        <extracomment>Finding; sections, place</extracomment>
+        <translation>%s: kreuzt %s ohne Knoten bei %s</translation>
+    </message>
+    <message id="912110">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message id="912111">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Vorratsbehälter</translation>
+    </message>
+    <message id="912112">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Behälter</translation>
+    </message>
+    <message id="912113">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Auslass</translation>
+    </message>
+    <message id="912114">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Speicher</translation>
+    </message>
+    <message id="912115">
+        <source></source>
+        <extracomment>Kind of node</extracomment>
+        <translation>Verteiler</translation>
+    </message>
+    <message id="912116">
+        <source></source>
+        <extracomment>Kind of node or section</extracomment>
+        <translation>Sonstige</translation>
+    </message>
+    <message id="912117">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Rohr</translation>
+    </message>
+    <message id="912118">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Pumpe</translation>
+    </message>
+    <message id="912119">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Ventil</translation>
+    </message>
+    <message id="912120">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Haltung</translation>
+    </message>
+    <message id="912121">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Wehr</translation>
+    </message>
+    <message id="912122">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Drossel</translation>
+    </message>
+    <message id="912123">
+        <source></source>
+        <extracomment>Kind of section</extracomment>
+        <translation>Ablauf</translation>
+    </message>
+    <message id="912130">
+        <source></source>
+        <translation>Die Zeichnung hat keine Netze. Mit NETWORK_IMPORT lässt sich eines importieren.</translation>
+    </message>
+    <message id="912131">
+        <source></source>
+        <extracomment>Follows the name of a system that is hidden</extracomment>
+        <translation>, aus</translation>
+    </message>
+    <message id="912132">
+        <source></source>
+        <translation>Die Zeichnung hat keine Systeme.</translation>
+    </message>
+    <message id="912140">
+        <source></source>
+        <extracomment>System and counts</extracomment>
+        <translation>%s: %u Knoten, %u Leitungen</translation>
+    </message>
+    <message id="912141">
+        <source></source>
+        <extracomment>System and count</extracomment>
+        <translation>%s: %u Flächen</translation>
+    </message>
+    <message id="912142">
+        <source></source>
+        <extracomment>Progress; file</extracomment>
+        <translation>%s wird importiert</translation>
+    </message>
+    <message id="912143">
+        <source></source>
+        <extracomment>Progress; system</extracomment>
+        <translation>%s wird eingefügt</translation>
+    </message>
+    <message id="912144">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Art des Netzes</translation>
+    </message>
+    <message id="912145">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Abstand, innerhalb dessen Leitungsenden einen Knoten teilen</translation>
+    </message>
+    <message id="912146">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s: enthält keine Punkte, Linien oder Flächen.</translation>
+    </message>
+    <message id="912148">
+        <source></source>
+        <extracomment>What was typed</extracomment>
+        <translation>„%s“ ist kein gültiger Abstand.</translation>
+    </message>
+    <message id="912149">
+        <source></source>
+        <extracomment>Count</extracomment>
+        <translation>%u der Knoten wurden an Leitungsenden erzeugt.</translation>
+    </message>
+    <message id="912150">
+        <source></source>
+        <extracomment>Prompt</extracomment>
+        <translation>Netzdatei</translation>
+    </message>
+    <message id="912151">
+        <source></source>
+        <translation>Keine Datei angegeben.</translation>
+    </message>
+    <message id="912152">
+        <source></source>
+        <extracomment>File</extracomment>
+        <translation>%s: Die Datei gibt es nicht.</translation>
+    </message>
+    <message id="912153">
+        <source></source>
+        <translation>Kein Name angegeben.</translation>
+    </message>
+    <message id="912154">
+        <source></source>
+        <translation>Der Import wurde abgebrochen.</translation>
+    </message>
+    <message id="912200">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ungültige Texthöhe</translation>
+    </message>
+    <message id="912201">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>zu einer Klammer fehlt die zweite</translation>
+    </message>
+    <message id="912202">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>es fehlt ein Attribut wie {NAME}</translation>
+    </message>
+    <message id="912203">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Zahl der Nachkommastellen muss eine einzelne Ziffer sein</translation>
+    </message>
+    <message id="912204">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein Attribut hat keinen Namen</translation>
+    </message>
+    <message id="912205">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das Attribut für die Höhe fehlt</translation>
+    </message>
+    <message id="912206">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>Farben müssen zwischen 1 und 255 liegen</translation>
+    </message>
+    <message id="912207">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Anzahl der Klassen muss zwischen 1 und 12 liegen</translation>
+    </message>
+    <message id="912208">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Klassengrenzen müssen aufsteigen</translation>
+    </message>
+    <message id="912209">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ungültige Klassen</translation>
+    </message>
+    <message id="912210">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das Attribut fehlt</translation>
+    </message>
+    <message id="912211">
+        <source></source>
+        <extracomment>Column of a longitudinal section, at most 12 characters</extracomment>
+        <translation>Station</translation>
+    </message>
+    <message id="912212">
+        <source></source>
+        <extracomment>Column of a longitudinal section, at most 10 characters</extracomment>
+        <translation>Gelände</translation>
+    </message>
+    <message id="912213">
+        <source></source>
+        <extracomment>Column of a longitudinal section, at most 10 characters</extracomment>
+        <translation>Sohle</translation>
+    </message>
+    <message id="912214">
+        <source></source>
+        <extracomment>Column of a longitudinal section, at most 9 characters</extracomment>
+        <translation>Gefälle</translation>
+    </message>
+    <message id="912215">
+        <source></source>
+        <extracomment>Column of a longitudinal section</extracomment>
+        <translation>Knoten</translation>
     </message>
     <message id="920001">
         <source></source>
@@ -1493,6 +3389,11 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Heading of commands</extracomment>
         <translation>Weitere Befehle</translation>
+    </message>
+    <message id="920015">
+        <source></source>
+        <extracomment>Heading of commands</extracomment>
+        <translation>Konfigurationen ausführen</translation>
     </message>
     <message id="930000">
         <source></source>

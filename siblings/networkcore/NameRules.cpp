@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win/CodePage.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/WholeNumber.h"
 
 namespace Orvane::Topology {
@@ -92,26 +93,22 @@ std::optional<NamePattern> NamePattern::Read(const CString& text) {
 }
 
 NameRules::NameRules(const IniFile& file, const wchar_t* fileName, std::vector<CString>& problems) {
-    const auto note = [&](int line, const wchar_t* reason, const CString& word) {
-        CString problem;
-        problem.Format(L"%s:%d: %s \"%s\"", fileName, line, reason, word);
-        problems.push_back(problem);
+    const auto note = [&](int line, GisMsg reason, const CString& word) {
+        problems.push_back(MessageText(reason, fileName, line, word));
     };
     for (const IniFile::Section& section : file.GetSections()) {
         const std::optional<Scope> scope = ReadScope(section.name);
         if (!scope) {
-            note(section.line, L"neither default nor a topology with or without a function:",
-                 section.name);
+            note(section.line, GisMsg::NotANameScope, section.name);
             continue;
         }
         for (const IniFile::Entry& entry : section.entries) {
             const enmEntityType type = TypeOf(entry.key);
             const std::optional<NamePattern> pattern = NamePattern::Read(entry.value);
             if (type == EntityNone) {
-                note(entry.line, L"neither node, section nor polygon:", entry.key);
+                note(entry.line, GisMsg::NotAnEntityType, entry.key);
             } else if (!pattern) {
-                note(entry.line, L"no name with one place for a number, as J%d or J%04d:",
-                     entry.value);
+                note(entry.line, GisMsg::NotANamePattern, entry.value);
             } else {
                 m_patterns.emplace(Key{scope->topology, scope->function, type}, *pattern);
             }

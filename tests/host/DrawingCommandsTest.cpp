@@ -64,9 +64,9 @@ TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
         {"OPEN\n@text.gpkg\n", "Nothing was opened."},
         {"OPEN\n", "Nothing was opened."},
         {"SAVE\n", "The drawing was not saved."},
-        {"SAVE\n@no-folder/plan\n", "its folder is not there"},
-        {"SAVEAS\n@plan\n", "plan.gpkg stays as it is."},
-        {"OPEN\n@plan\nNEW\nSAVEAS\n@plan\n", "another open drawing is kept in this file"},
+        {"SAVE\n@no-folder/plan\n", "its folder does not exist"},
+        {"SAVEAS\n@plan\n", "plan.gpkg was left unchanged."},
+        {"OPEN\n@plan\nNEW\nSAVEAS\n@plan\n", "the file belongs to another open drawing"},
         {"IMPORT\n@none.geojson\n", "Nothing was imported."},
         {"IMPORT\n@text.gpkg\n", "Nothing was imported."},
         {"UNDO\n", "There is nothing to undo."},
@@ -115,8 +115,8 @@ TEST_F(DrawingCommandsTest, AnImportIsOneStepOfTheHistory) {
 }
 
 TEST_F(DrawingCommandsTest, AnEmptyDrawingTakesTheCoordinateSystemOfAnImport) {
-    constexpr const char* kWarning = "metres: its coordinate system is ETRS89 / UTM zone 32N, that "
-                                     "of the drawing is WGS 84; positions are taken as they are\n";
+    constexpr const char* kWarning = "metres: its coordinate system is ETRS89 / UTM zone 32N, the "
+                                     "drawing's is WGS 84; positions are not converted\n";
     EXPECT_EQ(Script("IMPORT\n@town.geojson\nIMPORT\n@town.geojson\nSAVE\n@plan\n"), 0);
     EXPECT_FALSE(Printed("coordinate system")) << m_output;
     EXPECT_EQ(Script("OPEN\n@plan\nIMPORT\n@town.geojson\nIMPORT\n@metres.geojson\n"), 0);
@@ -133,7 +133,7 @@ TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
                                "NEW\nSAVE\n@other\ny\nDRAWINGS\n")),
               0);
     EXPECT_EQ(Count("exists. Replace it?"), 3) << "not for its own file: " << m_output;
-    EXPECT_TRUE(Printed("\"perhaps\" is none of the answers.\n")) << m_output;
+    EXPECT_TRUE(Printed("\"perhaps\" is not one of Yes/No.\n")) << m_output;
     EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << "as it was: " << m_output;
     EXPECT_TRUE(Printed(InFolder("*  3  @other.gpkg\n"))) << m_output;
 }
@@ -152,7 +152,7 @@ TEST_F(DrawingCommandsTest, ClosingAsksAboutChanges) {
         Run("", InFolder("OPEN\n@plan\nIMPORT\n@town.geojson\nCLOSE\n" + std::string(row.answer) +
                          "\nDRAWINGS\n"));
         EXPECT_EQ(Printed("plan.gpkg is closed."), row.isClosed) << row.answer << m_output;
-        EXPECT_EQ(Printed("plan.gpkg has changes that were not saved.\n"), !row.isClosed);
+        EXPECT_EQ(Printed("plan.gpkg has unsaved changes.\n"), !row.isClosed);
         Script("OPEN\n@plan\n");
         EXPECT_EQ(Printed("10 entities"), row.isSaved) << row.answer << m_output;
         std::filesystem::remove(m_folder / "plan.gpkg");
@@ -169,8 +169,8 @@ TEST_F(DrawingCommandsTest, LeavingAsksAboutEachDrawing) {
 
     EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\nn\nc\nHELP\n")), 0);
     EXPECT_TRUE(Printed("APPLOAD")) << "it stays: " << m_output;
-    EXPECT_TRUE(Printed("Drawing1 has changes that were not saved.\n"
-                        "Drawing3 has changes that were not saved.\n"))
+    EXPECT_TRUE(Printed("Drawing1 has unsaved changes.\n"
+                        "Drawing3 has unsaved changes.\n"))
         << m_output;
     EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\ny\n@no-folder/x\nHELP\n")), 0);
     EXPECT_TRUE(Printed("APPLOAD")) << "what cannot be saved is not thrown away: " << m_output;

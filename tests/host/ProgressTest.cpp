@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "host/Dialog.h"
 #include "host/HostCommands.h"
 #include "host/ImportCommand.h"
+#include "host/Prompts.h"
 #include "host/console/ConsolePort.h"
 #include "platform/arx/DbUndo.h"
 #include "tests/support/TestHost.h"

@@ -33,10 +33,11 @@ TEST_F(ProgramTest, ImportsLinesOfAnyFileAsANetwork) {
     m_folder.Write("pipes.geojson", R"({"type": "LineString", "coordinates": [[0, 0], [5, 1]]})");
     const std::string import = "NETWORK_IMPORT\n" + m_folder.Native("pipes.geojson") + "\nNet\n";
     EXPECT_EQ(RunScript(import + "sewer\n0.5\nNETWORK_STATS\n"), 0) << m_output;
-    EXPECT_TRUE(Printed("Net: 2 nodes, 1 sections.\n2 of the nodes were made where lines end."))
+    EXPECT_TRUE(
+        Printed("Net: 2 nodes, 1 sections.\n2 of the nodes were created at the ends of lines."))
         << m_output;
     EXPECT_TRUE(Printed("Net (Sewer)")) << m_output;
-    EXPECT_TRUE(Printed("one node <1e-06>: ")) << m_output;
+    EXPECT_TRUE(Printed("share a node <1e-06>: ")) << m_output;
     EXPECT_EQ(RunScript(import + "\n\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
     EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
     // In the text console each command is a step of its own.
@@ -78,7 +79,7 @@ TEST_F(ProgramTest, TheConsoleRunsInsideTheHost) {
 TEST_F(ProgramTest, TheEndOfTheInputEndsEveryPrompt) {
     EXPECT_EQ(Run("", "test\nlist\n"), 0) << "the console is told to quit";
     EXPECT_EQ(Run("", "NETWORK_IMPORT\n"), 0);
-    EXPECT_TRUE(Printed("nothing was imported")) << m_output;
+    EXPECT_TRUE(Printed("Nothing was imported")) << m_output;
 }
 
 TEST_F(ProgramTest, WritesATraceOnlyWhenAsked) {
@@ -139,7 +140,7 @@ TEST_F(ProgramTest, WhatAPluginThrowsCostsNoWork) {
                                "\nCLOSE\nNEW\nNEW\nCLOSE\nDRAWINGS\nQUIT\n"),
               0);
     for (const char* line : {
-             "Throws.arx: THROW_NUMBER failed: an exception without a text",
+             "Throws.arx: THROW_NUMBER failed: unknown exception",
              "Throws.arx: OnAfterCommandCompleted failed: after the command",
              "Throws.arx: OnBeginSaveAcadDocument failed: begin of save",
              "Throws.arx: OnSaveCompletedAcadDocument failed: end of save",
@@ -161,7 +162,7 @@ TEST_F(ProgramTest, AScriptNamesTheCommandThatThrewInsideTheTextConsole) {
     m_folder.Write("script.scr", "NEW\ntest\nlist\nthrow_hidden\nexit\nNEW\n");
     EXPECT_EQ(Run(install + " --script " + m_folder.Native("script.scr")), 1);
     EXPECT_TRUE(Printed("THROW_HIDDEN (throws)")) << "the console lists hidden commands";
-    EXPECT_TRUE(Printed("Throws.arx: THROW_HIDDEN failed: an exception")) << m_output;
+    EXPECT_TRUE(Printed("Throws.arx: THROW_HIDDEN failed: unknown exception")) << m_output;
     EXPECT_TRUE(Printed("script.scr:4: stopped at \"THROW_HIDDEN\"")) << m_output;
 }
 
@@ -169,7 +170,7 @@ TEST_F(ProgramTest, HelpListsByPurposeAndExplainsOneAndHiddenCommandsAreNoneOfTh
     EXPECT_EQ(RunScript("HELP\nHELP zoom\nhelp system_edit\n"), 0) << m_output;
     std::size_t at = 0;
     for (const char* text : {"Program\n  HELP ", "\nDrawings\n  OPEN ", "\nCreate\n",
-                             "ZOOM (View)\n  shows more", "SYSTEM_EDIT (Edit)\n  "}) {
+                             "ZOOM (View)\n  zooms the view", "SYSTEM_EDIT (Edit)\n  "}) {
         at = m_output.find(text, at);
         EXPECT_NE(at, std::string::npos) << text << " in " << m_output;
     }
@@ -191,7 +192,7 @@ TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {
          {"QT_QPA_PLATFORM= DISPLAY=:4711 WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=xcb DISPLAY=:4711",
           "QT_QPA_PLATFORM= DISPLAY= WAYLAND_DISPLAY=/tmp/nobody-listens-here"}) {
         EXPECT_EQ(RunIn(environment, "", "DRAWINGS\n"), 0) << environment;
-        EXPECT_TRUE(Printed("There is no display")) << environment << m_output;
+        EXPECT_TRUE(Printed("No usable display")) << environment << m_output;
         EXPECT_TRUE(Printed("Drawing1")) << environment << m_output;
     }
 }
@@ -206,6 +207,27 @@ TEST_F(ProgramTest, APictureIsDrawnThoughAScriptLeavesPromptsOpen) {
     EXPECT_GT(m_folder.Read("desktop.png").size(), 1000u);
 }
 
+TEST_F(ProgramTest, SpeaksTheLanguageOfTheSettingsFromItsFirstLineOn) {
+    m_folder.Write("network.inp", "[JUNCTIONS]\nA 1\nB x\n[COORDINATES]\nA 0 0\nB 1 1\n");
+    std::filesystem::create_directories(m_folder.Native("support"));
+    m_folder.Write("support/Settings.ini", "[General]\nlanguage=de\n");
+    Run("--help");
+    EXPECT_TRUE(Printed("Befehlszeile auf Standardeingabe")) << m_output;
+    Run("--no-such-option");
+    EXPECT_TRUE(Printed("unbekannte Option")) << m_output;
+    const std::string plan = m_folder.Native("plan");
+    Run("", "OPEN\n/no/such/file\nNETWORK_IMPORT\n" + m_folder.Native("network.inp") +
+                "\nN\nSYSTEM_ADD\nS\n1\n1\nSAVE\n" + plan + "\nSAVEAS\n" + plan +
+                "\nSYSTEM_DEL\nS\nj\nCLOSE\n_n\nUNDO\nNO_SUCH\n");
+    for (const char* const text :
+         {"Tessaly. HELP listet", "die Datei gibt es nicht", "Es wurde nichts geöffnet.",
+          ":3: Höhe \"x\" ist keine Zahl", "S löschen? [Ja/Nein] <Nein>: j", "S wurde gelöscht.",
+          "Änderungen an plan.gpkg speichern? [Ja/Nein/Abbrechen] <Abbrechen>: _n",
+          "plan.gpkg ist geschlossen.", "Unbekannter Befehl „NO_SUCH“"}) {
+        EXPECT_TRUE(Printed(text)) << text << "\n" << m_output;
+    }
+}
+
 TEST(Options, AreReadOrRefused) {
     const struct {
         std::vector<std::string> arguments;
@@ -213,17 +235,17 @@ TEST(Options, AreReadOrRefused) {
     } cases[] = {
         {{}, L""},
         {{"--console", "--script", "a.scr", "--trace", "t"}, L""},
-        {{"--script"}, L"--script wants a value"},
-        {{"--support", ""}, L"--support wants a value"},
-        {{"--konsole"}, L"--konsole: no such option"},
+        {{"--script"}, L"--script requires a value"},
+        {{"--support", ""}, L"--support requires a value"},
+        {{"--konsole"}, L"--konsole: unknown option"},
         {{"--console", "plan.gpkg", "--trace", "t"}, L""},
-        {{"plan.gpkg", "b.gpkg"}, L"b.gpkg: only one drawing can be named"},
-        {{""}, L": no such option"},
+        {{"plan.gpkg", "b.gpkg"}, L"b.gpkg: only one drawing can be given"},
+        {{""}, L": unknown option"},
         {{"--theme", "dark"}, L""},
         {{"--theme", "pink"}, L"--theme pink: it can be light or dark"},
     };
     for (const auto& row : cases) {
-        EXPECT_EQ(ReadOptions(row.arguments).error, row.error);
+        EXPECT_EQ(ReadOptions(row.arguments).Error(), row.error);
     }
     EXPECT_EQ(*ReadOptions({"--script", "\xC3\xA8.scr"}).options.script, L"\u00E8.scr");
     EXPECT_EQ(ReadOptions({"\xC3\xA8.gpkg"}).options.drawing, L"\u00E8.gpkg");

@@ -34,6 +34,36 @@ TEST(Prompt, PrintedTextsAreFormatted) {
     EXPECT_EQ(host.Output(), "\nLänge: 3%d");
 }
 
+TEST(Prompt, AChoiceIsFoundByKeywordTextOrWhatOnlyOneBeginsWith) {
+    const ChoicePrompt prompt{
+        L"Match", {{L"All", L"Alle"}, {L"Any", L"Eine"}, {L"No", L"Nein"}, {L"Even", L"A"}}, 1};
+    EXPECT_EQ(PromptText(prompt).Str(), L"Match [Alle/Eine/Nein/A] <Eine>: ");
+    constexpr int kNone = -1;
+    const std::pair<const wchar_t*, int> cases[] = {
+        {L"", 1},    {L"  ", 1},        {L"all", 0},   {L"_all", 0},   {L"ALLE", 0},
+        {L"any", 1}, {L" _Any ", 1},    {L"ei", 1},    {L"ein", 1},    {L"ne", 2},
+        {L"n", 2},   {L"_n", 2},        {L"a", 3},     {L"_a", kNone}, {L"_al", 0},
+        {L"ev", 3},  {L"_eine", kNone}, {L"_", kNone}, {L"x", kNone},  {L"allesamt", kNone},
+    };
+    for (const auto& [answer, choice] : cases) {
+        EXPECT_EQ(static_cast<int>(FindChoice(prompt, answer).value_or(kNone)), choice) << answer;
+    }
+}
+
+TEST(Prompt, AnAnswerThatIsNotAChoiceIsReportedOnce) {
+    TestHost host;
+    host.Answer({L"perhaps", L"y", L"\x1B", L"", L"2.5"});
+    EXPECT_FALSE(acedAskYes(L"Replace it?"));
+    EXPECT_EQ(host.TakeOutput(), "Replace it? [Yes/No] <No>: \"perhaps\" is not one of Yes/No.\n");
+    EXPECT_TRUE(acedAskYes(L"?"));
+    EXPECT_FALSE(acedAskYes(L"?"));
+    EXPECT_FALSE(acedAskYes(L"?"));
+    std::size_t choice = 7;
+    CString other;
+    EXPECT_EQ(acedGetChoice({L"Factor or", {YesChoice()}, 0, true}, choice, other), RTERROR);
+    EXPECT_EQ(other.Str(), L"2.5");
+}
+
 TEST(Activity, AnExceptionNamesTheInnermostActivity) {
     EXPECT_TRUE(TakeInterruptedActivity().IsEmpty());
     try {

@@ -139,7 +139,7 @@ TEST(GeneralSettings, AKnownNumberThatIsNoneIsAProblem) {
     const std::vector<CString> problems = Configuration().GetProblems();
     ASSERT_EQ(problems.size(), 2U);
     EXPECT_NE(problems[0].Find(L"Settings.ini:4: "), -1);
-    EXPECT_NE(problems[1].Find(L"Settings.ini:3: \"often\" is no whole number"), -1);
+    EXPECT_NE(problems[1].Find(L"Settings.ini:3: \"often\" is not a whole number"), -1);
 }
 
 TEST(GeneralSettings, AReloadTellsTheObserversOnceTheNewValuesAreThere) {

@@ -110,17 +110,17 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
         {"A1.xml", QueryText("A1", "good"), ""},
         {"b2.xml", QueryText("B2", "also good"), ""},
         {"B2.xml", QueryText("b2", "twice"), ""},
-        {"CUT.xml", QueryText("CUT", "x").substr(0, 40), "CUT.xml: 1: "},
-        {"EMPTY.xml", "", "EMPTY.xml: 1: "},
-        {"BIN.xml", std::string("\0\xff\xfe<", 4), "BIN.xml: 1: "},
+        {"CUT.xml", QueryText("CUT", "x").substr(0, 40), "CUT.xml: line 1: "},
+        {"EMPTY.xml", "", "EMPTY.xml: line 1: "},
+        {"BIN.xml", std::string("\0\xff\xfe<", 4), "BIN.xml: line 1: "},
         {"ROOT.xml", R"(<query tag="QUERY" guid="ROOT" name="x"/>)", "its root is \"query\""},
         {"TAG.xml", R"(<item tag="THEME" guid="TAG" name="x"/>)", "to the family \"THEME\""},
         {"NAME.xml", QueryText("NAME", " "), "NAME.xml: it has no name"},
         {"OTHER.xml", QueryText("A1", "copied by hand"), "OTHER.xml: it has the GUID \"A1\""},
         {"OP.xml", QueryText("OP", "x", R"(of="2" match="all"><condition attribute="A"/></item>)"),
-         "OP.xml: a condition of it is none"},
+         "OP.xml: it has an invalid condition"},
         {"OF.xml", QueryText("OF", "x", R"(of="9999999999" match="all"/>)"),
-         "OF.xml: it does not say"},
+         "OF.xml: the kind of entities it queries is missing"},
         {"DTD.xml", "<!DOCTYPE item [<!ENTITY a \"b\">]>" + QueryText("DTD", "&a;"),
          "a document type is not allowed"},
         {"notes.txt", "x", "notes.txt: it is not named after a GUID"},
@@ -143,9 +143,10 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
     for (const auto& test : cases) {
         EXPECT_NE(problems.find(test.problem), std::string::npos) << test.file << "\n" << problems;
     }
-    EXPECT_NE(problems.find("DEEP.xml: 1: the elements are too deep"), std::string::npos);
+    EXPECT_NE(problems.find("DEEP.xml: line 1: the elements are nested too deeply"),
+              std::string::npos);
     EXPECT_NE(problems.find("GONE.xml: "), std::string::npos);
-    EXPECT_NE(problems.find("b2.xml: there is another item of its GUID"), std::string::npos);
+    EXPECT_NE(problems.find("b2.xml: another item has the same GUID"), std::string::npos);
     EXPECT_FALSE(store.GetItem(L"OTHER"));
     EXPECT_FALSE(store.GetItem(L"CUT"));
     EXPECT_FALSE(store.GetItem(L"../QUERY/A1"));
@@ -302,7 +303,7 @@ TEST_F(RepositoryStore, RecordsThatOthersSpoiltAreSkipped) {
     records.Set(L"ITEM.QUERY.DEFAULT.0", L"no such item");
     const CRepositoryRecords store(L"QUERY", system);
     EXPECT_EQ(Names(store.GetItems()), "good");
-    EXPECT_NE(Problems().find("Town: ITEM.QUERY.A2: 1: "), std::string::npos) << Problems();
+    EXPECT_NE(Problems().find("Town: ITEM.QUERY.A2: line 1: "), std::string::npos) << Problems();
     EXPECT_NE(Problems().find("Town: ITEM.QUERY.a b: it is not"), std::string::npos);
     EXPECT_FALSE(store.GetItem(store.GetDefault(EntityNone)));
 

@@ -111,7 +111,7 @@ TEST_F(SystemManagerTest, ASystemThatCannotBeSaysWhy) {
     const Case cases[] = {
         {L"", TopologyLine, 1, L"A system needs a name."},
         {L" \t", TopologyLine, 1, L"A system needs a name."},
-        {L"WATER", TopologyPoint, 0, L"The drawing has a system \"Water\" already."},
+        {L"WATER", TopologyPoint, 0, L"The drawing already has a system \"Water\"."},
         {L"x", static_cast<enmTopologyType>(3), 1, L"The configuration has no topology 3."},
         {L"x", TopologyLine, 0, L"The topology has no function 0."},
         {L"x", TopologyLine, 99, L"The topology has no function 99."},
@@ -235,7 +235,7 @@ TEST_F(SystemManagerTest, WithoutADrawingThereIsNothing) {
     EXPECT_EQ(Manager().GetSystemById(1), nullptr);
     EXPECT_EQ(Manager().SetSystemActive(nullptr), 0);
     EXPECT_EQ(Create(L"a"), nullptr);
-    EXPECT_EQ(m_reason.Str(), L"There is no drawing.");
+    EXPECT_EQ(m_reason.Str(), L"No drawing is open.");
 }
 
 TEST_F(SystemManagerTest, NamesOfEntityTypesFollowTheSystem) {

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "host/Texts.h"
+
 namespace Tessaly {
 
 namespace {
@@ -32,7 +34,7 @@ DrawingView::DrawingView(QWidget* pParent) : QWidget(pParent) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(64, 64);
-    setAccessibleName(QStringLiteral("Drawing"));
+    setAccessibleName(QString::fromStdWString(Text(Msg::DrawingName).Str()));
     ShowCursor();
     m_more.setSingleShot(true);
     connect(&m_more, &QTimer::timeout, this, [this] { update(); });

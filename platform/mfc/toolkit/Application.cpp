@@ -8,9 +8,11 @@
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSocketNotifier>
+#include <QTranslator>
 #include <QUrl>
 
 #include "platform/arx/Guard.h"
@@ -20,6 +22,7 @@
 #include "platform/mfc/toolkit/Displays.h"
 #include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
+#include "platform/win/MessageCatalogue.h"
 
 namespace {
 
@@ -222,6 +225,15 @@ bool AfxHasDisplay() {
             visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
 
+/// What the toolkit itself says, as in file dialogs, if its translations are installed.
+static void TranslateToolkit() {
+    auto* const pTexts = new QTranslator(QCoreApplication::instance());
+    if (pTexts->load(QStringLiteral("qtbase_") + ToQString(Language().View()),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(pTexts);
+    }
+}
+
 void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
@@ -245,6 +257,7 @@ void AfxStartToolkit() {
     // It takes the user's language for everything, and "3,14" is no number in our files.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setQuitOnLastWindowClosed(false);
+    TranslateToolkit();
 }
 
 void AfxStopToolkit() {

@@ -18,11 +18,14 @@
 #include "platform/mfc/toolkit/DroppedFiles.h"
 #include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/Stacking.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
 /// What is said to fail when a window does.
-constexpr const wchar_t* kStep = L"window message";
+CString StepName() {
+    return MessageText(PlatformMsg::WindowMessage);
+}
 
 /// Never destroyed: windows may be static objects.
 auto& CoresByHandle() {
@@ -241,7 +244,7 @@ void WindowCore::WidgetGone() {
 }
 
 LRESULT WindowCore::CallWindow(const MSG& msg) {
-    return CallForeign(*m_pWnd, kStep,
+    return CallForeign(*m_pWnd, StepName(),
                        [&] { return m_pWnd->WindowProc(msg.message, msg.wParam, msg.lParam); });
 }
 
@@ -401,7 +404,8 @@ bool WindowCore::PreTranslate(MSG& msg) {
     for (HWND next = m_handle; WindowCore* const pCore = Find(next);) {
         next = pCore->m_outer && pCore->m_outer->isWindow() ? nullptr : pCore->m_parent;
         CWnd* const pWnd = pCore->m_pWnd;
-        if (pWnd && CallForeign(*pWnd, kStep, [&] { return pWnd->PreTranslateMessage(&msg); })) {
+        if (pWnd &&
+            CallForeign(*pWnd, StepName(), [&] { return pWnd->PreTranslateMessage(&msg); })) {
             return true;
         }
     }

@@ -6,13 +6,14 @@
 #include "platform/arx/HostOptions.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
-#include "siblings/giscore/MessageCatalogue.h"
+#include "platform/win/MessageCatalogue.h"
 #include "siblings/giscore/configuration/GeneralSettings.h"
 #include "siblings/giscore/configuration/GeneralSettingsDialog.h"
 #include "siblings/giscore/icons/IconStore.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/SupportFile.h"
 #include "siblings/giscore/utility/WholeNumber.h"
 
@@ -29,12 +30,6 @@ constexpr int kDefaultPrecision = 3;
 /// General settings that make sense as whole numbers only.
 constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP", L"PT_MARK_COLOR",
                                           kPrecisionKey};
-
-bool IsLanguage(const CString& text) {
-    return !text.IsEmpty() && std::all_of(text.Str().begin(), text.Str().end(), [](wchar_t c) {
-        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'_';
-    });
-}
 
 } // namespace
 
@@ -59,9 +54,8 @@ void CModuleConfiguration::ReadSettings() {
     for (const wchar_t* key : kNumberKeys) {
         const IniFile::Entry* const pEntry = pGeneral ? pGeneral->Find(key) : nullptr;
         if (pEntry && !WholeNumber(pEntry->value.View())) {
-            CString problem;
-            problem.Format(L"%s:%d: \"%s\" is no whole number", path, pEntry->line, pEntry->value);
-            problems.push_back(problem);
+            problems.push_back(
+                MessageText(GisMsg::NotAWholeNumber, path, pEntry->line, pEntry->value));
         }
     }
     SetProblems(kSettingsFile, std::move(problems));
@@ -70,19 +64,12 @@ void CModuleConfiguration::ReadSettings() {
 
 void CModuleConfiguration::ChooseLanguage() {
     CString language;
-    if (!GetGSValueText(L"language", language) || !IsLanguage(language)) {
-        language = L"en";
-    }
-    if (!m_pMessages || language != m_strLanguage) {
-        m_pMessages =
-            std::make_unique<CMessageCatalogue>(GetPath(L"install") + L"share/messages/", language);
-        m_strLanguage = language;
-        SetProblems(L"messages", m_pMessages->GetProblems());
-    }
+    GetGSValueText(L"language", language);
+    SetProblems(L"messages", UseLanguage(GetPath(L"install") + L"share/messages/", language));
 }
 
 CString CModuleConfiguration::GetMsg(int id) const {
-    return m_pMessages->Text(id);
+    return MessageText(id);
 }
 
 CString CModuleConfiguration::GetPath(const wchar_t* key) const {

@@ -13,7 +13,6 @@
 namespace Orvane {
 
 class CIconStore;
-class CMessageCatalogue;
 class CTopology;
 class CTopologyConfiguration;
 
@@ -80,8 +79,6 @@ private:
     CString IconFolder() const;
 
     IniFile m_settings;
-    CString m_strLanguage; ///< of the messages
-    std::unique_ptr<CMessageCatalogue> m_pMessages;
     std::unique_ptr<CTopologyConfiguration> m_pTopologies;
     std::unique_ptr<CIconStore> m_pIcons;
     std::map<CString, std::vector<CString>, CStringLess> m_problems;

@@ -1,6 +1,7 @@
 #include "siblings/giscore/data/DataDefinition.h"
 
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/SupportFile.h"
 
 namespace Orvane::Data {
@@ -23,7 +24,7 @@ public:
             } else if (entry.key.CompareNoCase(L"type") == 0) {
                 ReadType(definition, entry);
             } else {
-                Note(entry, L"unknown key", entry.key);
+                Note(entry, GisMsg::UnknownKey, entry.key);
             }
         }
         return definition;
@@ -36,14 +37,12 @@ private:
         if (entry.value.CompareNoCase(L"text") == 0) {
             definition.m_type = CDataDefinition::Type::Text;
         } else if (entry.value.CompareNoCase(L"number") != 0) {
-            Note(entry, L"neither number nor text:", entry.value);
+            Note(entry, GisMsg::NeitherNumberNorText, entry.value);
         }
     }
 
-    void Note(const IniFile::Entry& entry, const wchar_t* reason, const CString& word) {
-        CString problem;
-        problem.Format(L"%s:%d: %s \"%s\"", m_strPath, entry.line, reason, word);
-        m_problems.push_back(problem);
+    void Note(const IniFile::Entry& entry, GisMsg reason, const CString& word) {
+        m_problems.push_back(MessageText(reason, m_strPath, entry.line, word));
     }
 
     CString m_strPath;

@@ -1,5 +1,6 @@
 #include "siblings/giscore/query/QueryDefinition.h"
 
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/XmlElement.h"
 
 namespace Orvane::Query {
@@ -117,7 +118,7 @@ CString CQueryDefinition::ReadContent(const XmlElement& root) {
     const auto type = root.GetInt(kQueriedType);
     const CString match = root.Get(kMatch);
     if (!type || (match != L"any" && match != L"all")) {
-        return L"it does not say which entities it asks for";
+        return MessageText(GisMsg::NoQueriedType);
     }
     m_enmQueriedType = static_cast<enmEntityType>(*type);
     m_bMatchAny = match == L"any";
@@ -125,7 +126,7 @@ CString CQueryDefinition::ReadContent(const XmlElement& root) {
     for (const XmlElement& child : root.children) {
         const auto op = OperatorOf(child.Get(kOperator));
         if (child.name != kCondition || !op || child.Get(kAttribute).IsEmpty()) {
-            return L"a condition of it is none";
+            return MessageText(GisMsg::InvalidCondition);
         }
         m_conditions.push_back({child.Get(kAttribute), *op, child.Get(kValue)});
     }

@@ -6,13 +6,13 @@
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 #include "siblings/giscore/repository/RepositoryMessages.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/Guid.h"
 
 namespace Orvane {
 
 namespace {
 
-constexpr const wchar_t* kNoFolder = L": there is no such folder";
 constexpr std::wstring_view kSuffix = L".xml";
 
 /// What stands before ".xml" if that can be a GUID, else an empty text.
@@ -43,7 +43,7 @@ void CRepositoryFolder::Reload() {
     const auto pOld = std::exchange(m_pEntries, std::make_shared<Entries>());
     m_unreadable.clear();
     if (LacksRoot()) {
-        m_unreadable.push_back(m_strRoot + kNoFolder);
+        m_unreadable.push_back(MessageText(GisMsg::NoSuchFolder, m_strRoot));
     } else if (FileExists(m_strFolder)) {
         const auto names = ListFileNames(m_strFolder);
         if (!names) {
@@ -73,7 +73,8 @@ void CRepositoryFolder::ReadFile(const CString& name, const Entries& old) {
     const auto bytes = guid.IsEmpty() ? std::nullopt : ReadFileBytes(path);
     if (!bytes) {
         m_unreadable.push_back(
-            path + L": " + (guid.IsEmpty() ? L"it is not named after a GUID" : LastErrorText()));
+            path + L": " +
+            (guid.IsEmpty() ? MessageText(GisMsg::NotNamedAfterGuid) : LastErrorText()));
         return;
     }
     AddEntry(*m_pEntries, MakeEntry(path, guid, Utf8ToWide(*bytes)), m_unreadable);
@@ -97,7 +98,8 @@ std::optional<CString> CRepositoryFolder::TextOf(const CString& guid) const {
 
 CString CRepositoryFolder::Write(const CRepositoryItem& item) {
     if (LacksRoot()) {
-        return RepositoryMessage(kMsgItemNotWritten, item.GetName(), m_strRoot + kNoFolder);
+        return RepositoryMessage(kMsgItemNotWritten, item.GetName(),
+                                 MessageText(GisMsg::NoSuchFolder, m_strRoot));
     }
     const CString text = item.GetXML();
     const CString path = PathOf(item.GetGuid());

@@ -2,6 +2,7 @@
 
 #include "siblings/giscore/repository/RepositoryItemFactory.h"
 #include "siblings/giscore/repository/RepositoryManager.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/Guid.h"
 #include "siblings/giscore/utility/XmlElement.h"
 
@@ -19,11 +20,11 @@ constexpr const wchar_t* kEntityType = L"entityType";
 std::optional<XmlElement> ReadRoot(std::wstring_view text, const wchar_t* tag, CString& reason) {
     std::optional<XmlElement> root = ReadXml(text, reason);
     if (root && root->name != kRoot) {
-        reason = FormatText(L"its root is \"%s\" instead of \"%s\"", root->name, kRoot);
+        reason = MessageText(GisMsg::OtherRoot, root->name, kRoot);
         return std::nullopt;
     }
     if (root && root->Get(kTag).CompareNoCase(tag) != 0) {
-        reason = FormatText(L"it belongs to the family \"%s\"", root->Get(kTag));
+        reason = MessageText(GisMsg::OtherFamily, root->Get(kTag));
         return std::nullopt;
     }
     return root;
@@ -57,10 +58,10 @@ CString CRepositoryItem::Take(const XmlElement& root) {
     const CString name = root.Get(kName).Trim();
     const auto entityType = root.GetInt(kEntityType);
     if (name.IsEmpty()) {
-        return L"it has no name";
+        return MessageText(GisMsg::WithoutName);
     }
     if (!entityType) {
-        return L"its entity type is no number";
+        return MessageText(GisMsg::EntityTypeNotANumber);
     }
     m_strName = name;
     m_enmEntityType = static_cast<enmEntityType>(*entityType);
@@ -77,7 +78,7 @@ ReadRepositoryItem(const CString& text, const wchar_t* repositoryTag, CString& r
     CRepositoryItemFactory* const pFactory =
         CRepositoryManager::Instance()->GetRepositoryItemFactory(repositoryTag);
     if (!IsGuid(guid.View()) || !pFactory) {
-        reason = pFactory ? L"it has no GUID" : L"nobody makes items of its family";
+        reason = MessageText(pFactory ? GisMsg::WithoutGuid : GisMsg::NoModuleForFamily);
         return {};
     }
     auto item = pFactory->CreateItem(guid, root->Get(kName));

@@ -3,6 +3,7 @@
 #include "platform/arx/DbUndoScopes.h"
 #include "siblings/giscore/repository/RepositoryMessages.h"
 #include "siblings/giscore/systems/DrawingRecords.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/Guid.h"
 
 namespace Orvane {
@@ -36,7 +37,7 @@ CRepositoryRecords::GetEntries(std::vector<CString>& problems) const {
         if (IsGuid(key.View())) {
             AddEntry(*entries, MakeEntry(source, key, at->second), problems);
         } else if (!key.View().starts_with(kDefault)) {
-            problems.push_back(source + L": it is not named after a GUID");
+            problems.push_back(source + L": " + MessageText(GisMsg::NotNamedAfterGuid));
         }
     }
     return entries;

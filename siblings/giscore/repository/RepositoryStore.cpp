@@ -5,6 +5,7 @@
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/repository/RepositoryMessages.h"
+#include "siblings/giscore/utility/GisTexts.h"
 
 namespace Orvane {
 
@@ -38,7 +39,7 @@ CRepositoryStore::Entry CRepositoryStore::MakeEntry(const CString& source, const
     Entry entry{source, text, {guid, {}, EntityNone}, {}};
     const ItemPtr item = ReadRepositoryItem(text, m_strTag, entry.fault);
     if (item && item->GetGuid().CompareNoCase(guid) != 0) {
-        entry.fault = FormatText(L"it has the GUID \"%s\"", item->GetGuid());
+        entry.fault = MessageText(GisMsg::OtherGuid, item->GetGuid());
     } else if (item) {
         entry.head = {guid, item->GetName(), item->GetEntityType()};
     }
@@ -48,7 +49,7 @@ CRepositoryStore::Entry CRepositoryStore::MakeEntry(const CString& source, const
 void CRepositoryStore::AddEntry(Entries& entries, Entry entry, std::vector<CString>& problems) {
     const CString source = entry.source;
     if (!entries.try_emplace(KeyOf(entry.head.guid), std::move(entry)).second) {
-        problems.push_back(source + L": there is another item of its GUID");
+        problems.push_back(source + L": " + MessageText(GisMsg::SameGuid));
     }
 }
 

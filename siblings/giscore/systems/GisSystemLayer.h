@@ -6,6 +6,7 @@
 #include "platform/arx/DbDatabase.h"
 #include "siblings/giscore/Api.h"
 #include "siblings/giscore/topology/GisTypes.h"
+#include "siblings/giscore/utility/GisTexts.h"
 
 namespace Orvane::System {
 
@@ -35,7 +36,7 @@ struct LayerDesign {
     enmTopologyType type;
     int function; ///< 0: all that no other row names
     const wchar_t* reference;
-    const wchar_t* word; ///< behind the system's name in the layer's name
+    GisMsg word; ///< behind the system's name in the layer's name
     int colorIndex;
 };
 

@@ -5,6 +5,7 @@
 #include "platform/arx/DbUndoScopes.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/systems/DrawingRecords.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/Guid.h"
 #include "siblings/giscore/utility/WholeNumber.h"
 
@@ -344,7 +345,7 @@ int CGisSystems::UpgradeSystems() {
         CString name = system->m_strName;
         CString guid = system->m_strGuid;
         if (name.IsEmpty()) {
-            name.Format(L"System %d", system->m_nId);
+            name = MessageText(GisMsg::SystemWithoutName, system->m_nId);
         }
         const CString plain = name;
         for (int number = 2;; ++number) {

@@ -81,8 +81,9 @@ int CGisSystems::CreateMissingLayers(CGisSystem& system) {
         }
         ++made;
         const CString name =
-            pKnown ? pKnown->GetLayerName()
-                   : FreeLayerName(*m_pDatabase, system.m_strName + L" " + pDesign->word);
+            pKnown
+                ? pKnown->GetLayerName()
+                : FreeLayerName(*m_pDatabase, system.m_strName + L" " + MessageText(pDesign->word));
         SwitchLayer(*m_pDatabase, MakeLayer(*m_pDatabase, name, pDesign->colorIndex),
                     !system.m_bVisible);
         if (!pKnown) {

@@ -4,6 +4,7 @@
 
 #include "platform/win/File.h"
 #include "siblings/giscore/systems/GisSystem.h"
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/SupportFile.h"
 #include "siblings/giscore/utility/WholeNumber.h"
 
@@ -81,11 +82,11 @@ public:
         for (const IniFile::Section& section : file.GetSections()) {
             const enmTopologyType type = TypeOf(section.name);
             if (type == TopologyNone) {
-                Note(section.line, L"unknown topology \"%s\"", section.name);
+                Note(section.line, GisMsg::UnknownTopology, section.name);
             } else if (std::any_of(topologies.begin(), topologies.end(), [&](const CTopology& t) {
                            return t.GetTopologyType() == type;
                        })) {
-                Note(section.line, L"a second section \"%s\"", section.name);
+                Note(section.line, GisMsg::SecondSection, section.name);
             } else {
                 topologies.push_back(ReadTopology(type, section));
             }
@@ -105,7 +106,7 @@ private:
 
     void ReadEntry(CTopology& topology, const IniFile::Entry& entry) {
         if (entry.value.IsEmpty()) {
-            Note(entry.line, L"\"%s\" has no value", entry.key);
+            Note(entry.line, GisMsg::HasNoValue, entry.key);
         } else if (entry.key.CompareNoCase(L"name") == 0) {
             topology.m_strName = Name(entry.value);
         } else if (entry.key.CompareNoCase(L"on") == 0) {
@@ -115,7 +116,7 @@ private:
         } else if (const auto type = NumberOfKey(entry.key, L"entity.")) {
             AddEntityType(topology, static_cast<enmEntityType>(*type), entry);
         } else {
-            Note(entry.line, L"unknown key \"%s\"", entry.key);
+            Note(entry.line, GisMsg::UnknownKey, entry.key);
         }
     }
 
@@ -124,15 +125,15 @@ private:
         if (on && (*on == 0 || *on == 1)) {
             topology.m_bOn = *on;
         } else {
-            Note(entry.line, L"\"%s\" is neither 0 nor 1", entry.value);
+            Note(entry.line, GisMsg::NeitherZeroNorOne, entry.value);
         }
     }
 
     void AddFunction(CTopology& topology, int id, const IniFile::Entry& entry) {
         if (id <= 0) {
-            Note(entry.line, L"a function has a number above 0");
+            Note(entry.line, GisMsg::FunctionNumber);
         } else if (topology.GetTopologyFunctionById(id)) {
-            Note(entry.line, L"a second function %d", id);
+            Note(entry.line, GisMsg::SecondFunction, id);
         } else {
             topology.m_functions.emplace_back(id, Name(entry.value));
         }
@@ -141,9 +142,9 @@ private:
     void AddEntityType(CTopology& topology, enmEntityType type, const IniFile::Entry& entry) {
         if (std::find(std::begin(kEntityTypes), std::end(kEntityTypes), type) ==
             std::end(kEntityTypes)) {
-            Note(entry.line, L"there is no entity type %d", type);
+            Note(entry.line, GisMsg::NoSuchEntityType, type);
         } else if (topology.GetEntityType(type)) {
-            Note(entry.line, L"a second entity type %d", type);
+            Note(entry.line, GisMsg::SecondEntityType, type);
         } else {
             topology.m_entityTypes.emplace_back(type, Name(entry.value));
         }
@@ -155,11 +156,8 @@ private:
     }
 
     template <class... Args>
-    void Note(int line, std::wstring_view reason, const Args&... args) {
-        CString problem;
-        problem.Format(L"%s:%d: ", m_name, line);
-        problem.AppendFormat(reason, args...);
-        m_problems.push_back(problem);
+    void Note(int line, GisMsg reason, const Args&... args) {
+        m_problems.push_back(MessageText(reason, m_name, line, args...));
     }
 
     const wchar_t* m_name;
@@ -175,7 +173,7 @@ CTopologyConfiguration::CTopologyConfiguration(const wchar_t* path,
     m_topologies = reader.Read(file);
     if (m_topologies.empty()) {
         if (FileExists(path)) {
-            m_problems.push_back(CString(path) + L": no topology; the delivered ones are used");
+            m_problems.push_back(MessageText(GisMsg::NoTopology, path));
         }
         file.Parse(kDelivered, path);
         m_topologies = reader.Read(file);

@@ -1,6 +1,7 @@
 // Which help page belongs to a dialog.
 #include "platform/mfc/WinApp.h"
 #include "platform/win/File.h"
+#include "platform/win/MessageCatalogue.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/utility/Utility.h"
 
@@ -9,10 +10,12 @@ namespace Orvane::Utility {
 void CUtility::ShowHelp(const wchar_t* dialogId) {
     const CString folder = CModuleConfiguration::Instance()->GetPath(L"install") + L"help/";
     for (const CString& page : {CString(dialogId), CString(L"index")}) {
-        const CString path = folder + page + L".htm";
-        if (!page.IsEmpty() && FileNameOf(page) == page && FileExists(path)) {
-            AfxOpenAddress(L"file://" + path);
-            return;
+        for (const CString& name : {page + L"_" + Language(), page}) {
+            const CString path = folder + name + L".htm";
+            if (!page.IsEmpty() && FileNameOf(page) == page && FileExists(path)) {
+                AfxOpenAddress(L"file://" + path);
+                return;
+            }
         }
     }
 }

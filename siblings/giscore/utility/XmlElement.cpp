@@ -3,6 +3,7 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+#include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/WholeNumber.h"
 
 namespace Orvane {
@@ -80,9 +81,9 @@ XmlElement ReadElements(QXmlStreamReader& reader) {
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::DTD) {
-            reader.raiseError(QStringLiteral("a document type is not allowed"));
+            reader.raiseError(QString::fromStdWString(MessageText(GisMsg::DocumentType).Str()));
         } else if (token == QXmlStreamReader::StartElement && open.size() > kDeepest) {
-            reader.raiseError(QStringLiteral("the elements are too deep"));
+            reader.raiseError(QString::fromStdWString(MessageText(GisMsg::TooDeep).Str()));
         } else if (token == QXmlStreamReader::StartElement) {
             open.push_back(&open.back()->children.emplace_back(ElementAt(reader)));
         } else if (token == QXmlStreamReader::EndElement) {
@@ -124,13 +125,17 @@ CString WriteXml(const XmlElement& root) {
 
 std::optional<XmlElement> ReadXml(std::wstring_view text, CString& reason) {
     if (text.size() > kLongestText) {
-        reason = L"it is too long";
+        reason = MessageText(GisMsg::TooLong);
         return std::nullopt;
     }
     QXmlStreamReader reader(QString::fromWCharArray(text.data(), static_cast<int>(text.size())));
     XmlElement document = ReadElements(reader);
     if (reader.hasError()) {
-        reason = CString(FormatText(L"%d: %s", reader.lineNumber(), ToText(reader.errorString())));
+        // The parser's own texts are in English only.
+        reason =
+            reader.error() == QXmlStreamReader::CustomError
+                ? MessageText(GisMsg::AtLine, reader.lineNumber(), ToText(reader.errorString()))
+                : MessageText(GisMsg::NotWellFormed, reader.lineNumber());
         return std::nullopt;
     }
     return std::move(document.children.front());

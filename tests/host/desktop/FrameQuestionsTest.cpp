@@ -1,5 +1,7 @@
 // Prompts and pointing in the desktop's window: nested, cancelled, and asked for by panels.
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdPrompt.h"
@@ -93,6 +95,30 @@ TEST_F(FrameQuestionsTest, ClosingTheWindowEndsWhatIsAsked) {
     EXPECT_EQ(Pick(), RTCAN);
     QApplication::processEvents();
     EXPECT_TRUE(HasQuit());
+}
+
+TEST_F(FrameQuestionsTest, ChoicesAreButtonsAndEscapeIsNoAnswer) {
+    const ChoicePrompt prompt{L"Match", {{L"All", L"Alle"}, {L"Any", L"Eine"}}, 0};
+    const auto answerWith = [&](auto press) {
+        Later([press] {
+            auto* const pBox = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(pBox);
+            EXPECT_EQ(pBox->text(), "Match");
+            press(*pBox);
+        });
+        return acedAskChoice(prompt);
+    };
+    EXPECT_EQ(answerWith([](QMessageBox& box) {
+                  for (QAbstractButton* const pButton : box.buttons()) {
+                      if (pButton->text() == "Eine") {
+                          pButton->click();
+                          return;
+                      }
+                  }
+              }),
+              1U);
+    EXPECT_EQ(answerWith([](QMessageBox& box) { box.defaultButton()->click(); }), 0U);
+    EXPECT_FALSE(answerWith([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
 }
 
 TEST_F(FrameQuestionsTest, NobodyAnswersWithoutADesktop) {

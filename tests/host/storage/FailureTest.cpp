@@ -78,7 +78,7 @@ TEST_F(FailureTest, FilesThatAreNoDrawingsAreRefusedWithTheReason) {
     EXPECT_TRUE(Contains(WhyNotRead("missing.gpkg"), "there is no such file"));
     EXPECT_TRUE(Contains(WhyNotRead("folder.gpkg"), "it is a folder"));
     EXPECT_TRUE(Contains(WhyNotRead("empty.gpkg"), "it is empty"));
-    EXPECT_TRUE(Contains(WhyNotRead("text.gpkg"), "it is no GeoPackage"));
+    EXPECT_TRUE(Contains(WhyNotRead("text.gpkg"), "it is not a GeoPackage"));
     Sqlite(m_folder.Native("plain.gpkg")).Execute("CREATE TABLE t (x); INSERT INTO t VALUES (1);");
     EXPECT_FALSE(WhyNotRead("plain.gpkg").empty());
 }
@@ -88,11 +88,12 @@ TEST_F(FailureTest, ANewerDrawingIsRefusedByItsVersion) {
     MakePlan(database);
     Sqlite(m_folder.Native("plan.gpkg"))
         .Execute("UPDATE orv_meta SET value = '2' WHERE key = 'version'");
-    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "its version is 2, and 1 is the newest"));
+    EXPECT_TRUE(
+        Contains(WhyNotRead("plan.gpkg"), "its version is 2, this program reads versions up to 1"));
     Rename(database, "changed");
     EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "its version is 2"));
     Sqlite(m_folder.Native("plan.gpkg")).Execute("DELETE FROM orv_meta");
-    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "states no version"));
+    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "has no version"));
 }
 
 TEST_F(FailureTest, AnImpossibleNextIdIsRefused) {
@@ -102,7 +103,7 @@ TEST_F(FailureTest, AnImpossibleNextIdIsRefused) {
         Sqlite(m_folder.Native("plan.gpkg"))
             .Execute(std::string("UPDATE orv_meta SET value = '") + number +
                      "' WHERE key = 'next_id'");
-        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "impossible next id")) << number;
+        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "invalid next id")) << number;
     }
 }
 
@@ -204,7 +205,7 @@ TEST_F(FailureTest, AnOlderFileInItsPlaceIsNotTakenForTheDrawing) {
     Save(database, "plan.gpkg");
     m_folder.Write("plan.gpkg", backup);
     Rename(database, "changed");
-    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "has taken its place"));
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "was replaced by"));
     EXPECT_EQ(m_folder.Read("plan.gpkg"), backup);
     const CString path = m_folder.Wide("plan.gpkg");
     EXPECT_TRUE(m_storage->SaveAs(database, path, path, {}).ok());
@@ -228,11 +229,11 @@ TEST_F(FailureTest, PlacesThatCannotBeWrittenToAreToldApart) {
     MakePlan(database);
     Rename(database, "changed");
     EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("no/such/plan.gpkg")),
-                         "its folder is not there"));
+                         "its folder does not exist"));
     std::filesystem::create_directory(m_folder / "folder");
     EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("folder")), "it is a folder"));
     EXPECT_FALSE(WhyNotSavedAs(database, "/proc/plan.gpkg").empty());
-    EXPECT_TRUE(Contains(WhyNotSaved(database, "other.gpkg"), "not from this file"));
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "other.gpkg"), "not opened from this file"));
     std::filesystem::rename(m_folder / "plan.gpkg", m_folder / "moved.gpkg");
     EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "there is no such file"));
     EXPECT_TRUE(Leftovers({"moved.gpkg", "folder"}).empty());
@@ -357,9 +358,8 @@ TEST_F(FailureTest, AnObjectInAnImpossiblePlaceIsNamedAndNothingIsSaved) {
     const std::string before = DescribeFile("plan.gpkg");
     Rename(database, "changed");
     const AcDbObjectId far = AddLine(database, {{0, 0}, {1e300, 0}});
-    EXPECT_TRUE(
-        Contains(WhyNotSaved(database, "plan.gpkg"),
-                 ("the object " + std::to_string(far.number()) + " on layer \"0\"").c_str()));
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"),
+                         ("object " + std::to_string(far.number()) + " on layer \"0\"").c_str()));
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
     Edit<AcDbPolyline>(database, far, [](AcDbPolyline& line) { line.erase(); });
     Save(database, "plan.gpkg");

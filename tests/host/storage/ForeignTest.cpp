@@ -151,9 +151,9 @@ TEST_F(ForeignTest, RowsThatCannotBeShownAreCountedAndNamed) {
               "LINESTRING (0 0,1 -1e16)", "MULTIPOINT (0 0,1e200 0)", "POINT (2 2)"});
     const auto database = Open("town.gpkg");
     EXPECT_EQ(On(*database, "points").size(), 2U);
-    EXPECT_TRUE(HasWarning("points: 3 rows are passed over, which have no geometry (the first is "
+    EXPECT_TRUE(HasWarning("points: skipped 3 rows: no geometry (the first is "
                            "row 2)"));
-    EXPECT_TRUE(HasWarning("points: 3 rows are passed over, which have a position that is none "
+    EXPECT_TRUE(HasWarning("points: skipped 3 rows: invalid position "
                            "(the first is row 5)"));
 }
 

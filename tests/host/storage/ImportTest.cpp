@@ -154,13 +154,12 @@ TEST_F(ImportTest, AnImpossiblePositionRefusesTheFileAndNamesTheRow) {
                             R"({"type":"Point","coordinates":[NaN,2]})",
                             R"({"type":"LineString","coordinates":[[0,0],[NaN,2]]})"}) {
         m_folder.Write("bad.geojson", Collection(good + "," + good + "," + Row(bad) + "," + good));
-        EXPECT_NE(
-            WhyNot("bad.geojson").find("layer \"bad\", row 3: it has a position that is none"),
-            std::string::npos)
+        EXPECT_NE(WhyNot("bad.geojson").find("layer \"bad\", row 3: invalid position"),
+                  std::string::npos)
             << bad;
     }
     m_folder.Write("bad.csv", "WKT,NAME\nPOINT(1 2),a\nPOINT EMPTY,b\nPOINT(nan 3),c\n");
-    EXPECT_NE(WhyNot("bad.csv").find("row 3: it has a position that is none"), std::string::npos);
+    EXPECT_NE(WhyNot("bad.csv").find("row 3: invalid position"), std::string::npos);
 }
 
 TEST_F(ImportTest, BrokenFilesAreRefused) {
@@ -172,7 +171,7 @@ TEST_F(ImportTest, BrokenFilesAreRefused) {
     m_folder.Write("notes.txt", "some notes of somebody\n");
     WhyNot("notes.txt");
     mkfifo(m_folder.Native("pipe.geojson").c_str(), 0600);
-    EXPECT_NE(WhyNot("pipe.geojson").find("no ordinary file"), std::string::npos);
+    EXPECT_NE(WhyNot("pipe.geojson").find("not a regular file"), std::string::npos);
 }
 
 TEST_F(ImportTest, AFileThatIsCutIsRefusedNotReadInHalf) {

@@ -275,7 +275,7 @@ TEST_F(StorageTest, EntitiesOfUnknownClassesAreCountedAndTheRestIsSaved) {
     database.appendEntity(std::make_unique<Special>());
     SaveNew(database, "plan.gpkg");
     ASSERT_EQ(m_warnings.size(), 1U);
-    EXPECT_EQ(m_warnings[0].Find(L"1 objects are not saved"), 0);
+    EXPECT_EQ(m_warnings[0].Find(L"1 objects of unsupported types were not saved"), 0);
     EXPECT_EQ(Open("plan.gpkg")->entityCount(), 1U);
 }
 

@@ -55,13 +55,13 @@ TEST(InpReaderProblems, FilesThatAreNoNetwork) {
         {" \r\n\t\n", {"net.inp:1: the file is empty"}},
         {"\xFF\xFE[\0J", {"net.inp:1: the file is in UTF-16; save it as UTF-8"}},
         {"<?xml version=\"1.0\"?>\n<a/>\n",
-         {"net.inp:1: this is no network file, it has no section [JUNCTIONS] or another one with "
-          "nodes"}},
+         {"net.inp:1: not a network file: it has no section [JUNCTIONS] or other section "
+          "with nodes"}},
         {"[OPTIONS]\nUnits LPS\n",
-         {"net.inp:1: this is no network file, it has no section [JUNCTIONS] or another one with "
-          "nodes"}},
+         {"net.inp:1: not a network file: it has no section [JUNCTIONS] or other section "
+          "with nodes"}},
         {std::string("\x7F") + "ELF\n" + std::string("a\0b", 3) + "\n",
-         {"net.inp:2: the line holds a zero byte, so this is no text file"}},
+         {"net.inp:2: the line contains a zero byte, so this is not a text file"}},
         {"[JUNCTIONS]\n[COORDINATES]\n", {"net.inp:1: the file has no nodes"}},
         {"[JUNCTIONS]\nA 10\nB 20\n", {"net.inp:1: no node has coordinates"}},
         {"[JUNCTIONS]\nA 10\n\n[COORDINATES]\n;Node X Y\n", {"net.inp:4: no node has coordinates"}},
@@ -73,26 +73,26 @@ TEST(InpReaderProblems, FilesThatAreNoNetwork) {
 
 TEST(InpReaderProblems, WrongNumbersAreNamed) {
     const Case cases[] = {
-        {"[JUNCTIONS]\nC 12x\n", {"net.inp:11: the elevation \"12x\" is no number"}},
-        {"[RESERVOIRS]\nC high\n", {"net.inp:11: the head \"high\" is no number"}},
-        {"[COORDINATES]\nA nan 1\n", {"net.inp:11: the x coordinate \"nan\" is no number"}},
-        {"[COORDINATES]\nA 1 -inf\n", {"net.inp:11: the y coordinate \"-inf\" is no number"}},
-        {"[COORDINATES]\nA 1e400 1\n", {"net.inp:11: the x coordinate \"1e400\" is no number"}},
+        {"[JUNCTIONS]\nC 12x\n", {"net.inp:11: elevation \"12x\" is not a number"}},
+        {"[RESERVOIRS]\nC high\n", {"net.inp:11: head \"high\" is not a number"}},
+        {"[COORDINATES]\nA nan 1\n", {"net.inp:11: x coordinate \"nan\" is not a number"}},
+        {"[COORDINATES]\nA 1 -inf\n", {"net.inp:11: y coordinate \"-inf\" is not a number"}},
+        {"[COORDINATES]\nA 1e400 1\n", {"net.inp:11: x coordinate \"1e400\" is not a number"}},
         {"[COORDINATES]\nA 1.5e15 -2e15\n",
-         {"net.inp:11: the x coordinate \"1.5e15\" is larger than 1e15",
-          "net.inp:11: the y coordinate \"-2e15\" is larger than 1e15"}},
-        {"[COORDINATES]\nA 3,5 1\n", {"net.inp:11: the x coordinate \"3,5\" is no number"}},
-        {"[COORDINATES]\nA \"\" 1\n", {"net.inp:11: the x coordinate \"\" is no number"}},
-        {"[PIPES]\nQ A B x 100\n", {"net.inp:11: the length \"x\" is no number"}},
-        {"[PIPES]\nQ A B 5 10mm\n", {"net.inp:11: the diameter \"10mm\" is no number"}},
-        {"[VALVES]\nQ A B wide PRV\n", {"net.inp:11: the diameter \"wide\" is no number"}},
-        {"[CONDUITS]\nQ A B 5%\n", {"net.inp:11: the length \"5%\" is no number"}},
-        {"[XSECTIONS]\nP CIRCULAR -\n", {"net.inp:11: the diameter \"-\" is no number"}},
-        {"[VERTICES]\nP 1 1..2\n", {"net.inp:11: the y coordinate \"1..2\" is no number"}},
-        {"[POLYGONS]\nS 0x10 1\n", {"net.inp:11: the x coordinate \"0x10\" is no number"}},
-        {"[LABELS]\nhere 1 \"A\"\n", {"net.inp:11: the x coordinate \"here\" is no number"}},
+         {"net.inp:11: x coordinate \"1.5e15\" is larger than 1e15",
+          "net.inp:11: y coordinate \"-2e15\" is larger than 1e15"}},
+        {"[COORDINATES]\nA 3,5 1\n", {"net.inp:11: x coordinate \"3,5\" is not a number"}},
+        {"[COORDINATES]\nA \"\" 1\n", {"net.inp:11: x coordinate \"\" is not a number"}},
+        {"[PIPES]\nQ A B x 100\n", {"net.inp:11: length \"x\" is not a number"}},
+        {"[PIPES]\nQ A B 5 10mm\n", {"net.inp:11: diameter \"10mm\" is not a number"}},
+        {"[VALVES]\nQ A B wide PRV\n", {"net.inp:11: diameter \"wide\" is not a number"}},
+        {"[CONDUITS]\nQ A B 5%\n", {"net.inp:11: length \"5%\" is not a number"}},
+        {"[XSECTIONS]\nP CIRCULAR -\n", {"net.inp:11: diameter \"-\" is not a number"}},
+        {"[VERTICES]\nP 1 1..2\n", {"net.inp:11: y coordinate \"1..2\" is not a number"}},
+        {"[POLYGONS]\nS 0x10 1\n", {"net.inp:11: x coordinate \"0x10\" is not a number"}},
+        {"[LABELS]\nhere 1 \"A\"\n", {"net.inp:11: x coordinate \"here\" is not a number"}},
         {"[JUNCTIONS]\nC " + std::string(90, '7') + "\n",
-         {"net.inp:11: the elevation \"" + std::string(60, '7') + "...\" is larger than 1e15"}},
+         {"net.inp:11: elevation \"" + std::string(60, '7') + "...\" is larger than 1e15"}},
     };
     for (const Case& each : cases) {
         ExpectErrors(kSound + each.text, each.problems);
@@ -102,26 +102,20 @@ TEST(InpReaderProblems, WrongNumbersAreNamed) {
 TEST(InpReaderProblems, CutLinesAreNamed) {
     const Case cases[] = {
         {"[JUNCTIONS]\nC\n",
-         {"net.inp:11: the line of [JUNCTIONS] has 1 column, fewer than the "
-          "2 needed (name, elevation)"}},
+         {"net.inp:11: too few columns in [JUNCTIONS]: 1 instead of 2 (name, elevation)"}},
         {"[RESERVOIRS]\nC\n",
-         {"net.inp:11: the line of [RESERVOIRS] has 1 column, fewer than "
-          "the 2 needed (name, head)"}},
+         {"net.inp:11: too few columns in [RESERVOIRS]: 1 instead of 2 (name, head)"}},
         {"[PIPES]\nQ A B 10",
-         {"net.inp:11: the line of [PIPES] has 4 columns, fewer than the 5 "
-          "needed (name, start node, end node, length, diameter)"}},
+         {"net.inp:11: too few columns in [PIPES]: 4 instead of 5 "
+          "(name, start node, end node, length, diameter)"}},
         {"[PUMPS]\nQ A\n",
-         {"net.inp:11: the line of [PUMPS] has 2 columns, fewer than the 3 "
-          "needed (name, start node, end node)"}},
+         {"net.inp:11: too few columns in [PUMPS]: 2 instead of 3 (name, start node, end node)"}},
         {"[COORDINATES]\nA 1\n",
-         {"net.inp:11: the line of [COORDINATES] has 2 columns, fewer "
-          "than the 3 needed (node, x, y)"}},
+         {"net.inp:11: too few columns in [COORDINATES]: 2 instead of 3 (node, x, y)"}},
         {"[VERTICES]\nP ; 1 2\n",
-         {"net.inp:11: the line of [VERTICES] has 1 column, fewer than "
-          "the 3 needed (name, x, y)"}},
+         {"net.inp:11: too few columns in [VERTICES]: 1 instead of 3 (name, x, y)"}},
         {"[LABELS]\n1 2\n",
-         {"net.inp:11: the line of [LABELS] has 2 columns, fewer than the 3 "
-          "needed (x, y, text)"}},
+         {"net.inp:11: too few columns in [LABELS]: 2 instead of 3 (x, y, text)"}},
         {"[VERTI", {"net.inp:10: the section heading \"[VERTI\" is cut off"}},
     };
     for (const Case& each : cases) {
@@ -131,9 +125,9 @@ TEST(InpReaderProblems, CutLinesAreNamed) {
 
 TEST(InpReaderProblems, NamesStandOnce) {
     ExpectErrors(kSound + "[TANKS]\nB 5\n",
-                 {"net.inp:11: the node \"B\" stands in line 3 already"});
+                 {"net.inp:11: node \"B\" is already defined in line 3"});
     ExpectErrors(kSound + "[VALVES]\nP A B 5\n",
-                 {"net.inp:11: the section \"P\" stands in line 8 already"});
+                 {"net.inp:11: section \"P\" is already defined in line 8"});
 }
 
 TEST(InpReaderProblems, LongLinesAreRefusedWithTheirLength) {
@@ -157,9 +151,9 @@ TEST(InpReaderProblems, LengthOfALineCountsCharactersNotBytes) {
 
 TEST(InpReaderProblems, MissingNodesAreKeptByName) {
     const std::string text = kSound + "[PIPES]\nQ A GONE 1 1\nR \"no such\" AWAY 1 1\n";
-    ExpectWarnings(text, {"net.inp:11: the section \"Q\" names the missing node \"GONE\"",
-                          "net.inp:12: the section \"R\" names the missing node \"no such\"",
-                          "net.inp:12: the section \"R\" names the missing node \"AWAY\""});
+    ExpectWarnings(text, {"net.inp:11: section \"Q\" refers to the missing node \"GONE\"",
+                          "net.inp:12: section \"R\" refers to the missing node \"no such\"",
+                          "net.inp:12: section \"R\" refers to the missing node \"AWAY\""});
     const SectionTable sections = Read(text).model.sections;
     EXPECT_EQ(sections.startNodes, (std::vector<std::int32_t>{0, 0, kMissingNode}));
     EXPECT_EQ(sections.endNodes, (std::vector<std::int32_t>{1, kMissingNode, kMissingNode}));
@@ -173,8 +167,8 @@ TEST(InpReaderProblems, MissingNodesAreKeptByName) {
 TEST(InpReaderProblems, NodesWithoutCoordinatesAreLeftOut) {
     const std::string text = "[JUNCTIONS]\nA 1 0.5\nB 2 0.6\nC 3 0.7\n[PIPES]\nP B C 1 1\n"
                              "[COORDINATES]\nC 1 1\nA 0 0\n";
-    ExpectWarnings(text, {"net.inp:3: the node \"B\" has no coordinates and is left out",
-                          "net.inp:6: the section \"P\" names the missing node \"B\""});
+    ExpectWarnings(text, {"net.inp:3: node \"B\" has no coordinates and was left out",
+                          "net.inp:6: section \"P\" refers to the missing node \"B\""});
     const NetworkModel model = Read(text).model;
     EXPECT_EQ(model.nodes.names[1], "C");
     EXPECT_EQ(model.nodes.elevations, (std::vector<double>{1, 3}));
@@ -184,23 +178,22 @@ TEST(InpReaderProblems, NodesWithoutCoordinatesAreLeftOut) {
 
 TEST(InpReaderProblems, ThingsThatBelongToNothingAreWarnings) {
     const Case cases[] = {
-        {"[COORDINATES]\nX 1 1\n",
-         {"net.inp:11: the coordinates belong to the unknown node \"X\""}},
+        {"[COORDINATES]\nX 1 1\n", {"net.inp:11: coordinates for the unknown node \"X\""}},
         {"[COORDINATES]\nA 1 1\n",
-         {"net.inp:11: the node \"A\" has coordinates already; these ones count"}},
-        {"[VERTICES]\nX 1 1\n", {"net.inp:11: the vertex belongs to the unknown section \"X\""}},
+         {"net.inp:11: node \"A\" already has coordinates; these replace them"}},
+        {"[VERTICES]\nX 1 1\n", {"net.inp:11: vertex for the unknown section \"X\""}},
         {"[XSECTIONS]\nX CIRCULAR 1\n",
-         {"net.inp:11: the cross section belongs to the unknown section \"X\""}},
+         {"net.inp:11: cross section for the unknown section \"X\""}},
         {"[TAGS]\nNODE X t\nLINK Y t\nSUBCATCH Z t\n",
-         {"net.inp:11: the tag belongs to the unknown node \"X\"",
-          "net.inp:12: the tag belongs to the unknown section \"Y\""}},
+         {"net.inp:11: tag for the unknown node \"X\"",
+          "net.inp:12: tag for the unknown section \"Y\""}},
         {"[POLYGONS]\nS 0 0\nS 1 0\nS 1 1\n",
-         {"net.inp:11: the polygon belongs to the unknown subcatchment \"S\""}},
+         {"net.inp:11: polygon for the unknown subcatchment \"S\""}},
         {"[SUBCATCHMENTS]\nS\n[POLYGONS]\nS 0 0\nS 1 0\n",
-         {"net.inp:13: the polygon \"S\" has 2 points, fewer than 3, and is left out"}},
+         {"net.inp:13: polygon \"S\" has only 2 points and was left out"}},
         {"[SUBCATCHMENTS]\nS\n[POLYGONS]\nS 0 0\nS 1 0\nS 0 0\n",
-         {"net.inp:13: the polygon \"S\" has 2 points, fewer than 3, and is left out"}},
-        {"[PIPES]\nQ A B -5 100\n", {"net.inp:11: the length \"-5\" is negative"}},
+         {"net.inp:13: polygon \"S\" has only 2 points and was left out"}},
+        {"[PIPES]\nQ A B -5 100\n", {"net.inp:11: length \"-5\" is negative"}},
         {"[GARDENS]\nA rose\n[CURVES]\nC 1 1\n",
          {"net.inp:10: the unknown section \"GARDENS\" is ignored"}},
     };
@@ -227,20 +220,20 @@ TEST(InpReaderProblems, AllAreCountedAndTheFirstOnesListed) {
     EXPECT_EQ(warnings.back(), "... and 150 more");
     EXPECT_EQ(result.warningCount, 250U);
     EXPECT_EQ(ProblemTexts(result, Severity::Error),
-              Texts{"net.inp:261: the y coordinate \"wrong\" is no number"});
+              Texts{"net.inp:261: y coordinate \"wrong\" is not a number"});
 }
 
 TEST(InpReaderProblems, ProblemsComeInTheOrderOfTheirLines) {
     // Coordinates are read before pipes, wherever they stand.
     ExpectErrors("[PIPES]\nP A B x 1\n[COORDINATES]\nA y 0\n[JUNCTIONS]\nA z\n",
-                 {"net.inp:2: the length \"x\" is no number",
-                  "net.inp:4: the x coordinate \"y\" is no number",
-                  "net.inp:6: the elevation \"z\" is no number"});
+                 {"net.inp:2: length \"x\" is not a number",
+                  "net.inp:4: x coordinate \"y\" is not a number",
+                  "net.inp:6: elevation \"z\" is not a number"});
 }
 
 TEST(InpReaderProblems, TextsInMessagesAreUtf8) {
     ExpectErrors(kSound + "[JUNCTIONS]\nC gr\xFC\xDF\n",
-                 {"net.inp:11: the elevation \"gr\xC3\xBC\xC3\x9F\" is no number"});
+                 {"net.inp:11: elevation \"gr\xC3\xBC\xC3\x9F\" is not a number"});
 }
 
 TEST(InpReaderProblems, FileThatCannotBeRead) {

@@ -54,10 +54,10 @@ TEST(NetworkCheck, IsolatedNodes) {
 
 TEST(NetworkCheck, CoincidentNodesNameTheFirstOfTheirPlace) {
     const NetworkSketch sketch{{1, 2}, {0.0, 5}, {1, 2}, {1, 2.0000001}, {-0.0, 5}, {1, 2}};
-    EXPECT_EQ(
-        FindingsOf(sketch, FindingKind::CoincidentNode),
-        (Texts{"N2: coincident node, lies where N0 lies", "N4: coincident node, lies where N1 lies",
-               "N5: coincident node, lies where N0 lies"}));
+    EXPECT_EQ(FindingsOf(sketch, FindingKind::CoincidentNode),
+              (Texts{"N2: coincident node, at the same position as N0",
+                     "N4: coincident node, at the same position as N1",
+                     "N5: coincident node, at the same position as N0"}));
 }
 
 TEST(NetworkCheck, CoincidentNodesWithinATolerance) {
@@ -65,8 +65,8 @@ TEST(NetworkCheck, CoincidentNodesWithinATolerance) {
     CheckOptions options;
     options.coincidenceTolerance = 5;
     EXPECT_EQ(FindingsOf(sketch, FindingKind::CoincidentNode, options),
-              (Texts{"N1: coincident node, lies where N0 lies",
-                     "N3: coincident node, lies where N0 lies"}));
+              (Texts{"N1: coincident node, at the same position as N0",
+                     "N3: coincident node, at the same position as N0"}));
 }
 
 TEST(NetworkCheck, OneOfTwoCloseNodesIsAlwaysNamed) {
@@ -130,8 +130,8 @@ TEST(NetworkCheck, MissingNodes) {
     sketch.Section(0, kMissingNode).Section(kMissingNode, 0);
     sketch.Section(kMissingNode, kMissingNode).Section(0, 0);
     EXPECT_EQ(FindingsOf(sketch, FindingKind::MissingNode),
-              (Texts{"S0: names the missing node Y", "S1: names the missing node X",
-                     "S2: names the missing nodes X and Y"}));
+              (Texts{"S0: refers to the missing node Y", "S1: refers to the missing node X",
+                     "S2: refers to the missing nodes X and Y"}));
     const CheckResult result = CheckNetwork(sketch.Geometry());
     EXPECT_TRUE(IsPlace(result.findings[1].place));
     EXPECT_FALSE(IsPlace(result.findings[3].place)); // lies nowhere
@@ -142,8 +142,8 @@ TEST(NetworkCheck, ParallelSectionsNameTheFirstOfTheirNodes) {
     sketch.Section(0, 1).Section(1, 2).Section(1, 0, {{2, 2}}).Section(0, 2).Section(0, 1);
     sketch.Section(0, kMissingNode).Section(0, kMissingNode);
     EXPECT_EQ(FindingsOf(sketch, FindingKind::ParallelSection),
-              (Texts{"S2: parallel section, joins the same nodes as S0",
-                     "S4: parallel section, joins the same nodes as S0"}));
+              (Texts{"S2: parallel section, connects the same nodes as S0",
+                     "S4: parallel section, connects the same nodes as S0"}));
 }
 
 TEST(NetworkCheck, CrossingIsNamedWithItsPlace) {
@@ -188,5 +188,5 @@ TEST(NetworkCheck, NamesComeFromAReadNetwork) {
         texts.push_back(FindingText(finding, names));
     }
     EXPECT_EQ(texts, (Texts{"B: isolated node, no section starts or ends here",
-                            "P: names the missing node GONE"}));
+                            "P: refers to the missing node GONE"}));
 }

@@ -105,9 +105,9 @@ TEST(TreePaths, LeadToTheNodeWithTheLongestNameThatFits) {
         EXPECT_EQ(Narrow(result.rest), row.rest) << WideToUtf8(row.path);
     }
     EXPECT_EQ(Narrow(DeadEnd(FollowPath(root, L"Town/wes"))),
-              "There is no \"wes\" in \"Town\". There is: Queries");
+              "There is no \"wes\" in \"Town\". Available: Queries");
     EXPECT_EQ(Narrow(DeadEnd(FollowPath(root, L"Town/Queries/x"))),
-              "There is no \"x\" in \"Queries\". It has nothing below it.");
+              "There is no \"x\" in \"Queries\". It has no children.");
 }
 
 TEST(TreeDrops, GoWhereFamilyAndTargetAllow) {
@@ -208,11 +208,10 @@ TEST_F(Rules, PropertiesKeepTheirKind) {
         const char* value;
     } cases[] = {
         {m_a, L"Name", L" B2 ", "", "B2"},
-        {m_a, L"Name", L"  ", "A name is needed.", "B2"},
+        {m_a, L"Name", L"  ", "A name is required.", "B2"},
         {m_a, L"elevation", L"-3.25", "", "-3.25"},
-        {m_a, L"ELEVATION", L"", "\"\" is no number, and \"ELEVATION\" has to be one.", "-3.25"},
-        {m_a, L"ELEVATION", L"1,5", "\"1,5\" is no number, and \"ELEVATION\" has to be one.",
-         "-3.25"},
+        {m_a, L"ELEVATION", L"", "\"\" is not a number; ELEVATION must be one.", "-3.25"},
+        {m_a, L"ELEVATION", L"1,5", "\"1,5\" is not a number; ELEVATION must be one.", "-3.25"},
         {m_a, L"NOTE", L"12", "", "12"},
         {m_a, L"NOTE", L"a \"b\"", "", "a \"b\""},
         {m_a, L"Position", L"1, 1", "\"Position\" cannot be changed.", "0.00, 0.00"},

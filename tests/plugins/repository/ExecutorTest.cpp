@@ -37,18 +37,18 @@ TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
     } const cases[] = {
         {L"ADD_QUERY", &query, {kEscape}, ""},
         {L"ADD_QUERY", &query, {L""}, ""},
-        {L"ADD_QUERY", &query, {L"x", L"pipes"}, "\"pipes\" is none of"},
-        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER"}, "is no condition"},
+        {L"ADD_QUERY", &query, {L"x", L"pipes"}, "\"pipes\" is not one of"},
+        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER"}, "is not a condition"},
         {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"A = 1", kEscape}, ""},
-        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"1,2"}, "no list of numbers"},
-        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"2 1", L""}, "do not ascend"},
+        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"1,2"}, "not a list of numbers"},
+        {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"2 1", L""}, "ascending order"},
         {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"", L"99", L""}, "from 1 to 12"},
         {L"ADD_THEME_2", &theme, {L"x", L"unique", L"DIAMETER", L"1 300"}, "from 1 to 255"},
         {L"ADD_LABEL_1", &label, {L"x", L"{NAME"}, "a brace"},
-        {L"ADD_LABEL_1", &label, {L"x", L"", L"-3"}, "is no text height"},
+        {L"ADD_LABEL_1", &label, {L"x", L"", L"-3"}, "is not a valid text height"},
         {L"DEL_QUERY", &query, {L"nothing"}, "There is no configuration \"nothing\"."},
-        {L"RPODROP_QUERY", &query, {}, "Nothing was dropped"},
-        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER != 300"}, "is no condition"},
+        {L"RPODROP_QUERY", &query, {}, "dropped item cannot be used"},
+        {L"ADD_QUERY", &query, {L"x", L"all", L"all", L"DIAMETER != 300"}, "is not a condition"},
         {L"ADD_UNKNOWN", &query, {}, "of the family \"UNKNOWN\""},
         {L"FLY_QUERY", &query, {}, "\"FLY_QUERY\" is not a command"},
     };
@@ -144,7 +144,7 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
 
     const CString copy = Base(L"COPY_QUERY", {L""}, &node);
     EXPECT_EQ(InSystem(L"QUERY")->GetItem(copy)->GetName(), L"renamed in place (2)");
-    EXPECT_EQ(Base(L"DEL_QUERY", {L"y"}, &node), L"") << "only a whole word says yes";
+    EXPECT_EQ(Base(L"DEL_QUERY", {L"yeah"}, &node), L"") << "that is not a yes";
     EXPECT_EQ(Base(L"DEL_QUERY", {L"Yes"}, &node), guid);
 
     // From the disk tree onto a folder of the system, and onto the system itself.

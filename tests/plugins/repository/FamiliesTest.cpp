@@ -46,7 +46,7 @@ TEST_F(Executors, NothingComesToStandWhereItsTopologyIsMissing) {
         ASSERT_FALSE(item.GetGuid().IsEmpty()) << Host().Output();
         Host().TakeOutput();
         EXPECT_EQ(!Base(test.send, {L"Lots"}, &item).IsEmpty(), test.expected);
-        EXPECT_EQ(Host().TakeOutput().find("Lots holds no entities of this kind") !=
+        EXPECT_EQ(Host().TakeOutput().find("Lots contains no entities of this kind") !=
                       std::string::npos,
                   !test.expected);
         CWsTreeItemData target = Node(test.tag, Workspace::WsItemSystemRepository, &lots);

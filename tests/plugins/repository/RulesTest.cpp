@@ -121,9 +121,9 @@ TEST(ThemeClasses, RulesThatMakeNoSenseAreFound) {
           ThemeRule{ThemeMode::Ranges, 5, {1, 1}, {}}, ThemeRule{ThemeMode::Ranges, 5, {2, 1}, {}},
           ThemeRule{ThemeMode::Ranges, 5, {1, nan}, {}}, ThemeRule{ThemeMode::Unique, 5, {}, {0}},
           ThemeRule{ThemeMode::Unique, 5, {}, {1, 256}}}) {
-        EXPECT_STRNE(ThemeRuleFault(rule), "");
+        EXPECT_TRUE(ThemeRuleFault(rule));
     }
-    EXPECT_STREQ(ThemeRuleFault({ThemeMode::Ranges, 12, {-1, 0, 1}, {1, 255}}), "");
+    EXPECT_FALSE(ThemeRuleFault({ThemeMode::Ranges, 12, {-1, 0, 1}, {1, 255}}));
 }
 
 TEST(LabelPattern, PutsAttributesIntoATextAndFindsFaults) {
@@ -158,7 +158,7 @@ TEST(LabelPattern, PutsAttributesIntoATextAndFindsFaults) {
     };
     for (const auto& test : cases) {
         const LabelPattern pattern(test.pattern);
-        EXPECT_EQ(*pattern.Fault() == 0, test.isGood) << test.pattern << ": " << pattern.Fault();
+        EXPECT_EQ(!pattern.Fault(), test.isGood) << test.pattern;
         EXPECT_EQ(pattern.Text(valueOf), test.expected) << test.pattern;
     }
 }

@@ -27,6 +27,8 @@
 #include "platform/mfc/Dialog.h"
 #include "platform/mfc/NativeWidget.h"
 #include "platform/mfc/WinApp.h"
+#include "platform/win/File.h"
+#include "platform/win/MessageCatalogue.h"
 #include "platform/win/Screens.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 
@@ -37,7 +39,13 @@ namespace {
 constexpr int kTitleInterval = 500; // ms
 /// Between two looks at what the user does while long work goes on.
 constexpr int kEventInterval = 40; // ms
-constexpr const wchar_t* kHelpPage = L"help/index.htm";
+
+/// The start page of the help, in the user's language if there is one in it.
+CString HelpPage() {
+    const CString page = GetHostOption(kHostOptionInstall) + L"help/index";
+    const CString translated = page + L"_" + Language() + L".htm";
+    return FileExists(translated) ? translated : page + L".htm";
+}
 
 QString DrawingFilter() {
     return QtText(Msg::DrawingFiles) + QStringLiteral(" (*.gpkg);;") + QtText(Msg::AllFiles) +
@@ -222,7 +230,7 @@ void Frame::ImportWithDialog() {
 }
 
 void Frame::OpenHelp() {
-    const CString page = GetHostOption(kHostOptionInstall) + kHelpPage;
+    const CString page = HelpPage();
     const QUrl address = QUrl::fromLocalFile(ToQt(page.View()));
     if (!QFileInfo::exists(address.toLocalFile()) ||
         !AfxOpenAddress(FromQt(address.toString(QUrl::FullyEncoded)))) {

@@ -16,9 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-CString EventName() {
-    return MessageText(PlatformMsg::DocumentEvent);
-}
+constexpr PlatformMsg kEvent = PlatformMsg::DocumentEvent;
 
 bool IsSameFile(const CString& left, const CString& right) {
     std::error_code ignored;
@@ -87,8 +85,7 @@ void AcApDocManager::Tell(Call call) {
     for (AcApDocManagerReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
             // Each keeps track of the same documents, so none may miss what another fails at.
-            Guarded(EventName(),
-                    [&] { CallForeign(*pReactor, EventName(), [&] { call(*pReactor); }); });
+            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }
 }

@@ -10,9 +10,7 @@
 
 namespace {
 
-CString EventName() {
-    return MessageText(PlatformMsg::SaveEvent);
-}
+constexpr PlatformMsg kEvent = PlatformMsg::SaveEvent;
 
 AcRxClass* MakeClass(const wchar_t* name) {
     AcRxClass* const pClass = newAcRxClass(name, L"AcRxObject");
@@ -39,8 +37,7 @@ void AcEditor::Tell(Call call) {
     for (AcEditorReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
             // A save goes on, whoever fails: the drawing is the user's work.
-            Guarded(EventName(),
-                    [&] { CallForeign(*pReactor, EventName(), [&] { call(*pReactor); }); });
+            Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }
 }

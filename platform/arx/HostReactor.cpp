@@ -8,9 +8,7 @@
 
 namespace {
 
-CString EventName() {
-    return MessageText(PlatformMsg::ClosingEvent);
-}
+constexpr PlatformMsg kEvent = PlatformMsg::ClosingEvent;
 
 std::vector<AcApHostReactor*>& Reactors() {
     static auto* const reactors = new std::vector<AcApHostReactor*>;
@@ -32,9 +30,8 @@ bool acedAskToClose() {
     return std::none_of(reactors.begin(), reactors.end(), [](AcApHostReactor* pReactor) {
         bool isVeto = false;
         // One that cannot answer must not hold the user.
-        Guarded(EventName(), [&] {
-            CallForeign(*pReactor, EventName(), [&] { isVeto = pReactor->hostToClose(); });
-        });
+        Guarded(kEvent,
+                [&] { CallForeign(*pReactor, kEvent, [&] { isVeto = pReactor->hostToClose(); }); });
         return isVeto;
     });
 }

@@ -144,7 +144,7 @@ TEST_F(ConsoleWorkTest, AnImportThatIsStoppedFailsAndChangesNothing) {
     OneLine file(L"town.shp");
     m_port.SetInput(&file);
     EXPECT_EQ(acedRunner().Run({L"import"}), CommandOutcome::Failed);
-    EXPECT_EQ(Output(), "File: town.shp: reading was stopped\nNothing was imported.\n");
+    EXPECT_EQ(Output(), "> import\nFile: town.shp: reading was stopped\nNothing was imported.\n");
     EXPECT_FALSE(pDoc->isModified());
     EXPECT_TRUE(IsDefault(SIGINT));
     acDocManagerPtr()->closeDocument(pDoc);

@@ -23,6 +23,7 @@
 #include "platform/mfc/toolkit/ScreenPlace.h"
 #include "platform/mfc/toolkit/WindowCore.h"
 #include "platform/win/MessageCatalogue.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
@@ -111,7 +112,7 @@ int VirtualKeyOf(int key) {
 bool Application::notify(QObject* pReceiver, QEvent* pEvent) {
     // Nothing may be thrown through the toolkit's event loop: that would end the program.
     bool isTaken = true;
-    Guarded(L"A window", [&] { isTaken = NotifyUnguarded(pReceiver, pEvent); });
+    Guarded(PlatformMsg::WindowMessage, [&] { isTaken = NotifyUnguarded(pReceiver, pEvent); });
     return isTaken;
 }
 

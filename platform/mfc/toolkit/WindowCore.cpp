@@ -23,9 +23,7 @@
 namespace {
 
 /// What is said to fail when a window does.
-CString StepName() {
-    return MessageText(PlatformMsg::WindowMessage);
-}
+constexpr PlatformMsg kStep = PlatformMsg::WindowMessage;
 
 /// Never destroyed: windows may be static objects.
 auto& CoresByHandle() {
@@ -244,7 +242,7 @@ void WindowCore::WidgetGone() {
 }
 
 LRESULT WindowCore::CallWindow(const MSG& msg) {
-    return CallForeign(*m_pWnd, StepName(),
+    return CallForeign(*m_pWnd, kStep,
                        [&] { return m_pWnd->WindowProc(msg.message, msg.wParam, msg.lParam); });
 }
 
@@ -404,8 +402,7 @@ bool WindowCore::PreTranslate(MSG& msg) {
     for (HWND next = m_handle; WindowCore* const pCore = Find(next);) {
         next = pCore->m_outer && pCore->m_outer->isWindow() ? nullptr : pCore->m_parent;
         CWnd* const pWnd = pCore->m_pWnd;
-        if (pWnd &&
-            CallForeign(*pWnd, StepName(), [&] { return pWnd->PreTranslateMessage(&msg); })) {
+        if (pWnd && CallForeign(*pWnd, kStep, [&] { return pWnd->PreTranslateMessage(&msg); })) {
             return true;
         }
     }

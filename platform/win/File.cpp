@@ -45,14 +45,31 @@ FileHandle OpenFile(const wchar_t* path, const char* mode) {
     return file;
 }
 
-std::optional<std::string> ReadFileBytes(const wchar_t* path) {
-    FileHandle file = OpenFile(path, "rb");
-    if (!file) {
-        return std::nullopt;
-    }
+FileHandle OpenRegularFile(const wchar_t* path) {
+    // Without O_NONBLOCK opening a named pipe would wait until somebody writes to it.
+    const int descriptor = open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat info {};
-    if (fstat(fileno(file.get()), &info) != 0 || !S_ISREG(info.st_mode)) {
-        SetLastErrorNumber(S_ISDIR(info.st_mode) ? EISDIR : EINVAL);
+    if (descriptor < 0 || fstat(descriptor, &info) != 0) {
+        SetLastErrorNumber(errno);
+    } else if (S_ISDIR(info.st_mode)) {
+        SetLastErrorNumber(EISDIR);
+    } else if (!S_ISREG(info.st_mode)) {
+        SetLastErrorText(L"Not a regular file");
+    } else if (FileHandle file{fdopen(descriptor, "rb")}) {
+        return file;
+    } else {
+        SetLastErrorNumber(errno);
+    }
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+    return nullptr;
+}
+
+std::optional<std::string> ReadFileBytes(const wchar_t* path) {
+    FileHandle file = OpenRegularFile(path);
+    struct stat info {};
+    if (!file || fstat(fileno(file.get()), &info) != 0) {
         return std::nullopt;
     }
     std::string bytes(static_cast<std::size_t>(info.st_size), '\0');

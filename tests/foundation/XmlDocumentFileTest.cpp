@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/win/CodePage.h"
 #include "tests/support/TestHost.h"
@@ -79,6 +80,10 @@ TEST_F(XmlDocumentFile, KeepsItsTextIfThereIsNothingToRead) {
     EXPECT_EQ(Error(), "No such file or directory");
     EXPECT_FALSE(m_doc.Load(m_folder.Wide("")));
     EXPECT_EQ(Error(), "Is a directory");
+    ASSERT_EQ(mkfifo(m_folder.Native("pipe").c_str(), 0600), 0);
+    alarm(30); // opened for reading it would wait for its other end
+    EXPECT_FALSE(m_doc.Load(m_folder.Wide("pipe")));
+    EXPECT_EQ(Error(), "Not a regular file");
     EXPECT_EQ(m_doc.GetDoc(), L"<a n='1'><b/></a>");
     EXPECT_EQ(m_doc.GetAttrib(L"n"), L"1");
 }

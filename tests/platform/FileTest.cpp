@@ -1,9 +1,13 @@
 #include "platform/win/File.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/win/ErrorText.h"
+#include "platform/win/FileVersion.h"
 #include "platform/win/IniFile.h"
+#include "platform/win/Library.h"
 #include "tests/support/TestHost.h"
 
 TEST(File, ABackslashSeparatesFoldersToo) {
@@ -34,6 +38,26 @@ TEST(File, AFailedReadSaysWhy) {
     EXPECT_FALSE(ReadFileBytes(folder.Wide("")));
     EXPECT_EQ(LastErrorText().Str(), L"Is a directory");
     EXPECT_FALSE(ReadFileBytes(nullptr));
+}
+
+TEST(File, OnlyRegularFilesAreRead) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", folder / "device");
+    alarm(30); // whoever opens the pipe waits for its other end
+    for (const char* const name : {"pipe", "device"}) {
+        const CString path = folder.Wide(name);
+        const std::pair<const char*, std::function<bool()>> readers[] = {
+            {"bytes", [&] { return ReadFileBytes(path).has_value(); }},
+            {"settings", [&] { return IniFile().Load(path); }},
+            {"module", [&] { return LoadLibrary(path) != nullptr; }},
+            {"version", [&] { return ReadFileVersion(path).has_value(); }}};
+        for (const auto& [what, read] : readers) {
+            SetLastErrorText(L"");
+            EXPECT_FALSE(read()) << what << " of a " << name;
+            EXPECT_EQ(LastErrorText(), L"Not a regular file") << what << " of a " << name;
+        }
+    }
 }
 
 TEST(File, AFailureAtTheVeryEndOfTheProcessIsNone) {

@@ -1459,5 +1459,20 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>Command</extracomment>
         <translation>zeigt und ändert Sprache, Farben, Ordner und dergleichen</translation>
     </message>
+    <message id="940000">
+        <source></source>
+        <extracomment>Path, reason, new path</extracomment>
+        <translation>%s ist beschädigt (%s). Die Datei wurde als %s aufbewahrt; nicht lesbare Module werden nicht geladen.</translation>
+    </message>
+    <message id="940001">
+        <source></source>
+        <extracomment>Path, reason, second reason</extracomment>
+        <translation>%s ist beschädigt (%s). Die Datei konnte nicht beiseitegelegt werden: %s.</translation>
+    </message>
+    <message id="940002">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie enthält keine Modulliste</translation>
+    </message>
 </context>
 </TS>

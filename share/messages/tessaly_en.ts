@@ -1459,5 +1459,20 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>Command</extracomment>
         <translation>shows and changes language, colours, folders and the like</translation>
     </message>
+    <message id="940000">
+        <source></source>
+        <extracomment>Path, reason, new path</extracomment>
+        <translation>%s is damaged (%s). The file was kept as %s; modules that could not be read are not loaded.</translation>
+    </message>
+    <message id="940001">
+        <source></source>
+        <extracomment>Path, reason, second reason</extracomment>
+        <translation>%s is damaged (%s). It could not be kept aside: %s.</translation>
+    </message>
+    <message id="940002">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>it has no list of modules</translation>
+    </message>
 </context>
 </TS>

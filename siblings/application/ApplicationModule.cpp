@@ -111,7 +111,12 @@ public:
         for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
             acutPrintf(L"%s\n", problem);
         }
-        if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
+        const auto& plugins = *CWsManager::Instance()->PluginMgr();
+        const CString& damage = plugins.GetModuleRegistry()->GetProblem();
+        if (!damage.IsEmpty()) {
+            acutPrintf(L"%s\n", damage);
+        }
+        if (!plugins.IsRegistryLoaded() && damage.IsEmpty()) {
             acutPrintf(L"%sModuleRegistry.xml: no list of modules; there are no plug-ins.\n",
                        CModuleConfiguration::Instance()->GetPath(L"support"));
         }

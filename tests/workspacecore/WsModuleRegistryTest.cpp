@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "siblings/logging/LogEngine.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/plugins/WsModuleRegistry.h"
 
@@ -92,19 +93,42 @@ TEST(WsModuleRegistry, FilesKeepTheListOnlyIfTheyCannotBeRead) {
     host.Support().Write("good.xml", "<moduleRegistry><module fileName='a'/></moduleRegistry>");
     host.Support().Write("ill.xml", "<moduleRegistry><module fileName='a'></moduleRegistry>");
     host.Support().Write("empty.xml", "");
+    host.Support().Write("other.xml", "<modules/>");
+    host.Support().Write("cut.xml", "<moduleRegistry ><module fileName='a'></module>");
+    CLogEngine::SetLogging(1, host.Support().Native("trace.log"));
     const struct {
         const char* file;
         int result;
         const wchar_t* files;
+        const char* problem; ///< of a damaged file
     } cases[] = {
-        {"missing.xml", 0, L"old+ "}, {"", 0, L"old+ "},     {"good.xml", 1, L"a- "},
-        {"ill.xml", 1, L"a- "},       {"empty.xml", 0, L""},
+        {"missing.xml", 0, L"old+ ", nullptr},
+        {"", 0, L"old+ ", nullptr},
+        {"good.xml", 1, L"a- ", nullptr},
+        {"ill.xml", 1, L"a- ", "End tag 'moduleRegistry'"},
+        {"cut.xml", 1, L"", "Root element has sibling"},
+        {"empty.xml", 0, L"", ""},
+        {"other.xml", 0, L"", ""},
     };
     for (const auto& row : cases) {
         CWsModuleRegistry registry;
         registry.AddWsModule(Module(L"old"));
+        const std::string before = host.Support().Read(row.file);
         EXPECT_EQ(registry.Load(host.Support().Wide(row.file)), row.result) << row.file;
         EXPECT_EQ(Files(registry), row.files) << row.file;
+        const std::string aside = std::string(row.file) + ".damaged-1";
+        const std::string problem = WideToUtf8(registry.GetProblem().View());
+        EXPECT_EQ(host.Support().Has(aside), row.problem != nullptr) << row.file;
+        EXPECT_EQ(problem.empty(), row.problem == nullptr) << problem;
+        if (row.problem) {
+            EXPECT_EQ(host.Support().Read(aside), before) << row.file;
+            EXPECT_NE(problem.find(row.problem), std::string::npos) << problem;
+            EXPECT_NE(problem.find(host.Support().Native(aside)), std::string::npos) << problem;
+            EXPECT_NE(host.Support().Read("trace.log").find(host.Support().Native(aside)),
+                      std::string::npos);
+            registry.Load(host.Support().Wide("good.xml"));
+            EXPECT_TRUE(registry.GetProblem().IsEmpty()) << "that of the file loaded last";
+        }
     }
     CWsModuleRegistry registry;
     registry.AddWsModule(Module(L"\u20ACa=b.arx"));

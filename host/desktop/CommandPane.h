@@ -1,6 +1,7 @@
 // The command line of the desktop: what was said, and what is asked.
 #pragma once
 
+#include <QColor>
 #include <QStringList>
 #include <QWidget>
 
@@ -35,6 +36,13 @@ public:
     /// Puts a key that was pressed elsewhere into the input.
     void TypeKey(QKeyEvent& event);
     QString Text() const;
+
+    /// An invalid colour stands for that of the theme.
+    struct Look {
+        QColor ground;
+        QColor text;
+    };
+    void SetColors(const Look& messages, const Look& prompt);
 
 signals:
     void entered(const QString& line);

@@ -5,6 +5,7 @@
 #include "host/desktop/CommandPane.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/QtTexts.h"
+#include "platform/arx/EdPrompt.h"
 #include "platform/mfc/MessageBox.h"
 #include "platform/mfc/Messages.h"
 #include "platform/mfc/WinApp.h"
@@ -186,6 +187,16 @@ void DesktopPort::PostCommand(std::wstring_view text) {
     }
     m_posted.emplace_back(text);
     m_frame.RunPostedSoon();
+}
+
+void DesktopPort::ShowColors(const AcColorSettings& colors) {
+    const auto shown = [&](std::size_t place) {
+        const std::uint32_t color = colors.m_colors[place];
+        return color == AcColorSettings::kHostColor ? QColor() : QColor(QRgb(color));
+    };
+    m_frame.Pane().SetColors(
+        {shown(AcColorSettings::kCommandLineBackground), shown(AcColorSettings::kCommandLineText)},
+        {shown(AcColorSettings::kPromptBackground), shown(AcColorSettings::kPromptText)});
 }
 
 bool DesktopPort::ShowProgress(std::wstring_view what, int percent) {

@@ -41,6 +41,7 @@ public:
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void PostCommand(std::wstring_view text) override;
+    void ShowColors(const AcColorSettings& colors) override;
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 

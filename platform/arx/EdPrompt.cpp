@@ -10,7 +10,11 @@ namespace {
 constexpr std::wstring_view kMessageTitle = L"Tessaly";
 
 AcColorSettings& Colors() {
-    static AcColorSettings colors;
+    static AcColorSettings colors = [] {
+        AcColorSettings own;
+        own.m_colors.fill(AcColorSettings::kHostColor);
+        return own;
+    }();
     return colors;
 }
 
@@ -63,5 +67,6 @@ bool acedSetCurrentColors(const AcColorSettings* pColors) {
         return false;
     }
     Colors() = *pColors;
+    HostPort().ShowColors(Colors());
     return true;
 }

@@ -3,6 +3,8 @@
 
 #include "platform/win/String.h"
 
+struct AcColorSettings;
+
 /// How a prompt ended.
 enum class PromptEnd {
     Answered,
@@ -24,6 +26,9 @@ public:
     virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
     /// Has the host take a text as if the user had typed it, once the running command ended.
     virtual void PostCommand(std::wstring_view text) = 0;
+
+    /// The colours of the host's surfaces changed (EdPrompt.h).
+    virtual void ShowColors(const AcColorSettings& /*colors*/) {}
 
     /// Shows how far long work is, in percent. False once the user wants it to stop. The
     /// first call, with 0, comes as the work begins; texts may be printed in between.

@@ -116,7 +116,7 @@ TEST_F(TraceTest, TextsOfAllKinds) {
     address << pointer;
     WS_TRACE_TEXT(L"wide \u00E8");
     WS_TRACE_TEXT(static_cast<const wchar_t*>(nullptr));
-    WS_TRACE_TEXT(CString(L"name \u00E8"));
+    WS_TRACE_TEXT(CString(L"name \u00E8\u4E2D"));
     WS_TRACE_TEXT(42);
     WS_TRACE_VALUE("lpszFileName", L"C:\\a.dwg");
     WS_TRACE_VALUE("lpszFileName", static_cast<const wchar_t*>(nullptr));
@@ -126,7 +126,7 @@ TEST_F(TraceTest, TextsOfAllKinds) {
     WS_TRACE_FORMAT(L"Module = %s, %s", CString(L"a.arx"), L"ON");
     const std::vector<std::string> expected = {"wide \u00E8",
                                                "Error: Bad pointer",
-                                               "name \xE8",
+                                               "name \u00E8\u4E2D",
                                                "42",
                                                "lpszFileName = 'C:\\a.dwg'",
                                                "lpszFileName = 'Error: Bad pointer'",

@@ -269,18 +269,6 @@ TEST_F(ListCtrlTest, PaintingComesInStagesAndTakesTheirColours) {
     EXPECT_EQ(list.stages, Log()) << "painting asked for painting";
 }
 
-TEST_F(ListCtrlTest, ASelectedRowIsHighlightedWithoutAHandler) {
-    Fill(2);
-    List().SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    List().SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
-    const QImage picture = WidgetOf(List())->grab().toImage();
-    const auto groundOf = [&](int row) {
-        const CRect cell = List().GetSubItemRect(row, 1);
-        return picture.pixelColor(cell.left + 2, cell.CenterPoint().y);
-    };
-    EXPECT_NE(groundOf(0), groundOf(1));
-}
-
 TEST_F(ListCtrlTest, AHundredThousandRowsFillFastAtBothEnds) {
     const auto begin = std::chrono::steady_clock::now();
     Fill(100000);

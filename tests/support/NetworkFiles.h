@@ -18,7 +18,7 @@ public:
         }
         const std::string format = name == "generated-sewer.inp" ? "swmm" : "epanet";
         const std::string command = TESSALY_STAGE_DIR "/townmaker --seed 11 --sections 300 "
-                                    "--faults 25 --format " +
+                                                      "--faults 25 --format " +
                                     format + " " + m_folder.Native(name);
         if (std::system(command.c_str()) != 0) {
             throw std::runtime_error(command);

@@ -8,6 +8,7 @@
 #include "platform/win/FileVersion.h"
 #include "platform/win/IniFile.h"
 #include "platform/win/Library.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 TEST(File, ABackslashSeparatesFoldersToo) {
@@ -137,11 +138,7 @@ TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
 }
 
 TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
-    const struct {
-        const char* what;
-        const char* before;
-        const char* after;
-    } cases[] = {
+    const Rows<const char*, const char*, const char*> cases = {
         {"a value", "; a\n[General]\nx = 1\n Key=old \ny=2\n",
          "; a\n[General]\nx = 1\nKey=ä=b\ny=2\n"},
         {"case of the names", "[GENERAL]\nKEY=1", "[GENERAL]\nKEY=ä=b\n"},
@@ -155,11 +152,11 @@ TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
         {"what makes no sense", "[General]\n???\nkey=1\n", "[General]\n???\nkey=ä=b\n"},
         {"a byte order mark", "\xEF\xBB\xBF[General]\nkey=1\n", "\xEF\xBB\xBF[General]\nkey=ä=b\n"},
     };
-    for (const auto& row : cases) {
-        const std::string text = WithIniValue(row.before, L"General", L"key", L"ä=b");
-        EXPECT_EQ(text, row.after) << row.what;
+    for (const auto& [what, before, after] : cases) {
+        const std::string text = WithIniValue(before, L"General", L"key", L"ä=b");
+        EXPECT_EQ(text, after) << what;
         IniFile file;
         file.Parse(text, L"");
-        EXPECT_EQ(*file.Find(L"General", L"key"), L"ä=b") << row.what;
+        EXPECT_EQ(*file.Find(L"General", L"key"), L"ä=b") << what;
     }
 }

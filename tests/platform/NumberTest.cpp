@@ -31,24 +31,6 @@ TEST(Number, TextToInt) {
     }
 }
 
-TEST(Number, TextToLong) {
-    constexpr long kMost = std::numeric_limits<long>::max();
-    constexpr long kLeast = std::numeric_limits<long>::min();
-    const std::pair<const wchar_t*, long> cases[] = {
-        {L"", 0},
-        {L" -12x", -12},
-        {L"2147483648", 2147483648L},
-        {L"9223372036854775807", kMost},
-        {L"9223372036854775808", kMost},
-        {L"-9223372036854775808", kLeast},
-        {L"-9223372036854775809", kLeast},
-        {L"99999999999999999999", kMost},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(TextToLong(text), expected) << WideToUtf8(text);
-    }
-}
-
 TEST(Number, TextToDoubleReadsAsFarAsItCan) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const std::pair<const wchar_t*, double> cases[] = {

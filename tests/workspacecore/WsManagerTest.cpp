@@ -7,6 +7,7 @@
 #include "siblings/giscore/QueryDefinition.h"
 #include "siblings/giscore/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/WsManager.h"
 
@@ -63,18 +64,6 @@ TEST(WsManager, TheFirstExecutorStaysTheBaseExecutor) {
     pManager->RegisterBaseExecutor(&first);
     pManager->RegisterBaseExecutor(&second);
     EXPECT_EQ(pManager->CmdMgr()->GetBaseExecutor(), &first);
-}
-
-TEST(WsManager, PublishersAreSharedByName) {
-    const TestHost host;
-    auto* const pFramework = Notification::CNotificationFramework::Instance();
-    const CWsManager& manager = *CWsManager::Instance();
-    EXPECT_EQ(manager.GetRefreshAllPbl(), pFramework->GetPublisher(L"REFRESH_CHILDREN"));
-    EXPECT_EQ(manager.GetRefreshTreePbl(), pFramework->GetPublisher(L"REFRESH_TREE"));
-    EXPECT_EQ(manager.GetSelectionInProgressPbl(),
-              pFramework->GetPublisher(L"SELECTION_IN_PROGRESS"));
-    EXPECT_EQ(manager.GetSelectionCompletedPbl(), pFramework->GetPublisher(L"SELECTION_COMPLETED"));
-    EXPECT_NE(manager.GetRefreshAllPbl(), manager.GetRefreshTreePbl());
 }
 
 TEST(WsManager, RunsAfterDropOnlyForExactlyOne) {
@@ -142,31 +131,17 @@ TEST(WsCommandManager, HandsTheCallToTheExecutor) {
     EXPECT_EQ(commands.GetAllowStopCommand(), 1);
 }
 
-TEST(WsCommandManager, TheFullResultTakesItsValuesInOrder) {
-    const CExecutorReturnValue value(1, L"a", L"b", L"c", L"d", 2, L"e", EntitySection);
-    EXPECT_EQ(value.m_nStatus, 1);
-    EXPECT_EQ(value.m_strText1 + value.m_strText2 + value.m_strText3 + value.m_strText4 +
-                  value.m_strText5 + value.m_strText6,
-              L"abcde");
-    EXPECT_EQ(value.m_nNumber, 2);
-    EXPECT_EQ(value.m_enmEntityType, EntitySection);
-    EXPECT_TRUE(value.m_strText6.IsEmpty());
-}
-
 TEST(WsCommandManager, SetDataCommandsOfASystem) {
     const TestHost host;
     acDocManagerPtr()->newDocument(L"Drawing1.dwg");
     CWsManager* const pManager = CWsManager::Instance();
-    const struct {
-        const wchar_t* id;
-        int isSetData;
-        int function;
-    } rows[] = {{L"A", 1, 1}, {L"B", 0, 1}, {L"C", 1, 2}, {L"D", 1, 1}};
-    for (const auto& row : rows) {
-        const auto command = Command(row.id);
-        command->SetIsSetDataCommand(row.isSetData);
+    const Rows<const wchar_t*, int, int> rows = {
+        {L"A", 1, 1}, {L"B", 0, 1}, {L"C", 1, 2}, {L"D", 1, 1}};
+    for (const auto& [id, isSetData, function] : rows) {
+        const auto command = Command(id);
+        command->SetIsSetDataCommand(isSetData);
         command->AddWsTopologyData(
-            boost::shared_ptr<CWsTopologyData>(new CWsTopologyData(TopologyLine, row.function)));
+            boost::shared_ptr<CWsTopologyData>(new CWsTopologyData(TopologyLine, function)));
         pManager->RegisterWsCommand(command);
     }
     CWsCommandRegistry::CommandVector commands(3);
@@ -178,22 +153,6 @@ TEST(WsCommandManager, SetDataCommandsOfASystem) {
     ASSERT_EQ(commands.size(), 2U);
     EXPECT_EQ(commands[0]->GetId(), L"A");
     EXPECT_EQ(commands[1]->GetId(), L"D");
-}
-
-TEST(WsCommandManager, TracesTheIdInAScope) {
-    TestHost host;
-    CWsManager* const pManager = CWsManager::Instance();
-    CLogEngine::SetLogging(1, host.Support().Native("trace.log"));
-    Query::CQueryDefinition query(L"{guid}", L"All pipes");
-    pManager->CmdMgr()->Execute(L"ID", &query, nullptr);
-    pManager->CmdMgr()->ExecuteExplicite(nullptr, nullptr, nullptr, nullptr);
-    const std::string trace = host.Support().Read("trace.log");
-    for (const char* part : {"[Orvane::Workspace::CWsCommandManager::Execute], ID\n",
-                             "CommandManager::Execute], All pipes\n",
-                             "Exiting function , Orvane::Workspace::CWsCommandManager::Execute\n",
-                             "CommandManager::ExecuteExplicite], Error: Bad pointer\n"}) {
-        EXPECT_NE(trace.find(part), std::string::npos) << part;
-    }
 }
 
 } // namespace

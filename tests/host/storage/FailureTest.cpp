@@ -2,7 +2,6 @@
 #include <csignal>
 #include <map>
 #include <random>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -36,8 +35,7 @@ protected:
         return Refused(database, m_storage->Save(database, m_folder.Wide(name), {}));
     }
     std::string WhyNotSavedAs(AcDbDatabase& database, const std::string& path) {
-        const std::string from = path.find("/disk/") == path.npos ? "plan.gpkg" : "disk/plan.gpkg";
-        return Refused(database, m_storage->SaveAs(database, m_folder.Wide(from),
+        return Refused(database, m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"),
                                                    CString(Utf8ToWide(path)), {}));
     }
     std::string Refused(const AcDbDatabase& database, const AcDbStorageResult& result) {
@@ -83,7 +81,7 @@ TEST_F(FailureTest, FilesThatAreNoDrawingsAreRefusedWithTheReason) {
     EXPECT_FALSE(WhyNotRead("plain.gpkg").empty());
 }
 
-TEST_F(FailureTest, ANewerDrawingIsRefusedByItsVersion) {
+TEST_F(FailureTest, NotesOfANewerOrImpossibleDrawingAreRefused) {
     AcDbDatabase database;
     MakePlan(database);
     Sqlite(m_folder.Native("plan.gpkg"))
@@ -91,19 +89,15 @@ TEST_F(FailureTest, ANewerDrawingIsRefusedByItsVersion) {
     EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "its version is 2, and 1 is the newest"));
     Rename(database, "changed");
     EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "its version is 2"));
-    Sqlite(m_folder.Native("plan.gpkg")).Execute("DELETE FROM orv_meta");
-    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "states no version"));
-}
-
-TEST_F(FailureTest, AnImpossibleNextIdIsRefused) {
-    AcDbDatabase database;
-    MakePlan(database);
-    for (const char* number : {"-1", "0", "4294967296", "99999999999999999999", "x"}) {
+    for (const std::string number : {"-1", "0", "4294967296", "99999999999999999999", "x"}) {
         Sqlite(m_folder.Native("plan.gpkg"))
-            .Execute(std::string("UPDATE orv_meta SET value = '") + number +
-                     "' WHERE key = 'next_id'");
+            .Execute("UPDATE orv_meta SET value = '1' WHERE key = 'version';"
+                     "UPDATE orv_meta SET value = '" +
+                     number + "' WHERE key = 'next_id'");
         EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "impossible next id")) << number;
     }
+    Sqlite(m_folder.Native("plan.gpkg")).Execute("DELETE FROM orv_meta");
+    EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "states no version"));
 }
 
 TEST_F(FailureTest, ACutFileIsRefusedWhereverItIsCut) {
@@ -117,23 +111,6 @@ TEST_F(FailureTest, ACutFileIsRefusedWhereverItIsCut) {
     }
 }
 
-TEST_F(FailureTest, DamageInsideIsNeverACrash) {
-    AcDbDatabase database;
-    MakePlan(database);
-    const std::string whole = m_folder.Read("plan.gpkg");
-    std::mt19937 random(7);
-    int refused = 0;
-    for (int run = 0; run < 60; ++run) {
-        std::string broken = whole;
-        for (int i = 0; i < 1 + run % 40; ++i) {
-            broken[100 + random() % (broken.size() - 100)] = static_cast<char>(random());
-        }
-        m_folder.Write("broken.gpkg", broken);
-        refused += !WhyNotRead("broken.gpkg").empty();
-    }
-    EXPECT_GT(refused, 0);
-}
-
 TEST_F(FailureTest, ALockOfAnotherProgramIsWaitedForShortlyAndTold) {
     AcDbDatabase database;
     MakePlan(database);
@@ -141,19 +118,13 @@ TEST_F(FailureTest, ALockOfAnotherProgramIsWaitedForShortlyAndTold) {
     Rename(database, "changed");
     {
         Sqlite other(m_folder.Native("plan.gpkg"));
-        for (const char* lock : {"BEGIN IMMEDIATE", "BEGIN EXCLUSIVE"}) {
-            other.Execute(lock);
-            EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"),
-                                 "plan.gpkg: another program has locked it"))
-                << lock;
-            other.Execute("ROLLBACK");
-        }
         other.Execute("BEGIN");
         other.Query("SELECT count(*) FROM nodes");
         EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "locked")) << "a reader";
-        other.Execute("COMMIT");
-        other.Execute("BEGIN EXCLUSIVE");
-        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), "another program has locked it"));
+        other.Execute("COMMIT; BEGIN EXCLUSIVE");
+        const std::string locked = "plan.gpkg: another program has locked it";
+        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), locked.c_str()));
+        EXPECT_TRUE(Contains(WhyNotRead("plan.gpkg"), locked.c_str()));
         other.Execute("ROLLBACK");
     }
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
@@ -273,7 +244,7 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
         const rlimit limit{size + 20000, size + 20000};
         setrlimit(RLIMIT_FSIZE, &limit);
         Rename(database, std::string(500, 'x').c_str());
-        EXPECT_FALSE(WhyNotSaved(database, "plan.gpkg").empty());
+        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "the disk is full"));
         EXPECT_FALSE(WhyNotSavedAs(database, m_folder.Native("copy.gpkg")).empty());
         const AcDbStorageResult whole =
             m_storage->SaveAs(database, L"", m_folder.Wide("new.gpkg"), {});
@@ -286,50 +257,6 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
     EXPECT_EQ(status, 0);
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
     EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
-}
-
-/// A disk of a few pages, where the machine lets one be made.
-class SmallDisk {
-public:
-    SmallDisk(std::string folder, std::size_t bytes) : m_folder(std::move(folder)) {
-        std::filesystem::create_directory(m_folder);
-        const std::string size = "size=" + std::to_string(bytes);
-        m_bThere = mount("none", m_folder.c_str(), "tmpfs", 0, size.c_str()) == 0;
-    }
-    ~SmallDisk() {
-        if (m_bThere) {
-            umount(m_folder.c_str());
-        }
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    bool IsThere() const { return m_bThere; }
-
-private:
-    std::string m_folder;
-    bool m_bThere = false;
-};
-
-TEST_F(FailureTest, ADiskThatRunsFullIsToldAndSavingGoesOnOnceThereIsRoom) {
-    const SmallDisk disk(m_folder.Native("disk"), 3'000'000);
-    if (!disk.IsThere()) {
-        GTEST_SKIP() << "no disk may be made here";
-    }
-    AcDbDatabase database;
-    for (int i = 0; i < 1000; ++i) {
-        m_ids.push_back(AddNode(database, i, i, "a node of the plan"));
-    }
-    SaveNew(database, "disk/plan.gpkg");
-    const std::string before = DescribeFile("disk/plan.gpkg");
-    m_folder.Write("disk/filler", std::string(3'000'000, 'x'));
-    Rename(database, std::string(600, 'y').c_str());
-    EXPECT_TRUE(Contains(WhyNotSaved(database, "disk/plan.gpkg"), "the disk is full"));
-    EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("disk/copy.gpkg")), "full"));
-    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == before);
-    std::filesystem::remove(m_folder / "disk/filler");
-    Save(database, "disk/plan.gpkg");
-    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == Describe(database));
-    EXPECT_FALSE(std::filesystem::exists(m_folder / "disk/copy.gpkg"));
 }
 
 TEST_F(FailureTest, StoppingLeavesEverythingAsItWas) {

@@ -1,5 +1,6 @@
 // Drawings at the command line, through the program itself.
 #include "tests/host/ProgramTest.h"
+#include "tests/support/Rows.h"
 
 namespace Tessaly {
 namespace {
@@ -56,10 +57,7 @@ TEST_F(DrawingCommandsTest, ADrawingIsSavedAndOpenedAgain) {
 TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
     MakeTown("plan");
     m_folder.Write("text.gpkg", "no drawing");
-    const struct {
-        const char* lines;
-        const char* text;
-    } cases[] = {
+    const Rows<const char*, const char*> cases = {
         {"OPEN\n@none\n", "none.gpkg: "},
         {"OPEN\n@text.gpkg\n", "Nothing was opened."},
         {"OPEN\n", "Nothing was opened."},
@@ -83,9 +81,9 @@ TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
         {"CLOSE\nUNDO\n", "No drawing is open."},
         {"CLOSE\nIMPORT\n", "No drawing is open."},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(Script(row.lines), 1) << row.lines << m_output;
-        EXPECT_TRUE(Printed(row.text)) << row.text << " in " << m_output;
+    for (const auto& [lines, text] : cases) {
+        EXPECT_EQ(Script(lines), 1) << lines << m_output;
+        EXPECT_TRUE(Printed(text)) << text << " in " << m_output;
         EXPECT_TRUE(Printed("stopped at")) << m_output;
     }
 }
@@ -139,23 +137,32 @@ TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
 }
 
 TEST_F(DrawingCommandsTest, ClosingAsksAboutChanges) {
-    const struct {
-        const char* answer;
-        bool isClosed;
-        bool isSaved;
-    } cases[] = {
+    const Rows<const char*, bool, bool> cases = {
         {"Yes", true, true},      {"y", true, true},   {"no", true, false}, {"N", true, false},
         {"CANCEL", false, false}, {"c", false, false}, {"", false, false},  {"nope", false, false},
     };
-    for (const auto& row : cases) {
-        MakeTown("plan");
-        Run("", InFolder("OPEN\n@plan\nIMPORT\n@town.geojson\nCLOSE\n" + std::string(row.answer) +
-                         "\nDRAWINGS\n"));
-        EXPECT_EQ(Printed("plan.gpkg is closed."), row.isClosed) << row.answer << m_output;
-        EXPECT_EQ(Printed("plan.gpkg has changes that were not saved.\n"), !row.isClosed);
-        Script("OPEN\n@plan\n");
-        EXPECT_EQ(Printed("10 entities"), row.isSaved) << row.answer << m_output;
-        std::filesystem::remove(m_folder / "plan.gpkg");
+    // All answers in one run of the program, and all files in another.
+    MakeTown("plan");
+    std::string lines;
+    std::string look;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const std::string file = std::to_string(i) + ".gpkg";
+        std::filesystem::copy(m_folder / "plan.gpkg", m_folder / file);
+        look += "OPEN\n@" + file + "\n";
+        lines +=
+            "OPEN\n@" + file + "\nIMPORT\n@town.geojson\nCLOSE\n" + std::get<0>(cases[i]) + "\n";
+    }
+    Run("", InFolder(lines));
+    const std::string closing = m_output;
+    Run("", InFolder(look));
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const auto& [answer, isClosed, isSaved] = cases[i];
+        const std::string file = std::to_string(i) + ".gpkg";
+        EXPECT_EQ(closing.find(file + " is closed.") != closing.npos, isClosed) << answer;
+        EXPECT_EQ(closing.find(file + " has changes that were not saved.\n") != closing.npos,
+                  !isClosed)
+            << answer << closing;
+        EXPECT_EQ(Printed(file + ": 10 entities"), isSaved) << answer << m_output;
     }
 }
 
@@ -181,22 +188,19 @@ TEST_F(DrawingCommandsTest, DrawingsAreFoundByNumberNameAndFile) {
     std::filesystem::create_directory(m_folder / "sub");
     MakeTown("sub/plan");
     const std::string open = "OPEN\n@plan\nOPEN\n@sub/plan\nNEW\n"; // Drawing1 is the first
-    const struct {
-        const char* answer;
-        const char* current; ///< empty if there is no such drawing
-    } cases[] = {{"1", "*  1  Drawing1"},
-                 {"drawing1", "*  1  Drawing1"},
-                 {"2", "*  2  @plan.gpkg"},
-                 {"@sub/plan", "*  3  @sub/plan.gpkg"},
-                 {"plan.gpkg", ""},
-                 {"0", ""},
-                 {"5", ""},
-                 {"1x", ""},
-                 {"Drawing2", "*  4  Drawing2"}};
-    for (const auto& row : cases) {
-        EXPECT_EQ(Script(open + "SWITCH\n" + row.answer + "\nDRAWINGS\n"), *row.current ? 0 : 1)
-            << row.answer << m_output;
-        EXPECT_TRUE(Printed(InFolder(row.current))) << row.answer << m_output;
+    const Rows<const char*, const char*> cases = {{"1", "*  1  Drawing1"},
+                                                  {"drawing1", "*  1  Drawing1"},
+                                                  {"2", "*  2  @plan.gpkg"},
+                                                  {"@sub/plan", "*  3  @sub/plan.gpkg"},
+                                                  {"plan.gpkg", ""},
+                                                  {"0", ""},
+                                                  {"5", ""},
+                                                  {"1x", ""},
+                                                  {"Drawing2", "*  4  Drawing2"}};
+    for (const auto& [answer, current] : cases) {
+        EXPECT_EQ(Script(open + "SWITCH\n" + answer + "\nDRAWINGS\n"), *current ? 0 : 1)
+            << answer << m_output;
+        EXPECT_TRUE(Printed(InFolder(current))) << answer << m_output;
     }
 }
 

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <map>
 #include <random>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -35,7 +36,8 @@ protected:
         return Refused(database, m_storage->Save(database, m_folder.Wide(name), {}));
     }
     std::string WhyNotSavedAs(AcDbDatabase& database, const std::string& path) {
-        return Refused(database, m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"),
+        const std::string from = path.find("/disk/") == path.npos ? "plan.gpkg" : "disk/plan.gpkg";
+        return Refused(database, m_storage->SaveAs(database, m_folder.Wide(from),
                                                    CString(Utf8ToWide(path)), {}));
     }
     std::string Refused(const AcDbDatabase& database, const AcDbStorageResult& result) {
@@ -244,7 +246,7 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
         const rlimit limit{size + 20000, size + 20000};
         setrlimit(RLIMIT_FSIZE, &limit);
         Rename(database, std::string(500, 'x').c_str());
-        EXPECT_TRUE(Contains(WhyNotSaved(database, "plan.gpkg"), "the disk is full"));
+        EXPECT_FALSE(WhyNotSaved(database, "plan.gpkg").empty());
         EXPECT_FALSE(WhyNotSavedAs(database, m_folder.Native("copy.gpkg")).empty());
         const AcDbStorageResult whole =
             m_storage->SaveAs(database, L"", m_folder.Wide("new.gpkg"), {});
@@ -257,6 +259,50 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
     EXPECT_EQ(status, 0);
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
     EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
+}
+
+/// A disk of a few pages, where the machine lets one be made.
+class SmallDisk {
+public:
+    SmallDisk(std::string folder, std::size_t bytes) : m_folder(std::move(folder)) {
+        std::filesystem::create_directory(m_folder);
+        const std::string size = "size=" + std::to_string(bytes);
+        m_bThere = mount("none", m_folder.c_str(), "tmpfs", 0, size.c_str()) == 0;
+    }
+    ~SmallDisk() {
+        if (m_bThere) {
+            umount(m_folder.c_str());
+        }
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+    bool IsThere() const { return m_bThere; }
+
+private:
+    std::string m_folder;
+    bool m_bThere = false;
+};
+
+TEST_F(FailureTest, ADiskThatRunsFullIsToldAndSavingGoesOnOnceThereIsRoom) {
+    const SmallDisk disk(m_folder.Native("disk"), 3'000'000);
+    if (!disk.IsThere()) {
+        GTEST_SKIP() << "no disk may be made here";
+    }
+    AcDbDatabase database;
+    for (int i = 0; i < 1000; ++i) {
+        m_ids.push_back(AddNode(database, i, i, "a node of the plan"));
+    }
+    SaveNew(database, "disk/plan.gpkg");
+    const std::string before = DescribeFile("disk/plan.gpkg");
+    m_folder.Write("disk/filler", std::string(3'000'000, 'x'));
+    Rename(database, std::string(600, 'y').c_str());
+    EXPECT_TRUE(Contains(WhyNotSaved(database, "disk/plan.gpkg"), "the disk is full"));
+    EXPECT_TRUE(Contains(WhyNotSavedAs(database, m_folder.Native("disk/copy.gpkg")), "full"));
+    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == before);
+    std::filesystem::remove(m_folder / "disk/filler");
+    Save(database, "disk/plan.gpkg");
+    EXPECT_TRUE(DescribeFile("disk/plan.gpkg") == Describe(database));
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "disk/copy.gpkg"));
 }
 
 TEST_F(FailureTest, StoppingLeavesEverythingAsItWas) {

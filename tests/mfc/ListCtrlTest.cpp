@@ -122,16 +122,6 @@ TEST_F(ListCtrlTest, SelectionTellsOfEachRowThatChanges) {
     EXPECT_EQ(List().GetSelectedCount(), 0);
 }
 
-TEST_F(ListCtrlTest, AHandlerMayChangeTheRowsItHearsOf) {
-    Fill(5);
-    m_pDialog->onNotify = [this](NMHDR*) -> LRESULT {
-        List().DeleteAllItems();
-        return 0;
-    };
-    List().SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
-    EXPECT_EQ(List().GetItemCount(), 0);
-}
-
 TEST_F(ListCtrlTest, ClicksComeAfterTheSelectionAndAlsoBesideTheRows) {
     Fill(2);
     Log order;

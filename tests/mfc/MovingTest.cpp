@@ -142,24 +142,6 @@ TEST_F(MovingTest, WindowsAreCountedFromTheFront) {
     EXPECT_EQ(Screens().Stacking(), Order{b.GetSafeHwnd()});
 }
 
-TEST_F(MovingTest, ChildrenStandBehindTheirNeighbour) {
-    CWnd parent;
-    CWnd bar;
-    CWnd marker;
-    parent.Create(WS_POPUP, {0, 0, 50, 50}, nullptr);
-    marker.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 1);
-    bar.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 2);
-    const auto isAbove = [&](const CWnd& one, const CWnd& other) {
-        const QObjectList& order = FrameOf(parent)->children();
-        return order.indexOf(FrameOf(one)) > order.indexOf(FrameOf(other));
-    };
-    marker.SetWindowPos(nullptr, 0, 3, 20, 3, SWP_NOACTIVATE);
-    EXPECT_TRUE(isAbove(marker, bar));
-    marker.SetWindowPos(&bar, 0, 3, 20, 3, SWP_NOACTIVATE);
-    EXPECT_TRUE(isAbove(bar, marker));
-    EXPECT_EQ(parent.ScreenToClient(marker.GetWindowRect()), CRect(0, 3, 20, 6));
-}
-
 TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
     TestDialog dialog;
     dialog.Create();

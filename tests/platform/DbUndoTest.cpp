@@ -188,3 +188,12 @@ TEST_F(UndoTest, ClearingWithinAGroupForgetsWhatWasBefore) {
     EXPECT_FALSE(Undo().undo());
     EXPECT_EQ(Part(a, "body"), "2,0,0 ");
 }
+
+TEST_F(UndoTest, AnEntityThatComesBackBringsItsLayerAlong) {
+    const AcDbObjectId layer = m_database.layer(L"Sewer");
+    const AcDbObjectId a = AddPoint(m_database, 1, layer);
+    Erase(m_database, a);
+    OffRecord([&] { EXPECT_EQ(Erase(m_database, layer), Acad::eOk); });
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_EQ(Part(a, "exists") + Part(layer, "exists"), "yesyes");
+}

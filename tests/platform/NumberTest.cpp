@@ -50,18 +50,6 @@ TEST(Number, TextToDoubleReadsAsFarAsItCan) {
     }
 }
 
-TEST(Number, TextToReal) {
-    const std::pair<const char*, std::optional<double>> cases[] = {
-        {"1.5", 1.5},      {"+1.5", 1.5}, {"-.5", -0.5}, {"1e3", 1000.0}, {"5.", 5.0},
-        {"", {}},          {"+", {}},     {"+-1", {}},   {"++1", {}},     {" 1", {}},
-        {"1 ", {}},        {"1,5", {}},   {"1.5m", {}},  {"inf", {}},     {"nan", {}},
-        {"-infinity", {}}, {"1e999", {}}, {"0x1p3", {}}, {"1e", {}},      {"1.2.3", {}},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(TextToReal(text), expected) << text;
-    }
-}
-
 TEST(Number, RealToTextReadsBackAsTheSameNumber) {
     for (const double value : {0.1, 1.0 / 3, -1e300, 5e-324, 123456789.125, 1e22, 0.0,
                                std::numeric_limits<double>::max()}) {

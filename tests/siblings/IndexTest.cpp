@@ -111,3 +111,13 @@ TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
     }
     EXPECT_EQ(Polygons().GetNearestPolygon(-500, 0, 10), AcDbObjectId());
 }
+
+TEST_F(IndexTest, ADegeneratePolygonIsListedAndDoesNoHarm) {
+    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
+    const AcDbObjectId none = Polygon(parcels, {});
+    const AcDbObjectId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
+    EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
+    EXPECT_NE(Polygons().GetIndexEntry(none), nullptr);
+    EXPECT_EQ(Polygons().GetPolygonsAt(1, 1), (Ids{dot}));
+    EXPECT_EQ(Polygons().GetNearestPolygon(0, 0, 10), dot);
+}

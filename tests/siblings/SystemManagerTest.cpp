@@ -1,9 +1,6 @@
-#include <functional>
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
-#include "siblings/giscore/DataConfiguration.h"
-#include "siblings/giscore/TopologyConfiguration.h"
 #include "tests/support/Rows.h"
 #include "tests/support/SystemEventLog.h"
 #include "tests/support/TestDrawing.h"
@@ -186,25 +183,13 @@ TEST_F(SystemManagerTest, WithoutADrawingThereIsNothing) {
     EXPECT_EQ(m_reason.Str(), L"There is no drawing.");
 }
 
-TEST(GisEvents, ObserversMayGoWhileOthersAreTold) {
-    struct Leaver final : ISystemEvents {
-        void OnTemporaryDataRefreshed() override {
-            ++calls;
-            CGisEvents::Instance()->Unregister(pOther);
-        }
-        int calls = 0;
-        ISystemEvents* pOther = nullptr;
-    };
-    Leaver first;
-    Leaver second;
-    first.pOther = &second;
-    second.pOther = &first;
-    for (Leaver* pLeaver : {&first, &second, &first}) {
-        CGisEvents::Instance()->Register(pLeaver);
-    }
-    const TestHost host;
-    Data::CDataConfiguration::Instance()->RefreshTemporaryDataDefinitions();
-    EXPECT_EQ(first.calls, 1);
-    EXPECT_EQ(second.calls, 0);
-    CGisEvents::Instance()->Unregister(&first);
+TEST_F(SystemManagerTest, ObserversMayGoWhileOthersAreTold) {
+    SystemEventLog first;
+    SystemEventLog second;
+    first.on["new"] = [&] { CGisEvents::Instance()->Unregister(&second); };
+    Create(L"a");
+    EXPECT_EQ(first.Take() + second.Take(), "new a;");
+    CGisEvents::Instance()->Register(&first);
+    Create(L"b");
+    EXPECT_EQ(first.Take() + second.Take(), "new b;") << "registered twice, told once";
 }

@@ -37,7 +37,7 @@ private:
         return pDoc ? Text(pDoc->fileName()) : "none";
     }
     template <class System>
-        requires requires(const System& system) { system.GetSystemName(); }
+    requires requires(const System& system) { system.GetSystemName(); }
     static std::string Text(const System* pSystem) {
         return pSystem ? Text(pSystem->GetSystemName()) : "none";
     }

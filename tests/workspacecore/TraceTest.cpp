@@ -151,16 +151,6 @@ TEST_F(TraceTest, ScopesNestAndCloseOnExceptions) {
     EXPECT_EQ(numberOf(Lines()[1]), numberOf(Lines()[2])) << "the line of the opening";
 }
 
-TEST_F(TraceTest, ScopeSwitchedOnInTheMiddleOnlyLeaves) {
-    CLogEngine::SetLogging(0, m_folder.Native("trace.log"));
-    {
-        WS_TRACE_SCOPE();
-        SwitchOn();
-    }
-    ASSERT_EQ(Texts().size(), 1U);
-    EXPECT_EQ(Texts()[0].rfind("Exiting function , ", 0), 0U);
-}
-
 TEST_F(TraceTest, SiteFileIsCutBehindTheLastBackslash) {
     SwitchOn();
     for (const char* file : {"C:\\src\\WsManager.cpp", "src/WsManager.cpp", "WsManager.cpp"}) {

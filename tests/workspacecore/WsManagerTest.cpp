@@ -155,5 +155,21 @@ TEST(WsCommandManager, SetDataCommandsOfASystem) {
     EXPECT_EQ(commands[1]->GetId(), L"D");
 }
 
+TEST(WsCommandManager, TracesTheIdInAScope) {
+    TestHost host;
+    CWsManager* const pManager = CWsManager::Instance();
+    CLogEngine::SetLogging(1, host.Support().Native("trace.log"));
+    Query::CQueryDefinition query(L"{guid}", L"All pipes");
+    pManager->CmdMgr()->Execute(L"ID", &query, nullptr);
+    pManager->CmdMgr()->ExecuteExplicite(nullptr, nullptr, nullptr, nullptr);
+    const std::string trace = host.Support().Read("trace.log");
+    for (const char* part : {"[Orvane::Workspace::CWsCommandManager::Execute], ID\n",
+                             "CommandManager::Execute], All pipes\n",
+                             "Exiting function , Orvane::Workspace::CWsCommandManager::Execute\n",
+                             "CommandManager::ExecuteExplicite], Error: Bad pointer\n"}) {
+        EXPECT_NE(trace.find(part), std::string::npos) << part;
+    }
+}
+
 } // namespace
 } // namespace Orvane::Workspace

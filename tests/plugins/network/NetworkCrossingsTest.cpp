@@ -278,15 +278,3 @@ TEST(NetworkOrientation, IsExactForPointsAlmostOnALine) {
     }
     EXPECT_GT(zeros, 5000);
 }
-
-TEST(NetworkOrientation, TurnsRoundWithTheOrderOfThePoints) {
-    // The tenths are no exact numbers, so the third point lies beside the line by a hair.
-    const Point a{0.1, 0.1};
-    const Point b{0.7, 0.7};
-    const Point c{0.3, 0.30000000000000004};
-    const int turn = Orientation(a, b, c);
-    EXPECT_EQ(turn, 1);
-    EXPECT_EQ(Orientation(b, c, a), turn);
-    EXPECT_EQ(Orientation(c, a, b), turn);
-    EXPECT_EQ(Orientation(b, a, c), -turn);
-}

@@ -2,8 +2,6 @@
 #include "tests/support/Rows.h"
 #include "tests/workspacecore/panel/WsTestDialog.h"
 
-#include <stdexcept>
-
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
@@ -64,27 +62,6 @@ TEST_F(WsDialogManagerTest, ANullEntryAsksTheFactoriesEachTime) {
     Manager().ResetDialogPositions();
 }
 
-struct ThrowingFactory : WsTestFactory {
-    CWsBaseDialog* CreateWsDialog(const wchar_t* id) override {
-        const WsTestDialog half(id);
-        throw std::runtime_error("no");
-    }
-    int DeleteWsDialog(const wchar_t*) override { throw std::runtime_error("no"); }
-};
-
-TEST_F(WsDialogManagerTest, AnExceptionPassesOutAndLeavesNothing) {
-    const auto before = AddFactory();
-    CWsManager::Instance()->RegisterWsDialogFactory(boost::make_shared<ThrowingFactory>());
-    const auto after = AddFactory({L"A"});
-    EXPECT_THROW(Manager().GetDlgById(L"A"), std::runtime_error);
-    EXPECT_FALSE(Manager().IsDialogCreated(L"A"));
-    EXPECT_EQ(before->asked, Ids{"A"});
-    EXPECT_EQ(after->asked, Ids{});
-    const WsTestDialog dialog(L"A");
-    EXPECT_THROW(Manager().DeleteDlgById(L"A"), std::runtime_error);
-    EXPECT_TRUE(Manager().IsDialogCreated(L"A"));
-}
-
 TEST_F(WsDialogManagerTest, OfTwoDialogsOfOneIdTheFirstIsFound) {
     WsTestDialog first(L"A");
     {
@@ -93,16 +70,6 @@ TEST_F(WsDialogManagerTest, OfTwoDialogsOfOneIdTheFirstIsFound) {
     }
     EXPECT_FALSE(Manager().IsDialogCreated(L"A")) << "the second takes the entry with it";
     EXPECT_EQ(Manager().GetDlgById(L"A"), nullptr);
-}
-
-TEST_F(WsDialogManagerTest, AllThatCanBeMade) {
-    AddFactory({L"A", L"B"});
-    CWsManager::Instance()->RegisterWsDialogFactory(nullptr);
-    AddFactory({L"B", L"C"});
-    const WsTestDialog open(L"OPEN");
-    std::vector<CString> ids = {L"before"};
-    Manager().GetAllDialogs(ids);
-    EXPECT_EQ(ids, (std::vector<CString>{L"before", L"A", L"B", L"B", L"C"}));
 }
 
 // Deleting.
@@ -360,22 +327,6 @@ TEST_F(WsDialogManagerTest, StatesThatNobodyAskedForAreNotWritten) {
     m_host.Support().Write("uiStates.xml", "");
     Manager().SaveDialogStates();
     EXPECT_NE(m_host.Support().Read("uiStates.xml").find("OLD"), std::string::npos);
-}
-
-TEST_F(WsDialogManagerTest, ACopySharesStatesAndFactoriesButNotTheRegistry) {
-    AddFactory({L"A"});
-    Manager().GetDlgById(L"A");
-    const auto states = Manager().GetDialogStates();
-    m_host.Support().Write("uiStates.xml", "");
-    {
-        CWsDialogManager copy = Manager();
-        EXPECT_EQ(copy.GetDialogStates(), states);
-        EXPECT_TRUE(copy.IsDialogCreated(L"A"));
-        EXPECT_EQ(copy.DeleteDlgById(L"A"), 1);
-        EXPECT_FALSE(copy.IsDialogCreated(L"A"));
-    }
-    EXPECT_FALSE(Manager().IsDialogCreated(L"A")) << "the dialog itself has gone";
-    EXPECT_NE(m_host.Support().Read("uiStates.xml"), "") << "a manager that goes saves";
 }
 
 } // namespace

@@ -49,13 +49,11 @@ FileHandle OpenRegularFile(const wchar_t* path) {
     // Without O_NONBLOCK opening a named pipe would wait until somebody writes to it.
     const int descriptor = open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat info {};
-    if (descriptor < 0 || fstat(descriptor, &info) != 0) {
-        SetLastErrorNumber(errno);
-    } else if (S_ISDIR(info.st_mode)) {
-        SetLastErrorNumber(EISDIR);
-    } else if (!S_ISREG(info.st_mode)) {
-        SetLastErrorText(L"Not a regular file");
-    } else if (FileHandle file{fdopen(descriptor, "rb")}) {
+    const bool isKnown = descriptor >= 0 && fstat(descriptor, &info) == 0;
+    if (isKnown && !S_ISREG(info.st_mode)) {
+        S_ISDIR(info.st_mode) ? SetLastErrorNumber(EISDIR)
+                              : SetLastErrorText(L"Not a regular file");
+    } else if (FileHandle file{isKnown ? fdopen(descriptor, "rb") : nullptr}) {
         return file;
     } else {
         SetLastErrorNumber(errno);

@@ -7,7 +7,7 @@
 namespace Orvane::Workspace {
 
 std::optional<CString> KeepDamagedFile(const wchar_t* path, const CString& reason) {
-    const std::optional<CString> aside = SetFileAside(path, L".damaged-");
+    std::optional<CString> aside = SetFileAside(path, L".damaged-");
     if (aside) {
         WS_TRACE_FORMAT(L"Damaged: %s (%s), kept as %s", path, reason, *aside);
     } else {

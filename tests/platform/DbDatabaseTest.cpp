@@ -19,13 +19,6 @@ Ids EntitiesOf(const AcDbDatabase& database, AcDbObjectId block) {
     return Ids(ids.begin(), ids.end());
 }
 
-std::vector<double> PointsSeen(const AcDbDatabase& database) {
-    std::vector<double> seen;
-    database.forEachEntity(
-        [&](const AcDbEntity& entity) { seen.push_back(entity.extents().minX); });
-    return seen;
-}
-
 /// Writes down what it hears, as "+3 ~3 -3 ^3 *": appended, modified, erased, back, replaced.
 class Witness : public AcDbDatabaseReactor {
 public:
@@ -88,25 +81,6 @@ TEST(Database, ADictionaryThatComesBackIsEmpty) {
     EXPECT_TRUE(database.undo().undo());
     EXPECT_TRUE(database.undo().undo()); // the erasure
     EXPECT_EQ(PartsOf(database)[std::to_string(id.number()) + " record r"], "text");
-}
-
-TEST(Database, PutsEntitiesIntoTheirBlockAndOnTheirLayer) {
-    AcDbDatabase database;
-    const AcDbObjectId layer = database.layer(L"Sewer");
-    const AcDbObjectId block = database.block(L"Valve");
-    const AcDbObjectId first = AddPoint(database, 1);
-    const AcDbObjectId second = AddPoint(database, 2, layer);
-    const AcDbObjectId inner = database.appendEntity(std::make_unique<AcDbPoint>(), block);
-    const auto& entity = dynamic_cast<const AcDbEntity&>(*database.peek(second));
-    EXPECT_EQ(entity.layer(), L"Sewer");
-    EXPECT_EQ(dynamic_cast<const AcDbEntity&>(*database.peek(first)).layer(), L"0");
-    EXPECT_EQ(EntitiesOf(database, database.modelSpace()), (Ids{first, second}));
-    EXPECT_EQ(EntitiesOf(database, block), Ids{inner});
-    EXPECT_EQ(database.entityCount(), 3U);
-    EXPECT_EQ(PointsSeen(database), (std::vector<double>{1, 2}));
-    Erase(database, first);
-    EXPECT_EQ(database.entityCount(), 2U);
-    EXPECT_EQ(PointsSeen(database), std::vector<double>{2});
 }
 
 TEST(Database, RefusesPlacesThatItDoesNotHave) {
@@ -275,21 +249,6 @@ TEST(Loading, RefusesWhatCannotBeRight) {
     database.endLoading();
     EXPECT_EQ(database.entityCount(), 0U);
     EXPECT_EQ(database.layers().size(), 2U);
-}
-
-TEST(Loading, GivenUpLeavesAnEmptyDrawing) {
-    AcDbDatabase database;
-    Witness witness;
-    database.addReactor(&witness);
-    database.beginLoading(10);
-    database.load(AcDbObjectId(3), std::make_unique<AcDbPoint>());
-    database.setCoordinateSystem(L"wkt");
-    database.cancelLoading();
-    EXPECT_EQ(PartsOf(database), PartsOf(AcDbDatabase()));
-    EXPECT_FALSE(database.isModified());
-    EXPECT_EQ(witness.Take(), "");
-    AddPoint(database, 1);
-    EXPECT_TRUE(database.undo().undo());
 }
 
 TEST(Loading, WaitsForEverythingToBeClosed) {

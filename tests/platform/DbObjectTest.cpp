@@ -102,18 +102,6 @@ TEST(OpeningObjects, AnotherClassIsLeftClosed) {
     EXPECT_EQ(Play(database, id, "wc"), (std::vector<int>{0, 0}));
 }
 
-TEST(OpeningObjects, TheWorkingDatabaseIsMeantIfNoneIsGiven) {
-    AcDbPoint* pPoint = nullptr;
-    {
-        AcDbDatabase database;
-        acdbHostApplicationServices()->setWorkingDatabase(&database);
-        EXPECT_EQ(acdbOpenObject(pPoint, AddPoint(database, 5), AcDb::kForRead), Acad::eOk);
-        EXPECT_EQ(pPoint->position().x, 5);
-    }
-    // It is forgotten with its end.
-    EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), nullptr);
-}
-
 TEST(ChangingObjects, NeedsAnOpeningForWriting) {
     AcDbDatabase database;
     const AcDbObjectId layer = database.layer(L"Sewer");

@@ -127,17 +127,6 @@ TEST_F(SystemManagerTest, DeletionGoesStepByStep) {
     EXPECT_GT(Create(L"b")->GetSystemId(), idOfB);
 }
 
-TEST_F(SystemManagerTest, VisibilityIsToldWhenItChanges) {
-    CGisSystem* const pA = Create(L"a");
-    SystemEventLog log;
-    Manager().SetSystemVisible(pA);
-    Manager().SetSystemInvisible(pA);
-    Manager().SetSystemInvisible(pA);
-    Manager().SetSystemVisible(pA);
-    EXPECT_EQ(log.Take(), "hidden a;shown a;");
-    EXPECT_EQ(Manager().SetSystemVisible(nullptr), 0);
-}
-
 TEST_F(SystemManagerTest, EachDrawingHasItsOwnSystems) {
     CGisSystem* const pA = Create(L"a");
     Manager().SetSystemActive(pA);

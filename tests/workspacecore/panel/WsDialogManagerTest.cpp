@@ -303,15 +303,6 @@ TEST_F(Cascade, OnlyWithTheCursorOnThePrimaryMonitor) {
     EXPECT_EQ(Place({400, 300}, enmDialogFixedCascaded, {70, 80}), CPoint(70, 80));
 }
 
-TEST_F(Cascade, GoesOnWhereItWasWhenTheScreenChanges) {
-    EXPECT_EQ(Place({400, 300}), CPoint(1520, 0));
-    m_desktop.monitors = {{{0, 0, 1280, 800}, {0, 0, 1280, 800}}};
-    EXPECT_EQ(Place({400, 300}), CPoint(880, 301)) << "a smaller one";
-    EXPECT_EQ(Place({400, 300}), CPoint(480, 0));
-    Manager().ResetDialogPositions();
-    EXPECT_EQ(Place({400, 300}), CPoint(480, 301)) << "a reset does not begin it anew";
-}
-
 // States.
 
 TEST_F(WsDialogManagerTest, StatesThatNobodyAskedForAreNotWritten) {

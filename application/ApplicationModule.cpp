@@ -185,9 +185,12 @@ public:
         acedAddHostReactor(&s_close);
         acedRegCmds()->addSource(&s_commands);
         // The manager's first call loads the modules, and with them what they keep.
-        CWsManager::Instance();
+        const auto& plugins = *CWsManager::Instance()->PluginMgr();
         s_problems.Begin();
-        if (!CWsManager::Instance()->PluginMgr()->IsRegistryLoaded()) {
+        const CString& damage = plugins.GetModuleRegistry()->GetProblem();
+        if (!damage.IsEmpty()) {
+            acutPrintf(L"%s\n", damage);
+        } else if (!plugins.IsRegistryLoaded()) {
             acutPrintf(L"%s\n", MessageText(AppMsg::NoModuleList,
                                             CModuleConfiguration::Instance()->GetPath(L"support") +
                                                 L"ModuleRegistry.xml"));

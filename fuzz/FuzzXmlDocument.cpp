@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "fuzz/XmlIndexCheck.h"
 #include "platform/win/CodePage.h"
-#include "tests/foundation/XmlIndexCheck.h"
 #include "workspacecore/foundation/XmlDocument.h"
 #include "workspacecore/foundation/XmlParser.h"
 

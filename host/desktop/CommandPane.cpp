@@ -23,6 +23,21 @@ constexpr int kMostLines = 20'000;
 constexpr int kMostHistory = 500;
 constexpr int kVisibleLines = 6;
 
+void Paint(QWidget& widget, const CommandLineLook& look) {
+    QPalette palette; // follows the theme in what it does not set
+    if (look.ground.isValid()) {
+        palette.setColor(QPalette::Base, look.ground);
+        palette.setColor(QPalette::Window, look.ground);
+    }
+    if (look.text.isValid()) {
+        palette.setColor(QPalette::Text, look.text);
+        palette.setColor(QPalette::WindowText, look.text);
+        palette.setColor(QPalette::PlaceholderText, look.text);
+    }
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(look.ground.isValid());
+}
+
 } // namespace
 
 CommandPane::CommandPane(QWidget* pParent)
@@ -68,6 +83,12 @@ void CommandPane::Append(const QString& text) {
 
 QString CommandPane::Text() const {
     return m_pText->toPlainText();
+}
+
+void CommandPane::SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) {
+    Paint(*m_pText, messages);
+    Paint(*m_pPrompt, prompt);
+    Paint(*m_pInput, prompt);
 }
 
 void CommandPane::SetPrompt(const QString& prompt) {

@@ -1,8 +1,11 @@
 // The command line of the desktop: what was said, and what is asked.
 #pragma once
 
+#include <QColor>
 #include <QStringList>
 #include <QWidget>
+
+#include "host/desktop/PromptWindow.h"
 
 class QCompleter;
 class QLabel;
@@ -35,6 +38,8 @@ public:
     /// Puts a key that was pressed elsewhere into the input.
     void TypeKey(QKeyEvent& event);
     QString Text() const;
+
+    void SetColors(const CommandLineLook& messages, const CommandLineLook& prompt);
 
 signals:
     void entered(const QString& line);

@@ -7,6 +7,7 @@
 #include "host/desktop/PromptWindow.h"
 #include "host/desktop/QtTexts.h"
 #include "platform/arx/CommandRunner.h"
+#include "platform/arx/EdPrompt.h"
 #include "platform/mfc/MessageBox.h"
 #include "platform/mfc/Messages.h"
 #include "platform/mfc/WinApp.h"
@@ -176,6 +177,16 @@ void DesktopPort::Alert(std::wstring_view text, std::wstring_view title) {
         return;
     }
     ShowMessageBox(Over(), CString(text), CString(title), MB_OK | MB_ICONINFORMATION);
+}
+
+void DesktopPort::ShowColors(const AcColorSettings& colors) {
+    const auto shown = [&](std::size_t place) {
+        const std::uint32_t color = colors.m_colors[place];
+        return color == AcColorSettings::kHostColor ? QColor() : QColor(QRgb(color));
+    };
+    m_window.SetColors(
+        {shown(AcColorSettings::kCommandLineBackground), shown(AcColorSettings::kCommandLineText)},
+        {shown(AcColorSettings::kPromptBackground), shown(AcColorSettings::kPromptText)});
 }
 
 bool DesktopPort::ShowProgress(std::wstring_view what, int percent) {

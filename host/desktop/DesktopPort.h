@@ -43,6 +43,7 @@ public:
     PromptEnd GetChoice(const ChoicePrompt& prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void Escape() override { Cancel(); }
+    void ShowColors(const AcColorSettings& colors) override;
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 

@@ -244,6 +244,10 @@ void Frame::ShowText(const QString& text) {
     m_pPane->Append(text);
 }
 
+void Frame::SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) {
+    m_pPane->SetColors(messages, prompt);
+}
+
 void Frame::BeginPrompt(const QString& prompt, bool takesText) {
     m_prompts.append(prompt);
     m_pPane->SetPrompt(prompt);

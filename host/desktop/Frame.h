@@ -54,6 +54,7 @@ public:
     // What the user is asked, and told.
     void ShowText(const QString& text) override;
     void BeginPrompt(const QString& prompt, bool takesText) override;
+    void SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) override;
     void EndPrompt() override;
     bool ShowProgress(const QString& what, int percent) override;
     void EndProgress() override;

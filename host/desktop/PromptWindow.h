@@ -1,9 +1,16 @@
 // What the way to the user needs of a window.
 #pragma once
 
+#include <QColor>
 #include <QString>
 
 namespace Tessaly {
+
+/// Colours of a part of the command line; an invalid one stands for the theme's.
+struct CommandLineLook {
+    QColor ground;
+    QColor text;
+};
 
 class IPromptWindow {
 public:
@@ -15,6 +22,7 @@ public:
     /// \param takesText the user is to type the answer
     virtual void BeginPrompt(const QString& prompt, bool takesText) = 0;
     virtual void EndPrompt() = 0;
+    virtual void SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) = 0;
     /// See IHostPort.
     virtual bool ShowProgress(const QString& what, int percent) = 0;
     virtual void EndProgress() = 0;

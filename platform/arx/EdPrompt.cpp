@@ -14,7 +14,11 @@ constexpr std::wstring_view kMessageTitle = L"Tessaly";
 constexpr const wchar_t* kEscape = L"\x1B";
 
 AcColorSettings& Colors() {
-    static AcColorSettings colors;
+    static AcColorSettings colors = [] {
+        AcColorSettings own;
+        own.m_colors.fill(AcColorSettings::kHostColor);
+        return own;
+    }();
     return colors;
 }
 
@@ -118,5 +122,6 @@ bool acedSetCurrentColors(const AcColorSettings* pColors) {
         return false;
     }
     Colors() = *pColors;
+    HostPort().ShowColors(Colors());
     return true;
 }

@@ -59,8 +59,10 @@ PLATFORM_API void AfxMessageBox(const wchar_t* message);
 /// character cancels what is still open instead.
 PLATFORM_API void acedPostCommand(const wchar_t* text);
 
-/// Colours of the host's own surfaces as 32-bit values, by their fixed places.
+/// Colours of the host's own surfaces by their fixed places, as 0x00RRGGBB.
 struct AcColorSettings {
+    /// The host's own choice, which may change with its theme.
+    static constexpr std::uint32_t kHostColor = 0xFFFFFFFF;
     static constexpr std::size_t kCommandLineBackground = 5;
     static constexpr std::size_t kCommandLineText = 24;
     static constexpr std::size_t kPromptBackground = 25;
@@ -71,4 +73,5 @@ struct AcColorSettings {
 };
 
 PLATFORM_API bool acedGetCurrentColors(AcColorSettings* pColors);
+/// Takes effect at once.
 PLATFORM_API bool acedSetCurrentColors(const AcColorSettings* pColors);

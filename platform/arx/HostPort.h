@@ -5,6 +5,8 @@
 
 #include "platform/arx/PromptChoices.h"
 
+struct AcColorSettings;
+
 /// How a prompt ended.
 enum class PromptEnd {
     Answered,
@@ -45,6 +47,9 @@ public:
     /// What the next prompts are answered with, in this order. Replaces what is left of
     /// earlier ones.
     virtual void SetAnswers(const std::vector<CString>& /*answers*/) {}
+
+    /// The colours of the host's surfaces changed (EdPrompt.h).
+    virtual void ShowColors(const AcColorSettings& /*colors*/) {}
 
     /// Shows how far long work is, in percent. False once the user wants it to stop. The
     /// first call, with 0, comes as the work begins; texts may be printed in between.

@@ -45,14 +45,29 @@ FileHandle OpenFile(const wchar_t* path, const char* mode) {
     return file;
 }
 
-std::optional<std::string> ReadFileBytes(const wchar_t* path) {
-    FileHandle file = OpenFile(path, "rb");
-    if (!file) {
-        return std::nullopt;
-    }
+FileHandle OpenRegularFile(const wchar_t* path) {
+    // Without O_NONBLOCK opening a named pipe would wait until somebody writes to it.
+    const int descriptor = open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat info {};
-    if (fstat(fileno(file.get()), &info) != 0 || !S_ISREG(info.st_mode)) {
-        SetLastErrorNumber(S_ISDIR(info.st_mode) ? EISDIR : EINVAL);
+    const bool isKnown = descriptor >= 0 && fstat(descriptor, &info) == 0;
+    if (isKnown && !S_ISREG(info.st_mode)) {
+        S_ISDIR(info.st_mode) ? SetLastErrorNumber(EISDIR)
+                              : SetLastErrorText(L"Not a regular file");
+    } else if (FileHandle file{isKnown ? fdopen(descriptor, "rb") : nullptr}) {
+        return file;
+    } else {
+        SetLastErrorNumber(errno);
+    }
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+    return nullptr;
+}
+
+std::optional<std::string> ReadFileBytes(const wchar_t* path) {
+    FileHandle file = OpenRegularFile(path);
+    struct stat info {};
+    if (!file || fstat(fileno(file.get()), &info) != 0) {
         return std::nullopt;
     }
     std::string bytes(static_cast<std::size_t>(info.st_size), '\0');

@@ -19,7 +19,12 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Opens with the modes of the C library. On failure the handle is empty and
 /// LastErrorText (ErrorText.h) tells why.
+/// Waits, as the C library does, for the other end of a named pipe.
 PLATFORM_API FileHandle OpenFile(const wchar_t* path, const char* mode);
+
+/// Opens a regular file for reading. Anything else, such as a folder or a named pipe, is
+/// refused at once, with LastErrorText set.
+PLATFORM_API FileHandle OpenRegularFile(const wchar_t* path);
 
 /// The whole content of a regular file; nothing on failure, with LastErrorText set.
 PLATFORM_API std::optional<std::string> ReadFileBytes(const wchar_t* path);

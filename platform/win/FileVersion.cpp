@@ -41,7 +41,7 @@ std::optional<FileVersion> FindVersion(const std::string& notes) {
 } // namespace
 
 std::optional<FileVersion> ReadFileVersion(const wchar_t* path) {
-    const FileHandle file = OpenFile(path, "rb");
+    const FileHandle file = OpenRegularFile(path);
     const std::optional<ElfFile> elf = file ? ElfFile::Read(file.get()) : std::nullopt;
     if (!elf) {
         return std::nullopt;

@@ -12,7 +12,7 @@
 namespace {
 
 bool HasItsWholeLength(const wchar_t* path) {
-    const FileHandle file = OpenFile(path, "rb");
+    const FileHandle file = OpenRegularFile(path);
     if (!file) {
         return false;
     }

@@ -1109,36 +1109,6 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <extracomment>In a list of templates; with topology and function</extracomment>
         <translation>System: %s, %s</translation>
     </message>
-    <message id="900590">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baumvorlagen</translation>
-    </message>
-    <message id="900591">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
-    </message>
-    <message id="900592">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Baummenü</translation>
-    </message>
-    <message id="900593">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
-    </message>
-    <message id="900594">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Bäume</translation>
-    </message>
-    <message id="900595">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
-    </message>
     <message id="900540">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1348,6 +1318,36 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Property</extracomment>
         <translation>Fläche</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baumvorlagen</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Baummenü</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Bäume</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
     </message>
     <message id="900610">
         <source></source>
@@ -3429,6 +3429,21 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Name of a step that can be undone</extracomment>
         <translation>Standards zeigen</translation>
+    </message>
+    <message id="940000">
+        <source></source>
+        <extracomment>Path, reason, new path</extracomment>
+        <translation>%s ist beschädigt (%s). Die Datei wurde als %s aufbewahrt; nicht lesbare Module werden nicht geladen.</translation>
+    </message>
+    <message id="940001">
+        <source></source>
+        <extracomment>Path, reason, second reason</extracomment>
+        <translation>%s ist beschädigt (%s). Die Datei konnte nicht beiseitegelegt werden: %s.</translation>
+    </message>
+    <message id="940002">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie enthält keine Modulliste</translation>
     </message>
 </context>
 </TS>

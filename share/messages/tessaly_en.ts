@@ -1109,36 +1109,6 @@ The systems are marked. Press Enter to go on: </translation>
         <extracomment>In a list of templates; with topology and function</extracomment>
         <translation>System: %s, %s</translation>
     </message>
-    <message id="900590">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Tree templates</translation>
-    </message>
-    <message id="900591">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints the templates of the system, disk and net trees</translation>
-    </message>
-    <message id="900592">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Tree menu</translation>
-    </message>
-    <message id="900593">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints the menu of a node of a tree, given by its path</translation>
-    </message>
-    <message id="900594">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>Trees</translation>
-    </message>
-    <message id="900595">
-        <source></source>
-        <extracomment>Command</extracomment>
-        <translation>prints what the system, disk and net trees show</translation>
-    </message>
     <message id="900540">
         <source></source>
         <extracomment>Title of a dialog; command</extracomment>
@@ -1348,6 +1318,36 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Property</extracomment>
         <translation>Area</translation>
+    </message>
+    <message id="900590">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree templates</translation>
+    </message>
+    <message id="900591">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the templates of the system, disk and net trees</translation>
+    </message>
+    <message id="900592">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Tree menu</translation>
+    </message>
+    <message id="900593">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints the menu of a node of a tree, given by its path</translation>
+    </message>
+    <message id="900594">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>Trees</translation>
+    </message>
+    <message id="900595">
+        <source></source>
+        <extracomment>Command</extracomment>
+        <translation>prints what the system, disk and net trees show</translation>
     </message>
     <message id="900610">
         <source></source>
@@ -3428,6 +3428,21 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Name of a step that can be undone</extracomment>
         <translation>Show defaults</translation>
+    </message>
+    <message id="940000">
+        <source></source>
+        <extracomment>Path, reason, new path</extracomment>
+        <translation>%s is damaged (%s). The file was kept as %s; modules that could not be read are not loaded.</translation>
+    </message>
+    <message id="940001">
+        <source></source>
+        <extracomment>Path, reason, second reason</extracomment>
+        <translation>%s is damaged (%s). It could not be kept aside: %s.</translation>
+    </message>
+    <message id="940002">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>it has no list of modules</translation>
     </message>
 </context>
 </TS>

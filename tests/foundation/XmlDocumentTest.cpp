@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/win/CodePage.h"
+#include "tests/support/Rows.h"
 #include "workspacecore/foundation/XmlDocument.h"
 
 namespace Orvane {
@@ -30,11 +31,7 @@ XmlDocument Doc(const wchar_t* pszText) {
 }
 
 TEST(XmlDocument, TellsWhetherATextIsWellFormed) {
-    const struct {
-        const wchar_t* text;
-        bool wellFormed;
-        const char* error;
-    } cases[] = {
+    const Rows<const wchar_t*, bool, const char*> cases = {
         {nullptr, false, "Empty document"},
         {L"", false, "Empty document"},
         {L"  ", false, "No root element"},
@@ -53,10 +50,10 @@ TEST(XmlDocument, TellsWhetherATextIsWellFormed) {
         {L"<a b=\"x>y\"/>", true, ""},
     };
     XmlDocument doc; // one for all: nothing of a text may stay for the next
-    for (const auto& c : cases) {
-        EXPECT_EQ(doc.SetDoc(c.text), c.wellFormed) << (c.text ? WideToUtf8(c.text) : "null");
-        EXPECT_EQ(Narrow(doc.GetError()), c.error);
-        EXPECT_EQ(doc.GetDoc(), CString(c.text));
+    for (const auto& [text, wellFormed, error] : cases) {
+        EXPECT_EQ(doc.SetDoc(text), wellFormed) << (text ? WideToUtf8(text) : "null");
+        EXPECT_EQ(Narrow(doc.GetError()), error);
+        EXPECT_EQ(doc.GetDoc(), CString(text));
     }
 }
 
@@ -72,29 +69,19 @@ TEST(XmlDocument, AnswersNothingBeforeItHasAText) {
     EXPECT_TRUE(copy.SetDoc(L"<a/>"));
 }
 
-TEST(XmlDocument, WalksInTheOrderOfTheText) {
-    XmlDocument doc = Doc(L"<r n='1'><a n='2'><b n='3'/></a><a n='4'></a></r>");
-    EXPECT_EQ(Walk(doc), "1 .2 ..3 .4 ");
-    XmlDocument broken = Doc(L"<r n='1'><a n='2'><b n='3'></r>");
-    EXPECT_EQ(Walk(broken), "1 .2 .3 ");
-}
-
 TEST(XmlDocument, FindsTheNextSiblingOfAName) {
-    const struct {
-        const wchar_t* name;
-        const char* found;
-    } cases[] = {
+    const Rows<const wchar_t*, const char*> cases = {
         {nullptr, "1"},      {L"", "1"},         {L"wsCommandRegistry", "1"},
         {L"wsCommand", "2"}, {L"wsCom", ""},     {L"wsCommand[2]", "2"},
         {L"a=b", "3"},       {L"wscommand", ""}, {L"\u00E9\u0416", "4"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, found] : cases) {
         XmlDocument doc = Doc(L"<r><wsCommandRegistry n='1'/><wsCommand n='2'/><a!b n='3'/>"
                               L"<\u00E9\u0416 n='4'/></r>");
         doc.FindElem();
         doc.IntoElem();
-        EXPECT_EQ(doc.FindElem(c.name), *c.found != '\0') << c.found;
-        EXPECT_EQ(Narrow(doc.GetAttrib(L"n")), c.found);
+        EXPECT_EQ(doc.FindElem(name), *found != '\0') << found;
+        EXPECT_EQ(Narrow(doc.GetAttrib(L"n")), found);
     }
 }
 
@@ -123,18 +110,8 @@ TEST(XmlDocument, SearchesOnFromWhereItStands) {
     EXPECT_FALSE(doc.FindElem());
 }
 
-TEST(XmlDocument, ReadsASiblingOfTheRoot) {
-    XmlDocument doc = Doc(L"<a n='1'/><b n='2'/>");
-    EXPECT_TRUE(doc.FindElem(L"a"));
-    EXPECT_TRUE(doc.FindElem(L"b"));
-    EXPECT_EQ(doc.GetAttrib(L"n"), L"2");
-}
-
 TEST(XmlDocument, CutsAttributesOut) {
-    const struct {
-        const wchar_t* element;
-        const char* value; ///< of the attribute b
-    } cases[] = {
+    const Rows<const wchar_t*, const char*> cases = {
         {L"<a/>", ""},
         {L"<a b=\"c d\"/>", "c d"},
         {L"<a b='c \"d\"'/>", "c \"d\""},
@@ -162,10 +139,10 @@ TEST(XmlDocument, CutsAttributesOut) {
         {L"<a b='\u20AC\U0001F600'/>", "\xE2\x82\xAC\xF0\x9F\x98\x80"},
         {L"<a b='=3D'/>", "=3D"},
     };
-    for (const auto& c : cases) {
-        XmlDocument doc = Doc(c.element);
-        ASSERT_TRUE(doc.FindElem()) << WideToUtf8(c.element);
-        EXPECT_EQ(Narrow(doc.GetAttrib(L"b")), c.value) << WideToUtf8(c.element);
+    for (const auto& [element, value] : cases) {
+        XmlDocument doc = Doc(element);
+        ASSERT_TRUE(doc.FindElem()) << WideToUtf8(element);
+        EXPECT_EQ(Narrow(doc.GetAttrib(L"b")), value) << WideToUtf8(element);
     }
     XmlDocument doc = Doc(L"<a b='1'/>");
     doc.FindElem();
@@ -213,11 +190,7 @@ TEST(XmlDocument, CopiesGoTheirOwnWays) {
 TEST(XmlDocument, EscapesEntities) {
     constexpr int kQuotes = XmlDocument::kEscapeQuotes;
     constexpr int kKeep = XmlDocument::kEscapeKeepReferences;
-    const struct {
-        const wchar_t* text;
-        int flags;
-        const wchar_t* escaped;
-    } cases[] = {
+    const Rows<const wchar_t*, int, const wchar_t*> cases = {
         {L"<a b='c' & \"d\">", 0, L"&lt;a b='c' &amp; \"d\"&gt;"},
         {L"<a b='c' & \"d\">", kQuotes, L"&lt;a b=&apos;c&apos; &amp; &quot;d&quot;&gt;"},
         {L"&amp;", 0, L"&amp;amp;"},
@@ -233,8 +206,8 @@ TEST(XmlDocument, EscapesEntities) {
         {L"&\u00E9\u20AC;", kKeep, L"&\u00E9\u20AC;"},
         {L"&&amp;<", kKeep, L"&amp;&amp;&lt;"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(XmlDocument::EscapeEntities(c.text, c.flags), c.escaped) << WideToUtf8(c.text);
+    for (const auto& [text, flags, escaped] : cases) {
+        EXPECT_EQ(XmlDocument::EscapeEntities(text, flags), escaped) << WideToUtf8(text);
     }
 }
 

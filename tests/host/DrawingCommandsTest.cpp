@@ -1,5 +1,6 @@
 // Drawings at the command line, through the program itself.
 #include "tests/host/ProgramTest.h"
+#include "tests/support/Rows.h"
 
 namespace Tessaly {
 namespace {
@@ -53,40 +54,45 @@ TEST_F(DrawingCommandsTest, ADrawingIsSavedAndOpenedAgain) {
     EXPECT_FALSE(Printed("not saved")) << m_output;
 }
 
-TEST_F(DrawingCommandsTest, WhatFailsStopsTheScriptAndSaysWhy) {
+TEST_F(DrawingCommandsTest, WhatFailsSaysWhy) {
     MakeTown("plan");
     m_folder.Write("text.gpkg", "no drawing");
-    const struct {
-        const char* lines;
-        const char* text;
-    } cases[] = {
-        {"OPEN\n@none\n", "none.gpkg: "},
-        {"OPEN\n@text.gpkg\n", "Nothing was opened."},
-        {"OPEN\n", "Nothing was opened."},
-        {"SAVE\n", "The drawing was not saved."},
-        {"SAVE\n@no-folder/plan\n", "its folder does not exist"},
-        {"SAVEAS\n@plan\n", "plan.gpkg was left unchanged."},
-        {"OPEN\n@plan\nNEW\nSAVEAS\n@plan\n", "the file belongs to another open drawing"},
-        {"IMPORT\n@none.geojson\n", "Nothing was imported."},
-        {"IMPORT\n@text.gpkg\n", "Nothing was imported."},
-        {"UNDO\n", "There is nothing to undo."},
-        {"REDO\n", "There is nothing to redo."},
-        {"SWITCH\n7\n", "There is no drawing \"7\"."},
-        {"SWITCH\n", "The current drawing is Drawing1."},
-        {"APPLOAD\n@none.arx\n", "Not loaded: "},
-        {"IMPORT\n@town.geojson\nCLOSE\n", "The drawing stays open."},
-        {"IMPORT\n@town.geojson\nQUIT\n", "The program stays open."},
-        {"CLOSE\nSAVE\n", "No drawing is open."},
-        {"CLOSE\nSAVEAS\n", "No drawing is open."},
-        {"CLOSE\nCLOSE\n", "No drawing is open."},
-        {"CLOSE\nSWITCH\n", "No drawing is open."},
-        {"CLOSE\nUNDO\n", "No drawing is open."},
-        {"CLOSE\nIMPORT\n", "No drawing is open."},
+    // One session; with each text, how often it comes.
+    const std::string lines =
+        "SWITCH\n\nSWITCH\n7\nOPEN\n@none\nOPEN\n@text.gpkg\nOPEN\n\nSAVE\n\n"
+        "SAVE\n@no-folder/plan\nSAVEAS\n@plan\nn\nOPEN\n@plan\nNEW\nSAVEAS\n@plan\n"
+        "IMPORT\n@none.geojson\nIMPORT\n@text.gpkg\nUNDO\nREDO\nAPPLOAD\n@none.arx\n"
+        "IMPORT\n@town.geojson\nCLOSE\n\nQUIT\n\nCLOSE\nn\nCLOSE\nCLOSE\n"
+        "SAVE\nSAVEAS\nCLOSE\nSWITCH\nUNDO\nIMPORT\n";
+    const std::pair<const char*, int> texts[] = {
+        {"The current drawing is Drawing1.", 3},
+        {"There is no drawing \"7\".", 1},
+        {"none.gpkg: ", 1},
+        {"Nothing was opened.", 3},
+        {"The drawing was not saved.", 4},
+        {"its folder does not exist", 1},
+        {"plan.gpkg was left unchanged.", 1},
+        {"the file belongs to another open drawing", 1},
+        {"Nothing was imported.", 2},
+        {"There is nothing to undo.", 1},
+        {"There is nothing to redo.", 1},
+        {"Not loaded: ", 1},
+        {"The drawing stays open.", 1},
+        {"The program stays open.", 1},
+        {"No drawing is open.", 7},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(Script(row.lines), 1) << row.lines << m_output;
-        EXPECT_TRUE(Printed(row.text)) << row.text << " in " << m_output;
+    EXPECT_EQ(Run("", InFolder(lines)), 0);
+    for (const auto& [text, count] : texts) {
+        EXPECT_EQ(Count(text), count) << text << " in " << m_output;
+    }
+}
+
+TEST_F(DrawingCommandsTest, WhatFailsStopsTheScript) {
+    for (const char* lines : {"OPEN\n@none\nHELP\n", "SAVE\n", "CLOSE\nUNDO\nHELP\n",
+                              "IMPORT\n@town.geojson\nQUIT\n", "UNDO\nHELP\n"}) {
+        EXPECT_EQ(Script(lines), 1) << lines << m_output;
         EXPECT_TRUE(Printed("stopped at")) << m_output;
+        EXPECT_FALSE(Printed("APPLOAD")) << m_output;
     }
 }
 
@@ -139,23 +145,31 @@ TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
 }
 
 TEST_F(DrawingCommandsTest, ClosingAsksAboutChanges) {
-    const struct {
-        const char* answer;
-        bool isClosed;
-        bool isSaved;
-    } cases[] = {
+    const Rows<const char*, bool, bool> cases = {
         {"Yes", true, true},      {"y", true, true},   {"no", true, false}, {"N", true, false},
         {"CANCEL", false, false}, {"c", false, false}, {"", false, false},  {"nope", false, false},
     };
-    for (const auto& row : cases) {
-        MakeTown("plan");
-        Run("", InFolder("OPEN\n@plan\nIMPORT\n@town.geojson\nCLOSE\n" + std::string(row.answer) +
-                         "\nDRAWINGS\n"));
-        EXPECT_EQ(Printed("plan.gpkg is closed."), row.isClosed) << row.answer << m_output;
-        EXPECT_EQ(Printed("plan.gpkg has unsaved changes.\n"), !row.isClosed);
-        Script("OPEN\n@plan\n");
-        EXPECT_EQ(Printed("10 entities"), row.isSaved) << row.answer << m_output;
-        std::filesystem::remove(m_folder / "plan.gpkg");
+    // All answers in one run of the program, and all files in another.
+    MakeTown("plan");
+    std::string lines;
+    std::string look;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const std::string file = std::to_string(i) + ".gpkg";
+        std::filesystem::copy(m_folder / "plan.gpkg", m_folder / file);
+        look += "OPEN\n@" + file + "\n";
+        lines +=
+            "OPEN\n@" + file + "\nIMPORT\n@town.geojson\nCLOSE\n" + std::get<0>(cases[i]) + "\n";
+    }
+    Run("", InFolder(lines));
+    const std::string closing = m_output;
+    Run("", InFolder(look));
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const auto& [answer, isClosed, isSaved] = cases[i];
+        const std::string file = std::to_string(i) + ".gpkg";
+        EXPECT_EQ(closing.find(file + " is closed.") != closing.npos, isClosed) << answer;
+        EXPECT_EQ(closing.find(file + " has unsaved changes.\n") != closing.npos, !isClosed)
+            << answer << closing;
+        EXPECT_EQ(Printed(file + ": 10 entities"), isSaved) << answer << m_output;
     }
 }
 
@@ -181,22 +195,19 @@ TEST_F(DrawingCommandsTest, DrawingsAreFoundByNumberNameAndFile) {
     std::filesystem::create_directory(m_folder / "sub");
     MakeTown("sub/plan");
     const std::string open = "OPEN\n@plan\nOPEN\n@sub/plan\nNEW\n"; // Drawing1 is the first
-    const struct {
-        const char* answer;
-        const char* current; ///< empty if there is no such drawing
-    } cases[] = {{"1", "*  1  Drawing1"},
-                 {"drawing1", "*  1  Drawing1"},
-                 {"2", "*  2  @plan.gpkg"},
-                 {"@sub/plan", "*  3  @sub/plan.gpkg"},
-                 {"plan.gpkg", ""},
-                 {"0", ""},
-                 {"5", ""},
-                 {"1x", ""},
-                 {"Drawing2", "*  4  Drawing2"}};
-    for (const auto& row : cases) {
-        EXPECT_EQ(Script(open + "SWITCH\n" + row.answer + "\nDRAWINGS\n"), *row.current ? 0 : 1)
-            << row.answer << m_output;
-        EXPECT_TRUE(Printed(InFolder(row.current))) << row.answer << m_output;
+    const Rows<const char*, const char*> cases = {{"1", "*  1  Drawing1"},
+                                                  {"drawing1", "*  1  Drawing1"},
+                                                  {"2", "*  2  @plan.gpkg"},
+                                                  {"@sub/plan", "*  3  @sub/plan.gpkg"},
+                                                  {"plan.gpkg", ""},
+                                                  {"0", ""},
+                                                  {"5", ""},
+                                                  {"1x", ""},
+                                                  {"Drawing2", "*  4  Drawing2"}};
+    for (const auto& [answer, current] : cases) {
+        EXPECT_EQ(Script(open + "SWITCH\n" + answer + "\nDRAWINGS\n"), *current ? 0 : 1)
+            << answer << m_output;
+        EXPECT_TRUE(Printed(InFolder(current))) << answer << m_output;
     }
 }
 

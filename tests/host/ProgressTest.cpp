@@ -9,6 +9,7 @@
 #include "host/Prompts.h"
 #include "host/console/ConsolePort.h"
 #include "platform/arx/DbUndo.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace Tessaly {
@@ -17,12 +18,7 @@ namespace {
 using std::chrono::milliseconds;
 
 TEST(ProgressText, ComesLateAndOnlyWhenItChanges) {
-    const struct {
-        int step;
-        int percent;
-        int time;
-        const wchar_t* text; ///< empty: nothing is shown
-    } cases[] = {
+    const Rows<int, int, int, const wchar_t*> cases = {
         {1, 0, 0, L""},
         {1, 99, 499, L""},
         {1, 40, 500, L"a: 40 %"},
@@ -36,13 +32,13 @@ TEST(ProgressText, ComesLateAndOnlyWhenItChanges) {
     };
     ProgressText lines(1);
     int step = 1;
-    for (const auto& row : cases) {
-        if (row.step != step) {
-            step = row.step;
+    for (const auto& [itsStep, percent, time, itsText] : cases) {
+        if (itsStep != step) {
+            step = itsStep;
             lines = ProgressText(step);
         }
-        const auto text = lines.Next(L"a", row.percent, milliseconds(row.time));
-        EXPECT_EQ(text.value_or(L"").Str(), row.text) << row.percent;
+        const auto text = lines.Next(L"a", percent, milliseconds(time));
+        EXPECT_EQ(text.value_or(L"").Str(), itsText) << percent;
     }
     const std::wstring longName(200, L'x');
     EXPECT_LT(ProgressText(1).Next(longName, 100, kQuietTime)->GetLength(), 80);

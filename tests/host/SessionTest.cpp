@@ -186,11 +186,39 @@ TEST_F(ProgramTest, HelpListsByPurposeAndExplainsOneAndHiddenCommandsAreNoneOfTh
     EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
 }
 
+TEST_F(ProgramTest, ADamagedListOfModulesIsKeptAside) {
+    Run("", "QUIT\n");
+    m_folder.Write("support/ModuleRegistry.xml", "<moduleRegistry ><module on=\"1\" fileName=\"a");
+    EXPECT_EQ(Run("", "DRAWINGS\n"), 0);
+    EXPECT_TRUE(Printed("ModuleRegistry.xml is damaged (")) << m_output;
+    EXPECT_TRUE(Printed("ModuleRegistry.xml.damaged-1")) << m_output;
+    EXPECT_TRUE(Printed("Drawing1")) << m_output;
+    Run("", "SYSTEM_LIST\n");
+    EXPECT_FALSE(Printed("damaged")) << "the list of the product is in its place again";
+    EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
+}
+
+/// The name of an X server that does not run.
+std::string AbsentDisplay() {
+    std::ostringstream sockets; // those without a file, too
+    sockets << std::ifstream("/proc/net/unix").rdbuf();
+    int number = 4711;
+    for (std::string path;; ++number) {
+        path = "/tmp/.X11-unix/X" + std::to_string(number);
+        if (!std::filesystem::exists(path) &&
+            sockets.str().find(path + "\n") == std::string::npos) {
+            return ":" + std::to_string(number);
+        }
+    }
+}
+
 TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {
-    // Servers that are not there.
-    for (const char* const environment :
-         {"QT_QPA_PLATFORM= DISPLAY=:4711 WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=xcb DISPLAY=:4711",
-          "QT_QPA_PLATFORM= DISPLAY= WAYLAND_DISPLAY=/tmp/nobody-listens-here"}) {
+    const std::string absent = "DISPLAY=" + AbsentDisplay();
+    for (const std::string& display :
+         {"QT_QPA_PLATFORM= WAYLAND_DISPLAY= " + absent, "QT_QPA_PLATFORM=xcb " + absent,
+          "QT_QPA_PLATFORM= DISPLAY= WAYLAND_DISPLAY=" + m_folder.Native("nobody-listens")}) {
+        // A desktop would wait for its user.
+        const std::string environment = display + " timeout 60";
         EXPECT_EQ(RunIn(environment, "", "DRAWINGS\n"), 0) << environment;
         EXPECT_TRUE(Printed("No usable display")) << environment << m_output;
         EXPECT_TRUE(Printed("Drawing1")) << environment << m_output;
@@ -200,7 +228,7 @@ TEST_F(ProgramTest, WithoutADisplayThatAnswersTheConsoleIsStarted) {
 TEST_F(ProgramTest, APictureIsDrawnThoughAScriptLeavesPromptsOpen) {
     m_folder.Write("open.scr", "NEW\nNETWORK_IMPORT\n");
     const std::string picture = m_folder.Native("desktop.png");
-    EXPECT_EQ(RunIn("QT_QPA_PLATFORM= DISPLAY=:4711 timeout 60",
+    EXPECT_EQ(RunIn("QT_QPA_PLATFORM= DISPLAY=" + AbsentDisplay() + " timeout 60",
                     "--snapshot " + picture + " --first " + m_folder.Native("open.scr")),
               0)
         << m_output;

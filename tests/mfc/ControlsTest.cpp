@@ -19,6 +19,7 @@
 #include "platform/mfc/ToolTipCtrl.h"
 #include "platform/xtp/XTButton.h"
 #include "tests/mfc/TestDialog.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace {
@@ -78,22 +79,19 @@ TEST_F(ControlsTest, KeysOfAnOpenListDoNotReachTheDialog) {
 }
 
 TEST_F(ControlsTest, ChecksChangeByThemselvesOnlyIfTheyShall) {
-    const struct {
-        UINT style;
-        int afterClick;
-    } cases[] = {{BS_AUTOCHECKBOX, 1},
-                 {BS_AUTOCHECKBOX | BS_PUSHLIKE, 1},
-                 {BS_CHECKBOX, 0},
-                 {BS_CHECKBOX | BS_PUSHLIKE, 0},
-                 {BS_PUSHBUTTON, 0}};
+    const Rows<UINT, int> cases = {{BS_AUTOCHECKBOX, 1},
+                                   {BS_AUTOCHECKBOX | BS_PUSHLIKE, 1},
+                                   {BS_CHECKBOX, 0},
+                                   {BS_CHECKBOX | BS_PUSHLIKE, 0},
+                                   {BS_PUSHBUTTON, 0}};
     UINT id = 300;
-    for (const auto& c : cases) {
+    for (const auto& [style, afterClick] : cases) {
         CButton button;
-        button.Create(L"x", c.style | WS_VISIBLE, {0, 0, 60, 20}, m_pDialog.get(), ++id);
+        button.Create(L"x", style | WS_VISIBLE, {0, 0, 60, 20}, m_pDialog.get(), ++id);
         m_pDialog->log.clear();
         QTest::mouseClick(WidgetOf(button), Qt::LeftButton, {}, {5, 10});
-        EXPECT_EQ(button.GetCheck(), c.afterClick) << c.style;
-        EXPECT_EQ(m_pDialog->log, Log{std::to_string(id) + ":0"}) << c.style;
+        EXPECT_EQ(button.GetCheck(), afterClick) << style;
+        EXPECT_EQ(m_pDialog->log, Log{std::to_string(id) + ":0"}) << style;
         button.SetCheck(1);
         EXPECT_EQ(m_pDialog->log.size(), 1U) << "told of the program's own change";
         button.EnableWindow(false);
@@ -185,18 +183,6 @@ TEST_F(ControlsTest, AColourIsChosenInATableOrAtThePrompt) {
     EXPECT_EQ(color, 255);
 }
 
-TEST_F(ControlsTest, AnImageOfAComboComesFromItsList) {
-    CWzComboBox combo;
-    ASSERT_TRUE(combo.SubclassDlgItem(kCombo, m_pDialog.get()));
-    const std::vector<std::uint32_t> red(256, 0xFFFF0000U);
-    const int image = combo.GetImageList().Add(CImage(16, 16, red));
-    combo.AddString(L"with", image);
-    combo.AddString(L"without", 99);
-    const auto* const pCombo = static_cast<QComboBox*>(FrameOf(combo));
-    EXPECT_FALSE(pCombo->itemIcon(0).isNull());
-    EXPECT_TRUE(pCombo->itemIcon(1).isNull());
-}
-
 /// A parent that answers for the colours of what stands on it.
 TEST_F(ControlsTest, ColoursComeFromTheParentBeforeTheControlsOwn) {
     class Colored : public TestDialog {
@@ -240,29 +226,6 @@ TEST_F(ControlsTest, ColoursComeFromTheParentBeforeTheControlsOwn) {
     parent.answer = &parent.blue;
     EXPECT_EQ(colorOf(button), QColor(0, 0, 255));
     EXPECT_EQ(parent.type, CTLCOLOR_BTN);
-}
-
-TEST_F(ControlsTest, StaticsTakeClicksOnlyIfTheyTellOfThem) {
-    CStatic quiet;
-    CXColorStatic gauge;
-    quiet.Create(L"", WS_VISIBLE, {0, 0, 8, 8}, m_pDialog.get(), 500);
-    gauge.Create(L"", WS_VISIBLE | SS_NOTIFY, {50, 200, 90, 220}, m_pDialog.get(), 501);
-    QTest::mouseClick(WidgetOf(gauge), Qt::LeftButton);
-    EXPECT_EQ(m_pDialog->TakeLog(), Log{"501:0"});
-    EXPECT_EQ(
-        FrameOf(*m_pDialog)->childAt(FrameOf(quiet)->mapTo(FrameOf(*m_pDialog), QPoint(4, 4))),
-        WidgetOf(*m_pDialog))
-        << "the mouse is the dialog's";
-}
-
-TEST_F(ControlsTest, ALinkTakesTheMouse) {
-    CXHyperLink link;
-    link.Create(L"A place", WS_VISIBLE, {0, 200, 90, 220}, m_pDialog.get(), 500);
-    EXPECT_FALSE(link.Open());
-    link.SetURL(L"https://example.org/");
-    EXPECT_EQ(link.GetURL(), L"https://example.org/");
-    EXPECT_EQ(FrameOf(link)->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_FALSE(FrameOf(link)->testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
 TEST_F(ControlsTest, ListBoxesSortAndSelectAsTheirStyleSays) {
@@ -341,21 +304,6 @@ TEST_F(ControlsTest, FilesCanBeDroppedWhereTheyAreAccepted) {
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, {});
     QApplication::sendEvent(WidgetOf(target), &drop);
     EXPECT_EQ(target.files, (std::vector<CString>{L"/tmp/Módule one.ARX", L"/tmp/notes.txt"}));
-}
-
-TEST_F(ControlsTest, AWidgetOfTheHostCanBeAParent) {
-    QWidget frame;
-    CWnd wnd;
-    ASSERT_TRUE(AttachNativeWidget(wnd, &frame));
-    EXPECT_FALSE(AttachNativeWidget(wnd, &frame)) << "twice";
-    TestDialog panel(&wnd, 901);
-    ASSERT_TRUE(panel.Create());
-    EXPECT_EQ(FrameOf(panel)->parentWidget(), &frame);
-    wnd.MoveWindow({5, 6, 105, 206});
-    EXPECT_EQ(frame.geometry(), QRect(5, 6, 100, 200));
-    wnd.DestroyWindow();
-    EXPECT_FALSE(panel.GetSafeHwnd());
-    EXPECT_FALSE(NativeWidget(wnd));
 }
 
 } // namespace

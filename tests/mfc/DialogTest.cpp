@@ -12,6 +12,7 @@
 #include "platform/mfc/ListCtrl.h"
 #include "platform/mfc/MessageBox.h"
 #include "tests/mfc/TestDialog.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace {
@@ -21,18 +22,14 @@ using Log = std::vector<std::string>;
 class DialogTest : public WindowTest {};
 
 TEST_F(DialogTest, DialogUnitsAreQuartersAndEighthsOfALetter) {
-    const struct {
-        CRect units;
-        CSize base;
-        CRect pixels;
-    } cases[] = {
+    const Rows<CRect, CSize, CRect> cases = {
         {{0, 0, 4, 8}, {6, 13}, {0, 0, 6, 13}},
         {{7, 7, 78, 21}, {6, 13}, {11, 11, 117, 34}}, // rounded, halves up
         {{-7, -7, 0, 0}, {6, 13}, {-11, -11, 0, 0}},
         {{1, 1, 2, 2}, {8, 16}, {2, 2, 4, 4}},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(FromDialogUnits(c.units, c.base), c.pixels) << c.units.left;
+    for (const auto& [units, base, pixels] : cases) {
+        EXPECT_EQ(FromDialogUnits(units, base), pixels) << units.left;
     }
 }
 
@@ -62,17 +59,6 @@ TEST_F(DialogTest, ControlsStandWhereTheTemplateSays) {
     dialog.ShowWindow(SW_SHOW);
     EXPECT_TRUE(dialog.GetDlgItem(kEdit)->IsWindowVisible());
     EXPECT_FALSE(TestDialog(nullptr, 12345).Create()) << "no such template";
-}
-
-TEST_F(DialogTest, ADialogInAnotherWindowIsItsChild) {
-    TestDialog outer;
-    outer.Create();
-    TestDialog panel(&outer, 901);
-    ASSERT_TRUE(panel.Create());
-    EXPECT_EQ(panel.GetParent(), &outer);
-    panel.MoveWindow({10, 20, 60, 70});
-    EXPECT_EQ(outer.ScreenToClient(panel.GetWindowRect()), CRect(10, 20, 60, 70));
-    EXPECT_EQ(panel.GetClientRect(), CRect(0, 0, 50, 50)) << "it has no frame";
 }
 
 TEST_F(DialogTest, DataGoesBothWays) {
@@ -112,12 +98,7 @@ TEST_F(DialogTest, DataGoesBothWays) {
 }
 
 TEST_F(DialogTest, EnterAndEscapeReachTheRightButton) {
-    const struct {
-        const char* what;
-        UINT focus;
-        Qt::Key key;
-        Log commands;
-    } cases[] = {
+    const Rows<const char*, UINT, Qt::Key, Log> cases = {
         {"edit", kEdit, Qt::Key_Return, {"1:0"}},
         {"keypad", kEdit, Qt::Key_Enter, {"1:0"}},
         {"check box", kCheck, Qt::Key_Return, {"1:0"}},
@@ -127,16 +108,16 @@ TEST_F(DialogTest, EnterAndEscapeReachTheRightButton) {
         {"escape", kEdit, Qt::Key_Escape, {"2:0"}},
         {"another key", kEdit, Qt::Key_X, {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, focus, key, commands] : cases) {
         TestDialog dialog;
         dialog.Create();
         dialog.ShowWindow(SW_SHOW);
         AfxPumpMessages();
         dialog.onCommand = [](UINT) {};
-        dialog.GetDlgItem(c.focus)->SetFocus();
-        EXPECT_EQ(CWnd::GetFocus(), dialog.GetDlgItem(c.focus)) << c.what;
-        QTest::keyClick(FrameOf(*dialog.GetDlgItem(c.focus)), c.key);
-        EXPECT_EQ(dialog.log, c.commands) << c.what;
+        dialog.GetDlgItem(focus)->SetFocus();
+        EXPECT_EQ(CWnd::GetFocus(), dialog.GetDlgItem(focus)) << what;
+        QTest::keyClick(FrameOf(*dialog.GetDlgItem(focus)), key);
+        EXPECT_EQ(dialog.log, commands) << what;
     }
 }
 
@@ -278,11 +259,7 @@ TEST_F(DialogTest, WithoutADesktopDialogsPrintAndQuestionsAskAtThePrompt) {
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(host.TakeOutput(), "\nTest\n  written\n  Pipes\t12\n  one line\n  A text & more\n");
 
-    const struct {
-        UINT type;
-        std::initializer_list<const wchar_t*> answers;
-        int result;
-    } cases[] = {
+    const Rows<UINT, std::vector<const wchar_t*>, int> cases = {
         {MB_YESNO, {L"y"}, IDYES},
         {MB_YESNO, {L"NO"}, IDNO},
         {MB_YESNO, {L"\x1B"}, IDNO},
@@ -290,9 +267,11 @@ TEST_F(DialogTest, WithoutADesktopDialogsPrintAndQuestionsAskAtThePrompt) {
         {MB_OKCANCEL, {L"cancel"}, IDCANCEL},
         {MB_YESNO, {L"", L"perhaps", L"yes"}, IDYES},
     };
-    for (const auto& c : cases) {
-        host.Answer(c.answers);
-        EXPECT_EQ(AfxMessageBox(L"Go on?", c.type), c.result) << c.type;
+    for (const auto& [type, answers, result] : cases) {
+        for (const wchar_t* const answer : answers) {
+            host.Answer({answer});
+        }
+        EXPECT_EQ(AfxMessageBox(L"Go on?", type), result) << type;
         EXPECT_TRUE(host.AllAnswered());
     }
     EXPECT_EQ(dialog.MessageBox(L"Done.", L"Halvane", MB_OK), IDOK);

@@ -9,6 +9,7 @@
 #include "platform/mfc/Button.h"
 #include "platform/mfc/DC.h"
 #include "platform/mfc/TreeCtrl.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace {
@@ -138,15 +139,12 @@ TEST_F(MessagesTest, CommandsGoByCodeAndRange) {
     LoggingWnd wnd("w", m_log);
     wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
     m_log.clear();
-    const struct {
-        UINT id;
-        UINT code;
-        bool handled;
-    } cases[] = {{99, 0, false}, {100, 0, true}, {102, 0, true}, {103, 0, false}, {101, 1, false}};
-    for (const auto& c : cases) {
+    const Rows<UINT, UINT, bool> cases = {
+        {99, 0, false}, {100, 0, true}, {102, 0, true}, {103, 0, false}, {101, 1, false}};
+    for (const auto& [id, code, handled] : cases) {
         m_log.clear();
-        EXPECT_EQ(wnd.SendMessage(WM_COMMAND, PackCommand(c.id, c.code)), c.handled ? 1 : 0);
-        EXPECT_EQ(m_log.size(), c.handled ? 1U : 0U) << c.id << " " << c.code;
+        EXPECT_EQ(wnd.SendMessage(WM_COMMAND, PackCommand(id, code)), handled ? 1 : 0);
+        EXPECT_EQ(m_log.size(), handled ? 1U : 0U) << id << " " << code;
     }
 }
 
@@ -272,48 +270,17 @@ TEST_F(MessagesTest, BaseHandlersRunWhereTheyAreCalled) {
     private:
         Call m_call;
     };
-    const struct {
-        Call call;
-        int before;
-        int after;
-    } cases[] = {{Call::Never, 0, 0}, {Call::First, 1, 1}, {Call::Last, 0, 1}, {Call::Twice, 1, 1}};
-    for (const auto& c : cases) {
+    const Rows<Call, int, int> cases = {
+        {Call::Never, 0, 0}, {Call::First, 1, 1}, {Call::Last, 0, 1}, {Call::Twice, 1, 1}};
+    for (const auto& [itsCall, itsBefore, itsAfter] : cases) {
         CWnd parent;
         parent.Create(WS_POPUP | WS_VISIBLE, {0, 0, 100, 50}, nullptr);
-        Check box(c.call);
+        Check box(itsCall);
         box.Create(L"", WS_VISIBLE | BS_AUTOCHECKBOX | BS_PUSHLIKE, {0, 0, 60, 20}, &parent, 1);
         QTest::mouseClick(WidgetOf(box), Qt::LeftButton);
-        EXPECT_EQ(box.before, c.before) << static_cast<int>(c.call);
-        EXPECT_EQ(box.after, c.after) << static_cast<int>(c.call);
+        EXPECT_EQ(box.before, itsBefore) << static_cast<int>(itsCall);
+        EXPECT_EQ(box.after, itsAfter) << static_cast<int>(itsCall);
     }
-}
-
-TEST_F(MessagesTest, HandlersOfAnyBaseAreFound) {
-    struct ListenerBase {
-        virtual ~ListenerBase() = default;
-        int member = 7;
-    };
-    // The window is not the first base, so its address is another one than the object's.
-    class Dlg : public ListenerBase, public LoggingWnd {
-    public:
-        explicit Dlg(Log& log) : LoggingWnd("dlg", log) {}
-
-    protected:
-        const MessageMap* GetMessageMap() const override {
-            static constexpr MessageEntry kEntries[] = {MapCommand<&Dlg::OnFive>(5)};
-            static const MessageMap kMap{LoggingWnd::GetMessageMap(), kEntries};
-            return &kMap;
-        }
-        void OnFive() { member = 5; }
-    };
-    Dlg dlg(m_log);
-    dlg.Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
-    dlg.SendMessage(WM_COMMAND, PackCommand(5, 0));
-    EXPECT_EQ(dlg.member, 5);
-    dlg.SendMessage(WM_COMMAND, PackCommand(100, 0));
-    EXPECT_EQ(m_log.back(), "dlg command") << "the base's table";
-    CWnd* const pWnd = &dlg;
-    EXPECT_EQ(dynamic_cast<ListenerBase*>(pWnd), &dlg);
 }
 
 TEST_F(MessagesTest, TheMouseStopsAtTheWindowItIsAimedAt) {
@@ -324,52 +291,6 @@ TEST_F(MessagesTest, TheMouseStopsAtTheWindowItIsAimedAt) {
     m_log.clear();
     QTest::mouseClick(WidgetOf(inner), Qt::RightButton, {}, {3, 4});
     EXPECT_EQ(m_log, Log{"inner right 3"});
-}
-
-TEST_F(MessagesTest, PaintingDrawsThroughItsDeviceContext) {
-    class Target : public CWnd {
-    protected:
-        const MessageMap* GetMessageMap() const override {
-            static constexpr MessageEntry kEntries[] = {MapMessage<&Target::OnPaint>(WM_PAINT)};
-            static const MessageMap kMap{CWnd::GetMessageMap(), kEntries};
-            return &kMap;
-        }
-        void OnPaint() {
-            CPaintDC dc(this);
-            const CBrush ground(RGB(0xD7, 0xF1, 0xFF));
-            const CPen red(5, RGB(255, 0, 0));
-            dc.FillSolidRect(GetClientRect(), ground.Color());
-            CRect inside = GetClientRect();
-            inside.DeflateRect(1, 1);
-            dc.SelectObject(&red);
-            dc.SelectObject(&ground);
-            dc.Rectangle(inside);
-        }
-    };
-    Target target;
-    target.Create(WS_POPUP | WS_VISIBLE, {0, 0, 60, 40}, nullptr);
-    const QImage picture = FrameOf(target)->grab().toImage();
-    EXPECT_EQ(picture.pixelColor(30, 20), QColor(0xD7, 0xF1, 0xFF));
-    EXPECT_EQ(picture.pixelColor(1, 20), QColor(255, 0, 0));
-}
-
-TEST_F(MessagesTest, OnlyAHandlerKeepsTheFocusOverTheDrawing) {
-    class Keeping : public CAdUiBaseDialog {
-    protected:
-        const MessageMap* GetMessageMap() const override {
-            static constexpr MessageEntry kEntries[] = {
-                MapMessage<&Keeping::OnKeepFocus>(WM_ACAD_KEEPFOCUS)};
-            static const MessageMap kMap{CAdUiBaseDialog::GetMessageMap(), kEntries};
-            return &kMap;
-        }
-        LRESULT OnKeepFocus(WPARAM, LPARAM) { return 1; }
-    };
-    Keeping keeping;
-    CAdUiBaseDialog plain;
-    keeping.CWnd::Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
-    plain.CWnd::Create(WS_POPUP, {0, 0, 10, 10}, nullptr);
-    EXPECT_EQ(keeping.SendMessage(WM_ACAD_KEEPFOCUS), 1);
-    EXPECT_EQ(plain.SendMessage(WM_ACAD_KEEPFOCUS), 0);
 }
 
 } // namespace

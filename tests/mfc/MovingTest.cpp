@@ -7,6 +7,7 @@
 
 #include "platform/mfc/CustomBitmapButton.h"
 #include "tests/mfc/TestDialog.h"
+#include "tests/support/Rows.h"
 #include "tests/support/ScriptedScreens.h"
 
 namespace {
@@ -141,24 +142,6 @@ TEST_F(MovingTest, WindowsAreCountedFromTheFront) {
     EXPECT_EQ(Screens().Stacking(), Order{b.GetSafeHwnd()});
 }
 
-TEST_F(MovingTest, ChildrenStandBehindTheirNeighbour) {
-    CWnd parent;
-    CWnd bar;
-    CWnd marker;
-    parent.Create(WS_POPUP, {0, 0, 50, 50}, nullptr);
-    marker.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 1);
-    bar.Create(WS_CHILD, {0, 0, 5, 5}, &parent, 2);
-    const auto isAbove = [&](const CWnd& one, const CWnd& other) {
-        const QObjectList& order = FrameOf(parent)->children();
-        return order.indexOf(FrameOf(one)) > order.indexOf(FrameOf(other));
-    };
-    marker.SetWindowPos(nullptr, 0, 3, 20, 3, SWP_NOACTIVATE);
-    EXPECT_TRUE(isAbove(marker, bar));
-    marker.SetWindowPos(&bar, 0, 3, 20, 3, SWP_NOACTIVATE);
-    EXPECT_TRUE(isAbove(bar, marker));
-    EXPECT_EQ(parent.ScreenToClient(marker.GetWindowRect()), CRect(0, 3, 20, 6));
-}
-
 TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
     TestDialog dialog;
     dialog.Create();
@@ -187,27 +170,9 @@ TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
     EXPECT_FALSE(strip.Attach(&child)) << "no caption";
 }
 
-/// Rolled up to its caption, a dialog keeps its place and is its caption alone.
-TEST_F(MovingTest, ADialogCanBeAsLowAsItsCaption) {
-    const ScriptedScreens desktop({{{0, 0, 1920, 1080}, {0, 0, 1920, 1040}}});
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1920);
-    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), 1080);
-    TestDialog dialog;
-    dialog.Create();
-    const int caption = GetSystemMetrics(SM_CYSIZE) + GetSystemMetrics(SM_CXFIXEDFRAME);
-    dialog.MoveWindow({10, 20, 310, 20 + caption});
-    dialog.ShowWindow(SW_SHOW);
-    AfxPumpMessages();
-    EXPECT_EQ(dialog.GetWindowRect(), CRect(10, 20, 310, 20 + caption));
-    EXPECT_EQ(dialog.GetClientRect().Height(), 0);
-}
-
 TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
     const CRect full(0, 0, 1920, 1080);
-    const struct {
-        CRect work;
-        CRect bar;
-    } cases[] = {
+    const Rows<CRect, CRect> cases = {
         {full, {}},
         {{0, 0, 1920, 1040}, {0, 1040, 1920, 1080}},
         {{0, 40, 1920, 1080}, {0, 0, 1920, 40}},
@@ -215,8 +180,8 @@ TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
         {{0, 0, 1860, 1080}, {1860, 0, 1920, 1080}},
         {{0, 24, 1920, 1020}, {0, 1020, 1920, 1080}}, // two of them: the thicker
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(TaskBarOf({full, c.work}), c.bar) << c.work.top << " " << c.work.bottom;
+    for (const auto& [work, bar] : cases) {
+        EXPECT_EQ(TaskBarOf({full, work}), bar) << work.top << " " << work.bottom;
     }
     const Monitor left{{-1280, 0, 0, 1024}, {-1280, 0, 0, 1024}};
     EXPECT_TRUE(TaskBarOf(left).IsRectEmpty());
@@ -225,43 +190,29 @@ TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
 TEST_F(MovingTest, TheNearestMonitorHoldsThePointOrLiesClosest) {
     const ScriptedScreens desktop(
         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 100, 3200, 900}, {}}});
-    const struct {
-        CPoint point;
-        int left;
-    } cases[] = {{{0, 0}, 0},     {{-1, 500}, -1280},  {{1919, 1079}, 0},   {{1920, 100}, 1920},
-                 {{1920, 50}, 0}, {{-9000, 0}, -1280}, {{5000, 500}, 1920}, {{-10, 1050}, 0}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(NearestMonitor(Screens().Monitors(), c.point).full.left, c.left)
-            << c.point.x << "," << c.point.y;
+    const Rows<CPoint, int> cases = {{{0, 0}, 0},         {{-1, 500}, -1280}, {{1919, 1079}, 0},
+                                     {{1920, 100}, 1920}, {{1920, 50}, 0},    {{-9000, 0}, -1280},
+                                     {{5000, 500}, 1920}, {{-10, 1050}, 0}};
+    for (const auto& [point, left] : cases) {
+        EXPECT_EQ(NearestMonitor(Screens().Monitors(), point).full.left, left)
+            << point.x << "," << point.y;
     }
-}
-
-TEST_F(MovingTest, TheDesktopInMemoryHasAScreen) {
-    const std::vector<Monitor> monitors = Screens().Monitors();
-    ASSERT_FALSE(monitors.empty());
-    EXPECT_FALSE(monitors.front().full.IsRectEmpty());
-    EXPECT_TRUE(monitors.front().full.PtInRect(monitors.front().work.TopLeft()));
 }
 
 TEST_F(MovingTest, APanelTakesRoomFromTheMonitorAtWhoseEdgeItStands) {
     const CRect all(0, 0, 1600, 900);
     const CRect left(0, 0, 800, 800);
     const CRect right(800, 0, 1600, 900);
-    const struct {
-        const char* what;
-        EdgeStrut strut;
-        CRect leftWork;
-        CRect rightWork;
-    } cases[] = {
+    const Rows<const char*, EdgeStrut, CRect, CRect> cases = {
         {"below the right one", {enmEdge::Bottom, 40, 800, 1599}, left, {800, 0, 1600, 860}},
         {"below the lower left one", {enmEdge::Bottom, 140, 0, 799}, {0, 0, 800, 760}, right},
         {"above both", {enmEdge::Top, 30, 0, 1599}, {0, 30, 800, 800}, {800, 30, 1600, 900}},
         {"between them, of the right one", {enmEdge::Left, 860, 0, 899}, left, {860, 0, 1600, 900}},
         {"none", {enmEdge::Right, 0, 0, 0}, left, right},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(WorkAreaOf(left, all, {&c.strut, 1}), c.leftWork) << c.what;
-        EXPECT_EQ(WorkAreaOf(right, all, {&c.strut, 1}), c.rightWork) << c.what;
+    for (const auto& [what, strut, leftWork, rightWork] : cases) {
+        EXPECT_EQ(WorkAreaOf(left, all, {&strut, 1}), leftWork) << what;
+        EXPECT_EQ(WorkAreaOf(right, all, {&strut, 1}), rightWork) << what;
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "platform/mfc/TreeCtrl.h"
 #include "tests/mfc/TestDialog.h"
+#include "tests/support/Rows.h"
 
 namespace {
 
@@ -106,20 +107,6 @@ TEST_F(TreeCtrlTest, NodesStandWhereTheyWereInserted) {
     EXPECT_EQ(Shape(), "");
 }
 
-TEST_F(TreeCtrlTest, NodesCarryDataAndPictures) {
-    const HTREEITEM a = Tree().InsertItem(L"a", 1, 2);
-    int image = 0;
-    int selected = 0;
-    EXPECT_TRUE(Tree().GetItemImage(a, image, selected));
-    EXPECT_EQ(image * 10 + selected, 12);
-    EXPECT_EQ(Tree().GetItemData(a), 0U);
-    EXPECT_TRUE(Tree().SetItemData(a, 0xFFFFFFFFFFFFFFFF));
-    EXPECT_EQ(Tree().GetItemData(a), 0xFFFFFFFFFFFFFFFF);
-    EXPECT_EQ(Tree().GetItemData(nullptr), 0U);
-    EXPECT_TRUE(Tree().SetItemText(a, L"other"));
-    EXPECT_EQ(Tree().GetItemText(a), L"other");
-}
-
 TEST_F(TreeCtrlTest, SelectionIsToldWithTheNodesBeforeAndNow) {
     const HTREEITEM a = Add(L"a");
     const HTREEITEM b = Add(L"b", a);
@@ -180,34 +167,27 @@ TEST_F(TreeCtrlTest, APointHitsANodeAlsoBesideItsLabel) {
 }
 
 TEST_F(TreeCtrlTest, LabelsAreAskedForAndCanBeRefused) {
-    const struct {
-        const char* what;
-        bool refuseEdit;
-        bool refuseLabel;
-        Qt::Key end;
-        std::string label;
-        Log log;
-    } cases[] = {
+    const Rows<const char*, bool, bool, Qt::Key, std::string, Log> cases = {
         {"written", false, false, Qt::Key_Return, "new", {"edit old", "label old=new"}},
         {"refused at the end", false, true, Qt::Key_Return, "old", {"edit old", "label old=new"}},
         {"given up", false, false, Qt::Key_Escape, "old", {"edit old", "label old=nothing"}},
         {"refused at once", true, false, Qt::Key_Return, "old", {"edit old"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, refuseEdit, refuseLabel, end, label, log] : cases) {
         Tree().DeleteAllItems();
         const HTREEITEM item = Add(L"old");
         m_log.clear();
-        m_refuseEdit = c.refuseEdit;
-        m_refuseLabel = c.refuseLabel;
-        EXPECT_EQ(Tree().EditLabel(item), !c.refuseEdit) << c.what;
+        m_refuseEdit = refuseEdit;
+        m_refuseLabel = refuseLabel;
+        EXPECT_EQ(Tree().EditLabel(item), !refuseEdit) << what;
         if (auto* const pEditor = WidgetOf(Tree())->findChild<QLineEdit*>()) {
             pEditor->setText(QStringLiteral("new"));
-            QTest::keyClick(pEditor, c.end);
+            QTest::keyClick(pEditor, end);
             AfxPumpMessages();
         }
-        EXPECT_EQ(Name(item), c.label) << c.what;
-        EXPECT_EQ(m_log, c.log) << c.what;
-        EXPECT_TRUE(m_pDialog->IsWindowVisible()) << c.what;
+        EXPECT_EQ(Name(item), label) << what;
+        EXPECT_EQ(m_log, log) << what;
+        EXPECT_TRUE(m_pDialog->IsWindowVisible()) << what;
     }
 }
 
@@ -261,28 +241,6 @@ TEST_F(TreeCtrlTest, ChildrenSortByTextOrData) {
     EXPECT_EQ(Shape(), "top(B a C b(below))");
     Tree().SortChildren(TVI_ROOT);
     EXPECT_EQ(m_log, Log());
-}
-
-TEST_F(TreeCtrlTest, AHundredThousandNodesFillAndGoFast) {
-    const auto begin = std::chrono::steady_clock::now();
-    const HTREEITEM wide = Add(L"wide");
-    for (int i = 0; i < 100000; ++i) {
-        Tree().SetItemData(Add(L"node", wide), static_cast<DWORD_PTR>(i));
-    }
-    Tree().Expand(wide, TVE_EXPAND);
-    WidgetOf(Tree())->grab();
-    DWORD_PTR sum = 0;
-    HTREEITEM last = nullptr;
-    for (HTREEITEM item = Tree().GetChildItem(wide); item; item = Tree().GetNextSiblingItem(item)) {
-        sum += Tree().GetItemData(item);
-        last = item;
-    }
-    Tree().EnsureVisible(last);
-    EXPECT_EQ(sum, 4999950000U);
-    Tree().DeleteItem(wide);
-    EXPECT_EQ(Tree().GetCount(), 0U);
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    EXPECT_LT(took.count(), 8.0);
 }
 
 } // namespace

@@ -1,46 +1,35 @@
 #include "platform/arx/ApDocManager.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <stdexcept>
 
 #include "tests/support/TestHost.h"
 
+#include "tests/support/EventLog.h"
+
 namespace {
 
-using Log = std::vector<CString>;
-
-/// Writes down what it is told.
+/// Notes its name with each event.
 class Reactor final : public AcApDocManagerReactor {
 public:
-    Reactor(AcApDocManager& manager, Log& log, const wchar_t* name)
-        : m_manager(manager), m_log(log), m_strName(name) {
+    Reactor(AcApDocManager& manager, EventLog& log, const char* name)
+        : m_manager(manager), m_log(log), m_name(name) {
         manager.addReactor(this);
     }
     ~Reactor() override { m_manager.removeReactor(this); }
     Reactor(const Reactor&) = delete;
     Reactor& operator=(const Reactor&) = delete;
 
-    void documentToBeDestroyed(AcApDocument* pDoc) override { Note(L"dying", pDoc->fileName()); }
-    void documentDestroyed(const wchar_t* fileName) override { Note(L"gone", fileName); }
-    void documentBecameCurrent(AcApDocument* pDoc) override {
-        Note(L"current", pDoc ? pDoc->fileName() : L"none");
-        if (m_onCurrent) {
-            m_onCurrent();
-        }
-    }
-    void documentToBeDeactivated(AcApDocument* pDoc) override { Note(L"left", pDoc->fileName()); }
-
-    std::function<void()> m_onCurrent;
+    void documentToBeDestroyed(AcApDocument* p) override { m_log.Note(m_name + "dying", p); }
+    void documentDestroyed(const wchar_t* name) override { m_log.Note(m_name + "gone", name); }
+    void documentBecameCurrent(AcApDocument* p) override { m_log.Note(m_name + "current", p); }
+    void documentToBeDeactivated(AcApDocument* p) override { m_log.Note(m_name + "left", p); }
 
 private:
-    void Note(const wchar_t* event, const wchar_t* document) {
-        m_log.push_back(m_strName + L" " + event + L" " + document);
-    }
     AcApDocManager& m_manager;
-    Log& m_log;
-    CString m_strName;
+    EventLog& m_log;
+    std::string m_name;
 };
 
 AcDbDatabase* WorkingDatabase() {
@@ -57,72 +46,70 @@ TEST(Documents, EveryReactorHearsWhatAnotherOneThrowsAt) {
     const TestHost host;
     AcApDocManager manager;
     manager.addReactor(&thrower);
-    Log log;
-    const Reactor reactor(manager, log, L"2");
+    EventLog log;
+    const Reactor reactor(manager, log, "2");
     AcApDocument* const pDoc = manager.newDocument(L"a");
-    log.clear();
+    log.Take();
     EXPECT_TRUE(manager.closeDocument(pDoc));
-    EXPECT_EQ(log, (Log{L"2 left a", L"2 dying a", L"2 gone a", L"2 current none"}));
+    EXPECT_EQ(log.Take(), "2left a;2dying a;2gone a;2current none;");
     EXPECT_NE(host.Output().find("document event failed: going"), std::string::npos);
 }
 
 TEST(Documents, ReactorsHearEverythingInTheirOrder) {
     AcApDocManager manager;
-    Log log;
-    const Reactor first(manager, log, L"1");
-    const Reactor second(manager, log, L"2");
+    EventLog log;
+    const Reactor first(manager, log, "1");
+    const Reactor second(manager, log, "2");
     AcApDocument* const pA = manager.newDocument(L"a");
-    EXPECT_EQ(log, (Log{L"1 current a", L"2 current a"}));
-    log.clear();
+    EXPECT_EQ(log.Take(), "1current a;2current a;");
 
     AcApDocument* const pB = manager.newDocument(L"b");
-    EXPECT_EQ(log, (Log{L"1 left a", L"2 left a", L"1 current b", L"2 current b"}));
+    EXPECT_EQ(log.Take(), "1left a;2left a;1current b;2current b;");
     EXPECT_EQ(WorkingDatabase(), pB->database());
-    log.clear();
 
     manager.closeDocument(pB);
-    EXPECT_EQ(log, (Log{L"1 left b", L"2 left b", L"1 dying b", L"2 dying b", L"1 gone b",
-                        L"2 gone b", L"1 current a", L"2 current a"}));
+    EXPECT_EQ(log.Take(),
+              "1left b;2left b;1dying b;2dying b;1gone b;2gone b;1current a;2current a;");
     EXPECT_EQ(manager.curDocument(), pA);
     EXPECT_EQ(WorkingDatabase(), pA->database());
 }
 
 TEST(Documents, WithTheLastDocumentGoesTheDatabase) {
     AcApDocManager manager;
-    Log log;
+    EventLog log;
     AcApDocument* const pA = manager.newDocument(L"a");
-    const Reactor reactor(manager, log, L"1");
+    const Reactor reactor(manager, log, "1");
     manager.closeDocument(pA);
-    EXPECT_EQ(log.back().Str(), L"1 current none");
+    EXPECT_EQ(log.Take(), "1left a;1dying a;1gone a;1current none;");
     EXPECT_EQ(WorkingDatabase(), nullptr);
     EXPECT_EQ(manager.documentCount(), 0);
     manager.closeDocument(pA); // not one of its documents any more
-    EXPECT_EQ(log.size(), 4U);
+    EXPECT_EQ(log.Take(), "");
 }
 
 TEST(Documents, ADocumentInTheBackgroundGoesQuietly) {
     AcApDocManager manager;
     AcApDocument* const pA = manager.newDocument(L"a");
     AcApDocument* const pB = manager.newDocument(L"b");
-    Log log;
-    const Reactor reactor(manager, log, L"1");
+    EventLog log;
+    const Reactor reactor(manager, log, "1");
     manager.closeDocument(pA);
-    EXPECT_EQ(log, (Log{L"1 dying a", L"1 gone a"}));
+    EXPECT_EQ(log.Take(), "1dying a;1gone a;");
     EXPECT_EQ(manager.curDocument(), pB);
 }
 
 TEST(Documents, AReactorThatGoesWhileOthersAreToldIsNotCalled) {
     AcApDocManager manager;
-    Log log;
-    Reactor first(manager, log, L"1");
-    auto pSecond = std::make_unique<Reactor>(manager, log, L"2");
+    EventLog log;
+    const Reactor first(manager, log, "1");
+    auto pSecond = std::make_unique<Reactor>(manager, log, "2");
     std::unique_ptr<Reactor> pLate;
-    first.m_onCurrent = [&] {
-        pLate = std::make_unique<Reactor>(manager, log, L"late");
+    log.on["1current"] = [&] {
+        pLate = std::make_unique<Reactor>(manager, log, "late");
         pSecond.reset();
     };
     manager.newDocument(L"a");
-    EXPECT_EQ(log, (Log{L"1 current a"}));
+    EXPECT_EQ(log.Take(), "1current a;");
 }
 
 TEST(Documents, NewDrawingsGetNamesThatNoneHas) {
@@ -135,17 +122,4 @@ TEST(Documents, NewDrawingsGetNamesThatNoneHas) {
     EXPECT_TRUE(pThird->path().IsEmpty());
     manager.closeDocument(pThird);
     EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing4") << "no name comes twice";
-}
-
-TEST(Documents, TheResourcesPushedLastAreCurrent) {
-    AcApDocManager manager;
-    int first = 0;
-    int second = 0;
-    manager.popResourceHandle();
-    EXPECT_EQ(manager.resourceHandle(), nullptr);
-    manager.pushResourceHandle(&first);
-    manager.pushResourceHandle(&second);
-    EXPECT_EQ(manager.resourceHandle(), &second);
-    manager.popResourceHandle();
-    EXPECT_EQ(manager.resourceHandle(), &first);
 }

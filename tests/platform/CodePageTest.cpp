@@ -1,4 +1,5 @@
 #include "platform/win/CodePage.h"
+#include "tests/support/Rows.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -25,12 +26,7 @@ TEST(CodePage, CharactersOfThePage) {
 
 TEST(Utf8, WhatIsIllFormedBecomesTheReplacement) {
     const std::wstring mark{wchar_t{0xFFFD}};
-    struct Case {
-        const char* what;
-        std::string bytes;
-        std::wstring expected;
-    };
-    const Case cases[] = {
+    const Rows<const char*, std::string, std::wstring> cases = {
         {"longest", "\xF4\x8F\xBF\xBF", {wchar_t{0x10FFFF}}},
         {"beyond the last", "\xF4\x90\x80\x80", mark + mark + mark + mark},
         {"overlong", "\xC0\xAF", mark + mark},
@@ -42,8 +38,8 @@ TEST(Utf8, WhatIsIllFormedBecomesTheReplacement) {
         {"never a lead", "\xFF\xFE", mark + mark},
         {"NUL is a character", std::string("a\0b", 3), std::wstring(L"a\0b", 3)},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(Utf8ToWide(c.bytes), c.expected) << c.what;
+    for (const auto& [what, bytes, expected] : cases) {
+        EXPECT_EQ(Utf8ToWide(bytes), expected) << what;
     }
 }
 

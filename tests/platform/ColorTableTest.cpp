@@ -1,4 +1,5 @@
 #include "platform/arx/ColorTable.h"
+#include "tests/support/Rows.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -6,11 +7,7 @@
 using namespace Tessaly;
 
 TEST(AciColors, FollowTheTable) {
-    struct Case {
-        int index;
-        Rgb color;
-    };
-    const Case cases[] = {
+    const Rows<int, Rgb> cases = {
         {1, 0xffff0000},   {2, 0xffffff00},   {3, 0xff00ff00},   {4, 0xff00ffff},
         {5, 0xff0000ff},   {6, 0xffff00ff},   {8, 0xff808080},   {9, 0xffc0c0c0},
         {10, 0xffff0000},  {11, 0xffff7f7f},  {12, 0xffa50000},  {13, 0xffa55252},
@@ -19,12 +16,12 @@ TEST(AciColors, FollowTheTable) {
         {90, 0xff00ff00},  {130, 0xff00ffff}, {150, 0xff007fff}, {170, 0xff0000ff},
         {210, 0xffff00ff}, {240, 0xffff003f}, {250, 0xff333333}, {255, 0xffffffff},
     };
-    for (const Case& test : cases) {
-        EXPECT_EQ(AciColor(test.index, Background::Dark), test.color) << test.index;
-        EXPECT_EQ(AciColor(test.index, Background::Light), test.color) << test.index;
-        const COLORREF window = acedGetRGB(test.index);
-        EXPECT_EQ(window & 0xFF, test.color >> 16 & 0xFF);
-        EXPECT_EQ(window >> 16, test.color & 0xFF);
+    for (const auto& [index, color] : cases) {
+        EXPECT_EQ(AciColor(index, Background::Dark), color) << index;
+        EXPECT_EQ(AciColor(index, Background::Light), color) << index;
+        const COLORREF window = acedGetRGB(index);
+        EXPECT_EQ(window & 0xFF, color >> 16 & 0xFF);
+        EXPECT_EQ(window >> 16, color & 0xFF);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "platform/arx/DbAttributes.h"
+#include "tests/support/Rows.h"
 
 #include <cmath>
 #include <random>
@@ -55,11 +56,7 @@ TEST(AttributeNames, StayWhereTheyAreWhileOthersCome) {
 
 TEST(AttributeValues, NumbersAreConvertedWhenNothingIsLost) {
     const double infinity = std::numeric_limits<double>::infinity();
-    const struct {
-        AcDbValue value;
-        std::optional<double> real;
-        std::optional<std::int64_t> integer;
-    } cases[] = {
+    const Rows<AcDbValue, std::optional<double>, std::optional<std::int64_t>> cases = {
         {AcDbValue(), {}, {}},
         {"7", {}, {}},
         {7, 7.0, 7},
@@ -70,37 +67,12 @@ TEST(AttributeValues, NumbersAreConvertedWhenNothingIsLost) {
         {9223372036854775808.0, 9223372036854775808.0, {}},
         {-9223372036854775808.0, -9223372036854775808.0, INT64_MIN},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(Describe(row.value));
-        EXPECT_EQ(row.value.asReal(), row.real);
-        EXPECT_EQ(row.value.asInteger(), row.integer);
+    for (const auto& [value, real, integer] : cases) {
+        SCOPED_TRACE(Describe(value));
+        EXPECT_EQ(value.asReal(), real);
+        EXPECT_EQ(value.asInteger(), integer);
     }
     EXPECT_FALSE(AcDbValue(std::nan("")).asInteger());
-}
-
-TEST(Attributes, GiveBackWhatWasSet) {
-    using namespace std::string_view_literals;
-    const std::string big(100'000, 'x');
-    const AcDbValue values[] = {AcDbValue(),
-                                1.25,
-                                -1,
-                                std::int64_t{INT64_MIN},
-                                "",
-                                "eight ch",
-                                "nine char",
-                                "with\0NUL"sv,
-                                "longer with\0NUL"sv,
-                                "Straße",
-                                std::string_view(big)};
-    for (const AcDbValue& value : values) {
-        AcDbAttributes attributes;
-        attributes.set(kA, "something long that has to go");
-        attributes.set(kA, value);
-        EXPECT_EQ(attributes.size(), 1U);
-        EXPECT_TRUE(attributes.has(kA));
-        EXPECT_EQ(Describe(attributes.get(kA)), Describe(value));
-        EXPECT_EQ(attributes.get(kA).kind(), value.kind());
-    }
 }
 
 TEST(Attributes, TakeTheirOwnTextsAsValues) {
@@ -115,29 +87,6 @@ TEST(Attributes, TakeTheirOwnTextsAsValues) {
             EXPECT_EQ(attributes.at(i).value.asText(), text);
         }
     }
-}
-
-TEST(Attributes, HaveNoItemBehindTheLast) {
-    AcDbAttributes attributes;
-    EXPECT_THROW(attributes.at(0), std::out_of_range);
-    attributes.reserve(10);
-    attributes.set(kA, 1);
-    EXPECT_THROW(attributes.at(1), std::out_of_range);
-    EXPECT_TRUE(attributes.get(kB).isNull());
-    EXPECT_FALSE(attributes.remove(kB));
-}
-
-TEST(Attributes, CopiesAreDeepAndMovesLeaveNothing) {
-    AcDbAttributes original;
-    original.set(kA, "a text of some length");
-    original.set(kB, 2);
-    AcDbAttributes copy(original);
-    original.set(kA, "another text altogether");
-    EXPECT_EQ(copy.get(kA).asText(), "a text of some length");
-    const AcDbAttributes moved(std::move(copy));
-    EXPECT_EQ(moved.get(kA).asText(), "a text of some length");
-    copy = original;
-    EXPECT_EQ(ContentOf(copy), ContentOf(original));
 }
 
 TEST(Attributes, BehaveAsAListOfPairs) {

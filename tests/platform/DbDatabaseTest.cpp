@@ -19,13 +19,6 @@ Ids EntitiesOf(const AcDbDatabase& database, AcDbObjectId block) {
     return Ids(ids.begin(), ids.end());
 }
 
-std::vector<double> PointsSeen(const AcDbDatabase& database) {
-    std::vector<double> seen;
-    database.forEachEntity(
-        [&](const AcDbEntity& entity) { seen.push_back(entity.extents().minX); });
-    return seen;
-}
-
 /// Writes down what it hears, as "+3 ~3 -3 ^3 *": appended, modified, erased, back, replaced.
 class Witness : public AcDbDatabaseReactor {
 public:
@@ -78,19 +71,6 @@ TEST(Database, FindsLayersAndBlocksWithoutRegardToCaseAndDictionariesByCase) {
     EXPECT_TRUE(database.findDictionary(L"RECORDS").isNull());
 }
 
-TEST(Database, ListsWhatIsNotErasedInTheOrderOfCreation) {
-    AcDbDatabase database;
-    const AcDbObjectId zero = database.findLayer(L"0");
-    const AcDbObjectId z = database.layer(L"z");
-    const AcDbObjectId m = database.layer(L"m");
-    const AcDbObjectId a = database.layer(L"a");
-    EXPECT_EQ(Erase(database, m), Acad::eOk);
-    EXPECT_EQ(database.layers(), (Ids{zero, z, a}));
-    EXPECT_TRUE(database.findLayer(L"m").isNull());
-    EXPECT_EQ(database.layer(L"M"), m); // a name is one object's for good
-    EXPECT_EQ(database.layers(), (Ids{zero, z, m, a}));
-}
-
 TEST(Database, ADictionaryThatComesBackIsEmpty) {
     AcDbDatabase database;
     const AcDbObjectId id = database.dictionary(L"d");
@@ -101,25 +81,6 @@ TEST(Database, ADictionaryThatComesBackIsEmpty) {
     EXPECT_TRUE(database.undo().undo());
     EXPECT_TRUE(database.undo().undo()); // the erasure
     EXPECT_EQ(PartsOf(database)[std::to_string(id.number()) + " record r"], "text");
-}
-
-TEST(Database, PutsEntitiesIntoTheirBlockAndOnTheirLayer) {
-    AcDbDatabase database;
-    const AcDbObjectId layer = database.layer(L"Sewer");
-    const AcDbObjectId block = database.block(L"Valve");
-    const AcDbObjectId first = AddPoint(database, 1);
-    const AcDbObjectId second = AddPoint(database, 2, layer);
-    const AcDbObjectId inner = database.appendEntity(std::make_unique<AcDbPoint>(), block);
-    const auto& entity = dynamic_cast<const AcDbEntity&>(*database.peek(second));
-    EXPECT_EQ(entity.layer(), L"Sewer");
-    EXPECT_EQ(dynamic_cast<const AcDbEntity&>(*database.peek(first)).layer(), L"0");
-    EXPECT_EQ(EntitiesOf(database, database.modelSpace()), (Ids{first, second}));
-    EXPECT_EQ(EntitiesOf(database, block), Ids{inner});
-    EXPECT_EQ(database.entityCount(), 3U);
-    EXPECT_EQ(PointsSeen(database), (std::vector<double>{1, 2}));
-    Erase(database, first);
-    EXPECT_EQ(database.entityCount(), 2U);
-    EXPECT_EQ(PointsSeen(database), std::vector<double>{2});
 }
 
 TEST(Database, RefusesPlacesThatItDoesNotHave) {
@@ -290,21 +251,6 @@ TEST(Loading, RefusesWhatCannotBeRight) {
     EXPECT_EQ(database.layers().size(), 2U);
 }
 
-TEST(Loading, GivenUpLeavesAnEmptyDrawing) {
-    AcDbDatabase database;
-    Witness witness;
-    database.addReactor(&witness);
-    database.beginLoading(10);
-    database.load(AcDbObjectId(3), std::make_unique<AcDbPoint>());
-    database.setCoordinateSystem(L"wkt");
-    database.cancelLoading();
-    EXPECT_EQ(PartsOf(database), PartsOf(AcDbDatabase()));
-    EXPECT_FALSE(database.isModified());
-    EXPECT_EQ(witness.Take(), "");
-    AddPoint(database, 1);
-    EXPECT_TRUE(database.undo().undo());
-}
-
 TEST(Loading, WaitsForEverythingToBeClosed) {
     AcDbDatabase database;
     AcDbObject* pPoint = nullptr;
@@ -375,34 +321,26 @@ TEST(DatabaseReactors, HearTheOutcomeOfUndoAndRedo) {
 
 TEST(DatabaseReactors, MayComeAndGoDuringACall) {
     AcDbDatabase database;
-    Witness first;
-    Witness second;
-    Witness third;
-    database.addReactor(&first);
-    database.addReactor(&second);
-    first.onEvent = [&] {
-        database.removeReactor(&second);
-        database.removeReactor(&first);
-        database.addReactor(&third);
-    };
-    AddPoint(database, 1);
-    EXPECT_EQ(first.Take() + second.Take() + third.Take(), "+3 ");
-    AddPoint(database, 2);
-    EXPECT_EQ(first.Take() + second.Take() + third.Take(), "+4 ");
-}
-
-TEST(DatabaseReactors, AreAllToldEvenIfOneLeaves) {
-    AcDbDatabase database;
-    Witness first;
-    Witness second;
-    Witness third;
-    for (Witness* const pWitness : {&first, &second, &third}) {
+    Witness witnesses[4];
+    for (Witness* const pWitness : {&witnesses[0], &witnesses[1], &witnesses[2]}) {
         database.addReactor(pWitness);
     }
-    first.onEvent = [&] { database.removeReactor(&first); };
+    witnesses[0].onEvent = [&] {
+        database.removeReactor(&witnesses[1]);
+        database.removeReactor(&witnesses[0]);
+        database.addReactor(&witnesses[3]);
+    };
+    const auto heard = [&] {
+        std::string all;
+        for (Witness& witness : witnesses) {
+            all += witness.Take() + "|";
+        }
+        return all;
+    };
     AddPoint(database, 1);
-    EXPECT_EQ(second.Take(), "+3 ");
-    EXPECT_EQ(third.Take(), "+3 ");
+    EXPECT_EQ(heard(), "+3 ||+3 ||");
+    AddPoint(database, 2);
+    EXPECT_EQ(heard(), "||+4 |+4 |");
 }
 
 TEST(DatabaseReactors, MayChangeTheDrawingWhileUndoIsTold) {

@@ -10,6 +10,7 @@
 #include "platform/arx/EdEditor.h"
 #include "platform/arx/EdVariables.h"
 #include "platform/win/File.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace {
@@ -256,17 +257,14 @@ TEST_F(DocumentFilesTest, TheVariablesAreThoseOfTheCurrentDrawing) {
 }
 
 TEST(DrawingNames, EndInFourCharactersThatModulesCut) {
-    const struct {
-        const wchar_t* file;
-        const wchar_t* name;
-    } cases[] = {
+    const Rows<const wchar_t*, const wchar_t*> cases = {
         {L"plan.gpkg", L"plan.dwg"},        {L"/data/a.b.gpkg", L"a.b.dwg"},
         {L"Drawing1", L"Drawing1.dwg"},     {L"/data.old/noext", L"noext.dwg"},
         {L"C:\\plans\\x.shp", L"x.dwg"},    {L"town.dwg", L"town.dwg"},
         {L"/data/.hidden", L".hidden.dwg"}, {L"", L".dwg"},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(acdbDrawingName(row.file).Str(), row.name);
+    for (const auto& [file, name] : cases) {
+        EXPECT_EQ(acdbDrawingName(file).Str(), name);
     }
 }
 
@@ -275,18 +273,14 @@ TEST(DrawingPaths, AreAbsoluteAndHaveAnExtension) {
     fs::create_directory(folder / "real");
     folder.Write("there.v1", "");
     fs::create_directory_symlink(folder / "real", folder / "link");
-    const struct {
-        const char* typed;
-        const char* path;
-    } cases[] = {
+    const Rows<const char*, const char*> cases = {
         {"plan", "plan.gpkg"},           {"plan.GPKG", "plan.GPKG"},
         {"plan.v2", "plan.v2.gpkg"},     {"there.v1", "there.v1"},
         {"link/plan", "real/plan.gpkg"}, {"real/../plan", "plan.gpkg"},
         {"none/plan", "none/plan.gpkg"},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(acdbDrawingPath(folder.Wide(row.typed), L".gpkg"), folder.Wide(row.path))
-            << row.typed;
+    for (const auto& [typed, path] : cases) {
+        EXPECT_EQ(acdbDrawingPath(folder.Wide(typed), L".gpkg"), folder.Wide(path)) << typed;
     }
     EXPECT_TRUE(acdbDrawingPath(L"", L".gpkg").IsEmpty());
     EXPECT_EQ(acdbDrawingPath(L"plan", L".gpkg"),

@@ -1,9 +1,14 @@
 #include "platform/win/File.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/win/ErrorText.h"
+#include "platform/win/FileVersion.h"
 #include "platform/win/IniFile.h"
+#include "platform/win/Library.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 TEST(File, ABackslashSeparatesFoldersToo) {
@@ -34,6 +39,26 @@ TEST(File, AFailedReadSaysWhy) {
     EXPECT_FALSE(ReadFileBytes(folder.Wide("")));
     EXPECT_EQ(LastErrorText().Str(), L"Is a directory");
     EXPECT_FALSE(ReadFileBytes(nullptr));
+}
+
+TEST(File, OnlyRegularFilesAreRead) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", folder / "device");
+    alarm(30); // whoever opens the pipe waits for its other end
+    for (const char* const name : {"pipe", "device"}) {
+        const CString path = folder.Wide(name);
+        const std::pair<const char*, std::function<bool()>> readers[] = {
+            {"bytes", [&] { return ReadFileBytes(path).has_value(); }},
+            {"settings", [&] { return IniFile().Load(path); }},
+            {"module", [&] { return LoadLibrary(path) != nullptr; }},
+            {"version", [&] { return ReadFileVersion(path).has_value(); }}};
+        for (const auto& [what, read] : readers) {
+            SetLastErrorText(L"");
+            EXPECT_FALSE(read()) << what << " of a " << name;
+            EXPECT_EQ(LastErrorText(), L"Not a regular file") << what << " of a " << name;
+        }
+    }
 }
 
 TEST(File, AFailureAtTheVeryEndOfTheProcessIsNone) {
@@ -113,11 +138,7 @@ TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
 }
 
 TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
-    const struct {
-        const char* what;
-        const char* before;
-        const char* after;
-    } cases[] = {
+    const Rows<const char*, const char*, const char*> cases = {
         {"a value", "; a\n[General]\nx = 1\n Key=old \ny=2\n",
          "; a\n[General]\nx = 1\nKey=ä=b\ny=2\n"},
         {"case of the names", "[GENERAL]\nKEY=1", "[GENERAL]\nKEY=ä=b\n"},
@@ -131,11 +152,11 @@ TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
         {"what makes no sense", "[General]\n???\nkey=1\n", "[General]\n???\nkey=ä=b\n"},
         {"a byte order mark", "\xEF\xBB\xBF[General]\nkey=1\n", "\xEF\xBB\xBF[General]\nkey=ä=b\n"},
     };
-    for (const auto& row : cases) {
-        const std::string text = WithIniValue(row.before, L"General", L"key", L"ä=b");
-        EXPECT_EQ(text, row.after) << row.what;
+    for (const auto& [what, before, after] : cases) {
+        const std::string text = WithIniValue(before, L"General", L"key", L"ä=b");
+        EXPECT_EQ(text, after) << what;
         IniFile file;
         file.Parse(text, L"");
-        EXPECT_EQ(*file.Find(L"General", L"key"), L"ä=b") << row.what;
+        EXPECT_EQ(*file.Find(L"General", L"key"), L"ä=b") << what;
     }
 }

@@ -31,24 +31,6 @@ TEST(Number, TextToInt) {
     }
 }
 
-TEST(Number, TextToLong) {
-    constexpr long kMost = std::numeric_limits<long>::max();
-    constexpr long kLeast = std::numeric_limits<long>::min();
-    const std::pair<const wchar_t*, long> cases[] = {
-        {L"", 0},
-        {L" -12x", -12},
-        {L"2147483648", 2147483648L},
-        {L"9223372036854775807", kMost},
-        {L"9223372036854775808", kMost},
-        {L"-9223372036854775808", kLeast},
-        {L"-9223372036854775809", kLeast},
-        {L"99999999999999999999", kMost},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(TextToLong(text), expected) << WideToUtf8(text);
-    }
-}
-
 TEST(Number, TextToDoubleReadsAsFarAsItCan) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const std::pair<const wchar_t*, double> cases[] = {
@@ -65,18 +47,6 @@ TEST(Number, TextToDoubleReadsAsFarAsItCan) {
     };
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(TextToDouble(text), expected) << WideToUtf8(text);
-    }
-}
-
-TEST(Number, TextToReal) {
-    const std::pair<const char*, std::optional<double>> cases[] = {
-        {"1.5", 1.5},      {"+1.5", 1.5}, {"-.5", -0.5}, {"1e3", 1000.0}, {"5.", 5.0},
-        {"", {}},          {"+", {}},     {"+-1", {}},   {"++1", {}},     {" 1", {}},
-        {"1 ", {}},        {"1,5", {}},   {"1.5m", {}},  {"inf", {}},     {"nan", {}},
-        {"-infinity", {}}, {"1e999", {}}, {"0x1p3", {}}, {"1e", {}},      {"1.2.3", {}},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(TextToReal(text), expected) << text;
     }
 }
 

@@ -3,15 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/win/CodePage.h"
+#include "tests/support/Rows.h"
 
 TEST(CString, PositionsOutsideTheTextAreClamped) {
     const CString text = L"abcdef";
-    struct Case {
-        const char* what;
-        CString part;
-        const wchar_t* expected;
-    };
-    const Case cases[] = {
+    const Rows<const char*, CString, const wchar_t*> cases = {
         {"Left, negative", text.Left(-1), L""},
         {"Left, too many", text.Left(99), L"abcdef"},
         {"Right", text.Right(2), L"ef"},
@@ -23,8 +19,8 @@ TEST(CString, PositionsOutsideTheTextAreClamped) {
         {"Mid, negative count", text.Mid(2, -1), L""},
         {"a repeated character, negative", CString(L'x', -1), L""},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.part.Str(), c.expected) << c.what;
+    for (const auto& [what, part, expected] : cases) {
+        EXPECT_EQ(part.Str(), expected) << what;
     }
     EXPECT_EQ(text.Find(L"cd", -5), 2);
     EXPECT_EQ(text.Find(L"cd", 3), -1);
@@ -41,19 +37,14 @@ TEST(CString, NullIsAnEmptyText) {
 }
 
 TEST(CString, CompareNoCaseGoesLetterByLetter) {
-    struct Case {
-        const wchar_t* left;
-        const wchar_t* right;
-        int sign;
-    };
-    const Case cases[] = {
+    const Rows<const wchar_t*, const wchar_t*, int> cases = {
         {L"Straße", L"STRAßE", 0}, {L"ÄÖÜ", L"äöü", 0},     {L"Žižka", L"žIŽKA", 0},
         {L"Ωμέγα", L"ωΜέγΑ", 0},   {L"Труба", L"ТРУБА", 0}, {L"abc", L"abd", -1},
         {L"abc", L"ab", 1},        {L"_", L"a", -1},        {L"×", L"÷", -1},
     };
-    for (const Case& c : cases) {
-        const int result = CString(c.left).CompareNoCase(c.right);
-        EXPECT_EQ((result > 0) - (result < 0), c.sign) << WideToUtf8(c.left);
+    for (const auto& [left, right, sign] : cases) {
+        const int result = CString(left).CompareNoCase(right);
+        EXPECT_EQ((result > 0) - (result < 0), sign) << WideToUtf8(left);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/win/CodePage.h"
+#include "tests/support/Rows.h"
 
 namespace Orvane::Data {
 namespace {
@@ -24,14 +25,7 @@ CStringArray List(std::initializer_list<const wchar_t*> pieces) {
 }
 
 TEST(DataBox, EveryKindIsGivenOutAsEveryOther) {
-    const struct {
-        CDataBox box;
-        int type;
-        int asInt;
-        double asDouble;
-        long asLong;
-        const wchar_t* asText;
-    } cases[] = {
+    const Rows<CDataBox, int, int, double, long, const wchar_t*> cases = {
         {{}, 0, 0, 0, 0, L""},
         {1.0 / 3, 5001, 0, 1.0 / 3, 0, L"0.3333333333333333"},
         {-2.9, 5001, -2, -2.9, -2, L"-2.9"},
@@ -53,14 +47,14 @@ TEST(DataBox, EveryKindIsGivenOutAsEveryOther) {
         {List({L"3", L"", L"b"}), 5023, 3, 3, 3, L"3;;b"},
         {List({}), 5023, 0, 0, 0, L""},
     };
-    for (const auto& row : cases) {
-        const std::string name = WideToUtf8(row.asText) + " of " + std::to_string(row.type);
-        EXPECT_EQ(row.box.GetDataType(), row.type) << name;
-        EXPECT_EQ(row.box.IsNull(), row.type == 0) << name;
-        EXPECT_EQ(static_cast<double>(row.box), row.asDouble) << name;
-        EXPECT_EQ(static_cast<int>(row.box), row.asInt) << name;
-        EXPECT_EQ(static_cast<long>(row.box), row.asLong) << name;
-        EXPECT_EQ(static_cast<CString>(row.box), row.asText) << name;
+    for (const auto& [box, type, asInt, asDouble, asLong, asText] : cases) {
+        const std::string name = WideToUtf8(asText) + " of " + std::to_string(type);
+        EXPECT_EQ(box.GetDataType(), type) << name;
+        EXPECT_EQ(box.IsNull(), type == 0) << name;
+        EXPECT_EQ(static_cast<double>(box), asDouble) << name;
+        EXPECT_EQ(static_cast<int>(box), asInt) << name;
+        EXPECT_EQ(static_cast<long>(box), asLong) << name;
+        EXPECT_EQ(static_cast<CString>(box), asText) << name;
     }
     EXPECT_EQ(static_cast<int>(CDataBox(kNoNumber)), 0);
     EXPECT_EQ(static_cast<long>(CDataBox(kNoNumber)), 0);

@@ -86,18 +86,6 @@ TEST_F(IconsTest, EveryNameHasAPictureThatCanBeSeenOnLightAndDarkGround) {
     }
 }
 
-TEST_F(IconsTest, NoLineIsAsLightOrAsDarkAsAGround) {
-    for (const wchar_t* name : kNames) {
-        const CImage image = Picture(name, {64, 64});
-        for (const std::uint32_t pixel : image.Pixels()) {
-            if (pixel >> 24 == 0xFF) {
-                ASSERT_GE(Contrast(pixel, kWhite), 1.5) << WideToUtf8(name);
-                ASSERT_GE(Contrast(pixel, kDark), 1.5) << WideToUtf8(name);
-            }
-        }
-    }
-}
-
 TEST_F(IconsTest, AllDrawingsOfTheFolderAreAskedForByName) {
     for (const auto& entry :
          std::filesystem::directory_iterator(TESSALY_STAGE_DIR "/share/icons")) {

@@ -6,6 +6,7 @@
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/giscoreadds/PolygonIndex.h"
 #include "siblings/networkcore/TopologyStorage.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;
@@ -53,28 +54,12 @@ TEST_F(IndexTest, ANewNodeIsSeenWithoutATelling) {
     EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
 }
 
-TEST_F(IndexTest, TheCurrentDrawingIsTheOneSearched) {
-    System::CGisSystem& system = MakeSystem(L"1");
-    const AcDbObjectId a = Node(system, 0, 0);
-    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
-    AcApDocument* const pOther = acDocManagerPtr()->newDocument(L"b.dwg");
-    EXPECT_TRUE(Nodes().GetNodesInBox({0, 0, 1, 1}).empty());
-    EXPECT_TRUE(Polygons().GetPolygonIndex().empty());
-    acDocManagerPtr()->closeDocument(pOther);
-    EXPECT_EQ(Nodes().GetNodesInBox({0, 0, 1, 1}), (Ids{a}));
-}
-
 TEST_F(IndexTest, PolygonsAreFoundByPoint) {
     System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
     // An L with its notch at the upper right, and a square in the notch.
     const AcDbObjectId l = Polygon(parcels, {{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 4}, {0, 4}});
     const AcDbObjectId square = Polygon(parcels, {{2, 2}, {4, 2}, {4, 4}, {2, 4}});
-    struct Case {
-        const char* what;
-        double x, y;
-        Ids expected;
-    };
-    const Case cases[] = {
+    const Rows<const char*, double, double, Ids> cases = {
         {"inside", 1, 1, {l}},
         {"in the notch", 3, 3, {square}},
         {"common edge", 3, 2, {l, square}},
@@ -83,8 +68,8 @@ TEST_F(IndexTest, PolygonsAreFoundByPoint) {
         {"outside", 5, 1, {}},
         {"level with a corner", -1, 2, {}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(Polygons().GetPolygonsAt(c.x, c.y), c.expected) << c.what;
+    for (const auto& [what, x, y, expected] : cases) {
+        EXPECT_EQ(Polygons().GetPolygonsAt(x, y), expected) << what;
     }
     EXPECT_EQ(Polygons().GetPolygonsInBox({2.5, 2.5, 3, 3}), (Ids{l, square})); // by their boxes
     const PolygonIndexEntry* const pEntry = Polygons().GetIndexEntry(square);
@@ -93,16 +78,6 @@ TEST_F(IndexTest, PolygonsAreFoundByPoint) {
     EXPECT_EQ(pEntry->box.minX, 2);
     EXPECT_EQ(Polygons().GetIndexEntry(AcDbObjectId(square.number() + 1)), nullptr);
     EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
-}
-
-TEST_F(IndexTest, ADegeneratePolygonIsListedAndDoesNoHarm) {
-    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
-    const AcDbObjectId none = Polygon(parcels, {});
-    const AcDbObjectId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
-    EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
-    EXPECT_NE(Polygons().GetIndexEntry(none), nullptr);
-    EXPECT_EQ(Polygons().GetPolygonsAt(1, 1), (Ids{dot}));
-    EXPECT_EQ(Polygons().GetNearestPolygon(0, 0, 10), dot);
 }
 
 TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
@@ -135,4 +110,14 @@ TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
         EXPECT_NEAR(found, best, 0.002);
     }
     EXPECT_EQ(Polygons().GetNearestPolygon(-500, 0, 10), AcDbObjectId());
+}
+
+TEST_F(IndexTest, ADegeneratePolygonIsListedAndDoesNoHarm) {
+    System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
+    const AcDbObjectId none = Polygon(parcels, {});
+    const AcDbObjectId dot = Polygon(parcels, {{1, 1}, {1, 1}, {1, 1}});
+    EXPECT_EQ(Polygons().GetPolygonIndex().size(), 2U);
+    EXPECT_NE(Polygons().GetIndexEntry(none), nullptr);
+    EXPECT_EQ(Polygons().GetPolygonsAt(1, 1), (Ids{dot}));
+    EXPECT_EQ(Polygons().GetNearestPolygon(0, 0, 10), dot);
 }

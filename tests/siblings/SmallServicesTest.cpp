@@ -138,19 +138,3 @@ TEST(SelectionSet, HoldsEachEntityOnceInTheOrderOfChoice) {
     EXPECT_TRUE(set.IsEmpty());
     EXPECT_FALSE(set.Contains(two));
 }
-
-TEST(InfoTooltips, KeepTheirOrder) {
-    struct Tooltip final : Utility::IInfoTooltip {
-        CString GetName() override { return L"T"; }
-        void Run() override {}
-    };
-    Utility::CInfoTooltipRegistry& registry = *Utility::CInfoTooltipRegistry::Instance();
-    const boost::shared_ptr<Utility::IInfoTooltip> first(new Tooltip);
-    const boost::shared_ptr<Utility::IInfoTooltip> second(new Tooltip);
-    registry.RegisterInfoTooltip(first);
-    registry.RegisterInfoTooltip({});
-    registry.RegisterInfoTooltip(second);
-    ASSERT_EQ(registry.GetInfoTTs().size(), 2U);
-    EXPECT_EQ(registry.GetInfoTTs()[0], first);
-    EXPECT_EQ(registry.GetInfoTTs()[1], second);
-}

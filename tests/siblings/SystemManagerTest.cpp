@@ -1,55 +1,19 @@
 #include "siblings/giscore/systems/SystemManager.h"
-
-#include <functional>
-#include <gtest/gtest.h>
-
 #include "platform/arx/ApDocManager.h"
 #include "siblings/giscore/data/DataConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
+#include "tests/support/Rows.h"
+#include "tests/support/SystemEventLog.h"
+#include "tests/support/TestDrawing.h"
 #include "tests/support/TestHost.h"
+#include <functional>
+#include <gtest/gtest.h>
 
 using namespace Orvane;
 using namespace Orvane::System;
 
 namespace {
-
-/// Writes the events down, with the drawing's active system at that moment.
-class Observer final : public ISystemEvents {
-public:
-    Observer() { CGisEvents::Instance()->Register(this); }
-    ~Observer() { CGisEvents::Instance()->Unregister(this); }
-    Observer(const Observer&) = delete;
-    Observer& operator=(const Observer&) = delete;
-
-    void OnSystemChanged(CGisSystem* p) override { Note("changed", p); }
-    void OnSystemBecomeActive(CGisSystem* p) override { Note("active", p); }
-    void OnSystemBecomeInactive(CGisSystem* p) override {
-        Note("inactive", p);
-        if (m_onInactive) {
-            m_onInactive();
-        }
-    }
-    void OnSystemBecomeHidden(CGisSystem* p) override { Note("hidden", p); }
-    void OnSystemBecomeShown(CGisSystem* p) override { Note("shown", p); }
-    void OnBeforeSystemDelete(CGisSystem* p) override { Note("before delete", p); }
-    void OnAfterSystemDelete() override { m_log += "after delete;"; }
-    void OnNewSystemCreated(CGisSystem* p) override { Note("new", p); }
-    void OnDropSystemContent(CGisSystem* p) override { Note("drop", p); }
-
-    std::string Take() { return std::exchange(m_log, {}); }
-    std::function<void()> m_onInactive;
-
-private:
-    static std::string Name(const CGisSystem* p) {
-        return p ? WideToUtf8(p->GetSystemName().View()) : "none";
-    }
-    void Note(const char* event, const CGisSystem* p) {
-        m_log += event + (" " + Name(p)) + " [" +
-                 Name(CSystemManager::Instance()->GetActiveSystem()) + "];";
-    }
-    std::string m_log;
-};
 
 /// Every digit as "x".
 std::string Shape(const CString& guid) {
@@ -60,30 +24,23 @@ std::string Shape(const CString& guid) {
     return shape;
 }
 
-class SystemManagerTest : public testing::Test {
+class SystemManagerTest : public TestDrawing {
 protected:
-    SystemManagerTest() : m_pDoc(acDocManagerPtr()->newDocument(L"a.dwg")) {}
-    ~SystemManagerTest() override {
-        while (acDocManagerPtr()->documentCount() > 0) {
-            acDocManagerPtr()->closeDocument(acDocManagerPtr()->curDocument());
-        }
-    }
     static CSystemManager& Manager() { return *CSystemManager::Instance(); }
     CGisSystem* Create(const wchar_t* name) {
         return Manager().CreateSystem(name, TopologyLine, 1, &m_reason);
     }
-    TestHost m_host;
-    AcApDocument* m_pDoc;
+    AcApDocument* const m_pDoc = Document();
     CString m_reason;
 };
 
 } // namespace
 
 TEST_F(SystemManagerTest, ANewSystemIsKnownByEverythingItHas) {
-    Observer observer;
+    SystemEventLog log;
     CGisSystem* const pA = Create(L"  Ä  ");
     ASSERT_NE(pA, nullptr);
-    EXPECT_EQ(observer.Take(), "new Ä [none];");
+    EXPECT_EQ(log.Take(), "new Ä;");
     CGisSystem* const pB = Manager().CreateSystem(L"b", TopologyPolygon, 5);
     EXPECT_EQ(pA->GetSystemName().Str(), L"Ä");
     EXPECT_EQ(Manager().GetSystemByName(L"ä"), pA);
@@ -102,13 +59,7 @@ TEST_F(SystemManagerTest, ANewSystemIsKnownByEverythingItHas) {
 
 TEST_F(SystemManagerTest, ASystemThatCannotBeSaysWhy) {
     Create(L"Water");
-    struct Case {
-        const wchar_t* name;
-        enmTopologyType type;
-        int function;
-        const wchar_t* reason;
-    };
-    const Case cases[] = {
+    const Rows<const wchar_t*, enmTopologyType, int, const wchar_t*> cases = {
         {L"", TopologyLine, 1, L"A system needs a name."},
         {L" \t", TopologyLine, 1, L"A system needs a name."},
         {L"WATER", TopologyPoint, 0, L"The drawing already has a system \"Water\"."},
@@ -116,41 +67,41 @@ TEST_F(SystemManagerTest, ASystemThatCannotBeSaysWhy) {
         {L"x", TopologyLine, 0, L"The topology has no function 0."},
         {L"x", TopologyLine, 99, L"The topology has no function 99."},
     };
-    Observer observer;
-    for (const Case& c : cases) {
-        EXPECT_EQ(Manager().CreateSystem(c.name, c.type, c.function, &m_reason), nullptr);
-        EXPECT_EQ(WideToUtf8(m_reason.View()), WideToUtf8(c.reason));
+    SystemEventLog log;
+    for (const auto& [name, type, function, reason] : cases) {
+        EXPECT_EQ(Manager().CreateSystem(name, type, function, &m_reason), nullptr);
+        EXPECT_EQ(WideToUtf8(m_reason.View()), WideToUtf8(reason));
     }
-    EXPECT_EQ(observer.Take(), "");
+    EXPECT_EQ(log.Take(), "");
     EXPECT_EQ(Manager().GetSystems()->GetCount(), 1);
 }
 
 TEST_F(SystemManagerTest, RenamingKeepsNamesUnique) {
     CGisSystem* const pA = Create(L"a");
     Create(L"b");
-    Observer observer;
+    SystemEventLog log;
     EXPECT_EQ(Manager().RenameSystem(pA, L"B", &m_reason), 0);
     EXPECT_NE(m_reason.Find(L"\"b\""), -1);
     EXPECT_EQ(Manager().RenameSystem(pA, L" a "), 1);
-    EXPECT_EQ(observer.Take(), ""); // nothing has changed
+    EXPECT_EQ(log.Take(), ""); // nothing has changed
     EXPECT_EQ(Manager().RenameSystem(pA, L"A"), 1);
-    EXPECT_EQ(observer.Take(), "changed A [none];");
+    EXPECT_EQ(log.Take(), "changed A;");
     EXPECT_EQ(Manager().RenameSystem(nullptr, L"c"), 0);
 }
 
 TEST_F(SystemManagerTest, ActivationTellsTheOldSystemFirstAndOnlyAChange) {
     CGisSystem* const pA = Create(L"a");
     CGisSystem* const pB = Create(L"b");
-    Observer observer;
+    SystemEventLog log;
     Manager().SetSystemActive(pA);
     Manager().SetSystemActive(pA);
-    EXPECT_EQ(observer.Take(), "active a [a];");
+    EXPECT_EQ(log.Take(), "active a a;");
     Manager().SetSystemActive(pB);
-    EXPECT_EQ(observer.Take(), "inactive a [b];active b [b];");
+    EXPECT_EQ(log.Take(), "inactive a b;active b b;");
     EXPECT_NE(pB->GetActive(), 0);
     EXPECT_EQ(pA->GetActive(), 0);
     Manager().SetSystemActive(nullptr);
-    EXPECT_EQ(observer.Take(), "inactive b [none];active none [none];");
+    EXPECT_EQ(log.Take(), "inactive b none;active none none;");
 }
 
 TEST_F(SystemManagerTest, AnObserverMayActivateAnotherSystem) {
@@ -158,13 +109,13 @@ TEST_F(SystemManagerTest, AnObserverMayActivateAnotherSystem) {
     CGisSystem* const pB = Create(L"b");
     CGisSystem* const pC = Create(L"c");
     Manager().SetSystemActive(pA);
-    Observer observer;
-    observer.m_onInactive = [&] {
-        observer.m_onInactive = nullptr;
+    SystemEventLog log;
+    log.on["inactive"] = [&] {
+        log.on.clear();
         Manager().SetSystemActive(pC);
     };
     Manager().SetSystemActive(pB);
-    EXPECT_EQ(observer.Take(), "inactive a [b];inactive b [c];active c [c];");
+    EXPECT_EQ(log.Take(), "inactive a b;inactive b c;active c c;");
 }
 
 TEST_F(SystemManagerTest, DeletionGoesStepByStep) {
@@ -172,25 +123,13 @@ TEST_F(SystemManagerTest, DeletionGoesStepByStep) {
     CGisSystem* const pB = Create(L"b");
     const int idOfB = pB->GetSystemId();
     Manager().SetSystemActive(pB);
-    Observer observer;
+    SystemEventLog log;
     EXPECT_EQ(Manager().DeleteSystem(pA), 1);
-    EXPECT_EQ(observer.Take(), "before delete a [b];drop a [b];after delete;");
+    EXPECT_EQ(log.Take(), "gone a b;drop a b;after;");
     EXPECT_EQ(Manager().DeleteSystem(pB), 1);
-    EXPECT_EQ(observer.Take(), "before delete b [b];inactive b [none];active none [none];"
-                               "drop b [none];after delete;");
+    EXPECT_EQ(log.Take(), "gone b b;inactive b none;active none none;drop b none;after;");
     EXPECT_EQ(Manager().DeleteSystem(nullptr), 0);
     EXPECT_GT(Create(L"b")->GetSystemId(), idOfB);
-}
-
-TEST_F(SystemManagerTest, VisibilityIsToldWhenItChanges) {
-    CGisSystem* const pA = Create(L"a");
-    Observer observer;
-    Manager().SetSystemVisible(pA);
-    Manager().SetSystemInvisible(pA);
-    Manager().SetSystemInvisible(pA);
-    Manager().SetSystemVisible(pA);
-    EXPECT_EQ(observer.Take(), "hidden a [none];shown a [none];");
-    EXPECT_EQ(Manager().SetSystemVisible(nullptr), 0);
 }
 
 TEST_F(SystemManagerTest, EachDrawingHasItsOwnSystems) {
@@ -238,38 +177,13 @@ TEST_F(SystemManagerTest, WithoutADrawingThereIsNothing) {
     EXPECT_EQ(m_reason.Str(), L"No drawing is open.");
 }
 
-TEST_F(SystemManagerTest, NamesOfEntityTypesFollowTheSystem) {
-    const CTopologyConfiguration configuration(m_host.Support().Wide("none.ini"), [](int id) {
-        CString text;
-        text.Format(L"%d", id);
-        return text;
-    });
-    const CGisSystem* const pPoints = Manager().CreateSystem(L"p", TopologyPoint, 0);
-    EXPECT_EQ(configuration.GetEntityTypeName(EntityNode, nullptr).Str(), L"900220");
-    EXPECT_EQ(configuration.GetEntityTypeName(EntityNode, pPoints).Str(), L"900224");
-    EXPECT_EQ(configuration.GetEntityTypeName(EntitySection, pPoints).Str(), L"900221");
-    EXPECT_EQ(configuration.GetEntityTypeName(EntityNone, pPoints).Str(), L"");
-}
-
-TEST(GisEvents, ObserversMayGoWhileOthersAreTold) {
-    struct Leaver final : ISystemEvents {
-        void OnTemporaryDataRefreshed() override {
-            ++calls;
-            CGisEvents::Instance()->Unregister(pOther);
-        }
-        int calls = 0;
-        ISystemEvents* pOther = nullptr;
-    };
-    Leaver first;
-    Leaver second;
-    first.pOther = &second;
-    second.pOther = &first;
-    for (Leaver* pLeaver : {&first, &second, &first}) {
-        CGisEvents::Instance()->Register(pLeaver);
-    }
-    const TestHost host;
-    Data::CDataConfiguration::Instance()->RefreshTemporaryDataDefinitions();
-    EXPECT_EQ(first.calls, 1);
-    EXPECT_EQ(second.calls, 0);
-    CGisEvents::Instance()->Unregister(&first);
+TEST_F(SystemManagerTest, ObserversMayGoWhileOthersAreTold) {
+    SystemEventLog first;
+    SystemEventLog second;
+    first.on["new"] = [&] { CGisEvents::Instance()->Unregister(&second); };
+    Create(L"a");
+    EXPECT_EQ(first.Take() + second.Take(), "new a;");
+    CGisEvents::Instance()->Register(&first);
+    Create(L"b");
+    EXPECT_EQ(first.Take() + second.Take(), "new b;") << "registered twice, told once";
 }

@@ -6,6 +6,7 @@
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscoreadds/NodeIndex.h"
 #include "siblings/giscoreadds/PolygonIndex.h"
+#include "tests/support/SystemEventLog.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;
@@ -54,28 +55,6 @@ protected:
     }
 };
 
-/// Writes down which systems come and go.
-class Observer final : public System::ISystemEvents {
-public:
-    Observer() { System::CGisEvents::Instance()->Register(this); }
-    ~Observer() { System::CGisEvents::Instance()->Unregister(this); }
-    Observer(const Observer&) = delete;
-    Observer& operator=(const Observer&) = delete;
-    void OnNewSystemCreated(CGisSystem* p) override { Note("new", p); }
-    void OnBeforeSystemDelete(CGisSystem* p) override { Note("gone", p); }
-    void OnSystemChanged(CGisSystem* p) override { Note("changed", p); }
-    void OnSystemBecomeHidden(CGisSystem* p) override { Note("hidden", p); }
-    void OnSystemBecomeShown(CGisSystem* p) override { Note("shown", p); }
-    void OnSystemBecomeInactive(CGisSystem* p) override { Note("inactive", p); }
-    std::string Take() { return std::exchange(m_log, {}); }
-
-private:
-    void Note(const char* event, const CGisSystem* p) {
-        m_log += std::string(event) + " " + WideToUtf8(p->GetSystemName().View()) + ";";
-    }
-    std::string m_log;
-};
-
 } // namespace
 
 TEST_F(SystemsInDrawingTest, ADrawingGivesBackTheSystemsThatItWasSavedWith) {
@@ -101,24 +80,24 @@ TEST_F(SystemsInDrawingTest, ADrawingGivesBackTheSystemsThatItWasSavedWith) {
 }
 
 TEST_F(SystemsInDrawingTest, UndoAndRedoTakeSystemsAndTheirEntitiesAlong) {
-    Observer observer;
+    SystemEventLog log;
     AcDbUndo& undo = Database().undo();
     {
         const AcDbUndoGroup group(Database(), L"import");
         Node(MakeSystem(L"A"), "n");
     }
-    EXPECT_EQ(observer.Take(), "new A;");
+    EXPECT_EQ(log.Take(), "new A;");
     CGisSystem* const pFirst = Manager().GetSystemByName(L"A");
     const CString guid = pFirst->GetGuid();
     Manager().SetSystemActive(pFirst);
     ASSERT_TRUE(undo.undo());
-    EXPECT_EQ(observer.Take(), "gone A;inactive A;");
+    EXPECT_EQ(log.Take(), "active A A;gone A A;inactive A none;active none none;after;");
     EXPECT_EQ(Manager().GetSystems()->GetCount(), 0);
     EXPECT_EQ(Manager().GetActiveSystem(), nullptr);
     EXPECT_TRUE(Storage().GetNodeVector().empty());
 
     ASSERT_TRUE(undo.redo());
-    EXPECT_EQ(observer.Take(), "new A;");
+    EXPECT_EQ(log.Take(), "new A;active A A;");
     EXPECT_EQ(Manager().GetActiveSystem(), Manager().GetSystemByName(L"A"));
     CGisSystem* const pAgain = Manager().GetSystemByName(L"A");
     ASSERT_NE(pAgain, nullptr);
@@ -135,7 +114,7 @@ TEST_F(SystemsInDrawingTest, UndoAndRedoTakeSystemsAndTheirEntitiesAlong) {
     Manager().SetSystemInvisible(pAgain);
     Manager().DeleteSystem(pAgain);
     EXPECT_TRUE(Storage().GetNodeVector().empty());
-    observer.Take();
+    log.Take();
     ASSERT_TRUE(undo.undo());
     ASSERT_EQ(Storage().GetNodeVector().size(), 1U);
     CGisSystem* const pBack = Storage().GetNodeVector()[0].GetSystem();
@@ -143,7 +122,7 @@ TEST_F(SystemsInDrawingTest, UndoAndRedoTakeSystemsAndTheirEntitiesAlong) {
     EXPECT_EQ(pBack->GetVisibility(), 0);
     ASSERT_TRUE(undo.undo());
     ASSERT_TRUE(undo.undo());
-    EXPECT_EQ(observer.Take(), "new B;shown B;changed A;");
+    EXPECT_EQ(log.Take(), "new B;active B B;shown B;changed A;");
     EXPECT_EQ(pBack->GetLayers().size(), 3U);
     EXPECT_GT(MakeSystem(L"C").GetSystemId(), pBack->GetSystemId());
 }
@@ -284,18 +263,6 @@ TEST_F(SystemsInDrawingTest, WhatOtherCodeDoesToEntitiesCountsAtOnce) {
     EXPECT_FALSE(Storage().GetNodeById(free));
     EXPECT_NE(Selection::CNodeIndex::Instance()->GetNodeById(free), nullptr);
     EXPECT_EQ(Selection::CNodeIndex::Instance()->GetNodeById(s), nullptr);
-}
-
-TEST_F(SystemsInDrawingTest, PointsOfPolygonsAreFreeNodes) {
-    CGisSystem& parcels = MakeSystem(L"Parcels", TopologyPolygon, 0);
-    const AcDbObjectId corner = Node(parcels, "c", 3, 4);
-    EXPECT_FALSE(Storage().GetNodeById(corner));
-    Selection::CNodeIndex& index = *Selection::CNodeIndex::Instance();
-    EXPECT_EQ(index.GetNodesInBox({0, 0, 5, 5}), (std::vector<AcDbObjectId>{corner}));
-    EXPECT_EQ(index.GetNodeById(corner)->attribute(AcDbIntern("SYSTEMID")).asInteger(),
-              parcels.GetSystemId());
-    Manager().DeleteSystem(&parcels);
-    EXPECT_EQ(index.GetNodeById(corner), nullptr);
 }
 
 TEST_F(SystemsInDrawingTest, SectionsWithNodesThatAreNowhereKeepTheirVertices) {

@@ -48,19 +48,6 @@ TEST_F(TopologyStorageTest, ASectionKeepsEverythingItWasMadeOf) {
     EXPECT_TRUE(section.GetAttribute(AcDbIntern("Diameter")).isNull());
 }
 
-TEST_F(TopologyStorageTest, AnIdIsOfOneKindOnly) {
-    System::CGisSystem& system = MakeSystem(L"Water");
-    const AcDbObjectId node = Node(system, "A");
-    const AcDbObjectId section = Storage().AddSection(system, {"S", {node}, {node}});
-    EXPECT_FALSE(Storage().GetSectionById(node));
-    EXPECT_FALSE(Storage().GetNodeById(section));
-    EXPECT_FALSE(Storage().GetPolygonById(node));
-    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId()));
-    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId(section.number() + 1)));
-    EXPECT_FALSE(Storage().GetNodeById(AcDbObjectId(0xFFFFFFFF)));
-    EXPECT_FALSE(CNode());
-}
-
 TEST_F(TopologyStorageTest, AMissingNodeIsKnownByItsStatedName) {
     System::CGisSystem& system = MakeSystem(L"Water");
     const AcDbObjectId node = Node(system, "A", 1, 1);
@@ -101,48 +88,6 @@ TEST_F(TopologyStorageTest, AttributesAreSetAddedAndRemoved) {
     EXPECT_EQ(Storage().RemoveAttribute(AcDbObjectId(99), AcDbIntern("a")), 0);
     EXPECT_EQ(Storage().SetAttribute(second, {"SYSTEMID", 7}), 0);
     EXPECT_EQ(Storage().RemoveAttribute(second, AcDbIntern("NAME")), 0);
-}
-
-TEST_F(TopologyStorageTest, EntitiesCanBeCopiedFromTheStorageItself) {
-    System::CGisSystem& system = MakeSystem(L"Water");
-    const AcDbObjectId node = Node(system, "A");
-    const Point vertices[] = {{1, 2}, {3, 4}, {5, 6}};
-    const AttributeData attributes[] = {{"note", "a text that is not short"}};
-    AcDbObjectId id =
-        Storage().AddSection(system, {"original", {node}, {node}, vertices, "Pipe", attributes});
-    for (int i = 0; i < 200; ++i) { // long enough for every table to move
-        const CSection from = Storage().GetSectionById(id);
-        const auto values = from.GetAttributes();
-        id = Storage().AddSection(system, {from.GetNameUtf8(),
-                                           {node},
-                                           {node},
-                                           from.GetInnerVertices(),
-                                           from.GetKindUtf8(),
-                                           values});
-    }
-    const CSection last = Storage().GetSectionById(id);
-    EXPECT_EQ(NameOf(last), "original");
-    EXPECT_EQ(last.GetInnerVertices()[2].x, 5);
-    EXPECT_EQ(last.GetAttributes()[0].value.asText(), "a text that is not short");
-}
-
-TEST_F(TopologyStorageTest, NamesAreFoundInTheirSystem) {
-    System::CGisSystem& water = MakeSystem(L"Water");
-    System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    const AcDbObjectId first = Node(water, "A");
-    const AcDbObjectId second = Node(water, "A");
-    const AcDbObjectId other = Node(sewer, "A");
-    const int waterId = water.GetSystemId();
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetObjectId(), first);
-    EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "A").GetObjectId(), other);
-    EXPECT_FALSE(Storage().FindNodeByName(waterId, "a"));
-    EXPECT_FALSE(Storage().FindNodeByName(99, "A"));
-    EXPECT_FALSE(Storage().FindSectionByName(waterId, "A"));
-
-    Storage().SetName(first, L"B");
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "A").GetObjectId(), second);
-    EXPECT_EQ(Storage().FindNodeByName(waterId, "B").GetObjectId(), first);
-    EXPECT_EQ(Storage().SetName({}, L"x"), 0);
 }
 
 TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
@@ -214,23 +159,6 @@ TEST_F(TopologyStorageTest, ASystemGoesAndTheOthersStay) {
     EXPECT_EQ(Storage().GetChangeStamp(), after); // nothing to remove
 }
 
-TEST_F(TopologyStorageTest, WalksGoInTheOrderOfCreation) {
-    System::CGisSystem& water = MakeSystem(L"Water");
-    System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    const AcDbObjectId a = Node(water, "a");
-    const AcDbObjectId b = Node(sewer, "b");
-    const AcDbObjectId c = Node(water, "c");
-    std::string names;
-    for (const CNode node : Storage().GetNodeVector()) {
-        names += node.GetNameUtf8();
-    }
-    EXPECT_EQ(names, "abc");
-    EXPECT_EQ(Storage().GetSystemNodes(water.GetSystemId()), (std::vector<AcDbObjectId>{a, c}));
-    EXPECT_EQ(Storage().GetSystemNodes(sewer.GetSystemId()), (std::vector<AcDbObjectId>{b}));
-    EXPECT_TRUE(Storage().GetSectionVector().empty());
-    EXPECT_TRUE(Storage().GetSystemTexts(water.GetSystemId()).empty());
-}
-
 TEST_F(TopologyStorageTest, EntitiesOfAnotherDrawingsSystemAreRefused) {
     System::CGisSystem& system = MakeSystem(L"Water");
     CTopologyStorage other(nullptr);
@@ -254,14 +182,4 @@ TEST_F(TopologyStorageTest, EachDrawingHasItsOwnStorageAndLosesItWithTheDocument
     acDocManagerPtr()->closeDocument(Document());
     ASSERT_NE(CTopologyMultiStorage::Instance()->GetTopology(), nullptr);
     EXPECT_TRUE(Storage().GetNodeVector().empty());
-}
-
-TEST_F(TopologyStorageTest, ADeletedSystemTakesItsEntitiesAlong) {
-    System::CGisSystem& water = MakeSystem(L"Water");
-    System::CGisSystem& sewer = MakeSystem(L"Sewer");
-    Node(water, "A");
-    Node(sewer, "B");
-    System::CSystemManager::Instance()->DeleteSystem(&water);
-    ASSERT_EQ(Storage().GetNodeVector().size(), 1U);
-    EXPECT_EQ(NameOf(Storage().GetNodeVector()[0]), "B");
 }

@@ -6,6 +6,7 @@
 #include "siblings/giscore/notification/Publisher.h"
 #include "siblings/giscore/notification/Subscriber.h"
 #include "siblings/logging/LogEngine.h"
+#include "tests/support/ListenerLog.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/DocumentReactorWorkspace.h"
 #include "workspacecore/core/EditorReactor.h"
@@ -14,62 +15,37 @@
 namespace Orvane::Workspace {
 namespace {
 
-class Notes final : public IWsListener {
-public:
-    void OnAcadDocumentBecomeCurrent(AcApDocument* p) override {
-        m_log += WideToUtf8(p->fileName()) + " current ";
-    }
-    void OnAcadDocumentToBeDeactivated(AcApDocument* p) override {
-        m_log += WideToUtf8(p->fileName()) + " leaves ";
-    }
-    void OnAcadDocumentToBeDestroyed(AcApDocument* p) override {
-        m_log += WideToUtf8(p->fileName()) + " goes ";
-    }
-    void OnAcadDocumentDestroyed(const wchar_t* name) override {
-        m_log += WideToUtf8(name) + " gone ";
-    }
-    void OnSystemBecomeActive(System::CGisSystem*) override { m_log += "active "; }
-    void OnBeginSaveAcadDocument(AcDbDatabase*, const wchar_t*) override {
-        CString value;
-        m_log += Orvane::CORVCDictionaryPtr(AcDb::kForRead)
-                             .dctReadBigString(L"__HV__", L"ACVER", value) == Acad::eOk
-                     ? "save after the stamp "
-                     : "save before the stamp ";
-    }
-    void OnSaveCompletedAcadDocument(AcDbDatabase*, const wchar_t*) override { m_log += "saved "; }
-    std::string Take() { return std::exchange(m_log, {}); }
-
-private:
-    std::string m_log;
-};
-
 class HostReactorsTest : public testing::Test {
 protected:
     HostReactorsTest() {
         acedEditor();
         ORVZWorkspaceCore_EditorReactor::rxInit();
         acrxBuildClassHierarchy();
-        CWsManager::Instance()->RegisterWsListener(&m_notes);
+        CWsManager::Instance()->RegisterWsListener(&m_listener);
     }
     AcApDocManager& Documents() { return *acDocManagerPtr(); }
 
+    std::string Heard() { return m_log.Take(); }
+
     TestHost m_host;
-    Notes m_notes;
+    EventLog m_log;
+    ListenerLog m_listener{m_log};
 };
 
 TEST_F(HostReactorsTest, ADocumentIsSetUpOnceForEachChange) {
     AcApDocument* const pFirst = Documents().newDocument(L"a");
-    EXPECT_EQ(m_notes.Take(), "a current active ");
+    EXPECT_EQ(Heard(), "Current a;Active none;");
     Documents().setCurDocument(pFirst);
-    EXPECT_EQ(m_notes.Take(), "") << "the same document again";
+    EXPECT_EQ(Heard(), "") << "the same document again";
     EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetAllowStopCommand(), 1);
 
     AcApDocument* const pSecond = Documents().newDocument(L"b");
-    EXPECT_EQ(m_notes.Take(), "a leaves b current active ");
+    EXPECT_EQ(Heard(), "ToBeDeactivated a;Current b;Active none;");
     EXPECT_TRUE(Documents().closeDocument(pSecond));
-    EXPECT_EQ(m_notes.Take(), "b leaves b goes b gone a current active ");
+    EXPECT_EQ(Heard(), "ToBeDeactivated b;ToBeDestroyed b;Destroyed b;Current a;Active none;");
     EXPECT_TRUE(Documents().closeDocument(pFirst));
-    EXPECT_EQ(m_notes.Take(), "a leaves a goes a gone ") << "no document is no news to listeners";
+    EXPECT_EQ(Heard(), "ToBeDeactivated a;ToBeDestroyed a;Destroyed a;")
+        << "no document is no news to listeners";
     EXPECT_EQ(CWsManager::Instance()->CmdMgr()->GetAllowStopCommand(), 0);
 }
 
@@ -80,9 +56,9 @@ TEST_F(HostReactorsTest, ADrawingBehindOneThatAListenerThrewAtIsSetUp) {
     CWsManager::Instance()->RegisterWsListener(&thrower);
     for (int i = 0; i < 20; ++i) { // the next one comes to lie at the same address
         AcApDocument* const pDoc = Documents().newDocument(L"a");
-        EXPECT_EQ(m_notes.Take(), "a current active ");
+        EXPECT_EQ(Heard(), "Current a;Active none;");
         EXPECT_TRUE(Documents().closeDocument(pDoc));
-        EXPECT_EQ(m_notes.Take(), "a leaves a goes a gone ");
+        EXPECT_EQ(Heard(), "ToBeDeactivated a;ToBeDestroyed a;Destroyed a;");
     }
     EXPECT_NE(m_host.Output().find("OnAcadDocumentDestroyed failed"), std::string::npos);
     CWsManager::Instance()->UnregisterWsListener(&thrower);
@@ -98,15 +74,20 @@ TEST_F(HostReactorsTest, PanelsRefreshEvenWhenTheHostIsClosing) {
     CWsManager::Instance()->Raise_OnBeforeAcadWillClose();
     Documents().newDocument(L"a");
     EXPECT_EQ(counter.m_nCalls, 1);
-    EXPECT_EQ(m_notes.Take(), "");
+    EXPECT_EQ(Heard(), "BeforeClose;");
 }
 
 TEST_F(HostReactorsTest, ASaveIsStampedBeforeAnybodyHearsOfIt) {
     AcApDocument* const pDoc = Documents().newDocument(L"a");
-    m_notes.Take();
+    Heard();
+    m_log.on["BeginSave"] = [] {
+        CString value;
+        EXPECT_EQ(CORVCDictionaryPtr(AcDb::kForRead).dctReadBigString(L"__HV__", L"ACVER", value),
+                  Acad::eOk);
+    };
     acedEditor()->fireBeginSave(pDoc->database(), L"a.gpkg");
     acedEditor()->fireSaveComplete(pDoc->database(), L"a.gpkg");
-    EXPECT_EQ(m_notes.Take(), "save after the stamp saved ");
+    EXPECT_EQ(Heard(), "BeginSave a.gpkg;Saved a.gpkg;");
     const Orvane::CORVCDictionaryPtr dictionary(AcDb::kForRead);
     for (const auto& [key, expected] :
          {std::pair(L"ACVER", CLogEngine::GetAcadVersion()),
@@ -129,12 +110,12 @@ TEST_F(HostReactorsTest, TheEditorReactorIsOfItsClassAndComesAndGoes) {
     reactor.Attach();
     EXPECT_TRUE(reactor.IsAttached());
     AcApDocument* const pDoc = Documents().newDocument(L"a");
-    m_notes.Take();
+    Heard();
     acedEditor()->fireSaveComplete(pDoc->database(), L"a");
-    EXPECT_EQ(m_notes.Take(), "saved saved ");
+    EXPECT_EQ(Heard(), "Saved a;Saved a;");
     reactor.Detach();
     acedEditor()->fireSaveComplete(pDoc->database(), L"a");
-    EXPECT_EQ(m_notes.Take(), "saved ");
+    EXPECT_EQ(Heard(), "Saved a;");
 }
 
 TEST_F(HostReactorsTest, DictionariesHoldLongTextsAndALockKeepsADocumentOpen) {

@@ -79,16 +79,11 @@ TEST_F(TraceTest, LinesHaveThePrefixOfTheirSite) {
     char number[8];
     std::snprintf(number, sizeof number, "%05d", line);
     ASSERT_EQ(Lines().size(), 1U);
-    std::string prefix = Lines()[0];
-    for (char& c : prefix) {
-        c = prefix.size() > 10 && &c - prefix.data() < 10 && c != '[' && c != ']' && c != ':' ? '0'
-                                                                                              : c;
-    }
-    // Two characters for each part of the time, then file, line and function.
-    const std::string expected =
-        "[00:00:00] TraceTest.cpp" + std::string(19, ' ') + "(" + number + "): [";
-    EXPECT_EQ(prefix.substr(0, expected.size()), expected);
-    EXPECT_TRUE(prefix.ends_with("::TestBody], text")) << prefix;
+    const std::string text = Lines()[0];
+    EXPECT_NE(text.find("] TraceTest.cpp" + std::string(19, ' ') + "(" + number + "): ["),
+              std::string::npos)
+        << text;
+    EXPECT_TRUE(text.ends_with("::TestBody], text")) << text;
 }
 
 TEST_F(TraceTest, FunctionNamesAreQualifiedAndWhole) {
@@ -116,7 +111,7 @@ TEST_F(TraceTest, TextsOfAllKinds) {
     address << pointer;
     WS_TRACE_TEXT(L"wide \u00E8");
     WS_TRACE_TEXT(static_cast<const wchar_t*>(nullptr));
-    WS_TRACE_TEXT(CString(L"name \u00E8"));
+    WS_TRACE_TEXT(CString(L"name \u00E8\u4E2D"));
     WS_TRACE_TEXT(42);
     WS_TRACE_VALUE("lpszFileName", L"C:\\a.dwg");
     WS_TRACE_VALUE("lpszFileName", static_cast<const wchar_t*>(nullptr));
@@ -126,7 +121,7 @@ TEST_F(TraceTest, TextsOfAllKinds) {
     WS_TRACE_FORMAT(L"Module = %s, %s", CString(L"a.arx"), L"ON");
     const std::vector<std::string> expected = {"wide \u00E8",
                                                "Error: Bad pointer",
-                                               "name \xE8",
+                                               "name \u00E8\u4E2D",
                                                "42",
                                                "lpszFileName = 'C:\\a.dwg'",
                                                "lpszFileName = 'Error: Bad pointer'",
@@ -154,16 +149,6 @@ TEST_F(TraceTest, ScopesNestAndCloseOnExceptions) {
         return line.substr(line.find('('), line.find(')') - line.find('('));
     };
     EXPECT_EQ(numberOf(Lines()[1]), numberOf(Lines()[2])) << "the line of the opening";
-}
-
-TEST_F(TraceTest, ScopeSwitchedOnInTheMiddleOnlyLeaves) {
-    CLogEngine::SetLogging(0, m_folder.Native("trace.log"));
-    {
-        WS_TRACE_SCOPE();
-        SwitchOn();
-    }
-    ASSERT_EQ(Texts().size(), 1U);
-    EXPECT_EQ(Texts()[0].rfind("Exiting function , ", 0), 0U);
 }
 
 TEST_F(TraceTest, SiteFileIsCutBehindTheLastBackslash) {

@@ -5,6 +5,7 @@
 #include "platform/arx/ApDocManager.h"
 #include "platform/mfc/Menu.h"
 #include "siblings/giscore/systems/SystemManager.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 #include "workspacecore/panel/TreeMenus.h"
@@ -26,7 +27,7 @@ struct Entry {
     std::vector<CWsTopologyData> topologies = {};
 };
 
-void Fill(CWsCommandRegistry& registry, std::initializer_list<Entry> entries) {
+void Fill(CWsCommandRegistry& registry, const std::vector<Entry>& entries) {
     for (const Entry& entry : entries) {
         auto command = boost::make_shared<CWsCommand>();
         command->SetId(entry.id);
@@ -70,12 +71,7 @@ CWsTreeItemDefinition Item(enmEntityType entityType, const wchar_t* tag = L"") {
 }
 
 TEST(TreeMenus, SectionsAreFilteredByEntityAndDividedForTheSakeOfWhatFollows) {
-    const struct {
-        const char* what;
-        std::initializer_list<Entry> entries;
-        enmEntityType item;
-        const char* expected;
-    } cases[] = {
+    const Rows<const char*, std::vector<Entry>, enmEntityType, const char*> cases = {
         {"nothing", {}, EntityNode, ""},
         {"in order of group, then of adding, without the hidden ones",
          {{L"far", kFarGroup},
@@ -110,11 +106,10 @@ TEST(TreeMenus, SectionsAreFilteredByEntityAndDividedForTheSakeOfWhatFollows) {
          EntityNone,
          "node pipe "},
     };
-    for (const auto& row : cases) {
+    for (const auto& [what, entries, item, expected] : cases) {
         CWsCommandRegistry registry;
-        Fill(registry, row.entries);
-        EXPECT_EQ(Names(TreeMenuEntries(registry, MenuTopology(), Item(row.item))), row.expected)
-            << row.what;
+        Fill(registry, entries);
+        EXPECT_EQ(Names(TreeMenuEntries(registry, MenuTopology(), Item(item))), expected) << what;
     }
 }
 
@@ -138,12 +133,7 @@ TEST(TreeMenus, CommandsAreAskedForByFamilyKindAndTopology) {
                     entry(L"theme", L"THEME", WsItemSystem, {{TopologyLine, 1}}),
                     entry(L"every", L"0", WsItemSystem | WsItemRepository, {{TopologyLine, 1}}),
                     entry(L"folder", L"Q", WsItemRepository, {{TopologyLine, 1}})});
-    const struct {
-        System::CGisSystem* pSystem;
-        const wchar_t* tag;
-        enmWSTreeItemType itemType;
-        const char* expected;
-    } cases[] = {
+    const Rows<System::CGisSystem*, const wchar_t*, enmWSTreeItemType, const char*> cases = {
         {pWater, L"Q", WsItemSystem, "water line every "},
         {pSewer, L"Q", WsItemSystem, "line "},
         {pArea, L"Q", WsItemSystem, "area "},
@@ -153,26 +143,26 @@ TEST(TreeMenus, CommandsAreAskedForByFamilyKindAndTopology) {
         {pWater, L"Q", WsItemRepository, "every folder "},
         {pWater, L"Q", WsItemSystemManager, ""},
     };
-    for (const auto& row : cases) {
-        CWsTreeItemDefinition definition = Item(EntityNone, row.tag);
-        definition.SetWsItemType(row.itemType);
-        const MenuTopology topology(row.pSystem);
-        EXPECT_EQ(Names(TreeMenuEntries(registry, topology, definition)), row.expected);
+    for (const auto& [pSystem, itsTag, itemType, itsExpected] : cases) {
+        CWsTreeItemDefinition definition = Item(EntityNone, itsTag);
+        definition.SetWsItemType(itemType);
+        const MenuTopology topology(pSystem);
+        EXPECT_EQ(Names(TreeMenuEntries(registry, topology, definition)), itsExpected);
         const std::string added = Names(AddMenuEntries(registry, topology, &definition));
-        EXPECT_EQ(added, row.expected + std::string(*row.expected ? "- " : ""));
+        EXPECT_EQ(added, itsExpected + std::string(*itsExpected ? "- " : ""));
         CWsTreeItemData data;
         data.SetPtrItemDefinition(boost::make_shared<CWsTreeItemDefinition>(definition));
         CMenu menu;
         menu.CreatePopupMenu();
-        CWsManager::Instance()->TreeMgr()->GetMenuBar(menu, &data, row.pSystem);
-        const std::string expected = row.expected;
+        CWsManager::Instance()->TreeMgr()->GetMenuBar(menu, &data, pSystem);
+        const std::string expected = itsExpected;
         EXPECT_EQ(menu.GetMenuItemCount(), std::count(expected.begin(), expected.end(), ' '))
             << "its entries alone, in one section";
     }
 }
 
 TEST(TreeMenus, TheAddMenuHasThreeBlocks) {
-    const std::initializer_list<Entry> entries = {
+    const std::vector<Entry> entries = {
         {L"ADD_Q", CommandGroupAdd, EntityNone, TreeBehaviorAdd, L"Q"},
         {L"ADD_SEND", CommandGroupAdd, EntityNone, TreeBehaviorAdd, L"Q"},
         {L"ADD_send", CommandGroupAdd, EntityNone, TreeBehaviorAdd, L"Q"},

@@ -7,6 +7,7 @@
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/giscore/systems/SystemManager.h"
 #include "siblings/logging/LogEngine.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/core/WsManager.h"
 
@@ -63,18 +64,6 @@ TEST(WsManager, TheFirstExecutorStaysTheBaseExecutor) {
     pManager->RegisterBaseExecutor(&first);
     pManager->RegisterBaseExecutor(&second);
     EXPECT_EQ(pManager->CmdMgr()->GetBaseExecutor(), &first);
-}
-
-TEST(WsManager, PublishersAreSharedByName) {
-    const TestHost host;
-    auto* const pFramework = Notification::CNotificationFramework::Instance();
-    const CWsManager& manager = *CWsManager::Instance();
-    EXPECT_EQ(manager.GetRefreshAllPbl(), pFramework->GetPublisher(L"REFRESH_CHILDREN"));
-    EXPECT_EQ(manager.GetRefreshTreePbl(), pFramework->GetPublisher(L"REFRESH_TREE"));
-    EXPECT_EQ(manager.GetSelectionInProgressPbl(),
-              pFramework->GetPublisher(L"SELECTION_IN_PROGRESS"));
-    EXPECT_EQ(manager.GetSelectionCompletedPbl(), pFramework->GetPublisher(L"SELECTION_COMPLETED"));
-    EXPECT_NE(manager.GetRefreshAllPbl(), manager.GetRefreshTreePbl());
 }
 
 TEST(WsManager, RunsAfterDropOnlyForExactlyOne) {
@@ -142,31 +131,17 @@ TEST(WsCommandManager, HandsTheCallToTheExecutor) {
     EXPECT_EQ(commands.GetAllowStopCommand(), 1);
 }
 
-TEST(WsCommandManager, TheFullResultTakesItsValuesInOrder) {
-    const CExecutorReturnValue value(1, L"a", L"b", L"c", L"d", 2, L"e", EntitySection);
-    EXPECT_EQ(value.m_nStatus, 1);
-    EXPECT_EQ(value.m_strText1 + value.m_strText2 + value.m_strText3 + value.m_strText4 +
-                  value.m_strText5 + value.m_strText6,
-              L"abcde");
-    EXPECT_EQ(value.m_nNumber, 2);
-    EXPECT_EQ(value.m_enmEntityType, EntitySection);
-    EXPECT_TRUE(value.m_strText6.IsEmpty());
-}
-
 TEST(WsCommandManager, SetDataCommandsOfASystem) {
     const TestHost host;
     acDocManagerPtr()->newDocument(L"Drawing1.dwg");
     CWsManager* const pManager = CWsManager::Instance();
-    const struct {
-        const wchar_t* id;
-        int isSetData;
-        int function;
-    } rows[] = {{L"A", 1, 1}, {L"B", 0, 1}, {L"C", 1, 2}, {L"D", 1, 1}};
-    for (const auto& row : rows) {
-        const auto command = Command(row.id);
-        command->SetIsSetDataCommand(row.isSetData);
+    const Rows<const wchar_t*, int, int> rows = {
+        {L"A", 1, 1}, {L"B", 0, 1}, {L"C", 1, 2}, {L"D", 1, 1}};
+    for (const auto& [id, isSetData, function] : rows) {
+        const auto command = Command(id);
+        command->SetIsSetDataCommand(isSetData);
         command->AddWsTopologyData(
-            boost::shared_ptr<CWsTopologyData>(new CWsTopologyData(TopologyLine, row.function)));
+            boost::shared_ptr<CWsTopologyData>(new CWsTopologyData(TopologyLine, function)));
         pManager->RegisterWsCommand(command);
     }
     CWsCommandRegistry::CommandVector commands(3);

@@ -1,9 +1,11 @@
 // The standard registrations, row by row.
+#include <array>
 #include <gtest/gtest.h>
 
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/icons/Icon.h"
 #include "siblings/giscore/repository/RepositoryFactory.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 #include "workspacecore/tree/WsRegistrationFactory.h"
@@ -29,33 +31,32 @@ class WithDefaultItem : public CRepositoryFactory {
     int SupportsDefaultItem() const override { return 1; }
 };
 
+/// The switches of RegisterRepositoryItem, in its order.
+enum Flag {
+    kAdd,
+    kEdit,
+    kDelete,
+    kRename,
+    kRun,
+    kDoubleClick,
+    kQueryDrop,
+    kRepositoryDrop,
+    kCopy,
+    kSendToSystem,
+    kSendToRepository,
+    kDoubleClickNotEdit,
+    kFlags
+};
+
 /// What RegisterRepositoryItem is asked for; nothing at first.
 struct Request {
-    unsigned int entityTypes = 0;
-    Factory::TopologyDataVector* topologies = nullptr;
     Factory::enmRegistrationTarget target = Factory::TargetBoth;
     int entitySpecific = 0;
     int commandsPerEntity = 0;
-    int hasAdd = 0;
-    int hasEdit = 0;
-    int hasDelete = 0;
-    int hasRename = 0;
-    int hasRun = 0;
-    int hasDoubleClick = 0;
-    int hasQueryDrop = 0;
-    int hasRepositoryDrop = 0;
-    int hasCopy = 0;
-    int hasSendToSystem = 0;
-    int hasSendToRepository = 0;
-    int doubleClickNotEdit = 0;
+    unsigned int entityTypes = 0;
+    Factory::TopologyDataVector* topologies = nullptr;
+    std::array<int, kFlags> flags{};
 };
-Request Everything() {
-    Request r;
-    r.hasAdd = r.hasEdit = r.hasDelete = r.hasRename = r.hasRun = r.hasDoubleClick = 1;
-    r.hasQueryDrop = r.hasRepositoryDrop = r.hasCopy = 1;
-    r.hasSendToSystem = r.hasSendToRepository = r.doubleClickNotEdit = 1;
-    return r;
-}
 
 class WsRegistrationFactory : public testing::Test {
 protected:
@@ -68,10 +69,13 @@ protected:
     void Register(const Request& r) {
         Factory::RegisterRepositoryItem(
             L"X", L"Name", CModuleConfiguration::Instance()->GetIcon(L"IDI_THEME"), r.entityTypes,
-            &m_executor, r.topologies, r.target, r.entitySpecific, r.commandsPerEntity, r.hasAdd,
-            r.hasEdit, r.hasDelete, r.hasRename, r.hasRun, r.hasDoubleClick, r.hasQueryDrop,
-            r.hasRepositoryDrop, r.hasCopy, r.hasSendToSystem, r.hasSendToRepository,
-            r.doubleClickNotEdit);
+            &m_executor, r.topologies, r.target, r.entitySpecific, r.commandsPerEntity, r.flags[0],
+            r.flags[1], r.flags[2], r.flags[3], r.flags[4], r.flags[5], r.flags[6], r.flags[7],
+            r.flags[8], r.flags[9], r.flags[10], r.flags[11]);
+    }
+    void RegisterAll(Request r) {
+        r.flags.fill(1);
+        Register(r);
     }
     static const auto& Definitions() { return *List().GetWsTreeItemDefinitionVector(); }
     static const auto& Commands() { return *Registry().GetWsCommandVector(); }
@@ -215,166 +219,140 @@ TEST_F(WsRegistrationFactory, ASystemOfEveryTopologyWithoutCommands) {
     EXPECT_EQ(Definitions().size(), 21U);
 }
 
+constexpr auto kSystem = Factory::TargetSystem;
+constexpr auto kRepository = Factory::TargetRepository;
+constexpr auto kBoth = Factory::TargetBoth;
+
 TEST_F(WsRegistrationFactory, DefinitionsOfAFamilyByTargetAndEntities) {
     Factory::TopologyDataVector water = {boost::make_shared<CWsTopologyData>(TopologyLine, 10),
                                          boost::make_shared<CWsTopologyData>(TopologyPolygon, 0)};
-    Request request;
-    const struct {
-        Factory::enmRegistrationTarget target;
-        int entitySpecific;
-        unsigned int entityTypes;
-        Factory::TopologyDataVector* topologies;
-        Lines expected;
-    } cases[] = {
-        {Factory::TargetSystem,
-         0,
-         3,
-         nullptr,
-         {"X Name IDI_THEME X 4<2 0 0: 1:10 1:11 2:0",
-          "X Name IDI_THEME X 16<4 0 0: 1:10 1:11 2:0"}},
-        {Factory::TargetRepository,
-         0,
-         3,
-         &water,
-         {"X Name IDI_THEME X 64<32 0 0: 1:10 2:0", "X Name IDI_THEME X 256<64 0 0: 1:10 2:0"}},
-        {Factory::TargetSystem,
-         1,
-         ~0U,
-         &water,
-         {"X Name IDI_THEME X 4<2 0 1: 1:10 2:0", "X:ws8:et1 Node IDI_NODE X 8<4 1 1: 1:10",
-          "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10",
-          "X:ws8:et16 Area ORV_IDI_POLYGON_16X16 X 8<4 16 1: 2:0",
-          "X:ws8:et32 Corner ORV_IDI_POLYGONNODE_16X16 X 8<4 32 1: 2:0",
-          "X:ws8:et64  ORV_IDI_UNKNOWNENTITY X 8<4 64 1:", "X Name IDI_THEME X 16<8 1 1: 1:10",
-          "X Name IDI_THEME X 16<8 2 1: 1:10", "X Name IDI_THEME X 16<8 16 1: 2:0",
-          "X Name IDI_THEME X 16<8 32 1: 2:0", "X Name IDI_THEME X 16<8 64 1:"}},
-        {Factory::TargetBoth,
-         1,
-         4 | 2,
-         nullptr,
-         {"X Name IDI_THEME X 4<2 0 1: 1:10 1:11 2:0",
-          "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10 1:11",
-          "X Name IDI_THEME X 16<8 2 1: 1:10 1:11", "X Name IDI_THEME X 64<32 0 1: 1:10 1:11 2:0",
-          "X:ws128:et2 Pipe IDI_SECTION X 128<64 2 1: 1:10 1:11",
-          "X Name IDI_THEME X 256<128 2 1: 1:10 1:11"}},
+    const Rows<Request, const char*> cases = {
+        {{kSystem, 0, 0, 3},
+         "X Name IDI_THEME X 4<2 0 0: 1:10 1:11 2:0;X Name IDI_THEME X 16<4 0 0: 1:10 1:11 2:0;"},
+        {{kRepository, 0, 0, 3, &water},
+         "X Name IDI_THEME X 64<32 0 0: 1:10 2:0;X Name IDI_THEME X 256<64 0 0: 1:10 2:0;"},
+        {{kSystem, 1, 0, ~0U, &water},
+         "X Name IDI_THEME X 4<2 0 1: 1:10 2:0;X:ws8:et1 Node IDI_NODE X 8<4 1 1: 1:10;"
+         "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10;"
+         "X:ws8:et16 Area ORV_IDI_POLYGON_16X16 X 8<4 16 1: 2:0;"
+         "X:ws8:et32 Corner ORV_IDI_POLYGONNODE_16X16 X 8<4 32 1: 2:0;"
+         "X:ws8:et64  ORV_IDI_UNKNOWNENTITY X 8<4 64 1:;X Name IDI_THEME X 16<8 1 1: 1:10;"
+         "X Name IDI_THEME X 16<8 2 1: 1:10;X Name IDI_THEME X 16<8 16 1: 2:0;"
+         "X Name IDI_THEME X 16<8 32 1: 2:0;X Name IDI_THEME X 16<8 64 1:;"},
+        {{kBoth, 1, 0, 4 | 2},
+         "X Name IDI_THEME X 4<2 0 1: 1:10 1:11 2:0;"
+         "X:ws8:et2 Pipe IDI_SECTION X 8<4 2 1: 1:10 1:11;"
+         "X Name IDI_THEME X 16<8 2 1: 1:10 1:11;X Name IDI_THEME X 64<32 0 1: 1:10 1:11 2:0;"
+         "X:ws128:et2 Pipe IDI_SECTION X 128<64 2 1: 1:10 1:11;"
+         "X Name IDI_THEME X 256<128 2 1: 1:10 1:11;"},
     };
-    for (const auto& row : cases) {
+    for (const auto& [request, expected] : cases) {
         Forget();
-        request.target = row.target;
-        request.entitySpecific = row.entitySpecific;
-        request.entityTypes = row.entityTypes;
-        request.topologies = row.topologies;
         Register(request);
-        EXPECT_EQ(DefinitionLines(), row.expected);
+        std::string lines;
+        for (const std::string& line : DefinitionLines()) {
+            lines += line + ";";
+        }
+        EXPECT_EQ(lines, expected);
     }
 }
 
 TEST_F(WsRegistrationFactory, EachFlagAloneBringsItsOwnCommandAndAnswers) {
     CWsManager::Instance()->RegisterRepositoryFactory(L"x", &m_factory);
-    const struct {
-        int Request::*flag;
-        std::string command;
-        const char* folder = "00000: ,,,";
-        const char* systemItem = "00101: ,,,";
-        const char* repositoryItem = "00100: ,,,";
-    } cases[] = {
-        {&Request::hasAdd, "ADD_X Add base 1 1 28 0 X"},
-        {&Request::hasEdit, "EDIT_X Edit base 2 7 16 0 X"},
-        {&Request::hasDelete, "DEL_X Delete base 4 2 272 0 X"},
-        {&Request::hasRename, "REN_X Rename base 2 7 272 0 X", "00000: ,,REN_X,", "00111: ,,REN_X,",
+    const Rows<Flag, std::string, const char*, const char*, const char*> cases = {
+        {kAdd, "ADD_X Add base 1 1 28 0 X", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kEdit, "EDIT_X Edit base 2 7 16 0 X", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kDelete, "DEL_X Delete base 4 2 272 0 X", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kRename, "REN_X Rename base 2 7 272 0 X", "00000: ,,REN_X,", "00111: ,,REN_X,",
          "00110: ,,REN_X,"},
-        {&Request::hasRun, "RUN_X Run own 5 0 16 0 X"},
-        {&Request::hasDoubleClick, "DBLCLICK_X Run own 7 0 16 0 X", "00000: DBLCLICK_X,,,",
+        {kRun, "RUN_X Run own 5 0 16 0 X", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kDoubleClick, "DBLCLICK_X Run own 7 0 16 0 X", "00000: DBLCLICK_X,,,",
          "00101: DBLCLICK_X,,,", "00100: DBLCLICK_X,,,"},
-        {&Request::hasQueryDrop, "QRYDROP_X Run own 7 0 16 0 X", "00000: ,QRYDROP_X,,",
-         "10101: ,QRYDROP_X,,", "10100: ,QRYDROP_X,,"},
-        {&Request::hasRepositoryDrop, "RPODROP_X Run base 7 1 24 0 X", "01000: ,,,RPODROP_X",
+        {kQueryDrop, "QRYDROP_X Run own 7 0 16 0 X", "00000: ,QRYDROP_X,,", "10101: ,QRYDROP_X,,",
+         "10100: ,QRYDROP_X,,"},
+        {kRepositoryDrop, "RPODROP_X Run base 7 1 24 0 X", "01000: ,,,RPODROP_X",
          "01101: ,,,RPODROP_X", "01100: ,,,RPODROP_X"},
-        {&Request::hasCopy, "COPY_X Copy base 2 0 16 0 X"},
-        {&Request::hasSendToSystem, "SENDTO_X Send to ... base 7 1 16 0 X"},
-        {&Request::hasSendToRepository, ""},
-        {&Request::doubleClickNotEdit, "", "00000: ,,,", "00100: ,,,"},
+        {kCopy, "COPY_X Copy base 2 0 16 0 X", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kSendToSystem, "SENDTO_X Send to ... base 7 1 16 0 X", "00000: ,,,", "00101: ,,,",
+         "00100: ,,,"},
+        {kSendToRepository, "", "00000: ,,,", "00101: ,,,", "00100: ,,,"},
+        {kDoubleClickNotEdit, "", "00000: ,,,", "00100: ,,,", "00100: ,,,"},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(&row - cases);
+    for (const auto& [flag, command, folder, systemItem, repositoryItem] : cases) {
+        SCOPED_TRACE(flag);
         Forget();
         Request request;
-        request.*row.flag = 1;
+        request.flags[flag] = 1;
         Register(request);
-        const bool send = row.flag == &Request::hasSendToSystem;
-        Lines commands = {std::string(send ? "SETASDEFAULT_X" : "") +
+        Lines commands = {std::string(flag == kSendToSystem ? "SETASDEFAULT_X" : "") +
                           " Set as default base 5 0 16 0 X"};
-        if (!row.command.empty()) {
-            commands.push_back(row.command);
+        if (!command.empty()) {
+            commands.push_back(command);
         }
         EXPECT_EQ(CommandLines(), commands);
-        EXPECT_EQ(AnswerLines(),
-                  (Lines{row.folder, row.systemItem, row.folder, row.repositoryItem}));
-        for (const auto& command : Commands()) {
-            EXPECT_EQ(Topologies(*command), " 1:10 1:11 2:0") << Narrow(command->GetId());
+        EXPECT_EQ(AnswerLines(), (Lines{folder, systemItem, folder, repositoryItem}));
+        for (const auto& made : Commands()) {
+            EXPECT_EQ(Topologies(*made), " 1:10 1:11 2:0") << Narrow(made->GetId());
         }
     }
 }
 
 TEST_F(WsRegistrationFactory, WhereTheCommandsOfAFamilyApply) {
     CWsManager::Instance()->RegisterRepositoryFactory(L"x", &m_factory);
-    const struct {
-        const char* what;
-        Factory::enmRegistrationTarget target;
-        int entitySpecific;
-        int commandsPerEntity;
-        unsigned int entityTypes;
-        int hasSendToSystem;
-        int hasSendToRepository;
-        const char* expected; ///< "id:types:entity" of each command
-    } cases[] = {
-        {"one set", Factory::TargetBoth, 0, 0, EntityNode, 1, 1,
+    const Rows<const char*, Request, int, int, const char*> cases = {
+        {"one set",
+         {kBoth, 0, 0, EntityNode},
+         1,
+         1,
          "SETASDEFAULT_X:16:0 ADD_X:28:0 EDIT_X:16:0 RUN_X:16:0 DBLCLICK_X:16:0 QRYDROP_X:16:0 "
          "DEL_X:272:0 REN_X:272:0 COPY_X:16:0 SENDTO_X:272:0 RPODROP_X:24:0 "},
-        {"no kind of entity, no command", Factory::TargetSystem, 1, 1, 0, 1, 1, ""},
-        {"a set for each kind of entity; sending has the reach of deleting", Factory::TargetSystem,
-         1, 1, EntitySection | EntityPolygon, 1, 0,
+        {"no kind of entity, no command", {kSystem, 1, 1, 0}, 1, 1, ""},
+        {"a set for each kind of entity; sending has the reach of deleting",
+         {kSystem, 1, 1, EntitySection | EntityPolygon},
+         1,
+         0,
          "SETASDEFAULT_X_2:16:0 ADD_X_2:24:2 EDIT_X_2:16:2 RUN_X_2:16:2 DBLCLICK_X_2:16:2 "
          "QRYDROP_X_2:16:2 DEL_X_2:16:2 REN_X_2:16:2 COPY_X_2:16:2 SENDTO_X_2:16:2 "
          "RPODROP_X_2:24:2 "
-         "SETASDEFAULT_X_16:16:0 ADD_X_16:24:16 EDIT_X_16:16:16 RUN_X_16:16:16 "
-         "DBLCLICK_X_16:16:16 QRYDROP_X_16:16:16 DEL_X_16:16:16 REN_X_16:16:16 COPY_X_16:16:16 "
-         "SENDTO_X_16:16:16 RPODROP_X_16:24:16 "},
-        {"the same without entity folders", Factory::TargetBoth, 0, 1, EntityPolygonNode, 1, 0,
-         "SETASDEFAULT_X_32:16:0 ADD_X_32:28:32 EDIT_X_32:16:32 RUN_X_32:16:32 "
-         "DBLCLICK_X_32:16:32 QRYDROP_X_32:16:32 DEL_X_32:272:32 REN_X_32:272:32 COPY_X_32:16:32 "
-         "SENDTO_X_32:272:32 RPODROP_X_32:24:32 "},
+         "SETASDEFAULT_X_16:16:0 ADD_X_16:24:16 EDIT_X_16:16:16 RUN_X_16:16:16 DBLCLICK_X_16:16:16 "
+         "QRYDROP_X_16:16:16 DEL_X_16:16:16 REN_X_16:16:16 COPY_X_16:16:16 SENDTO_X_16:16:16 "
+         "RPODROP_X_16:24:16 "},
+        {"the same without entity folders",
+         {kBoth, 0, 1, EntityPolygonNode},
+         1,
+         0,
+         "SETASDEFAULT_X_32:16:0 ADD_X_32:28:32 EDIT_X_32:16:32 RUN_X_32:16:32 DBLCLICK_X_32:16:32 "
+         "QRYDROP_X_32:16:32 DEL_X_32:272:32 REN_X_32:272:32 COPY_X_32:16:32 SENDTO_X_32:272:32 "
+         "RPODROP_X_32:24:32 "},
         {"the command of the empty id included; sending needs the flag of the system tree",
-         Factory::TargetRepository, 0, 0, 0, 0, 1,
+         {kRepository},
+         0,
+         1,
          ":16:0 DEL_X:256:0 REN_X:256:0 COPY_X:0:0 RPODROP_X:0:0 "},
-        {"an id for sending, but nothing it applies to", Factory::TargetRepository, 0, 0, 0, 1, 0,
+        {"an id for sending, but nothing it applies to",
+         {kRepository},
+         1,
+         0,
          "SETASDEFAULT_X:16:0 DEL_X:256:0 REN_X:256:0 COPY_X:0:0 SENDTO_X:0:0 RPODROP_X:0:0 "},
     };
-    for (const auto& row : cases) {
+    Request request;
+    for (const auto& [what, wanted, sendToSystem, sendToRepository, expected] : cases) {
         Forget();
-        Request request = Everything();
-        request.target = row.target;
-        request.entitySpecific = row.entitySpecific;
-        request.commandsPerEntity = row.commandsPerEntity;
-        request.entityTypes = row.entityTypes;
-        request.hasSendToSystem = row.hasSendToSystem;
-        request.hasSendToRepository = row.hasSendToRepository;
+        request = wanted;
+        request.flags.fill(1);
+        request.flags[kSendToSystem] = sendToSystem;
+        request.flags[kSendToRepository] = sendToRepository;
         Register(request);
-        EXPECT_EQ(Reach(), row.expected) << row.what;
+        EXPECT_EQ(Reach(), expected) << what;
     }
     const std::size_t count = Commands().size();
-    Register(Everything());
+    RegisterAll({});
     EXPECT_EQ(Commands().size(), count + 5) << "the other ids are taken";
 }
 
 TEST_F(WsRegistrationFactory, NodesAnswerForTheirKindOfEntityAndFoldersForNone) {
-    Request request = Everything();
-    request.commandsPerEntity = 1;
-    request.entityTypes = EntityNode;
-    request.target = Factory::TargetSystem;
-    Register(request);
-    request.entitySpecific = 1;
-    Register(request);
+    RegisterAll({kSystem, 0, 1, EntityNode});
+    RegisterAll({kSystem, 1, 1, EntityNode});
     const std::string none = "DBLCLICK_X_0,QRYDROP_X_0,REN_X_0,RPODROP_X_0";
     const std::string node = "DBLCLICK_X_1,QRYDROP_X_1,REN_X_1,RPODROP_X_1";
     EXPECT_EQ(AnswerLines(), (Lines{"01000: " + none, "11110: " + none, "01000: " + none,

@@ -2,10 +2,10 @@
 #include <boost/make_shared.hpp>
 
 #include "platform/arx/DbDatabase.h"
-#include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/cadwrapper/DocLock.h"
+#include "workspacecore/core/DamagedFile.h"
 #include "workspacecore/dialogs/UiStates.h"
 #include "workspacecore/foundation/XmlDocument.h"
 #include "workspacecore/foundation/XmlField.h"
@@ -38,14 +38,6 @@ boost::shared_ptr<CDialogState> ReadDialog(const XmlDocument& document) {
     state->SetDocked(XmlFieldInt(docked));
     state->SetSide(XmlFieldInt(side));
     return state;
-}
-
-void KeepDamagedFile(const wchar_t* path, const CString& reason) {
-    if (const auto aside = SetFileAside(path, L".damaged-")) {
-        WS_TRACE_FORMAT(L"Damaged: %s (%s), kept as %s", path, reason, *aside);
-    } else {
-        WS_TRACE_FORMAT(L"Damaged: %s (%s), not kept: %s", path, reason, LastErrorText());
-    }
 }
 
 } // namespace

@@ -34,9 +34,8 @@ CString TooLarge(long long nSize, const wchar_t* pszUnit) {
 /// it is converted, and no second copy of the document is ever held.
 class TextFile {
 public:
-    /// Fails for what can be opened but not read, such as a folder.
     bool Open(const wchar_t* pszPath) {
-        m_file = OpenFile(pszPath, "rb");
+        m_file = OpenRegularFile(pszPath);
         if (!m_file) {
             return false;
         }

@@ -2,13 +2,26 @@
 
 #include <algorithm>
 
+#include "platform/win/ErrorText.h"
+#include "platform/win/File.h"
 #include "platform/win/StringArray.h"
+#include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/utility/Utility.h"
+#include "workspacecore/core/DamagedFile.h"
 #include "workspacecore/foundation/XmlRecord.h"
 
 namespace Orvane::Workspace {
 
 namespace {
+
+/// Texts of the catalogue.
+constexpr int kDamagedKept = 940000;
+constexpr int kDamaged = 940001;
+constexpr int kOtherRoot = 940002;
+
+CString Message(int id) {
+    return CModuleConfiguration::Instance()->GetMsg(id);
+}
 
 /// The last piece of a path; paths of this platform have slashes, registry files may have
 /// backslashes.
@@ -24,6 +37,17 @@ boost::shared_ptr<CWsModule> ReadModule(const XmlDocument& document) {
     module->SetOn(ReadXmlInt(document, L"on"));
     module->SetFileName(ReadXmlText(document, L"fileName"));
     return module;
+}
+
+/// Keeps the damaged file under another name and returns what the user should know.
+/// \param error empty: the file is well formed, but holds something else
+CString DamageOf(const wchar_t* path, const CString& error) {
+    const CString reason = error.IsEmpty() ? Message(kOtherRoot) : error;
+    const std::optional<CString> aside = KeepDamagedFile(path, reason);
+    CString text;
+    text.Format(Message(aside ? kDamagedKept : kDamaged).GetString(), path, reason,
+                aside ? *aside : LastErrorText());
+    return text;
 }
 
 } // namespace
@@ -67,11 +91,19 @@ int CWsModuleRegistry::ParseXML(const wchar_t* lpszXml) {
 }
 
 int CWsModuleRegistry::Load(const wchar_t* lpszPath) {
+    m_strProblem.Empty();
+    const std::optional<std::string> bytes = ReadFileBytes(lpszPath);
+    if (!bytes) {
+        return 0;
+    }
     XmlDocument document;
-    // Whether it is well formed does not matter here: what can be read of it, counts. A file
-    // that could be read at all is reported with its length.
-    const bool bRead = document.Load(lpszPath) || document.GetError().Find(L" bytes to ") > 0;
-    return bRead ? ParseXML(document.GetDoc()) : 0;
+    const bool bWellFormed = document.SetDocUtf8(*bytes);
+    // A damaged file counts for as much as can be read of it.
+    const int nResult = ParseXML(document.GetDoc());
+    if (!bWellFormed || !nResult) {
+        m_strProblem = DamageOf(lpszPath, bWellFormed ? CString() : document.GetError());
+    }
+    return nResult;
 }
 
 int CWsModuleRegistry::Save(const wchar_t* lpszPath) const {

@@ -33,8 +33,11 @@ public:
     CString GetXML() const;
     /// Empties the list and reads records from a text; 0 if it has no registry element.
     int ParseXML(const wchar_t* lpszXml);
-    /// 0, and the list as it was, if the file cannot be read; else as ParseXML.
+    /// 0, and the list as it was, if the file cannot be read; else as ParseXML. A damaged file
+    /// is read as far as possible and kept under another name (DamagedFile.h).
     int Load(const wchar_t* lpszPath);
+    /// What the user should know about the file that was loaded last; empty if it was sound.
+    const CString& GetProblem() const { return m_strProblem; }
     int Save(const wchar_t* lpszPath) const;
     /// There is no storage in a drawing yet: both show "Not implemented" and give 0, and
     /// the first one empties the list.
@@ -44,6 +47,7 @@ public:
 
 private:
     ModuleVector m_vecModules;
+    CString m_strProblem;
 };
 
 } // namespace Orvane::Workspace

@@ -92,7 +92,7 @@ std::string Narrow(const wchar_t* text) {
 }
 
 std::string Narrow(const CString& text) {
-    return WideToAnsi(text.View());
+    return WideToUtf8(text.View());
 }
 
 std::string Narrow(const void* pointer) {

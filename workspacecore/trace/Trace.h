@@ -2,9 +2,8 @@
 //
 // While logging is off a site costs one call of CLogEngine::GetLoggingOnOff; nothing of
 // its arguments is evaluated (but the condition of a verification, which is handed back),
-// so they must have no side effects. While it is on, every line is flushed. Wide texts are
-// written in UTF-8, names of systems and items (CString) in the ANSI code page. Main thread
-// only.
+// so they must have no side effects. While it is on, every line is flushed. The file is UTF-8.
+// Main thread only.
 //
 //     WS_TRACE_SCOPE();                    Entering now, Exiting when the scope ends
 //     WS_TRACE_TEXT(L"DLL Loaded");        a line with a text or a number

@@ -8,6 +8,7 @@
 #include "platform/mfc/WinApp.h"
 #include "platform/xtp/XTPDockingPaneManager.h"
 #include "platform/xtp/XTPResize.h"
+#include "tests/support/Rows.h"
 
 namespace {
 
@@ -132,21 +133,18 @@ TEST_F(DockingTest, WithoutAFrameThereAreNoPanes) {
 
 TEST(Resize, ControlsFollowByFractions) {
     const CRect designed(10, 20, 40, 30);
-    const struct {
-        ResizeAnchors anchors;
-        CRect expected;
-    } cases[] = {
+    const Rows<ResizeAnchors, CRect> cases = {
         {{0, 0, 0, 0}, {10, 20, 40, 30}},
         {{0, 0, 1, 1}, {10, 20, 140, 80}},
         {{1, 1, 1, 1}, {110, 70, 140, 80}},
         {{0, 0, 1.0 / 3, 0}, {10, 20, 73, 30}},
         {{1.0 / 3, 0, 2.0 / 3, 0}, {43, 20, 106, 30}},
     };
-    for (const auto& c : cases) {
-        const CRect placed = ResizedRect(designed, {100, 50}, c.anchors);
-        EXPECT_EQ(placed.left, c.expected.left);
-        EXPECT_EQ(placed.top, c.expected.top);
-        EXPECT_EQ(placed.right, c.expected.right);
-        EXPECT_EQ(placed.bottom, c.expected.bottom);
+    for (const auto& [anchors, expected] : cases) {
+        const CRect placed = ResizedRect(designed, {100, 50}, anchors);
+        EXPECT_EQ(placed.left, expected.left);
+        EXPECT_EQ(placed.top, expected.top);
+        EXPECT_EQ(placed.right, expected.right);
+        EXPECT_EQ(placed.bottom, expected.bottom);
     }
 }

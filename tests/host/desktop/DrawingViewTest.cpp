@@ -113,34 +113,6 @@ TEST_F(DrawingViewTest, ShowsNothingWithoutComplaint) {
     view.UpdateDisplay();
 }
 
-TEST_F(DrawingViewTest, ShowsDrawingsWithBadPlaces) {
-    struct Case {
-        const char* what;
-        std::vector<AcGePoint3d> spots;
-    };
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    for (const Case& test : {Case{"one point", {{5, 6}}}, Case{"on a line", {{5, 0}, {5, 100}}},
-                             Case{"far", {{1e15, 1e15}}}, Case{"lost", {{0, 0}, {1e15, -1e15}}},
-                             Case{"nowhere", {{nan, nan}}}, Case{"beyond", {{1e300, 1}}}}) {
-        AcDbDatabase odd;
-        std::vector<AcDbObjectId> ids;
-        for (const AcGePoint3d& spot : test.spots) {
-            ids.push_back(AddSpot(odd, spot.x, spot.y));
-        }
-        view.SetDatabase(&odd);
-        view.UpdateDisplay();
-        view.ZoomTo(ids, 1.05);
-        for (int i = 0; i < 50; ++i) {
-            Wheel({100, 100}, i % 2 ? 20 : -13);
-            Drag(Qt::MiddleButton, {0, 0}, {300, 200});
-        }
-        view.UpdateDisplay();
-        EXPECT_TRUE(std::isfinite(view.Transform().UnitsPerPixel())) << test.what;
-    }
-    view.UpdateDisplay(); // the last drawing has gone by now
-    EXPECT_EQ(view.Scene().Database(), nullptr);
-}
-
 TEST_F(DrawingViewTest, ZoomsAndPansWithTheMouse) {
     ShowFromOrigin();
     Mouse(QEvent::MouseMove, Qt::NoButton, Place(300, 200));
@@ -291,17 +263,6 @@ TEST_F(DrawingViewTest, MarksUntilItIsRedrawn) {
     view.Redraw();
     EXPECT_EQ(PixelAt(100, 50.5), plain);
     EXPECT_EQ(PixelAt(100, 80.5), plain);
-}
-
-TEST_F(DrawingViewTest, FollowsTheDrawing) {
-    view.SetDatabase(&database);
-    view.UpdateDisplay();
-    AddLine(database, {{1e6, 1e6}, {1e6 + 400, 1e6 + 300}});
-    view.UpdateDisplay();
-    EXPECT_NEAR(view.Transform().Center().x, 1e6 + 200, 1) << "goes where the first entity is";
-    AddSpot(database, 0, 0);
-    view.UpdateDisplay();
-    EXPECT_NEAR(view.Transform().Center().x, 1e6 + 200, 1) << "and stays";
 }
 
 TEST_F(DrawingViewTest, DrawsWithTheColoursOfThePalette) {

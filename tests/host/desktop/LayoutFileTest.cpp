@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
 namespace Tessaly {
@@ -63,13 +64,7 @@ TEST(LayoutFile, APartOfALayoutIsNoLayout) {
 
 TEST(LayoutFile, WindowsStayWhereTheyCanBeCaught) {
     const std::vector<ScreenRect> two = {{0, 30, 1920, 1050}, {-1280, 0, 1280, 1024}};
-    struct Case {
-        const char* what;
-        ScreenRect window;
-        std::vector<ScreenRect> areas;
-        ScreenRect expected;
-    };
-    const Case cases[] = {
+    const Rows<const char*, ScreenRect, std::vector<ScreenRect>, ScreenRect> cases = {
         {"inside", {100, 100, 800, 600}, two, {100, 100, 800, 600}},
         {"on the second screen", {-1200, 10, 800, 600}, two, {-1200, 10, 800, 600}},
         {"over the edge, but caught", {1800, 900, 800, 600}, two, {1800, 900, 800, 600}},
@@ -81,8 +76,8 @@ TEST(LayoutFile, WindowsStayWhereTheyCanBeCaught) {
         {"far away", {2000000000, 2000000000, 100, 100}, {two[0]}, {1820, 980, 100, 100}},
         {"no screen", {5, 5, 10, 10}, {}, {5, 5, 10, 10}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(OnScreen(c.window, c.areas), c.expected) << c.what;
+    for (const auto& [what, window, areas, expected] : cases) {
+        EXPECT_EQ(OnScreen(window, areas), expected) << what;
     }
 }
 

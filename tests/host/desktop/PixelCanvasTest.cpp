@@ -82,25 +82,3 @@ TEST(PixelCanvas, SurvivesPlacesFromAnywhere) {
     nothing.HairLine(0, 0, 60, 60, kInk);
     nothing.SmoothLine({0, 0}, {60, 60}, 2, kInk);
 }
-
-TEST(PixelCanvas, FillsAreasWithHoles) {
-    const PixelPoint pen{kNan, kNan};
-    const PixelPoint rings[] = {{-5, 20}, {45, 20}, {45, 38}, {-5, 38}, {-5, 20}, pen,
-                                {20, 25}, {30, 25}, {30, 30}, {20, 30}, {20, 25}};
-    Pixels pixels(kSide, kSide);
-    pixels.Canvas(kClip).FillArea(rings, kInk, 255);
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x) {
-            const bool isIn = x >= kClip.left && x < 45 && y >= 20 && y < 38;
-            const bool isHole = x >= 20 && x < 30 && y >= 25 && y < 30;
-            ASSERT_EQ(pixels.IsPaper(x, y), !isIn || isHole) << x << ' ' << y;
-        }
-    }
-}
-
-TEST(PixelCanvas, FillsLightly) {
-    const PixelPoint ring[] = {{20, 20}, {30, 20}, {30, 30}, {20, 30}, {20, 20}};
-    Pixels pixels(kSide, kSide);
-    pixels.Canvas().FillArea(ring, 0xffffffff, 40);
-    EXPECT_FALSE(Pixels::AreDifferent(pixels.At(25, 25), 0xff282828));
-}

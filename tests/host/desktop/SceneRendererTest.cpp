@@ -122,42 +122,18 @@ TEST(SceneRenderer, ShowsMassesFromAfarAndWhatFillsThem) {
 TEST(SceneRenderer, ShowsTheSamePictureWhereverTheDrawingLies) {
     for (const bool isMass : {false, true}) {
         Shown near;
-        isMass ? AddGrid(near.database, 0, 0) : AddMixture(near.database, 300, 300, {});
+        const auto add = [isMass](AcDbDatabase& database, double offset) {
+            isMass ? AddGrid(database, offset, offset)
+                   : AddMixture(database, 300, 300, {}, 1, offset);
+        };
+        add(near.database, 0);
         const Pixels expected = near.Draw(At(0, 0));
         ASSERT_GT(expected.CountInked(), 1000);
-        // Powers of two, so that the places themselves lose nothing.
+        // Powers of two, so that the places themselves lose little.
         for (const double far : {0x1p21, 0x1p24, -0x1p36}) {
             for (const bool hasLost : {false, true}) {
                 Shown shown;
-                AddLayer(shown.database, L"far", 7);
-                near.database.forEachEntity([&](const AcDbEntity& entity) {
-                    EntityShape shape;
-                    ReadShape(entity, shape);
-                    std::unique_ptr<AcDbObject> copy = entity.clone();
-                    const auto move = [&](std::span<const AcGePoint3d> points) {
-                        Places moved(points.begin(), points.end());
-                        for (AcGePoint3d& point : moved) {
-                            point = {point.x + far, point.y + far};
-                        }
-                        return moved;
-                    };
-                    if (auto* const pLine = dynamic_cast<AcDbPolyline*>(copy.get())) {
-                        pLine->setVertices(move(pLine->vertices()));
-                    } else if (auto* const pPoint = dynamic_cast<AcDbPoint*>(copy.get())) {
-                        pPoint->setPosition(move({&pPoint->position(), 1}).front());
-                    } else if (auto* const pText = dynamic_cast<AcDbText*>(copy.get())) {
-                        pText->setPosition(move({&pText->position(), 1}).front());
-                    } else if (auto* const pArea = dynamic_cast<AcDbMPolygon*>(copy.get())) {
-                        auto rings = pArea->rings();
-                        for (auto& ring : rings) {
-                            ring.points = move(ring.points);
-                        }
-                        pArea->setRings(std::move(rings));
-                    }
-                    auto* const pEntity = static_cast<AcDbEntity*>(copy.release());
-                    pEntity->setLayer({});
-                    shown.database.appendEntity(std::unique_ptr<AcDbEntity>(pEntity));
-                });
+                add(shown.database, far);
                 if (hasLost) {
                     AddSpot(shown.database, 1e15, -1e15);
                     AddSpot(shown.database, std::numeric_limits<double>::quiet_NaN(), 0);

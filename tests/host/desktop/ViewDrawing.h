@@ -74,15 +74,16 @@ inline void EraseEntity(AcDbDatabase& database, AcDbObjectId id) {
     pEntity->close();
 }
 
-/// Something of every kind, here and there in a square; every third on the layer.
+/// Something of every kind, here and there in a square from (offset, offset); every third on
+/// the layer.
 inline void AddMixture(AcDbDatabase& database, std::size_t count, double size, AcDbObjectId layer,
-                       unsigned seed = 1) {
+                       unsigned seed = 1, double offset = 0) {
     std::mt19937 random(seed);
     std::uniform_real_distribution<double> at(0, size);
     std::uniform_real_distribution<double> near(-size / 20, size / 20);
     for (std::size_t i = 0; i < count; ++i) {
-        const double x = at(random);
-        const double y = at(random);
+        const double x = at(random) + offset;
+        const double y = at(random) + offset;
         const AcDbObjectId on = i % 3 == 0 ? layer : AcDbObjectId();
         if (i % 5 == 0) {
             AddSpot(database, x, y, on);

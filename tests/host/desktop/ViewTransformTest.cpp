@@ -1,4 +1,5 @@
 #include "host/desktop/view/ViewTransform.h"
+#include "tests/support/Rows.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -27,14 +28,7 @@ bool IsSound(const ViewTransform& view) {
 } // namespace
 
 TEST(ViewTransform, FitsBoxes) {
-    struct Case {
-        const char* what;
-        AcGeExtents2d box;
-        double factor;
-        double unitsPerPixel;
-        PlanePoint center;
-    };
-    const Case cases[] = {
+    const Rows<const char*, AcGeExtents2d, double, double, PlanePoint> cases = {
         {"wide", {0, 0, 400, 100}, 1, 2, {200, 50}},
         {"high", {0, 0, 100, 400}, 1, 4, {50, 200}},
         {"with margin", {0, 0, 400, 100}, 1.05, 2.1, {200, 50}},
@@ -46,13 +40,12 @@ TEST(ViewTransform, FitsBoxes) {
         {"the widest", {-1e18, -1e18, 1e18, 1e18}, 1, 2e16, {0, 0}},
         {"smaller than can be told apart", {0, 0, 1e-12, 1e-12}, 1, 1e-9, {5e-13, 5e-13}},
     };
-    for (const Case& test : cases) {
+    for (const auto& [what, box, factor, unitsPerPixel, center] : cases) {
         ViewTransform view = Window(200, 100);
-        EXPECT_TRUE(view.Fit(test.box, test.factor, 10)) << test.what;
-        EXPECT_NEAR(view.UnitsPerPixel(), test.unitsPerPixel, test.unitsPerPixel * 1e-9)
-            << test.what;
-        EXPECT_EQ(view.Center().x, test.center.x) << test.what;
-        EXPECT_EQ(view.Center().y, test.center.y) << test.what;
+        EXPECT_TRUE(view.Fit(box, factor, 10)) << what;
+        EXPECT_NEAR(view.UnitsPerPixel(), unitsPerPixel, unitsPerPixel * 1e-9) << what;
+        EXPECT_EQ(view.Center().x, center.x) << what;
+        EXPECT_EQ(view.Center().y, center.y) << what;
     }
 }
 
@@ -86,29 +79,6 @@ TEST(ViewTransform, KeepsWhatIsUnderTheCursor) {
             EXPECT_NEAR(after.x, cursor.x, 0.01) << place << ' ' << factor;
             EXPECT_NEAR(after.y, cursor.y, 0.01) << place << ' ' << factor;
         }
-    }
-}
-
-TEST(ViewTransform, MovesThePictureByPixels) {
-    ViewTransform view = Window(200, 100);
-    view.Fit({0, 0, 400, 100}, 1, 10);
-    const PixelPoint before = view.ToPixel(100, 25);
-    view.Pan(10, -4);
-    EXPECT_DOUBLE_EQ(view.ToPixel(100, 25).x, before.x + 10);
-    EXPECT_DOUBLE_EQ(view.ToPixel(100, 25).y, before.y - 4);
-}
-
-TEST(ViewTransform, GivesBoxesWhicheverCornersAreGiven) {
-    ViewTransform view = Window(200, 100);
-    view.Fit({0, 0, 200, 100}, 1, 10);
-    for (const auto& [corner, opposite] : {std::pair(PixelPoint{10, 90}, PixelPoint{30, 80}),
-                                           std::pair(PixelPoint{30, 80}, PixelPoint{10, 90}),
-                                           std::pair(PixelPoint{10, 80}, PixelPoint{30, 90})}) {
-        const AcGeExtents2d box = view.BoxOf(corner, opposite);
-        EXPECT_DOUBLE_EQ(box.minX, 10);
-        EXPECT_DOUBLE_EQ(box.maxX, 30);
-        EXPECT_DOUBLE_EQ(box.minY, 10);
-        EXPECT_DOUBLE_EQ(box.maxY, 20);
     }
 }
 

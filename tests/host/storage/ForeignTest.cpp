@@ -157,22 +157,6 @@ TEST_F(ForeignTest, RowsThatCannotBeShownAreCountedAndNamed) {
                            "(the first is row 5)"));
 }
 
-TEST_F(ForeignTest, CountsAndExtentsThatAreWrongDoNoHarm) {
-    AddTable("town.gpkg", "points", wkbPoint, {"POINT (1 1)", "POINT (2 2)"});
-    Run("town.gpkg", "UPDATE gpkg_contents SET min_x = 'nan', max_x = -1e308, min_y = NULL;"
-                     "UPDATE gpkg_ogr_contents SET feature_count = 9223372036854775807;");
-    int last = -1;
-    AcDbDatabase database;
-    const AcDbStorageResult result =
-        m_storage->Read(database, m_folder.Wide("town.gpkg"), [&](int percent) {
-            EXPECT_GE(percent, last);
-            last = percent;
-            return true;
-        });
-    EXPECT_TRUE(result.ok());
-    EXPECT_EQ(database.entityCount(), 2U);
-}
-
 TEST_F(ForeignTest, ViewsAreLayersAndTablesWithoutGeometryAreNot) {
     AddTable("town.gpkg", "points", wkbPoint, {"POINT (1 1)", "POINT (2 2)", "POINT (3 3)"});
     AddTable("town.gpkg", "prices", wkbNone, {"", ""});
@@ -281,20 +265,6 @@ TEST_F(ForeignTest, SaveAsTakesForeignTablesAlong) {
     EXPECT_TRUE(Leftovers({"town.gpkg", "copy.gpkg"}).empty());
 }
 
-TEST_F(ForeignTest, ADrawingOutlivesItsFile) {
-    AddTable("town.gpkg", "roads", wkbPoint, {"POINT (1 1)", "POINT (2 2)"});
-    const auto database = Open("town.gpkg");
-    AddNode(*database, 5, 5, "ours");
-    std::filesystem::remove(m_folder / "town.gpkg");
-    EXPECT_FALSE(m_storage->Save(*database, m_folder.Wide("town.gpkg"), {}).ok());
-    EXPECT_TRUE(database->isModified());
-    const AcDbStorageResult result =
-        m_storage->SaveAs(*database, m_folder.Wide("town.gpkg"), m_folder.Wide("new.gpkg"), {});
-    EXPECT_TRUE(result.ok());
-    EXPECT_EQ(result.warnings.size(), 1U);
-    EXPECT_EQ(DescribeFile("new.gpkg"), Describe(*database));
-}
-
 TEST_F(ForeignTest, RowsThatAnotherProgramAddsToOurTablesAreKept) {
     AcDbDatabase database;
     const AcDbObjectId node = AddNode(database, 1, 1, "first");
@@ -365,23 +335,6 @@ TEST_F(ForeignTest, ColumnsOfOtherProgramsInOurTablesKeepTheirValues) {
     });
     Save(*again, "plan.gpkg");
     EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(*again));
-}
-
-TEST_F(ForeignTest, WhatAnotherProgramChangedInOurTablesCounts) {
-    AcDbDatabase database;
-    for (const AcDbValue& value :
-         {AcDbValue("text"), AcDbValue(1.5), AcDbValue(2.5), AcDbValue(7)}) {
-        auto point = std::make_unique<AcDbPoint>(AcGePoint3d{1, 2});
-        point->setAttribute(Name("SIZE"), value);
-        database.appendEntity(std::move(point));
-    }
-    SaveNew(database, "plan.gpkg");
-    Run("plan.gpkg", "UPDATE nodes SET SIZE = 99.5");
-    const auto again = Open("plan.gpkg");
-    again->forEachEntity([](const AcDbEntity& entity) {
-        EXPECT_EQ(entity.attribute(Name("SIZE")).kind(), AcDbValue::Kind::Real);
-        EXPECT_EQ(entity.attribute(Name("SIZE")).asReal(), 99.5);
-    });
 }
 
 } // namespace

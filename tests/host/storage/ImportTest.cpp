@@ -162,18 +162,6 @@ TEST_F(ImportTest, AnImpossiblePositionRefusesTheFileAndNamesTheRow) {
     EXPECT_NE(WhyNot("bad.csv").find("row 3: invalid position"), std::string::npos);
 }
 
-TEST_F(ImportTest, BrokenFilesAreRefused) {
-    EXPECT_NE(WhyNot("missing.shp").find("there is no such file"), std::string::npos);
-    m_folder.Write("empty.geojson", "");
-    EXPECT_NE(WhyNot("empty.geojson").find("it is empty"), std::string::npos);
-    m_folder.Write("text.shp", "no shapefile at all");
-    WhyNot("text.shp");
-    m_folder.Write("notes.txt", "some notes of somebody\n");
-    WhyNot("notes.txt");
-    mkfifo(m_folder.Native("pipe.geojson").c_str(), 0600);
-    EXPECT_NE(WhyNot("pipe.geojson").find("not a regular file"), std::string::npos);
-}
-
 TEST_F(ImportTest, AFileThatIsCutIsRefusedNotReadInHalf) {
     for (const auto& [driver, name] : {std::pair("GPKG", "p.gpkg"),
                                        {"GeoJSON", "p.geojson"},
@@ -198,7 +186,7 @@ TEST_F(ImportTest, FilesThatPointElsewhereAreNotFollowed) {
 }
 
 TEST_F(ImportTest, ProgressIsToldAndStopsIt) {
-    WriteWith("GPKG", "p.gpkg", 20'000);
+    WriteWith("GPKG", "p.gpkg", 13'000);
     std::vector<int> told;
     EXPECT_TRUE(Import("p.gpkg", [&](int percent) {
                     told.push_back(percent);

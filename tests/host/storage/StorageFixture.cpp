@@ -1,9 +1,8 @@
 #include "tests/host/storage/StorageFixture.h"
 
 #include <algorithm>
-#include <sstream>
 
-#include "platform/win/CodePage.h"
+#include "tests/support/DrawingText.h"
 
 namespace Tessaly {
 
@@ -37,84 +36,6 @@ std::string TextOf(sqlite3_stmt* pStatement, int column) {
     }
     default:
         return std::to_string(sqlite3_column_int64(pStatement, column));
-    }
-}
-
-void Put(std::ostream& out, const AcGePoint3d& point) {
-    char text[100];
-    std::snprintf(text, sizeof text, "(%.17g %.17g %.17g)", point.x, point.y,
-                  point.z == point.z ? point.z : -9999.0);
-    out << text;
-}
-
-void Put(std::ostream& out, std::span<const AcGePoint3d> points) {
-    for (const AcGePoint3d& point : points) {
-        Put(out, point);
-    }
-}
-
-void Put(std::ostream& out, const AcDbAttributes& attributes) {
-    for (std::size_t i = 0; i < attributes.size(); ++i) {
-        const AcDbAttributes::Item item = attributes.at(i);
-        out << " " << AcDbNameOf(item.name);
-        char number[40];
-        switch (item.value.kind()) {
-        case AcDbValue::Kind::Null:
-            out << ":null";
-            break;
-        case AcDbValue::Kind::Real:
-            std::snprintf(number, sizeof number, "=%.17g", *item.value.asReal());
-            out << number;
-            break;
-        case AcDbValue::Kind::Integer:
-            out << "=i" << *item.value.asInteger();
-            break;
-        case AcDbValue::Kind::Text:
-            out << "='" << item.value.asText() << "'";
-            break;
-        }
-    }
-}
-
-void Put(std::ostream& out, const AcDbDatabase& database, const AcDbEntity& entity) {
-    const auto* pBlock = dynamic_cast<const AcDbBlockTableRecord*>(database.peek(entity.blockId()));
-    out << WideToUtf8(entity.layer().View()) << " in "
-        << (pBlock ? WideToUtf8(pBlock->getName().View()) : "nothing") << " color "
-        << entity.colorIndex() << " ";
-    if (const auto* pPoint = dynamic_cast<const AcDbPoint*>(&entity)) {
-        Put(out << "point ", pPoint->position());
-    } else if (const auto* pLine = dynamic_cast<const AcDbPolyline*>(&entity)) {
-        Put(out << (pLine->isClosed() ? "closed " : "line "), pLine->vertices());
-    } else if (const auto* pText = dynamic_cast<const AcDbText*>(&entity)) {
-        Put(out << "text '" << pText->textUtf8() << "' " << pText->height() << " ",
-            pText->position());
-    } else if (const auto* pArea = dynamic_cast<const AcDbMPolygon*>(&entity)) {
-        for (const AcDbMPolygon::Ring& ring : pArea->rings()) {
-            Put(out << (ring.isHole ? "hole " : "ring "), ring.points);
-        }
-    }
-    Put(out, entity.attributes());
-}
-
-void Put(std::ostream& out, const AcDbDatabase& database, const AcDbObject& object) {
-    if (const auto* pEntity = dynamic_cast<const AcDbEntity*>(&object)) {
-        Put(out, database, *pEntity);
-    } else if (const auto* pLayer = dynamic_cast<const AcDbLayerTableRecord*>(&object)) {
-        out << "layer " << WideToUtf8(pLayer->getName().View()) << " color " << pLayer->colorIndex()
-            << (pLayer->isOff() ? " off" : "");
-    } else if (const auto* pBlock = dynamic_cast<const AcDbBlockTableRecord*>(&object)) {
-        out << "block " << WideToUtf8(pBlock->getName().View());
-    } else if (const auto* pDictionary = dynamic_cast<const AcDbDictionary*>(&object)) {
-        out << "dictionary " << WideToUtf8(pDictionary->name().View());
-        for (const auto& [name, text] : pDictionary->records()) {
-            out << " [" << WideToUtf8(name.View()) << "]=";
-            // A long text would hide what a failed comparison has to show.
-            if (text.GetLength() > 100) {
-                out << text.GetLength() << " " << std::hash<std::wstring>()(text.Str());
-            } else {
-                out << WideToUtf8(text.View());
-            }
-        }
     }
 }
 
@@ -158,17 +79,11 @@ std::string DumpTable(const std::string& path, const std::string& table) {
 }
 
 std::string Describe(const AcDbDatabase& database) {
-    std::ostringstream out;
-    out << "next " << database.nextId() << " srs " << WideToUtf8(database.coordinateSystem().View())
-        << "\n";
-    for (std::uint32_t number = 1; number < database.nextId(); ++number) {
-        const AcDbObject* pObject = database.peek(AcDbObjectId(number));
-        if (pObject && !pObject->isErased()) {
-            Put(out << number << " ", database, *pObject);
-            out << "\n";
-        }
+    std::string text = "next " + std::to_string(database.nextId()) + "\n";
+    for (const auto& [name, part] : PartsOf(database, true, false)) {
+        text += name + ": " + part + "\n";
     }
-    return out.str();
+    return text;
 }
 
 AcDbNameId Name(const char* name) {

@@ -23,19 +23,6 @@ Texts FindingsOf(const NetworkSketch& sketch, FindingKind kind, const CheckOptio
     return texts;
 }
 
-/// Numbers between 0 and `limit`, the same in every run.
-class Dice {
-public:
-    explicit Dice(std::uint64_t seed) : m_state(seed) {}
-    int Throw(int limit) {
-        m_state = m_state * 6364136223846793005 + 1442695040888963407;
-        return static_cast<int>((m_state >> 33) % static_cast<std::uint64_t>(limit));
-    }
-
-private:
-    std::uint64_t m_state;
-};
-
 } // namespace
 
 TEST(NetworkCheck, SoundNetworkHasNoFindings) {
@@ -58,15 +45,6 @@ TEST(NetworkCheck, CoincidentNodesNameTheFirstOfTheirPlace) {
               (Texts{"N2: coincident node, at the same position as N0",
                      "N4: coincident node, at the same position as N1",
                      "N5: coincident node, at the same position as N0"}));
-}
-
-TEST(NetworkCheck, CoincidentNodesWithinATolerance) {
-    const NetworkSketch sketch{{0, 0}, {3, 4}, {100, 100}, {-0.5, 0}, {100, 105.01}};
-    CheckOptions options;
-    options.coincidenceTolerance = 5;
-    EXPECT_EQ(FindingsOf(sketch, FindingKind::CoincidentNode, options),
-              (Texts{"N1: coincident node, at the same position as N0",
-                     "N3: coincident node, at the same position as N0"}));
 }
 
 TEST(NetworkCheck, OneOfTwoCloseNodesIsAlwaysNamed) {
@@ -176,17 +154,4 @@ TEST(NetworkCheck, CountsGoOnBehindTheListing) {
     const CheckResult result = CheckNetwork(sketch.Geometry(), options);
     EXPECT_EQ(result.findings.size(), 3U);
     EXPECT_EQ(result.Count(FindingKind::IsolatedNode), 10U);
-}
-
-TEST(NetworkCheck, NamesComeFromAReadNetwork) {
-    const InpResult read = ReadInp("[JUNCTIONS]\nA 1\nB 1\n[COORDINATES]\nA 1 1\nB 2 2\n"
-                                   "[PIPES]\nP A GONE 1 1\n",
-                                   "net.inp");
-    const ModelNames names(read.model);
-    Texts texts;
-    for (const Finding& finding : CheckNetwork(GeometryOf(read.model)).findings) {
-        texts.push_back(FindingText(finding, names));
-    }
-    EXPECT_EQ(texts, (Texts{"B: isolated node, no section starts or ends here",
-                            "P: refers to the missing node GONE"}));
 }

@@ -57,3 +57,16 @@ public:
     std::vector<std::uint32_t> offsets{0};
     std::vector<Point> vertices;
 };
+
+/// Numbers between 0 and a limit, the same in every run.
+class Dice {
+public:
+    explicit Dice(std::uint64_t seed) : m_state(seed * 77 + 1) {}
+    int Throw(int limit) {
+        m_state = m_state * 6364136223846793005 + 1442695040888963407;
+        return static_cast<int>((m_state >> 33) % static_cast<std::uint64_t>(limit));
+    }
+
+private:
+    std::uint64_t m_state;
+};

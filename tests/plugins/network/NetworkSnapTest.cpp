@@ -1,4 +1,5 @@
 #include "plugins/network/NetworkSnap.h"
+#include "tests/support/Rows.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -11,13 +12,7 @@ using Ends = std::vector<std::array<std::uint32_t, 2>>;
 
 TEST(NetworkSnap, EndsMeetWithinTheTolerance) {
     const AcGePoint3d given[] = {{0, 0}, {100, 0}};
-    struct Case {
-        const char* what;
-        std::vector<LineEnds> lines;
-        double tolerance;
-        Ends expected;
-    };
-    const Case cases[] = {
+    const Rows<const char*, std::vector<LineEnds>, double, Ends> cases = {
         {"at given nodes", {{{{0, 0}, {100, 0}}}}, 0, {{0, 1}}},
         {"zeros are the same", {{{{-0.0, 0}, {100, -0.0}}}}, 0, {{0, 1}}},
         {"just beside, without a tolerance", {{{{1e-9, 0}, {100, 0}}}}, 0, {{2, 1}}},
@@ -39,8 +34,8 @@ TEST(NetworkSnap, EndsMeetWithinTheTolerance) {
          1e-3,
          {{2, 3}, {3, 0}}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(SnapEnds(given, c.lines, c.tolerance).ends, c.expected) << c.what;
+    for (const auto& [what, lines, tolerance, expected] : cases) {
+        EXPECT_EQ(SnapEnds(given, lines, tolerance).ends, expected) << what;
     }
     EXPECT_TRUE(SnapEnds({}, {}, 1).ends.empty());
 }

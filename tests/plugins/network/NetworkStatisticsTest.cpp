@@ -69,31 +69,3 @@ TEST(NetworkStatistics, PointsWithoutAPlaceTakeNoPart) {
     EXPECT_EQ(statistics.drawnLength, 1);
     EXPECT_EQ(statistics.extents->low.x, 1);
 }
-
-TEST(NetworkGeometry, UnsoundArraysAreTold) {
-    NetworkSketch sound{{0, 0}, {1, 0}};
-    sound.Section(0, 1, {{5, 5}});
-    EXPECT_EQ(GeometryFault(sound.Geometry()), "");
-
-    NetworkSketch sketch = sound;
-    sketch.ends = {2};
-    EXPECT_EQ(GeometryFault(sketch.Geometry()),
-              "a section has the number of a node that does not exist");
-    sketch.ends = {-2};
-    EXPECT_EQ(GeometryFault(sketch.Geometry()),
-              "a section has the number of a node that does not exist");
-    sketch.ends = {};
-    EXPECT_EQ(GeometryFault(sketch.Geometry()), "there are not as many end nodes as start nodes");
-
-    for (const std::vector<std::uint32_t>& offsets :
-         {std::vector<std::uint32_t>{0}, {0, 2}, {1, 1}, {0, 0}, {}}) {
-        sketch = sound;
-        sketch.offsets = offsets;
-        EXPECT_EQ(GeometryFault(sketch.Geometry()), "the inner vertices do not fit the sections");
-    }
-
-    const std::vector<double> one = {1};
-    NetworkGeometry geometry = sound.Geometry();
-    geometry.elevations = one;
-    EXPECT_EQ(GeometryFault(geometry), "the kinds or elevations do not fit the nodes");
-}

@@ -1,5 +1,4 @@
-// Real networks whose faults are known. They are no part of the repository; without them
-// these tests are skipped.
+// Networks whose faults are known: generated ones, and real ones where their folder is present.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -8,6 +7,7 @@
 #include "plugins/network/InpReader.h"
 #include "plugins/network/NetworkCheck.h"
 #include "plugins/network/NetworkStatistics.h"
+#include "tests/support/NetworkFiles.h"
 
 using namespace Orvane::Network;
 
@@ -28,7 +28,12 @@ std::ostream& operator<<(std::ostream& out, const Reference& reference) {
     return out << reference.file;
 }
 
-constexpr Reference kReferences[] = {
+constexpr Reference kGenerated[] = {
+    {"generated-water.inp", 341, 330, 10, 0, 3, 31, {5, 5, 5, 5, 5, 5}},
+    {"generated-sewer.inp", 351, 330, 8, 135, 0, 31, {5, 5, 5, 5, 5, 5}},
+};
+
+constexpr Reference kReal[] = {
     {"Net3.inp", 97, 119, 0, 0, 2, 1, {0, 0, 0, 0, 0, 1}},
     {"Net6.inp", 3356, 3892, 0, 0, 0, 1, {0, 0, 0, 0, 62, 494}},
     {"ky10.inp", 935, 1061, 7796, 0, 0, 1, {0, 18, 18, 0, 2, 1}},
@@ -40,20 +45,30 @@ InpResult ReadFile(const std::filesystem::path& path) {
     return ReadInpFile(Utf8ToWide(path.string()).c_str());
 }
 
-class ReferenceNetworks : public testing::TestWithParam<Reference> {};
+class ReferenceNetworks : public testing::TestWithParam<Reference> {
+protected:
+    NetworkFiles m_networks;
+};
+
+const std::vector<Reference>& References() {
+    static const std::vector<Reference> references = [] {
+        std::vector<Reference> all(std::begin(kGenerated), std::end(kGenerated));
+        if (NetworkFiles::HasReal()) {
+            all.insert(all.end(), std::begin(kReal), std::end(kReal));
+        }
+        return all;
+    }();
+    return references;
+}
 
 } // namespace
 
 TEST_P(ReferenceNetworks, HaveTheirKnownFigures) {
-    const std::filesystem::path folder =
-        std::filesystem::path(TESSALY_SOURCE_DIR) / "../shared/data";
-    if (!std::filesystem::exists(folder)) {
-        GTEST_SKIP() << "there is no folder " << folder;
-    }
     const Reference& reference = GetParam();
-    const InpResult result = ReadFile(folder / reference.file);
+    const InpResult result = ReadFile(m_networks.Path(reference.file));
     EXPECT_EQ(ProblemTexts(result, Severity::Error), std::vector<std::string>{});
-    EXPECT_EQ(ProblemTexts(result, Severity::Warning), std::vector<std::string>{});
+    const auto missing = static_cast<std::size_t>(FindingKind::MissingNode);
+    EXPECT_EQ(ProblemTexts(result, Severity::Warning).size(), reference.findings[missing]);
     const NetworkStatistics statistics = ComputeStatistics(GeometryOf(result.model));
     EXPECT_EQ(statistics.nodeCount, reference.nodes);
     EXPECT_EQ(statistics.sectionCount, reference.sections);
@@ -64,10 +79,12 @@ TEST_P(ReferenceNetworks, HaveTheirKnownFigures) {
     EXPECT_EQ(CheckNetwork(GeometryOf(result.model)).counts, reference.findings);
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, ReferenceNetworks, testing::ValuesIn(kReferences),
+INSTANTIATE_TEST_SUITE_P(Files, ReferenceNetworks, testing::ValuesIn(References()),
                          [](const testing::TestParamInfo<Reference>& reference) {
                              const std::string file = reference.param.file;
-                             return file.substr(0, file.find('.'));
+                             std::string name = file.substr(0, file.find('.'));
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
                          });
 
 TEST(SampleNetworks, AreReadAndHaveNoFindings) {

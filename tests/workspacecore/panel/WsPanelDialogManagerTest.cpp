@@ -1,4 +1,5 @@
 // The column of panels: who gets a place, how gaps close, and when dialogs are made.
+#include "tests/support/Rows.h"
 #include "tests/workspacecore/panel/WsTestDialog.h"
 
 #include "siblings/giscore/notification/Publisher.h"
@@ -65,31 +66,34 @@ TEST_F(WsPanelDialogManagerTest, TheFirstOfAPlaceKeepsIt) {
 }
 
 TEST_F(WsPanelDialogManagerTest, GapsCloseUpward) {
-    const struct {
-        const char* what;
-        std::vector<std::pair<const wchar_t*, int>> registered;
-        const char* before;
-        const char* after;
-    } cases[] = {
-        {"nothing", {}, "----------", "----------"},
-        {"by place, not by time", {{L"a", 5}, {L"b", 2}}, "--b--a----", "ba--------"},
-        {"a full column",
-         {{L"h", 7}, {L"a", 0}, {L"b", 1}, {L"c", 2}, {L"d", 3}, {L"e", 4}, {L"f", 5}, {L"g", 6}},
-         "abcdefgh--",
-         "abcdefgh--"},
-        {"beyond the column", {{L"a", 9}, {L"b", 8}, {L"c", 7}}, "-------cba", "c---------"},
-        {"before the column", {{L"a", -1}, {L"b", 1}}, "-b--------", "b---------"},
-    };
-    for (const auto& row : cases) {
+    const Rows<const char*, std::vector<std::pair<const wchar_t*, int>>, const char*, const char*>
+        cases = {
+            {"nothing", {}, "----------", "----------"},
+            {"by place, not by time", {{L"a", 5}, {L"b", 2}}, "--b--a----", "ba--------"},
+            {"a full column",
+             {{L"h", 7},
+              {L"a", 0},
+              {L"b", 1},
+              {L"c", 2},
+              {L"d", 3},
+              {L"e", 4},
+              {L"f", 5},
+              {L"g", 6}},
+             "abcdefgh--",
+             "abcdefgh--"},
+            {"beyond the column", {{L"a", 9}, {L"b", 8}, {L"c", 7}}, "-------cba", "c---------"},
+            {"before the column", {{L"a", -1}, {L"b", 1}}, "-b--------", "b---------"},
+        };
+    for (const auto& [what, registered, before, after] : cases) {
         CWsPanelDialogManager panels = Panels();
-        for (const auto& [id, place] : row.registered) {
-            EXPECT_EQ(panels.RegisterWsPanelDialog(Describe(id, place)), 1) << row.what;
+        for (const auto& [id, place] : registered) {
+            EXPECT_EQ(panels.RegisterWsPanelDialog(Describe(id, place)), 1) << what;
         }
-        EXPECT_EQ(Column(panels), row.before) << row.what;
+        EXPECT_EQ(Column(panels), before) << what;
         panels.StackRegisteredPanelButtons();
-        EXPECT_EQ(Column(panels), row.after) << row.what;
+        EXPECT_EQ(Column(panels), after) << what;
         panels.StackRegisteredPanelButtons();
-        EXPECT_EQ(Column(panels), row.after) << row.what << ", again";
+        EXPECT_EQ(Column(panels), after) << what << ", again";
     }
 }
 
@@ -111,19 +115,6 @@ TEST_F(WsPanelDialogManagerTest, ADialogIsMadeOnceAndByWhoKnowsIt) {
     EXPECT_EQ(maker->asked.size(), 1U);
     EXPECT_EQ(late->asked.size(), 0U);
     EXPECT_FALSE(manager.DlgMgr()->IsDialogCreated(L"a")) << "it is registered nowhere";
-}
-
-TEST_F(WsPanelDialogManagerTest, FactoriesAreAskedUntilOneKnowsTheDialog) {
-    const auto factory = AddPanelFactory(L"b");
-    Panels().RegisterWsPanelDialog(Describe(L"a", 0));
-    for (int round = 1; round <= 2; ++round) {
-        EXPECT_EQ(Panels().GetWsPanelDialogByPosition(At(0)), nullptr);
-        EXPECT_EQ(factory->asked, std::vector<std::string>(round, "a"));
-    }
-    factory->known = L"a";
-    CWsPanelDialog* const pDialog = Panels().GetWsPanelDialogByPosition(At(0));
-    ASSERT_NE(pDialog, nullptr);
-    EXPECT_EQ(pDialog, factory->panel.get());
 }
 
 TEST_F(WsPanelDialogManagerTest, AnIdIsFoundInAnyCaseAmongFreePlaces) {
@@ -149,43 +140,6 @@ TEST_F(WsPanelDialogManagerTest, AnIdLeadsToThePlaceThatWasAskedFor) {
     EXPECT_EQ(Panels().GetWsPanelDialogById(L"a"), nullptr) << "place 5 is free now";
     EXPECT_EQ(factory->asked.size(), 0U);
     EXPECT_NE(Panels().GetWsPanelDialogByPosition(At(2)), nullptr);
-}
-
-TEST_F(WsPanelDialogManagerTest, AnotherOneMayStandAtThePlaceThatWasAskedFor) {
-    const auto factory = AddPanelFactory(L"b");
-    Panels().RegisterWsPanelDialog(Describe(L"a", 1));
-    Panels().RegisterWsPanelDialog(Describe(L"b", 2));
-    Panels().StackRegisteredPanelButtons();
-    CWsPanelDialog* const pDialog = Panels().GetWsPanelDialogById(L"a");
-    ASSERT_NE(pDialog, nullptr);
-    EXPECT_EQ(pDialog, factory->panel.get());
-    EXPECT_EQ(factory->asked, std::vector<std::string>{"b"});
-}
-
-TEST_F(WsPanelDialogManagerTest, ACopyOfADescriptionKnowsTheDialog) {
-    const auto factory = AddPanelFactory(L"a");
-    const auto original = Describe(L"a", 0);
-    Panels().RegisterWsPanelDialog(original);
-    CWsPanelDialog* const pDialog = Panels().GetWsPanelDialogByPosition(At(0));
-    auto copy = boost::make_shared<CWsPanelDialogMetadata>(*original);
-    copy->SetDialogId(L"made already");
-    copy->SetPanelPosition(At(1));
-    Panels().RegisterWsPanelDialog(copy);
-    EXPECT_EQ(Panels().GetWsPanelDialogByPosition(At(1)), pDialog);
-}
-
-TEST_F(WsPanelDialogManagerTest, APanelDialogHearsOfNothingByItself) {
-    struct Listening : CWsPanelDialog {
-        Listening() : CWsPanelDialog(0, L"a", nullptr, nullptr) {}
-        void Update(Notification::CPublisher*, void*, void*) override { ++heard; }
-        void OnAcadDocumentBecomeCurrent(AcApDocument*) override { ++heard; }
-        int heard = 0;
-    };
-    CWsManager& manager = *CWsManager::Instance();
-    const Listening dialog;
-    manager.GetRefreshAllPbl()->Notify(nullptr, nullptr);
-    manager.Raise_OnAcadDocumentBecomeCurrent(nullptr);
-    EXPECT_EQ(dialog.heard, 0);
 }
 
 } // namespace

@@ -12,7 +12,7 @@
 #include "siblings/giscore/icons/Icon.h"
 #include "siblings/giscore/systems/SystemManager.h"
 #include "tests/mfc/TestDialog.h"
-#include "tests/support/AllocationWatch.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "tests/support/TreeOutline.h"
 
@@ -182,23 +182,6 @@ TEST_F(WsTreeManagerTest, IconsAreFoundByTheirKind) {
     EXPECT_EQ(trees.GetEntityTypeIcon(EntityNode), cases[12].icon) << "the same each time";
 }
 
-TEST_F(WsTreeManagerTest, TheResourcesOfTheModuleAreCurrentWhileAnIconIsLookedFor) {
-    const std::function<HICON(CWsTreeManager&)> lookUps[] = {
-        [](CWsTreeManager& trees) { return trees.GetSystemIcon(TopologyLine); },
-        [](CWsTreeManager& trees) { return trees.GetEntityTypeIcon(EntityNode); }};
-    for (const auto& lookUp : lookUps) {
-        CWsTreeManager trees;
-        bool current = false;
-        {
-            const AllocationWatch watch(
-                [&] { current |= acDocManagerPtr()->resourceHandle() != nullptr; });
-            EXPECT_NE(lookUp(trees), nullptr);
-        }
-        EXPECT_TRUE(current);
-        EXPECT_EQ(acDocManagerPtr()->resourceHandle(), nullptr);
-    }
-}
-
 TEST_F(WsTreeManagerTest, EntitiesAreNamedAsTheActiveSystemDoes) {
     m_host.Support().Write("TopologyConfiguration.ini",
                            "[line]\nentity.1=Node\nfunction.1=W\n[point]\nentity.1=Tree\n");
@@ -253,12 +236,7 @@ std::string Sorted(const TestHost& host, const char* file, std::vector<const wch
 }
 
 TEST_F(WsTreeManagerTest, TheUsersOrderOfFamilies) {
-    const struct {
-        const char* what;
-        const char* file;
-        std::vector<const wchar_t*> tags;
-        const char* expected;
-    } cases[] = {
+    const Rows<const char*, const char*, std::vector<const wchar_t*>, const char*> cases = {
         {"no file: tool groups first, as they stood",
          nullptr,
          {L"A", L"65536", L"1024", L"B", L"32768", L"16384", L"4096", L"8192"},
@@ -279,8 +257,8 @@ TEST_F(WsTreeManagerTest, TheUsersOrderOfFamilies) {
         {"cut", R"(<sortOrder><r tag="B"/><r ta)", {L"A", L"B"}, "01"},
         {"no XML at all", "\xFF\xFE<", {L"A", L"B"}, "01"},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(Sorted(m_host, row.file, row.tags), row.expected) << row.what;
+    for (const auto& [what, file, tags, expected] : cases) {
+        EXPECT_EQ(Sorted(m_host, file, tags), expected) << what;
     }
     CWsTreeManager().SortTreeTemplate(nullptr);
 }

@@ -1,0 +1,46 @@
+// What observers hear, as one text.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "platform/arx/ApDocManager.h"
+#include "platform/win/CodePage.h"
+#include "platform/win/String.h"
+
+/// Notes events as "name argument argument;" in the order in which they come. Observers of one
+/// test may share a log; what `on` has for an event runs after it is noted.
+class EventLog {
+public:
+    template <class... Arguments>
+    void Note(const std::string& event, const Arguments&... arguments) {
+        m_text += event;
+        ((m_text += " " + Text(arguments)), ...);
+        m_text += ";";
+        if (const auto hit = on.find(event); hit != on.end() && hit->second) {
+            // A copy: the event may forget itself.
+            const std::function<void()> call = hit->second;
+            call();
+        }
+    }
+    std::string Take() { return std::exchange(m_text, {}); }
+
+    std::map<std::string, std::function<void()>> on;
+
+private:
+    static std::string Text(const wchar_t* text) { return text ? WideToUtf8(text) : "null"; }
+    static std::string Text(const CString& text) { return WideToUtf8(text.View()); }
+    static std::string Text(const std::string& text) { return text; }
+    static std::string Text(const AcApDocument* pDoc) {
+        return pDoc ? Text(pDoc->fileName()) : "none";
+    }
+    template <class System>
+    requires requires(const System& system) { system.GetSystemName(); }
+    static std::string Text(const System* pSystem) {
+        return pSystem ? Text(pSystem->GetSystemName()) : "none";
+    }
+
+    std::string m_text;
+};

@@ -1,5 +1,5 @@
-// The module that brings the workspace to life: loaded last, it makes the first call of
-// the manager, and from then on stands between the GIS core, the host and the workspace.
+// Application module: loaded last, it starts the workspace and connects the GIS core, the host
+// and the workspace from then on.
 #include <set>
 #include <utility>
 
@@ -22,7 +22,7 @@ namespace {
 
 using Workspace::CWsManager;
 
-/// Events of the GIS core become events of the workspace.
+/// Forwards events of the GIS core to the workspace manager.
 class EventForwarder final : public System::ISystemEvents {
 public:
     void OnSystemChanged(System::CGisSystem* p) override {
@@ -71,20 +71,20 @@ public:
     }
 };
 
-/// The host's wish to end is the workspace's event.
+/// Forwards the host's request to close to the workspace manager.
 class CloseForwarder final : public AcApHostReactor {
 public:
     bool hostToClose() override { return CWsManager::Instance()->Raise_OnBeforeAcadWillClose(); }
 };
 
-/// Messages to the user; their texts are in share/messages.
+/// Message ids; the texts are in share/messages.
 enum class AppMsg : int {
-    NoModule = 910200, // why a command cannot run
+    NoModule = 910200, // reason why a command cannot run
     NeedsDrawing = 911158,
-    NoModuleList = 910201, // with the file
+    NoModuleList = 910201, // file
 };
 
-/// The heading under which HELP lists a command, as a number of the message catalogue.
+/// Message id of the heading under which HELP lists a command.
 int PurposeOf(const Workspace::CWsCommand& command) {
     if (command.GetCmdGroup() == Workspace::CommandGroupRun &&
         !command.GetRepositoryTag().IsEmpty()) {
@@ -107,13 +107,13 @@ int PurposeOf(const Workspace::CWsCommand& command) {
     return 920014;
 }
 
-/// Made to be run by trees and dialogs, with a node in hand and without asking.
+/// Hidden commands are run by trees and dialogs with a node at hand and do not ask first.
 bool IsHidden(const Workspace::CWsCommand& command) {
     return command.GetCmdGroup() == Workspace::CommandGroupHidden;
 }
 
-/// Workspace commands can be typed at the host's command line, by their whole id, unless they
-/// are hidden.
+/// Makes workspace commands available at the host's command line by their full id, except hidden
+/// ones.
 class WorkspaceCommands final : public IEdCommandSource {
 public:
     CommandOutcome Run(const wchar_t* name) override {
@@ -143,13 +143,13 @@ public:
     }
 };
 
-/// Prints what is wrong with the user's files: at the start, and whatever is found later, as
-/// when a setting has come to name another folder.
+/// Prints problems in the user's files: at the start, and whenever new ones are found, for
+/// instance after a setting selected another folder.
 class ProblemPrinter final : public Notification::CSubscriber {
 public:
     void Begin() {
         Publisher().RegisterSubscriber(this);
-        // The line of the module that was loaded last has no end yet.
+        // The line of the last module loaded is not terminated yet.
         PrintNew(L"\n");
     }
     void End() { Publisher().UnregisterSubscriber(this); }
@@ -162,14 +162,14 @@ private:
     void PrintNew(const wchar_t* before) {
         std::set<CString, CStringLess> now;
         for (const CString& problem : CModuleConfiguration::Instance()->GetProblems()) {
-            // Every family has the same one with a folder that is missing.
+            // All families report the same problem if a folder is missing.
             if (now.insert(problem).second && !m_printed.contains(problem)) {
                 acutPrintf(L"%s%s\n", std::exchange(before, L""), problem);
             }
         }
         m_printed = std::move(now);
     }
-    std::set<CString, CStringLess> m_printed; ///< of those there are
+    std::set<CString, CStringLess> m_printed; ///< printed and not yet solved
 };
 
 ProblemPrinter s_problems;

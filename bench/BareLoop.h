@@ -1,5 +1,5 @@
-// The peer of event delivery: nothing but virtual calls, from a module of its own, as the
-// manager's come from one. (A call into another module costs more than one next door.)
+// The peer of event delivery: only virtual calls, made from a separate module like the manager's.
+// (A call into another module costs more than one within a module.)
 #pragma once
 
 #include <vector>

@@ -1,5 +1,5 @@
-// Look-up of commands beside bare containers, and a trace site while logging is off beside
-// the one call that it makes. An order through the command runner beside a bare execution.
+// Command look-up compared with bare containers, a disabled trace site compared with the one call
+// it makes, and an order through the command runner compared with a bare execution.
 #include <benchmark/benchmark.h>
 #include <map>
 #include <string>
@@ -63,7 +63,7 @@ void BM_ById_BareMap(benchmark::State& state) {
 }
 BENCHMARK(BM_ById_BareMap);
 
-/// The group keeps its 100 commands while the registry grows.
+/// The group keeps its 100 commands as the registry grows.
 void BM_ByGroup(benchmark::State& state) {
     const int count = static_cast<int>(state.range(0));
     const CWsCommandRegistry registry = Registry(Ids(count), count / 100);
@@ -74,7 +74,7 @@ void BM_ByGroup(benchmark::State& state) {
 }
 BENCHMARK(BM_ByGroup)->Arg(1000)->Arg(10000)->Arg(100000);
 
-/// A command that does nothing, on a drawing without changes.
+/// A command that does nothing, on an unchanged drawing.
 class Idle final : public IWsCommandExecutor {
 public:
     boost::shared_ptr<CExecutorReturnValue>
@@ -99,7 +99,7 @@ CWsCommandManager& WithIdleCommand() {
     return commands;
 }
 
-/// An order through the runner may take 2 microseconds more than the second one.
+/// An order through the runner may take at most 2 microseconds longer than a bare execution.
 void BM_Command_Runner(benchmark::State& state) {
     WithIdleCommand();
     const CommandOrder order = MakeCommandOrder({L"IDLE", OrderOrigin::Timer});

@@ -1,6 +1,6 @@
-// What a drawing's database costs beside plain structures in a vector: bytes an entity and
-// time to fill, to go through, and to note a bulk creation for undo. Ratios, so that they
-// mean the same on any machine.
+// Cost of a drawing's database compared with plain structures in a vector: bytes per entity and the
+// time to fill it, to iterate over it and to record a bulk creation for undo. Prints ratios, which
+// are comparable between machines.
 //
 //     BenchDatabase [entities]
 
@@ -44,7 +44,7 @@ std::array<AcDbNameId, kAttributes> Names() {
             AcDbIntern("invert_from"), AcDbIntern("invert_to")};
 }
 
-/// The least that could hold the same: no ids, no names, no owner.
+/// The smallest structure for the same data: no ids, names or owner.
 struct PlainSection {
     std::array<AcGePoint3d, 2> points;
     std::array<char, 8> name;
@@ -101,7 +101,7 @@ Cost Load(AcDbDatabase& database, std::size_t count) {
     });
 }
 
-/// Sums up something of every entity, so that the way through them cannot be left out.
+/// Sums up a value of every entity, so the loop cannot be optimised away.
 double TimeVisit(const AcDbDatabase& database, double& sum) {
     return Measure([&] {
                database.forEachEntity(
@@ -119,7 +119,7 @@ double TimeVisit(const std::vector<PlainSection>& sections, double& sum) {
         .milliseconds;
 }
 
-/// What the history takes for a bulk creation, by adding the same with and without it.
+/// Memory used by the history of a bulk creation: the difference with and without recording.
 double HistoryBytes(std::size_t count) {
     const auto added = [count](bool record) {
         AcDbDatabase database;
@@ -148,7 +148,7 @@ int main(int argc, char** argv) {
     AcDbDatabase database;
     const Cost fill = Load(database, count);
     std::printf("%zu sections of two points and five attributes\n", count);
-    std::printf("bytes an entity   %7.1f, %5.1f times the plain %.1f\n", fill.bytes / number,
+    std::printf("bytes per entity  %7.1f, %5.1f times the plain %.1f\n", fill.bytes / number,
                 fill.bytes / plainFill.bytes, plainFill.bytes / number);
     std::printf("load              %7.1f ms, %5.1f times the plain %.1f ms\n", fill.milliseconds,
                 fill.milliseconds / plainFill.milliseconds, plainFill.milliseconds);
@@ -156,6 +156,6 @@ int main(int argc, char** argv) {
     const double visit = TimeVisit(database, sum);
     std::printf("extents of all    %7.1f ms, %5.1f times the plain %.1f ms\n", visit,
                 visit / plainVisit, plainVisit);
-    std::printf("undo history of as many creations: %.0f bytes\n", HistoryBytes(count));
+    std::printf("undo history of their creation: %.0f bytes\n", HistoryBytes(count));
     return sum == 0 ? 1 : 0;
 }

@@ -1,6 +1,6 @@
-// One step of the mouse with a dialog among 200 others that attract it: time, and what is
-// allocated on the way. Then a dialog from the first demand to its first painted frame,
-// beside a bare dialog of the toolkit with the same controls.
+// Time and allocations for one mouse step with a dialog among 200 others that attract it. Then the
+// time from the first request for a dialog to its first painted frame, compared with a bare toolkit
+// dialog with the same controls.
 //
 //   BenchDialogs [dialogs [runs]]
 #include <QApplication>
@@ -32,7 +32,7 @@
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/dialogs/WsBaseDialog.h"
 
-// Every allocation of the process, the toolkit's own included, passes here.
+// Counts all allocations of the process, including the toolkit's.
 namespace {
 long g_allocations = 0;
 }
@@ -111,7 +111,7 @@ public:
         DestroyWindow();
     }
 
-    /// The controls get what they show.
+    /// Fills the controls with their content.
     void Fill() {
         for (const UINT id : {4U, 6U}) {
             auto& combo = dynamic_cast<CComboBox&>(*GetDlgItem(id));
@@ -148,7 +148,7 @@ private:
     std::unique_ptr<Dialog> m_dialog;
 };
 
-/// The way of a mouse over the screen and its edges, pixel by pixel in a slope.
+/// Path of a mouse across the screen and its edges, in diagonal steps.
 CPoint PlaceOnWay(int step) {
     return {(step * 7) % 2000 - 60, (step * 3) % 1200 - 60};
 }
@@ -188,13 +188,13 @@ bool Snapping(int count) {
     }
     const long most = *std::max_element(allocations.begin(), allocations.end());
     const double median = Quantile(times, 0.5);
-    std::printf("a step among %d dialogs: %.2f us median, %.2f us of 99 in 100, %ld allocations "
+    std::printf("a step among %d dialogs: %.2f us median, %.2f us for 99 of 100, %ld allocations "
                 "at most; %d of %d stuck\n",
                 count, median, Quantile(times, 0.99), most, stuck, kSteps);
     return median <= 20 && most == 0;
 }
 
-/// Sees the first time that a window is painted.
+/// Notes when a window is painted for the first time.
 class FirstPaint final : public QObject {
 public:
     FirstPaint() { qApp->installEventFilter(this); }
@@ -206,7 +206,7 @@ public:
 
 protected:
     bool eventFilter(QObject* pObject, QEvent* pEvent) override {
-        // An update is painted and brought to the screen in one go.
+        // An update request paints and flushes at once.
         if (pEvent->type() == QEvent::Paint && pObject->isWidgetType()) {
             m_painted = true;
         }
@@ -218,8 +218,8 @@ private:
 };
 
 struct Frame {
-    double shown;   ///< until it was asked to be visible
-    double painted; ///< until it was
+    double shown;   ///< until it was requested to be visible
+    double painted; ///< until it was painted
 };
 
 Frame Workspace() {
@@ -270,7 +270,7 @@ Frame Bare() {
     const auto begin = Clock::now();
     auto dialog = std::make_unique<QDialog>(nullptr, Qt::Window | Qt::FramelessWindowHint);
     dialog->setWindowTitle(QStringLiteral("Dialog"));
-    // About as the template comes out.
+    // Approximately the size of the template.
     dialog->setGeometry(600, 0, 360, 470);
     for (const DialogItem& item : kItems) {
         BareControl(item, dialog.get())
@@ -287,7 +287,7 @@ Frame Bare() {
 }
 
 void FirstFrames(int runs) {
-    // The first of all windows brings fonts and style to life; that is neither's.
+    // The first window loads fonts and style; count that for neither.
     Bare();
     const Frame first = Workspace();
     std::vector<double> shown;
@@ -304,10 +304,10 @@ void FirstFrames(int runs) {
     }
     const double median = Quantile(painted, 0.5);
     const double bare = Quantile(barePainted, 0.5);
-    std::printf("from demand to the first frame: %.2f ms the first time, then %.2f ms median "
+    std::printf("from request to the first frame: %.2f ms the first time, then %.2f ms median "
                 "(%.2f ms until shown), %.2f ms best\n",
                 first.painted, median, Quantile(shown, 0.5), painted.front());
-    std::printf("a bare dialog of the same %zu controls: %.2f ms median (%.2f ms until shown), "
+    std::printf("a bare dialog with the same %zu controls: %.2f ms median (%.2f ms until shown), "
                 "%.2f ms best; ours takes %.2f times as long\n",
                 std::size(kItems), bare, Quantile(bareShown, 0.5), barePainted.front(),
                 median / bare);

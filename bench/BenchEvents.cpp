@@ -1,5 +1,5 @@
-// One event to a thousand listeners, beside a bare loop of virtual calls and two signal
-// libraries.
+// Delivery of one event to a thousand listeners, compared with a bare loop of virtual calls and two
+// signal libraries.
 #include <QObject>
 #include <benchmark/benchmark.h>
 #include <boost/signals2.hpp>
@@ -32,7 +32,7 @@ std::vector<std::unique_ptr<Counter>> Counters() {
     return counters;
 }
 
-/// The same objects for both loops: where they lie in memory decides as much as the code.
+/// The same objects for both loops: their memory layout matters as much as the code.
 const std::vector<std::unique_ptr<Counter>>& RegisteredCounters() {
     static const auto counters = [] {
         auto made = Counters();

@@ -1,8 +1,8 @@
-// LoadModules with a hundred plug-ins of ten commands each, beside bare loading, look-up
-// and hook calls of the same files.
+// LoadModules with a hundred plug-ins of ten commands each, compared with bare loading, symbol
+// look-up and hook calls of the same files.
 //
-// Each measurement runs in a process of its own, since a library is only loaded once, and
-// the two kinds take turns; the medians of many turns are compared.
+// Each measurement runs in its own process, since a library is loaded only once, and the two kinds
+// alternate; compares the medians.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -51,11 +51,11 @@ double Seconds(Clock::time_point from) {
 }
 
 double LoadThroughManager() {
-    // The first call makes the manager with an empty list; the plug-ins come after that,
-    // so that nothing but their load is measured.
+    // The first call creates the manager with an empty list; the plug-ins are added afterwards, so
+    // that only their loading is measured.
     using namespace Orvane::Workspace;
     CWsManager::Instance();
-    // Not destroyed: the libraries end with the process, as in the product.
+    // Not destroyed: the libraries stay loaded until the process ends, as in the product.
     auto* const plugins = new CWsPluginManager;
     const auto from = Clock::now();
     plugins->LoadModules();
@@ -85,7 +85,7 @@ double LoadBare() {
     return Seconds(from);
 }
 
-/// Runs a measurement in a child and gives its result.
+/// Runs a measurement in a child process and returns its result.
 template <class Measure>
 double InChild(const std::filesystem::path& support, Measure measure) {
     int pipeEnds[2];

@@ -1,6 +1,6 @@
-// Reading, statistics and check of generated towns of growing size. Prints the seconds of
-// each, the seconds over n log n (in nanoseconds; it stays level while the work grows as
-// told), and the most memory that the process has used so far.
+// Reading, statistics and check of generated towns of growing size. Prints the seconds of each
+// step, the nanoseconds per n log n (constant if the step scales as intended), and the peak memory
+// of the process so far.
 #include <sys/resource.h>
 
 #include <chrono>
@@ -36,7 +36,7 @@ bool MakeTown(std::size_t sections, const char* format, const std::string& file)
     const std::string command = std::string(TESSALY_STAGE_DIR "/townmaker --seed 1 --sections ") +
                                 std::to_string(sections) + " --format " + format +
                                 " --faults 1000 '" + file + "'";
-    // NOLINTNEXTLINE(bugprone-command-processor): the command is made up here
+    // NOLINTNEXTLINE(bugprone-command-processor): the command is built here
     return std::system(command.c_str()) == 0;
 }
 
@@ -79,7 +79,7 @@ int main() {
     }
     std::remove(file.c_str());
     if (!isGood) {
-        std::fputs("no town was made; build the program townmaker first\n", stderr);
+        std::fputs("no town generated; build the program townmaker first\n", stderr);
     }
     return isGood ? 0 : 1;
 }

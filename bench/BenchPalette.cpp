@@ -1,5 +1,5 @@
-// Each keystroke in the command palette among ten thousand commands, beside looking for the
-// same letters in plain texts, which any such search has to do at least.
+// Each keystroke in the command palette with ten thousand commands, compared with a search for the
+// same letters in plain texts, the minimum for any such search.
 #include <algorithm>
 #include <chrono>
 #include <iostream>
@@ -46,7 +46,7 @@ int main() {
                              }));
         std::cout << "\"" << WideToUtf8(typed.View()) << "\": " << found << " found\n";
     }
-    std::cout << "slowest keystroke among " << kCommands << " commands: " << worst
+    std::cout << "slowest keystroke with " << kCommands << " commands: " << worst
               << " ms, a plain search of one text: " << worstPeer << " ms\n";
     return 0;
 }

@@ -1,8 +1,8 @@
-// The start of the desktop with a sample drawing, from the start of the process to the first
-// painted frame of the drawing: with the workspace, without it, and beside a bare window of
-// the toolkit. The difference of the first two is the workspace's share.
+// Start of the desktop with a sample drawing, from process start to the first painted frame of the
+// drawing: with the workspace, without it, and compared with a bare toolkit window. The difference
+// between the first two is the workspace's share.
 //
-// Each start is a process of its own; the kinds take turns, and medians are compared.
+// Each start is a separate process; the kinds alternate, and medians are compared.
 #include <QApplication>
 #include <QMainWindow>
 #include <QPlainTextEdit>
@@ -61,7 +61,7 @@ void ShowDesktop(const CString& folder, bool withWorkspace) {
     SetHostOption(kHostOptionInstall, withWorkspace ? L"" TESSALY_STAGE_DIR "/" : L"/nowhere/");
     AfxSetDesktopMode(true);
     AfxStartToolkit();
-    // Left to the end of the process, as in the product.
+    // Not destroyed until the process ends, as in the product.
     auto& frame = *new Tessaly::Frame;
     SetHostPort(&frame.Port());
     new Tessaly::FrameDisplay(frame);
@@ -85,7 +85,7 @@ void ShowBareWindow() {
     paint.Await();
 }
 
-/// Milliseconds that a start in a process of its own takes.
+/// Milliseconds of a start in a separate process.
 double Start(const char* program, const char* kind, const std::string& folder) {
     int ends[2];
     if (pipe(ends) != 0) {
@@ -95,7 +95,7 @@ double Start(const char* program, const char* kind, const std::string& folder) {
     const pid_t child = fork();
     if (child == 0) {
         dup2(ends[1], STDOUT_FILENO);
-        // What the display in memory lacks is told there again and again.
+        // The in-memory display warns repeatedly about missing features.
         dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
         execl(program, program, kind, folder.c_str(), nullptr);
         _exit(127);
@@ -125,7 +125,7 @@ void MakeDrawing(const fs::path& folder) {
     const std::string command = TESSALY_STAGE_DIR "/tessaly --support " + folder.string() +
                                 " --script " + (folder / "town.scr").string() + " > /dev/null";
     if (std::system(command.c_str()) != 0) {
-        std::fprintf(stderr, "BenchStart: the sample drawing cannot be made\n");
+        std::fprintf(stderr, "BenchStart: cannot create the sample drawing\n");
         std::exit(1);
     }
 }
@@ -161,7 +161,7 @@ int main(int argc, char** argv) {
     const double bare = Median(times[2]);
     std::printf("start to the first frame, milliseconds, median of %d\n", kTurns);
     std::printf("  desktop with the sample drawing  %7.1f\n", whole);
-    std::printf("  of it the workspace              %7.1f\n", whole - host);
+    std::printf("  share of the workspace           %7.1f\n", whole - host);
     std::printf("  a bare window of the toolkit     %7.1f  (%.2f of it)\n", bare, bare / whole);
     return 0;
 }

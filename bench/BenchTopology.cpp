@@ -1,5 +1,5 @@
-// Networks in a drawing, and search by place beside bare packing of the same boxes.
-//   BenchTopology [COUNT]     COUNT nodes and as many sections; 1,000,000 unless given
+// Networks in a drawing, and spatial search compared with bare packing of the same boxes.
+//   BenchTopology [COUNT]     COUNT nodes and as many sections; default: 1,000,000
 #define BOOST_ALLOW_DEPRECATED_HEADERS
 #include <boost/geometry/core/cs.hpp>
 #include <boost/geometry/geometries/box.hpp>
@@ -79,7 +79,7 @@ void MeasureDrawing(int count) {
     System::CGisSystem* const pSystem =
         System::CSystemManager::Instance()->CreateSystem(L"Town", TopologyLine, 1);
     Report("adding", Seconds([&] { AddNetwork(*pSystem, count); }), "s");
-    Report("memory", (MegabytesInUse() - before) * 1e6 / (2.0 * count), "bytes an entity");
+    Report("memory", (MegabytesInUse() - before) * 1e6 / (2.0 * count), "bytes per entity");
     Topology::CTopologyStorage& storage =
         *Topology::CTopologyMultiStorage::Instance()->GetTopology();
     Report("first search by name",
@@ -87,7 +87,7 @@ void MeasureDrawing(int count) {
     int loops = 0;
     Report("statistics",
            Seconds([&] { pSystem->GetStatisticValue_int(System::StatisticLoops, loops); }), "s");
-    Report("lists anew after UNDO and REDO", Seconds([&] {
+    Report("rebuilding the lists after UNDO and REDO", Seconds([&] {
                pSystem->GetDatabase()->undo().undo();
                pSystem->GetDatabase()->undo().redo();
                std::cout << storage.GetNodeVector().size() << " nodes, ";
@@ -112,8 +112,8 @@ void MeasureSearch(int count) {
                 const bgi::rtree<std::pair<TreeBox, std::uint32_t>, bgi::linear<16>> tree(boxes);
             }));
     }
-    Report("index of as many boxes", own, "s");
-    Report("  of bare packing", own / peer, "times");
+    Report("index of the same number of boxes", own, "s");
+    Report("  compared with bare packing", own / peer, "times");
 
     Selection::CNodeIndex& nodes = *Selection::CNodeIndex::Instance();
     Report("node index", Seconds([&] { nodes.BuildSTRTree(1); }), "s");
@@ -128,7 +128,7 @@ void MeasureSearch(int count) {
         }
     });
     Report("pick of the nearest node", picks / kPicks * 1e6, "microseconds");
-    std::cout << "  " << found << " of " << kPicks << " found one\n";
+    std::cout << "  " << found << " of " << kPicks << " successful\n";
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Templates of many definitions, menus of many commands, and large trees, beside plain walks
-// of as many records.
+// Templates of many definitions, menus of many commands, and large trees, compared with plain
+// traversals of as many records.
 #include <boost/make_shared.hpp>
 #include <chrono>
 #include <fstream>
@@ -21,7 +21,7 @@ namespace {
 using namespace Orvane;
 using namespace Orvane::Workspace;
 
-/// All that a configuration can have, each with two functions.
+/// Everything a configuration can offer, each with two functions.
 constexpr struct {
     enmTopologyType type;
     const char* section;
@@ -49,7 +49,7 @@ void AddTopologies(Record& record) {
     }
 }
 
-/// Families of a folder, five entity folders and five configurations in each tree.
+/// Families with a folder, five entity folders and five configurations in each tree.
 void AddFamilies(CWsTreeItemDefinitionList& list, int definitions) {
     const auto add = [&](enmWSTreeItemType type, const CString& tag, enmEntityType entityType) {
         auto definition = boost::make_shared<CWsTreeItemDefinition>();
@@ -108,7 +108,7 @@ void Templates() {
                             }));
         }
         std::cout << "templates of " << definitions << " definitions: " << all << " ms for "
-                  << nodes << " nodes, " << all / bare << " times making as many bare nodes\n";
+                  << nodes << " nodes, " << all / bare << " times creating as many bare nodes\n";
     }
 }
 
@@ -154,12 +154,12 @@ void Menus() {
                         }));
     }
     std::cout << "menu among 10000 commands: " << best << " ms, " << entries << " entries, "
-              << best / bare << " times one walk comparing the tags\n";
+              << best / bare << " times one traversal comparing the tags\n";
 }
 
 constexpr DialogTemplate kDialog[] = {{900, 250, 115, L"Trees", WS_POPUP | WS_CAPTION, {}}};
 
-/// Nodes of a branch, itself included.
+/// Number of nodes in a branch, including its root.
 constexpr std::size_t kBranch = 10;
 
 void Views() {
@@ -192,7 +192,7 @@ void Views() {
             AfxPumpMessages();
         });
         if (view.GetCount() != 1) {
-            std::cout << view.GetCount() << " nodes left where one should be\n";
+            std::cout << view.GetCount() << " nodes left instead of one\n";
         }
         std::cout << "tree of " << count << " nodes: filled in " << fill << " ms, emptied in "
                   << remove << " ms\n";

@@ -1,6 +1,6 @@
-// Loads and saves the states of 1,000 dialogs with 20 values each, beside pugixml filling and
-// writing records of the same shape. Both replace the file safely; what of that is the
-// disk's share is told apart. Prints the best and the median time of each.
+// Loads and saves the states of 1,000 dialogs with 20 values each, compared with pugixml reading
+// and writing records of the same shape. Both replace the file safely; the disk's share of that is
+// shown separately. Prints the best and the median time of each.
 //
 //   BenchUiStates [dialogs [values]]
 #include <algorithm>
@@ -37,7 +37,7 @@ CUiStates MakeStates(int dialogs, int values) {
         dialog->SetWidth(640);
         dialog->SetHeight(480);
         for (int k = 0; k < values; ++k) {
-            // Widths, places in combo boxes, names with and without what has to be encoded.
+            // Widths, combo box selections, names with and without characters that need encoding.
             const Data::CDataBox boxes[] = {i * k % 500, 0.25 * i, L"Main Street North",
                                             L"width = 12; Stra\u00DFe & more"};
             dialog->AddStateAttribute(boost::make_shared<CStateAttribute>(
@@ -48,7 +48,7 @@ CUiStates MakeStates(int dialogs, int values) {
     return states;
 }
 
-/// What the peer reads into: the same records without encoding of fields.
+/// The peer's records: the same content without field encoding.
 struct PeerAttribute {
     std::string id;
     int type = 0;
@@ -165,7 +165,7 @@ int main(int argc, char** argv) {
     }
     const std::string bytes = ReadFileBytes(ownWide.c_str()).value_or(std::string());
 
-    // Kept over the runs: what is measured is not the taking down of the records before.
+    // Kept between runs: destroying the previous records is not measured.
     std::deque<CUiStates> own;
     std::deque<PeerStates> peers;
     std::vector<Work> works = {
@@ -173,10 +173,9 @@ int main(int argc, char** argv) {
         {"load, pugixml", [&] { return Load(ownPath, peers.emplace_back()); }},
         {"save, CUiStates", [&] { return states.Save(ownWide.c_str()) == 1; }},
         {"save, pugixml", [&] { return Save(otherWide, peers.front()); }},
-        {"of a save: the file in its place",
-         [&] { return ReplaceFileBytes(otherWide.c_str(), bytes); }},
+        {"of which replacing the file", [&] { return ReplaceFileBytes(otherWide.c_str(), bytes); }},
     };
-    // In turns, so that a busy moment of the machine does not fall on one of them alone.
+    // Alternating, so that other load on the machine does not affect only one of them.
     for (int run = 0; run < 25; ++run) {
         for (Work& work : works) {
             work.milliseconds.push_back(Milliseconds(work.run));
@@ -190,7 +189,7 @@ int main(int argc, char** argv) {
     std::filesystem::remove(ownPath);
     std::filesystem::remove(folder / "BenchUiStates.other.xml");
     if (!same) {
-        std::fprintf(stderr, "what was loaded is not what was saved\n");
+        std::fprintf(stderr, "the loaded states differ from the saved ones\n");
         return 1;
     }
     return 0;

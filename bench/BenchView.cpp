@@ -1,6 +1,6 @@
-// The drawing view beside QGraphicsView with the same entities: first picture, frames of the
-// whole drawing and of a part of it, picking, memory. Ratios, so that they mean the same on
-// any machine.
+// The drawing view compared with QGraphicsView showing the same entities: first picture, frames of
+// the whole drawing and of a part, picking, memory. Prints ratios, which are comparable between
+// machines.
 //
 //     BenchView [sections] [sections of the peer, if fewer]
 
@@ -32,7 +32,7 @@ using Tessaly::DrawingView;
 
 constexpr QSize kWindow(1600, 1000);
 constexpr double kSpacing = 40;
-// As places of a national grid have them.
+// Like coordinates of a national grid.
 constexpr double kEast = 2600000;
 constexpr double kNorth = 1200000;
 constexpr int kFrames = 41;
@@ -56,7 +56,7 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// Streets of a town: a grid with shaken crossings, a section along each side.
+/// Streets of a town: a grid with displaced crossings and a section along each side.
 void FillTown(AcDbDatabase& database, std::size_t sections) {
     const auto side = static_cast<std::size_t>(std::sqrt(static_cast<double>(sections) / 2)) + 1;
     std::mt19937 random(7);
@@ -93,19 +93,19 @@ void FillTown(AcDbDatabase& database, std::size_t sections) {
     database.endLoading();
 }
 
-/// Whole extents; some ten thousand sections in sight of a million; some hundred.
+/// The whole drawing; some ten thousand visible sections of a million; some hundred.
 constexpr std::array<double, 3> kMagnified = {1, 8, 60};
 
 struct Results {
     double first = 0; ///< ms from the database in memory to the first picture
-    /// ms a frame that is moved by some pixels, and one that is zoomed a little
+    /// ms per frame moved by some pixels, and per slightly zoomed frame
     std::array<double, kMagnified.size()> moved{};
     std::array<double, kMagnified.size()> zoomed{};
     double pick = 0;  ///< ms
-    double bytes = 0; ///< without the pixels that any window has
+    double bytes = 0; ///< without the pixels that every window has
 };
 
-/// What a window costs that shows nothing.
+/// Memory of an empty window.
 double BytesOfWindow() {
     const double before = UsedBytes();
     QWidget window;
@@ -127,7 +127,7 @@ void NameWhatIsInSight(AcDbDatabase& database, const DrawingView& view) {
     }
 }
 
-/// Until all is drawn: a frame that is not whole is none.
+/// Until everything is drawn; incomplete frames do not count.
 double TimeWholeFrame(DrawingView& view) {
     return Milliseconds([&] {
         view.repaint();
@@ -178,7 +178,7 @@ Results MeasureView(AcDbDatabase& database) {
         TimeWholeFrame(view);
     });
     results.bytes = UsedBytes() - before - window;
-    std::printf("  scene alone: %.1f bytes a section\n",
+    std::printf("  scene alone: %.1f bytes per section\n",
                 static_cast<double>(view.Scene().Bytes()) /
                     static_cast<double>(database.entityCount()));
     std::size_t hits = 0;
@@ -198,7 +198,7 @@ Results MeasureView(AcDbDatabase& database) {
     view.ZoomBy(1.6); // few enough for names
     NameWhatIsInSight(database, view);
     TimeWholeFrame(view);
-    std::printf("  a frame with names, zoomed: %.3f ms\n", MedianOfZooms(view));
+    std::printf("  zoomed frame with names: %.3f ms\n", MedianOfZooms(view));
     std::printf("  picks that hit: %zu of %d\n", hits, kPicks);
     return results;
 }
@@ -304,7 +304,7 @@ int main(int argc, char** argv) {
     FillTown(database, peerSections);
     std::printf("  peer: QGraphicsView with %zu sections\n", database.entityCount());
     if (peerSections != sections) {
-        std::printf("  not the same drawing: the ratios say nothing\n");
+        std::printf("  the drawings differ: the ratios are meaningless\n");
     }
     peer = MeasurePeer(database);
     peer.bytes /= static_cast<double>(database.entityCount());
@@ -316,6 +316,6 @@ int main(int argc, char** argv) {
         Print((what + ", zoomed").c_str(), ours.zoomed[i], peer.zoomed[i], "ms");
     }
     Print("pick", ours.pick, peer.pick, "ms");
-    Print("memory of the view, a section", ours.bytes, peer.bytes, "bytes");
+    Print("memory of the view per section", ours.bytes, peer.bytes, "bytes");
     return 0;
 }

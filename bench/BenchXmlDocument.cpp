@@ -1,8 +1,8 @@
-// Reads a large file of dialog states with XmlDocument and with three other readers, side
-// by side: load, walk over all elements, read one attribute of each. Prints the best time
-// of each reader and its ratio to XmlDocument.
+// Reads a large file of dialog states with XmlDocument and with three other readers: load, traverse
+// all elements, read one attribute of each. Prints each reader's best time and its ratio to
+// XmlDocument.
 //
-//   BenchXmlDocument [megabytes]   (25 unless given)
+//   BenchXmlDocument [megabytes]   (default: 25)
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -23,7 +23,7 @@
 
 namespace {
 
-/// What a reader has seen; equal for all, or they did not do the same work.
+/// Totals collected by a reader; equal for all if they did the same work.
 struct Seen {
     long elements = 0;
     long idCharacters = 0;
@@ -135,7 +135,7 @@ double Milliseconds(const std::function<void()>& work) {
     return spent.count();
 }
 
-/// Bytes of memory that this process really uses.
+/// Memory actually used by this process, in bytes.
 double Resident() {
     std::ifstream status("/proc/self/statm");
     long total = 0;
@@ -144,7 +144,7 @@ double Resident() {
     return static_cast<double>(resident) * 4096;
 }
 
-/// Has to come first: what other readers leave behind would be used again unseen.
+/// Must run first: memory freed by other readers would be reused unnoticed.
 void PrintMemory(const std::string& path) {
     const double before = Resident();
     Orvane::XmlDocument document;
@@ -153,7 +153,7 @@ void PrintMemory(const std::string& path) {
     const auto text = static_cast<double>(std::filesystem::file_size(path) * sizeof(wchar_t));
     Seen seen;
     Walk(document, seen);
-    std::printf("%ld elements, text %.1f MB, memory beyond the text %.1f bytes an element\n",
+    std::printf("%ld elements, text %.1f MB, memory beyond the text %.1f bytes per element\n",
                 seen.elements, text / 1e6, (grown - text) / static_cast<double>(seen.elements));
 }
 
@@ -177,7 +177,7 @@ int main(int argc, char** argv) {
                                    {"pugixml", ReadPugi, 12},
                                    {"libxml2", ReadLibxml, 3},
                                    {"QXmlStreamReader", ReadQt, 3}};
-    // In turns, so that a busy moment of the machine does not fall on one reader alone.
+    // Alternating, so that other load on the machine does not affect only one reader.
     for (int run = 0; run < 12; ++run) {
         for (Reader& reader : readers) {
             if (run < reader.runs) {
@@ -196,7 +196,7 @@ int main(int argc, char** argv) {
     }
     std::filesystem::remove(path);
     if (!same) {
-        std::fprintf(stderr, "the readers did not see the same document\n");
+        std::fprintf(stderr, "the readers did not read the same content\n");
         return 1;
     }
     return 0;

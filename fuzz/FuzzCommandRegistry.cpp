@@ -1,5 +1,4 @@
-// Whatever a text says, the command registry that was read from it can be listed, written
-// and read again.
+// The command registry read from any text can be listed, written and read again.
 #include <cstdlib>
 
 #include "platform/win/CodePage.h"
@@ -13,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!found && !registry.GetWsCommandVector()->empty()) {
         std::abort();
     }
-    // References in an id are kept when it is written and resolved when it is read, so two
-    // ids may become one. An id with a NUL ends the text.
+    // References in an id are kept by writing and resolved by reading, so two ids may become equal.
+    // An id with a NUL ends there.
     const CString written = registry.GetXML();
     CWsCommandRegistry again;
     if (written.Find(L'\0') == -1 &&

@@ -1,5 +1,5 @@
-// Whatever bytes a file has, reading it as a drawing and importing it ends with a drawing or
-// with a reason that names the file, and a drawing that was read can be saved.
+// Reading and importing a file of any bytes yields a drawing or a reason that names the file, and a
+// drawing that was read can be saved.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -20,7 +20,7 @@ void Require(bool isTrue) {
     }
 }
 
-/// In memory, and apart from those of other processes.
+/// In memory, and separate from other processes' files.
 const std::string& Folder() {
     static const std::string folder = [] {
         std::string name = "/dev/shm/fuzz-" + std::to_string(getpid());

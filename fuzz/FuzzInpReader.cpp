@@ -1,5 +1,5 @@
-// Whatever bytes a network file holds: the reader answers with a sound network or with
-// errors, and statistics and checks take every network that it accepts.
+// For a network file of any bytes, the reader yields a consistent network or errors, and statistics
+// and checks accept every network it yields.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@ void Require(bool condition, const char* what) {
 void CheckProblems(const InpResult& result) {
     Require(result.ok == (result.errorCount == 0), "a network or an error");
     const std::size_t listed = result.problems.size();
-    Require(listed <= 2 * InpResult::kMostProblems, "not more problems than are to be listed");
+    Require(listed <= 2 * InpResult::kMostProblems, "the number of listed problems is limited");
     for (const Severity severity : {Severity::Warning, Severity::Error}) {
         for (const std::string& text : ProblemTexts(result, severity)) {
             Require(text.starts_with("fuzz.inp:") || text.starts_with("... and "), "file named");
@@ -42,23 +42,23 @@ void CheckAttributes(const AttributeTable& table, std::size_t owners) {
 void CheckTables(const NetworkModel& model) {
     const std::size_t nodes = model.nodes.size();
     const std::size_t sections = model.sections.size();
-    Require(model.nodes.names.size() == nodes, "a name a node");
-    Require(model.sections.names.size() == sections, "a name a section");
-    Require(model.sections.diameters.size() == sections, "a diameter a section");
-    Require(model.polygons.rings.size() == model.polygons.size(), "a ring a polygon");
-    Require(model.labels.texts.size() == model.labels.size(), "a place a text");
+    Require(model.nodes.names.size() == nodes, "one name per node");
+    Require(model.sections.names.size() == sections, "one name per section");
+    Require(model.sections.diameters.size() == sections, "one diameter per section");
+    Require(model.polygons.rings.size() == model.polygons.size(), "one ring per polygon");
+    Require(model.labels.texts.size() == model.labels.size(), "one text per label position");
     for (std::size_t i = 0; i < model.polygons.size(); ++i) {
-        Require(model.polygons.rings[i].size() >= 3, "three points a polygon");
+        Require(model.polygons.rings[i].size() >= 3, "at least three points per polygon");
     }
     for (const Point& position : model.nodes.positions) {
-        Require(IsPlace(position), "every node lies somewhere");
+        Require(IsPlace(position), "every node has a position");
     }
     std::size_t missing = 0;
     for (std::size_t i = 0; i < sections; ++i) {
         missing += model.sections.startNodes[i] == kMissingNode;
         missing += model.sections.endNodes[i] == kMissingNode;
     }
-    Require(missing == model.sections.missingNames.size(), "a name a missing node");
+    Require(missing == model.sections.missingNames.size(), "one name per missing node");
     CheckAttributes(model.nodes.attributes, nodes);
     CheckAttributes(model.sections.attributes, sections);
     CheckAttributes(model.polygons.attributes, model.polygons.size());
@@ -73,7 +73,7 @@ void CheckFindings(const NetworkModel& model) {
     }
     Require(count == result.findings.size(), "all findings listed");
     for (const Finding& finding : result.findings) {
-        Require(!FindingText(finding, names).empty(), "a text a finding");
+        Require(!FindingText(finding, names).empty(), "one text per finding");
         Require(finding.other == kNoEntity || finding.other < finding.entity, "the earlier one");
     }
 }
@@ -88,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const NetworkGeometry geometry = GeometryOf(result.model);
     Require(GeometryFault(geometry).empty(), "sound arrays");
     const NetworkStatistics statistics = ComputeStatistics(geometry);
-    Require(statistics.componentCount <= statistics.nodeCount, "no more parts than nodes");
+    Require(statistics.componentCount <= statistics.nodeCount, "no more components than nodes");
     CheckFindings(result.model);
     CheckOptions close;
     close.coincidenceTolerance = 2.5;

@@ -1,5 +1,5 @@
-// Whatever a text says, the module registry that was read from it holds no run-time state,
-// and can be written and read again record by record.
+// The module registry read from any text contains no run-time state, and can be written and read
+// again record by record.
 #include <cstdlib>
 
 #include "platform/win/CodePage.h"
@@ -19,8 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::abort();
         }
     }
-    // References in a name are kept when it is written and resolved when it is read, so a
-    // name may change once more; the records stay. A name with a NUL ends the text.
+    // References in a name are kept by writing and resolved by reading, so a name may change once;
+    // the number of records may not. A name with a NUL ends there.
     const CString written = registry.GetXML();
     CWsModuleRegistry again;
     if (written.Find(L'\0') != -1) {

@@ -1,4 +1,4 @@
-// Whatever a text says, a query that was read from it is written and read as the same again.
+// A query read from any text is unchanged after writing and reading it again.
 #include <boost/make_shared.hpp>
 #include <cstdlib>
 

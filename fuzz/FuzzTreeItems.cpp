@@ -1,5 +1,5 @@
-// Whatever a text says, the definitions that were read from it can be written and read again,
-// and no template is made of them.
+// The definitions read from any text can be written and read again, and no templates are built from
+// them.
 #include <cstdlib>
 
 #include "platform/win/CodePage.h"

@@ -1,5 +1,5 @@
-// Whatever a text says, the states of dialogs that were read from it can be written and read
-// again one by one, and every value has a box.
+// The dialog states read from any text can be written and read again one by one, and every value
+// has a box.
 #include <cstdlib>
 
 #include "platform/win/CodePage.h"
@@ -15,8 +15,8 @@ void Expect(bool bHolds) {
     }
 }
 
-/// Values may change once more, since references are kept when they are written and resolved
-/// when they are read; numbers and the count of everything may not.
+/// Values may change once, since references are kept by writing and resolved by reading; numbers
+/// and all counts may not.
 void Compare(const CUiStates& before, const CUiStates& after) {
     const auto& dialogs = *before.GetDialogStateVector();
     Expect(after.GetDialogStateVector()->size() == dialogs.size());

@@ -1,6 +1,5 @@
-// Whatever a text says: every link of its index leads where it should, a walk over it ends
-// and sees each element once, a copy is the same document, and what is read twice is the
-// same both times.
+// For any text: the links of the index are consistent, a traversal ends and visits each element
+// once, a copy is the same document, and reading twice gives the same result.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -21,8 +20,8 @@ void Require(bool holds, const char* fault) {
     }
 }
 
-/// Goes over the documents side by side, without recursion: a text can nest as deep as it
-/// is long. Returns the number of elements.
+/// Traverses the documents side by side, without recursion, as nesting is limited only by the
+/// length of the text. Returns the number of elements.
 int WalkTogether(XmlDocument& left, XmlDocument& right) {
     int elements = 0;
     int level = 0;
@@ -56,7 +55,7 @@ int CheckIndex(std::wstring_view text, bool ignoreCase) {
     const std::string fault = Orvane::XmlIndexCheck(text, index, posFree).Run();
     Require(fault.empty(), fault.c_str());
     const bool illFormed = (index[0].flags & Orvane::XML_FLAG_ILL_FORMED) != 0;
-    Require(illFormed != error.IsEmpty(), "an ill-formed text without a message or the reverse");
+    Require(illFormed != error.IsEmpty(), "the message does not match the well-formedness");
     return posFree - 1;
 }
 
@@ -67,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool ignoreCase = size > 0 && (data[size - 1] & 1) != 0;
     CheckIndex(text, ignoreCase);
 
-    text.resize(std::min(text.find(L'\0'), text.size())); // SetDoc takes what comes before a NUL
+    text.resize(std::min(text.find(L'\0'), text.size())); // SetDoc stops at a NUL
     const int elements = CheckIndex(text, ignoreCase);
 
     XmlDocument doc;
@@ -78,13 +77,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     XmlDocument copy(doc);
     Require(WalkTogether(doc, copy) == elements, "the walk missed elements");
 
-    // In the middle of a document a copy takes the cursor along.
+    // Copying in the middle of a document keeps the cursor.
     if (XmlDocument again(doc); again.SetDoc(text.c_str()) == wellFormed && again.FindElem()) {
         XmlDocument middle(again);
         Require(middle.GetAttrib(L"id") == again.GetAttrib(L"id"), "the cursor was lost");
         WalkTogether(again, middle);
     } else {
-        Require(elements == 0, "another result for the same text");
+        Require(elements == 0, "reading again gives another result");
     }
     return 0;
 }

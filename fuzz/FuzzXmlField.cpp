@@ -1,5 +1,5 @@
-// A value of the code page comes back from its field and from the attribute it is stored in,
-// whatever it holds, and no field at all can do harm.
+// A value of the code page survives a round trip through its field and the attribute it is stored
+// in, and no field at all does harm.
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -19,44 +19,45 @@ void Require(bool holds, const char* fault) {
     }
 }
 
-/// Through a document and back, as a writer and a reader of attributes do it.
+/// Writes and reads the field as an attribute of a document.
 CString ThroughAttribute(const CString& field) {
     XmlDocument doc;
     Require(doc.SetDoc(L"<a b=\"" + field + L"\" c='" + field + L"'/>"),
-            "the field breaks the tag");
-    Require(doc.FindElem(L"a"), "the element is gone");
+            "the field corrupts the tag");
+    Require(doc.FindElem(L"a"), "the element is missing");
     CString raw = doc.GetAttrib(L"b");
-    Require(doc.GetAttrib(L"c") == raw, "the quotes make a difference");
+    Require(doc.GetAttrib(L"c") == raw, "the value depends on the kind of quotes");
     return raw;
 }
 
 void CheckValue(const std::wstring& value) {
     Require(Orvane::DecodeEqualsHex(Orvane::EncodeEqualsHex(value).View()).Str() == value,
-            "bytes do not come back");
+            "the hex round trip changes the value");
     for (const int flags : {0, XmlDocument::kEscapeQuotes}) {
         const CString escaped = XmlDocument::EscapeEntities(value, flags);
         Require(XmlDocument::UnescapeEntities(escaped.View()).Str() == value,
-                "escaped text does not come back");
+                "unescaping does not restore the text");
     }
 
     const CString field = Orvane::EncodeXmlField(value.c_str());
     for (const wchar_t c : field.View()) {
         Require(c != 0 && c < 0x80 && std::wstring_view(L"<>'\"").find(c) == std::wstring::npos,
-                "a field holds a character that it may not");
+                "a field contains an invalid character");
     }
-    // References in a value stay references, so only a value without any is its own copy.
+    // References in a value are kept as such, so only values without any survive unchanged.
     const std::wstring_view text(value.c_str());
     if (text.find(L'&') == text.npos) {
-        Require(Orvane::DecodeXmlField(field).View() == text, "a value does not come back");
+        Require(Orvane::DecodeXmlField(field).View() == text,
+                "decoding does not restore the value");
         Require(Orvane::DecodeXmlField(ThroughAttribute(field)).View() == text,
-                "a value does not come back from an attribute");
+                "an attribute does not restore the value");
     }
     const CString kept = XmlDocument::EscapeEntities(text, XmlDocument::kEscapeQuotes |
                                                                XmlDocument::kEscapeKeepReferences);
     Require(XmlDocument::EscapeEntities(kept.View(), XmlDocument::kEscapeQuotes |
                                                          XmlDocument::kEscapeKeepReferences) ==
                 kept,
-            "escaping what is escaped changes it");
+            "escaping again changes the text");
 }
 
 } // namespace
@@ -65,22 +66,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     CheckValue(AnsiToWide(bytes));
 
-    // As a field from a broken file: anything goes, but the result is of the page.
+    // A field from a broken file may give any value, but the result is in the code page.
     const std::wstring wide = Utf8ToWide(bytes);
     const CString decoded = Orvane::DecodeXmlField(wide.c_str());
     Require(AnsiToWide(WideToAnsi(decoded.View())) == decoded.Str(),
-            "a character outside the page");
-    Require(decoded.View().size() <= std::wcslen(wide.c_str()) * 2, "decoding made text longer");
+            "a character outside the code page");
+    Require(decoded.View().size() <= std::wcslen(wide.c_str()) * 2,
+            "decoding made the text longer");
     const CString wrapped = XmlDocument::WrapCData(wide);
     Require(!XmlDocument().SetDoc(wide.c_str()) ||
                 XmlDocument().SetDoc(L"<a>" + wrapped + L"</a>") ||
                 wide.find(L'\0') != std::wstring::npos,
-            "a section does not hold its text");
+            "a CDATA section does not contain its text");
 
-    // UTF-8 in any pieces is the same text.
+    // UTF-8 converted in pieces gives the same text.
     const std::size_t cut = FinishedUtf8Length(bytes.substr(0, size / 2));
     Require(Utf8ToWide(bytes.substr(0, cut)) + Utf8ToWide(bytes.substr(cut)) == wide,
-            "pieces of UTF-8 make another text");
-    Require(Utf8ToWide(WideToUtf8(wide)) == wide, "UTF-8 does not come back");
+            "converting in pieces gives another text");
+    Require(Utf8ToWide(WideToUtf8(wide)) == wide, "the UTF-8 round trip changes the text");
     return 0;
 }

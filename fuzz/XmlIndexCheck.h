@@ -1,4 +1,4 @@
-// What has to hold for the index of any text, well formed or not.
+// Invariants of the index of any text, well-formed or not.
 #pragma once
 
 #include <string>
@@ -8,19 +8,20 @@
 
 namespace Orvane {
 
-/// Follows every link of an index once and tells the first fault; empty if there is none.
+/// Follows every link of an index once and returns the first fault; empty if there is none.
 class XmlIndexCheck {
 public:
     XmlIndexCheck(std::wstring_view text, const XmlIndex& index, int nPosFree)
         : m_text(text), m_index(index), m_nPosFree(nPosFree) {}
 
     std::string Run() {
-        // Elements are numbered as they open, so a walk from the root meets them in order.
+        // Elements are numbered by their start tags, so a traversal from the root visits them in
+        // order.
         int nExpected = 1;
         int nRecord = m_index[0].child;
         CheckRing(0);
         while (nRecord != 0 && m_strFault.empty()) {
-            Expect(nRecord == nExpected++, nRecord, "met out of order");
+            Expect(nRecord == nExpected++, nRecord, "visited out of order");
             if (!m_strFault.empty()) {
                 break;
             }
@@ -28,7 +29,7 @@ public:
             CheckRing(nRecord);
             nRecord = After(nRecord);
         }
-        Expect(nExpected == m_nPosFree, nExpected, "is the first that was not met");
+        Expect(nExpected == m_nPosFree, nExpected, "is the first that was not visited");
         return m_strFault;
     }
 
@@ -49,7 +50,7 @@ private:
         return nRecord != 0 ? m_index[nRecord].next : 0;
     }
 
-    /// The children of a record: forwards a list, backwards a ring.
+    /// The children of a record: a list forwards, a ring backwards.
     void CheckRing(int nParent) {
         const int nFirst = m_index[nParent].child;
         int nBefore = 0;
@@ -75,7 +76,7 @@ private:
         const XmlNodePos& node = m_index[nRecord];
         const long long nEnd = static_cast<long long>(node.start) + node.length;
         Expect(node.start >= 0 && node.length >= 0 && nEnd <= static_cast<long long>(m_text.size()),
-               nRecord, "lies outside of the text");
+               nRecord, "is outside the text");
         if (!m_strFault.empty()) {
             return;
         }
@@ -84,8 +85,9 @@ private:
         const bool bEmpty = (node.flags & XML_FLAG_EMPTY) != 0;
         Expect(!(bNoEndTag || bEmpty) || node.child == 0, nRecord, "has impossible children");
         if (bNoEndTag) {
-            Expect((m_index[0].flags & XML_FLAG_ILL_FORMED) != 0, nRecord, "was let pass unended");
-            return; // its length is the start tag's as far as that can be read
+            Expect((m_index[0].flags & XML_FLAG_ILL_FORMED) != 0, nRecord,
+                   "was accepted without an end tag");
+            return; // its length is that of the readable part of the start tag
         }
         Expect(node.length >= 3 && m_text[nEnd - 1] == L'>', nRecord, "does not end with a tag");
         if (node.child != 0) {
@@ -94,7 +96,7 @@ private:
                    nRecord, "does not enclose its children");
             Expect(m_index[node.child].Level() > node.Level() ||
                        node.Level() == XML_FLAG_LEVEL_MASK,
-                   nRecord, "is no level above its children");
+                   nRecord, "is not one level above its children");
         }
     }
 

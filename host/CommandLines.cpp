@@ -36,7 +36,7 @@ void CommandLines::CommandEnded(const CommandOrder& order, bool hasThrown) {
     if (!m_lines.empty()) {
         m_lines.pop_back();
     }
-    // A command that ran inside of another ends first.
+    // Nested commands end first, so the innermost failure is kept.
     if (hasThrown && !m_failure) {
         m_failure = {line, order.id};
     }

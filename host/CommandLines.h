@@ -1,4 +1,4 @@
-// Commands from lines of an input: those of a script, or those that a user types in a console.
+// Runs commands from lines of input: a script, or a user typing in a console.
 #pragma once
 
 #include <optional>
@@ -15,16 +15,16 @@ public:
     CommandLines(const CommandLines&) = delete;
     CommandLines& operator=(const CommandLines&) = delete;
 
-    /// Obeys a file of commands up to its end or its first failure.
+    /// Runs a script to its end or its first failure.
     /// \return an exit status of the program
     int RunScript(const wchar_t* path);
-    /// Obeys the user until they leave or the input ends.
+    /// Runs the user's commands until they quit or the input ends.
     void RunPrompt(IInputLines& input);
 
 private:
-    /// What a failing command does to the lines behind it.
+    /// Whether lines after a failing command are run.
     enum class Mode { StopAtFailure, GoOn };
-    /// Where a command stands that failed.
+    /// The failed command and its line in the script.
     struct Place {
         int line;
         CString command;
@@ -37,7 +37,7 @@ private:
 
     ILinePort& m_port;
     IInputLines* m_pInput = nullptr;
-    std::vector<int> m_lines;       ///< on which the running commands stand, the inner ones last
+    std::vector<int> m_lines;       ///< line of each running command, the innermost last
     std::optional<Place> m_failure; ///< of the innermost command
 };
 

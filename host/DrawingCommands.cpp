@@ -6,6 +6,7 @@
 
 #include "host/ImportCommand.h"
 #include "host/Prompts.h"
+#include "host/SaveConflict.h"
 #include "platform/arx/DbUndo.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/win/File.h"
@@ -32,11 +33,15 @@ bool TellSaved(const AcDbStorageResult& result, const AcApDocument& document) {
     return true;
 }
 
-/// Whether a file may be replaced; also if there is none, and if the manager will say no.
-bool MayReplace(const CString& path) {
-    if (!FileExists(path) || IsFolder(path) || acDocManagerPtr()->documentOf(path)) {
+/// Whether a file may be written, asking if it exists. Does not ask where saving fails anyway.
+bool MayReplace(const AcApDocument& document, const CString& path) {
+    if (!FileExists(path) || IsFolder(path)) {
         return true;
     }
+    if (const AcApDocument* const pOwner = acDocManagerPtr()->documentOf(path)) {
+        return pOwner != &document || MayReplaceOwnFile(document);
+    }
+    TellOthersWith(path);
     return acedAskYes(Text(Msg::ReplaceFile, path));
 }
 
@@ -46,7 +51,7 @@ bool SaveUnder(AcApDocument& document) {
     if (path.IsEmpty()) {
         return Refuse(Msg::NotSaved);
     }
-    if (!MayReplace(path)) {
+    if (!MayReplace(document, path)) {
         return Refuse(Text(Msg::LeftUnchanged, path), Msg::NotSaved);
     }
     return TellSaved(acDocManagerPtr()->saveDocumentAs(&document, path, WritingProgress(path)),
@@ -57,11 +62,23 @@ bool SaveDrawing(AcApDocument& document) {
     if (!document.hasFile()) {
         return SaveUnder(document);
     }
-    return TellSaved(acDocManagerPtr()->saveDocument(&document, WritingProgress(document.path())),
-                     document);
+    ConflictChoice choice = ConflictChoice::SaveAgain;
+    if (document.isReadOnly()) {
+        choice = SettleReadOnly(document);
+    }
+    while (choice == ConflictChoice::SaveAgain) {
+        const AcDbStorageResult result =
+            acDocManagerPtr()->saveDocument(&document, WritingProgress(document.path()));
+        if (!result.conflict) {
+            return TellSaved(result, document);
+        }
+        acutPrintf(L"%s\n", result.reason);
+        choice = SettleConflict(document, result.conflict);
+    }
+    return choice == ConflictChoice::SaveAs ? SaveUnder(document) : Refuse(Msg::NotSaved);
 }
 
-/// Whether the drawing may go: saved, or without its changes.
+/// Whether the drawing may be closed: it has been saved, or the user discards its changes.
 bool MayGo(AcApDocument& document) {
     if (!document.isModified()) {
         return true;
@@ -85,7 +102,7 @@ void TellCurrent() {
 
 bool Open() {
     const std::optional<CString> path = AskText(Msg::File);
-    return path ? OpenDrawing(*path) : Refuse(Msg::NothingOpened);
+    return path ? OpenDrawing(*path, true) : Refuse(Msg::NothingOpened);
 }
 
 bool New() {
@@ -129,13 +146,14 @@ bool Drawings() {
     for (const auto& document : acDocManagerPtr()->documents()) {
         const bool isCurrent = document.get() == acDocManagerPtr()->curDocument();
         acutPrintf(L"%s %2d  %s%s\n", isCurrent ? L"*" : L" ", ++number, document->fileName(),
-                   document->isModified() ? Text(Msg::IsModified) : CString());
+                   (document->isModified() ? Text(Msg::IsModified) : CString()) +
+                       (document->isReadOnly() ? Text(Msg::IsReadOnly) : CString()));
     }
     return true;
 }
 
-/// By number in the list of drawings, by name, or by file. Prints a message and returns null if
-/// there is no such drawing.
+/// Finds a drawing by its number in the list, its name or its file. Prints a message and returns
+/// null if there is no such drawing.
 AcApDocument* FindDrawing(const CString& answer) {
     const auto& documents = acDocManagerPtr()->documents();
     wchar_t* end = nullptr;
@@ -174,7 +192,7 @@ bool Switch() {
     return pDoc != nullptr;
 }
 
-/// A step of the history, in either direction.
+/// Undo or redo.
 struct Step {
     const CString* (AcDbUndo::*name)() const;
     bool (AcDbUndo::*take)();
@@ -234,9 +252,10 @@ std::span<const HostCommand> DrawingCommands() {
     return kDrawingCommands;
 }
 
-bool OpenDrawing(const wchar_t* path) {
+bool OpenDrawing(const wchar_t* path, bool mayAsk) {
     const CString file = acDocManagerPtr()->drawingPath(path);
     const bool wasOpen = acDocManagerPtr()->documentOf(file) != nullptr;
+    const bool isShared = !wasOpen && TellOthersWith(file);
     AcApDocument* pDoc = nullptr;
     const AcDbStorageResult result = acDocManagerPtr()->openDocument(
         file, acedProgress(Text(Msg::Reading, FileNameOf(file))), pDoc);
@@ -250,12 +269,17 @@ bool OpenDrawing(const wchar_t* path) {
     } else {
         PrintText(Msg::EntityCount, pDoc->title(),
                   static_cast<int>(pDoc->database()->entityCount()));
+        if (pDoc->isReadOnly()) {
+            PrintText(Msg::OpenReadOnly, pDoc->title(), pDoc->readOnlyReason());
+        } else if (isShared) {
+            OfferReadOnly(*pDoc, mayAsk);
+        }
     }
     return true;
 }
 
 bool AskAboutUnsavedDrawings() {
-    // By place: saving tells modules, which may open and close drawings.
+    // By index: saving raises events, and their handlers may open and close drawings.
     for (int i = 0; i < acDocManagerPtr()->documentCount(); ++i) {
         if (!MayGo(*acDocManagerPtr()->documents()[static_cast<std::size_t>(i)])) {
             return false;

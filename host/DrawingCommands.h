@@ -1,4 +1,4 @@
-// The commands that open, save and close drawings, and that go through their history.
+// Commands that open, save and close drawings, and undo and redo.
 #pragma once
 
 #include <span>
@@ -9,13 +9,14 @@ namespace Tessaly {
 
 std::span<const HostCommand> DrawingCommands();
 
-/// Opens a drawing and says what came of it.
-bool OpenDrawing(const wchar_t* path);
+/// Opens a drawing and reports the outcome, and who else has it open.
+/// \param mayAsk whether to ask about read-only in that case
+bool OpenDrawing(const wchar_t* path, bool mayAsk = false);
 
-/// Asks about each drawing with unsaved changes, and saves those that the user wants saved.
-/// False once the user cancelled, or a drawing could not be saved.
+/// Asks about each drawing with unsaved changes and saves it if the user wants that. False if the
+/// user cancelled or saving failed.
 bool AskAboutUnsavedDrawings();
-/// For who leaves without asking.
+/// Lists drawings with unsaved changes, when exiting without asking.
 void NameUnsavedDrawings();
 
 } // namespace Tessaly

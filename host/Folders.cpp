@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 namespace {
 
 CString ToText(const fs::path& path) {
-    return CString(Utf8ToWide(path.string()));
+    return WidePath(path.string());
 }
 
 } // namespace
@@ -43,7 +43,7 @@ bool FillSupportFolder(const CString& defaults, const CString& support) {
     }
     for (const fs::directory_entry& file : fs::directory_iterator(NativePath(defaults), error)) {
         const fs::path copy = target / file.path().filename();
-        // A folder comes whole or not at all: what the user removed from it stays away.
+        // Folders are copied only as a whole, so files the user has deleted do not come back.
         if (!fs::exists(copy)) {
             fs::copy(file.path(), copy, fs::copy_options::recursive, error);
             if (error) {

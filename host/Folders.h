@@ -1,19 +1,18 @@
-// Where the program finds its modules and the user's settings.
+// Folders of the program and the user.
 #pragma once
 
 #include "host/Options.h"
 
 namespace Tessaly {
 
-/// Folder of the running program, with a separator at its end.
+/// Folder of the running program, with a trailing separator.
 CString ProgramFolder();
 
-/// The user's folder of settings: in the place where the desktop keeps programs' data.
+/// The user's settings folder, below the desktop's folder for program data.
 CString UserSupportFolder();
 
-/// Copies every default support file, and every folder with all that is in it, that the
-/// user's folder does not have yet. False, with LastErrorText set, if the folder cannot be
-/// made or something cannot be copied.
+/// Copies every default support file and folder that does not exist in the user's folder yet.
+/// False, with LastErrorText set, if creating the folder or copying fails.
 bool FillSupportFolder(const CString& defaults, const CString& support);
 
 } // namespace Tessaly

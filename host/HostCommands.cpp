@@ -48,7 +48,7 @@ constexpr HostCommand kProgramCommands[] = {
     {L"QUIT", RunHostCommand<Quit>, Msg::QuitDoes, ACRX_CMD_NO_UNDO_GROUP, Msg::OfProgram},
 };
 
-/// All of the host's own, in the order in which they are listed.
+/// Visits all host commands in listing order.
 template <class Use>
 void ForEachHostCommand(Use use) {
     std::for_each(std::begin(kProgramCommands), std::end(kProgramCommands), use);
@@ -57,7 +57,7 @@ void ForEachHostCommand(Use use) {
     }
 }
 
-/// A command of the stack; those of modules stand under the name of their group.
+/// A command of the command stack; module commands get their group's name as description.
 ListedCommand Listed(const AcEdCommand& command, bool hasDrawing) {
     ListedCommand listed{command.globalName(), command.group(), CString(), Text(Msg::OfModules)};
     ForEachHostCommand([&](const HostCommand& own) {
@@ -72,7 +72,7 @@ ListedCommand Listed(const AcEdCommand& command, bool hasDrawing) {
     return listed;
 }
 
-/// Users look for a command by its title, too.
+/// Includes the title, because users search for it, too.
 CString WithTitle(const EdSourceCommand& command) {
     const bool hasBoth = !command.title.IsEmpty() && !command.description.IsEmpty();
     return command.title + (hasBoth ? L": " : L"") + command.description;

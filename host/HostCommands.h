@@ -13,10 +13,10 @@ struct HostCommand {
     AcRxFunctionPtr function;
     Msg description;
     int flags;
-    Msg purpose; ///< heading under which it is listed
+    Msg purpose; ///< heading in lists of commands
 };
 
-/// A command that answers whether it was carried out, as the command stack wants one.
+/// Adapts a function that returns success to the signature the command stack expects.
 template <bool (*Command)()>
 void RunHostCommand() {
     if (!Command()) {
@@ -24,21 +24,21 @@ void RunHostCommand() {
     }
 }
 
-/// Adds them to the command stack.
+/// Adds the host's commands to the command stack.
 void RegisterHostCommands();
 
-/// A command that can be typed: the host's own, those of modules, and those of the workspace.
+/// A command that can be typed, from the host, a module or the workspace.
 struct ListedCommand {
     CString name;
     CString description;
-    CString whyNot;       ///< why it cannot run now; empty if it can
-    CString purpose = {}; ///< heading under which it is listed
+    CString whyNot;       ///< why it cannot run now; empty if it can run
+    CString purpose = {}; ///< heading in lists of commands
 };
 std::vector<ListedCommand> ListCommands();
-/// What HELP prints of them: by purpose, in the order in which the purposes come first.
+/// The output of HELP: commands grouped by purpose, in order of first appearance.
 CString CommandsByPurpose(const std::vector<ListedCommand>& commands);
 
-/// The user has asked to leave, and nobody vetoed.
+/// Whether the user has asked to quit and no module vetoed.
 bool HasQuit();
 
 } // namespace Tessaly

@@ -33,12 +33,12 @@ void AddFeature(AcDbDatabase& database, AcDbObjectId layer, Feature& feature) {
         const AcDbAttributes::Item item = feature.attributes.at(i);
         pEntity->setAttribute(item.name, item.value);
     }
-    // Their memory goes as the entities' comes.
+    // Frees the feature's memory before the entity takes more.
     feature = {};
     database.appendEntity(std::move(pEntity));
 }
 
-/// The last ones first: layers are empty before it is their turn.
+/// In reverse order, so layers are empty when they are erased.
 void EraseFrom(AcDbDatabase& database, std::uint32_t first) {
     for (std::uint32_t number = database.nextId(); number-- > first;) {
         AcDbObject* pObject = nullptr;
@@ -50,7 +50,7 @@ void EraseFrom(AcDbDatabase& database, std::uint32_t first) {
     }
 }
 
-/// What an empty drawing without a coordinate system takes over.
+/// The coordinate system after the import: an empty drawing without one takes the first.
 CString SystemToTake(const AcDbDatabase& database, const std::vector<AcDbImportLayer>& layers) {
     if (!database.coordinateSystem().IsEmpty() || database.entityCount() > 0) {
         return database.coordinateSystem();
@@ -61,7 +61,7 @@ CString SystemToTake(const AcDbDatabase& database, const std::vector<AcDbImportL
     return first == layers.end() ? CString() : first->coordinateSystem;
 }
 
-/// A line for each layer, in whose features' place only their numbers are needed later.
+/// One line per layer with its feature counts, before the features are moved away.
 std::vector<CString> CountLines(const std::vector<AcDbImportLayer>& layers) {
     std::vector<CString> lines;
     for (const AcDbImportLayer& layer : layers) {

@@ -1,4 +1,4 @@
-// Data of other programs, as plain entities of the drawing.
+// Imports data from other programs as plain entities.
 #pragma once
 
 #include <vector>
@@ -8,15 +8,15 @@
 
 namespace Tessaly {
 
-/// The command: asks for a file. False if nothing was imported.
+/// The import command; asks for a file. False if nothing was imported.
 bool Import();
 
-/// Adds the features to layers of their layers' names. An empty drawing that has no
-/// coordinate system takes the first one of the layers. All or nothing: if something throws,
-/// what was added is erased again.
+/// Adds the features to drawing layers with the same names. An empty drawing without a coordinate
+/// system takes the first one of the layers. All or nothing: if something throws, everything added
+/// is erased again.
 void AddToDrawing(AcDbDatabase& database, std::vector<AcDbImportLayer> layers);
 
-/// What the user should know of the layers' coordinate systems beside the drawing's.
+/// Warnings for layers whose coordinate system differs from the drawing's.
 std::vector<CString> CoordinateWarnings(const AcDbDatabase& database,
                                         const std::vector<AcDbImportLayer>& layers);
 

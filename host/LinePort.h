@@ -1,4 +1,4 @@
-// A host port that obeys lines of input, such as those of a script.
+// A host port that reads lines of input, such as a script.
 #pragma once
 
 #include <optional>
@@ -11,24 +11,24 @@
 
 namespace Tessaly {
 
-/// Prompts take their answers from the same lines as the command line its commands.
+/// Commands and answers to prompts are read from the same lines.
 class ILinePort : public IHostPort {
 public:
-    /// Input may change while the program runs: from a script to the user, say. Not owned.
+    /// Input may be replaced at run time, for example after a script. Not owned.
     virtual void SetInput(IInputLines* pInput) = 0;
-    /// One line for the command prompt; nothing at the end of the input.
+    /// The next command line; nothing at the end of the input.
     virtual std::optional<CString> NextLine(std::wstring_view prompt) = 0;
 };
 
-/// Thrown when a command goes on prompting although the input has long ended.
+/// Thrown when a command keeps prompting after the end of the input.
 struct InputEnded final : std::runtime_error {
     InputEnded() : std::runtime_error(WideToUtf8(Text(Msg::KeepsPrompting).View())) {}
 };
 
-/// What prompts get when nobody is left to answer them. A command that asks once hears that it
-/// was cancelled. One that asks on and on, as a text console does on Escape, is told to quit;
-/// one that does not listen to that either must not keep the program from ending, and gets
-/// InputEnded thrown.
+/// Answers prompts after the end of the input. The first prompt is cancelled. Later ones are
+/// answered with "_quit", for commands such as the text console that keep prompting when cancelled;
+/// a command that ignores even that must not keep the program from exiting, so InputEnded is
+/// thrown.
 class PromptsBehindEnd {
 public:
     void Reset() { m_nPrompts = 0; }

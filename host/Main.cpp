@@ -4,6 +4,7 @@
 #include "host/ExitStatus.h"
 #include "host/Folders.h"
 #include "host/Options.h"
+#include "host/SaveConflict.h"
 #include "host/Session.h"
 #include "host/Texts.h"
 #include "host/console/ConsolePort.h"
@@ -113,6 +114,10 @@ int main(int argc, char** argv) {
     int status = Tessaly::kExitBadUsage;
     if (SetUpFolders(options)) {
         const bool isConsole = !WantsDesktop(options) || !HasDesktop(options);
+        if (options.readOnly || (!isConsole && !options.snapshot)) {
+            Tessaly::SetSharedOpening(options.readOnly ? Tessaly::SharedOpening::ReadOnly
+                                                       : Tessaly::SharedOpening::Ask);
+        }
         status = isConsole ? Run(options, port) : Tessaly::RunDesktop(options);
     }
     AfxStopToolkit();

@@ -1,6 +1,7 @@
 #include "host/Options.h"
 
 #include "platform/win/CodePage.h"
+#include "platform/win/File.h"
 
 namespace Tessaly {
 
@@ -47,10 +48,12 @@ OptionsResult ReadOptions(const std::vector<std::string>& arguments) {
             if (i + 1 == arguments.size() || arguments[i + 1].empty()) {
                 complain(Msg::OptionNeedsValue, Utf8ToWide(argument));
             } else {
-                option->store(result.options, Utf8ToWide(arguments[++i]));
+                option->store(result.options, WidePath(arguments[++i]));
             }
         } else if (argument == "--console") {
             result.options.console = true;
+        } else if (argument == "--read-only") {
+            result.options.readOnly = true;
         } else if (argument == "--help" || argument == "-h") {
             result.options.help = true;
         } else if (argument.empty() || argument.front() == '-') {
@@ -58,7 +61,7 @@ OptionsResult ReadOptions(const std::vector<std::string>& arguments) {
         } else if (!result.options.drawing.IsEmpty()) {
             complain(Msg::OneDrawingOnly, Utf8ToWide(argument));
         } else {
-            result.options.drawing = Utf8ToWide(argument);
+            result.options.drawing = WidePath(argument);
         }
     }
     const std::optional<CString>& theme = result.options.theme;

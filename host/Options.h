@@ -12,28 +12,29 @@ namespace Tessaly {
 struct Options {
     bool console = false;
     bool help = false;
-    std::optional<CString> script;     ///< run it and end with its status
-    std::optional<CString> first;      ///< run it, then go on at the prompt
-    std::optional<CString> snapshot;   ///< draw the desktop into this file, and end
-    std::optional<CString> transcript; ///< what the desktop's command line shows goes here, too
-    std::optional<CString> theme;      ///< "light" or "dark" for this run
-    CString drawing;                   ///< opened at the start; empty: a new one
+    bool readOnly = false;             ///< open drawings read-only that another program has open
+    std::optional<CString> script;     ///< run it, then exit with its status
+    std::optional<CString> first;      ///< run it, then continue at the prompt
+    std::optional<CString> snapshot;   ///< save a screenshot of the desktop to this file and exit
+    std::optional<CString> transcript; ///< also write the command line's output to this file
+    std::optional<CString> theme;      ///< "light" or "dark", for this run
+    CString drawing;                   ///< opened at start-up; empty: a new drawing
     CString trace;
-    CString support; ///< empty: the user's own folder
-    CString install; ///< empty: where the program lies
+    CString support; ///< empty: the user's settings folder
+    CString install; ///< empty: the program's folder
 };
 
 struct OptionsResult {
     Options options;
-    std::optional<Msg> problem; ///< the first one, if the command line made no sense
-    CString argument;           ///< that is to blame
+    std::optional<Msg> problem; ///< the first problem with the command line
+    CString argument;           ///< the option or value at fault
 
-    /// Formatted late: the user's language is known only once the options are. Empty if there
-    /// is no problem.
+    /// Formatted on demand, because the user's language is known only after reading the options.
+    /// Empty without a problem.
     CString Error() const { return problem ? Text(*problem, argument) : CString(); }
 };
 
-/// Reads on after a problem, so that the folder of the settings is known in any case.
+/// Continues after a problem, so that the settings folder is known in any case.
 OptionsResult ReadOptions(const std::vector<std::string>& arguments);
 
 } // namespace Tessaly

@@ -1,4 +1,4 @@
-// Prompts and reports of the host's commands.
+// Prompts and reports of host commands.
 #pragma once
 
 #include <optional>
@@ -10,13 +10,13 @@
 
 namespace Tessaly {
 
-/// Nothing if the user cancelled or typed nothing.
+/// Nothing if the user cancelled or entered nothing.
 std::optional<CString> AskText(Msg label);
 
-/// A line each; a long list is cut off with a count of the rest.
+/// One line per warning; long lists are truncated, with a count of the rest.
 void PrintWarnings(const std::vector<CString>& warnings);
-/// Prints the reason of a failure, if there is one, and what it means. Always false, for
-/// commands to return.
+/// Prints the reason of a failure, if there is one, and its consequence. Always returns false, for
+/// use in return statements.
 bool Refuse(const CString& reason, Msg consequence);
 bool Refuse(Msg consequence);
 

@@ -1,4 +1,4 @@
-// Messages of the host to the user; their texts are in share/messages.
+// Messages from the host to the user; the texts are in share/messages.
 #pragma once
 
 #include "platform/arx/EdPrompt.h"
@@ -79,7 +79,7 @@ enum class Msg : int {
     ImportDoes = 911092,
     ZoomDoes = 911093,
     RedrawDoes = 911094,
-    // Why a file cannot be read or written; each follows the file's name.
+    // Why a file cannot be read or written; each is appended to the file's name.
     SchemaWithoutVersion = 911100,
     SchemaIsNewer = 911101,
     SchemaUnreadable = 911102,
@@ -178,6 +178,43 @@ enum class Msg : int {
     LayoutNotUsed = 911353,
     NoFont = 911354,
     ScreenshotNotSaved = 911355,
+    // Several programs on one drawing.
+    HasNoFile = 910032,
+    SavedByOthers = 951000,
+    OtherDrawing = 951001,
+    Saver = 951002,    // user, host, program, time
+    LastSave = 951003, // reason, saver
+    WaitStopped = 951004,
+    ReplacedMeanwhile = 951005,
+    ChangedMeanwhile = 951006,
+    LinkLoop = 951007,
+    TableMissing = 951008, // its name
+    TablesMissing = 951009,
+    CannotCompare = 951010,
+    NoConflict = 951011,
+    SystemsAdded = 951012, // names, as in the next two
+    SystemsChanged = 951013,
+    SystemsRemoved = 951014,
+    SideCounts = 951015, // side; entities added, changed, removed
+    BothEntities = 951016,
+    BothNames = 951017,
+    InThisDrawing = 951018,
+    InTheFile = 951019,
+    TakenOver = 951020,
+    HistoryCleared = 951021,
+    KeepsYours = 951022,
+    ChooseSaveAs = 951023,
+    ChooseDifferences = 951024,
+    ChooseTakeOver = 951025,
+    ChooseWrite = 951026,
+    WhatNow = 951027,
+    OpenReadOnly = 951028, // drawing, reason
+    ReplaceOwn = 951029,
+    OpenInOtherProgram = 951030, // drawing, user, host, program, time
+    AskReadOnly = 951031,
+    OthersHaveIt = 951032,
+    IsReadOnly = 951033,
+    NowReadOnly = 951034,
     // Lists of commands.
     NeedsDrawing = 911158,
     OfProgram = 911150,
@@ -197,7 +234,7 @@ CString Text(Msg message, const Args&... args) {
     return MessageText(message, args...);
 }
 
-/// Prints a message as a line at the command line.
+/// Prints a message as a line on the command line.
 template <class... Args>
 void PrintText(Msg message, const Args&... args) {
     acutPrintf(L"%s\n", MessageText(message, args...));

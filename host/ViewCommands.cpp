@@ -9,7 +9,7 @@ namespace Tessaly {
 
 namespace {
 
-/// Prints a message and returns null without a drawing or a view of it.
+/// Prints a message and returns null if there is no drawing or no view of it.
 IDrawingDisplay* View() {
     if (!CurrentDrawing()) {
         return nullptr;

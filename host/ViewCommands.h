@@ -1,4 +1,4 @@
-// The commands that move the view of the current drawing.
+// Commands that change the view of the current drawing.
 #pragma once
 
 #include <span>

@@ -12,10 +12,10 @@ namespace {
 
 constexpr std::wstring_view kEscape = L"\x1B";
 constexpr std::wstring_view kBlanks = L" \t";
-/// Terminal sequences: to the begin of the line, and away with what is behind the cursor.
+/// Terminal sequences: return to the start of the line, and clear from the cursor to its end.
 constexpr const wchar_t* kLineBegin = L"\r";
 constexpr const wchar_t* kClearRest = L"\x1B[K";
-/// Percents between two lines where each stays.
+/// Step between progress lines when the output is not a terminal.
 constexpr int kPercentPerLine = 10;
 
 } // namespace
@@ -83,14 +83,14 @@ void ConsolePort::ClearProgress() {
 }
 
 std::optional<CString> ConsolePort::NextLine(std::wstring_view prompt) {
-    m_bEscape = false; // at the command prompt nothing is open
+    m_bEscape = false; // a pending Escape does not apply to the command prompt
     return ReadLine(prompt);
 }
 
 std::optional<CString> ConsolePort::ReadLine(std::wstring_view prompt) {
-    AfxPumpMessages(); // timers and posted messages go on here, too
+    AfxPumpMessages(); // keeps timers and posted messages running
     std::optional<CString> line;
-    // A script is looked at first: at its end no prompt is left behind.
+    // Reads from a script before printing the prompt, to print none after its end.
     const bool isScript = m_pInput && !m_pInput->Name().IsEmpty();
     if (isScript && !(line = m_pInput->Next())) {
         return line;

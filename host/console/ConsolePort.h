@@ -1,4 +1,4 @@
-// The host's prompts on standard output, answered from lines of input.
+// Prompts on standard output, answered from lines of input.
 #pragma once
 
 #include <chrono>
@@ -10,7 +10,7 @@
 
 namespace Tessaly {
 
-/// Input may change while the program runs: from a script to the user, say.
+/// Input may be replaced at run time, for example after a script.
 class ConsolePort final : public ILinePort {
 public:
     explicit ConsolePort(std::FILE* output);
@@ -26,8 +26,8 @@ public:
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void PrintLine(std::wstring_view text) override;
     void Escape() override { m_bEscape = true; }
-    /// On a terminal in one line, which goes with the work; otherwise in a few lines. Ctrl+C
-    /// asks to stop.
+    /// On a terminal, updates a single line that is cleared at the end; otherwise prints a line
+    /// every ten per cent. Ctrl+C requests a stop.
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 
@@ -49,7 +49,7 @@ private:
     std::FILE* m_output;
     bool m_bTerminal;
     std::optional<Work> m_work;
-    bool m_bProgressShown = false; ///< the cursor is behind it
+    bool m_bProgressShown = false; ///< the progress line is on screen
     IInputLines* m_pInput = nullptr;
     bool m_bEscape = false; ///< cancels the next prompt
     bool m_atLineStart = true;

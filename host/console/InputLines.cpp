@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include "platform/mfc/WinApp.h"
-#include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"
 
@@ -14,7 +13,7 @@ namespace Tessaly {
 
 namespace {
 
-/// Lines come when somebody types or sends them.
+/// Whether lines arrive over time, from a terminal or pipe.
 bool IsAwaited(std::FILE* stream) {
     struct stat info {};
     return fstat(fileno(stream), &info) == 0 && !S_ISREG(info.st_mode);
@@ -24,7 +23,7 @@ class LinesOfStream : public IInputLines {
 public:
     explicit LinesOfStream(std::FILE* stream) : m_stream(stream), m_isAwaited(IsAwaited(stream)) {
         if (m_isAwaited) {
-            // What waits in a buffer could not be seen from outside.
+            // Waiting for the descriptor would not see buffered input.
             std::setvbuf(stream, nullptr, _IONBF, 0);
         }
     }
@@ -49,7 +48,7 @@ public:
         if (m_nLine == 1 && text.starts_with(kByteOrderMark)) {
             text.remove_prefix(kByteOrderMark.size());
         }
-        return CString(Utf8ToWide(text));
+        return WidePath(text); // a line may be the name of a file
     }
     int LineNumber() const override { return m_nLine; }
     CString Name() const override { return {}; }

@@ -1,4 +1,4 @@
-// Where the command line's input comes from.
+// Sources of command line input.
 #pragma once
 
 #include <cstdio>
@@ -9,24 +9,24 @@
 
 namespace Tessaly {
 
-/// Hands out lines without their line ends, with their number from 1.
+/// Reads lines without their line ends, numbered from 1.
 class IInputLines {
 public:
     virtual ~IInputLines() = default;
-    /// Nothing at the end of the input. A last line without line end counts.
+    /// Nothing at the end of the input. The last line needs no line end.
     virtual std::optional<CString> Next() = 0;
-    /// Number of the line handed out last; 0 before the first.
+    /// Number of the line read last; 0 before the first.
     virtual int LineNumber() const = 0;
-    /// What errors call the input; empty for a user's own typing.
+    /// Name of the input for error messages; empty for interactive input.
     virtual CString Name() const = 0;
-    /// Lines have to be shown as they are taken, since nobody typed them on the screen.
+    /// Whether lines must be echoed, because they were not typed on the terminal.
     virtual bool WantsEcho() const = 0;
 };
 
-/// Lines of an open stream, UTF-8. Does not own it.
+/// Lines of an open UTF-8 stream. Does not own the stream.
 std::unique_ptr<IInputLines> StreamLines(std::FILE* stream);
 
-/// Lines of a file; null if it cannot be read, with LastErrorText set.
+/// Lines of a file; null, with LastErrorText set, if it cannot be read.
 std::unique_ptr<IInputLines> FileLines(const wchar_t* path);
 
 } // namespace Tessaly

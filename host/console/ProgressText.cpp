@@ -4,7 +4,7 @@ namespace Tessaly {
 
 namespace {
 
-/// A longer text would not fit a line of most terminals, which could not be cleared then.
+/// Longer texts would wrap on most terminals, and a wrapped line cannot be cleared.
 constexpr std::size_t kLongestWhat = 60;
 constexpr std::wstring_view kDots = L"...";
 

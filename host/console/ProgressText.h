@@ -1,4 +1,4 @@
-// When the user is told how far long work is, and how.
+// When and how to show the progress of a long operation.
 #pragma once
 
 #include <chrono>
@@ -8,15 +8,15 @@
 
 namespace Tessaly {
 
-/// Work that is quickly done shows nothing.
+/// Shorter operations show no progress.
 inline constexpr std::chrono::milliseconds kQuietTime{500};
 
 class ProgressText {
 public:
-    /// \param percentStep numbers between these are left out
+    /// \param percentStep percentages are rounded down to a multiple of this
     explicit ProgressText(int percentStep) : m_nStep(percentStep) {}
 
-    /// The text to show now; nothing if the one shown last still holds.
+    /// The text to show now; nothing if it has not changed.
     std::optional<CString> Next(std::wstring_view what, int percent,
                                 std::chrono::milliseconds sinceBegin);
 

@@ -18,7 +18,7 @@ StopSignal::StopSignal() {
     if (m_before.sa_handler != SIG_IGN) {
         struct sigaction noting {};
         noting.sa_handler = Note;
-        noting.sa_flags = SA_RESTART; // reading and writing of files goes on
+        noting.sa_flags = SA_RESTART; // do not interrupt file input and output
         sigaction(SIGINT, &noting, nullptr);
     }
 }

@@ -1,12 +1,12 @@
-// Ctrl+C as the user's wish to stop what goes on.
+// Ctrl+C as a request to stop the current operation.
 #pragma once
 
 #include <csignal>
 
 namespace Tessaly {
 
-/// While it lives, the interrupt signal ends no program but is noted. One at a time. Where
-/// the signal is ignored, as for a program in the background, it stays so.
+/// While an instance exists, SIGINT is recorded instead of ending the program. Only one instance at
+/// a time. If the signal is ignored, as in background processes, it stays ignored.
 class StopSignal {
 public:
     StopSignal();
@@ -14,7 +14,7 @@ public:
     StopSignal(const StopSignal&) = delete;
     StopSignal& operator=(const StopSignal&) = delete;
 
-    /// The signal has come since.
+    /// Whether the signal has arrived since construction.
     static bool WasSent();
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 enum Role { kName = Qt::UserRole, kDescription, kWhyNot };
 
-/// The name, and behind it, paler, what the command does or why it cannot run.
+/// Draws the name and, paler, the description or why the command cannot run.
 class EntryDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -135,7 +135,7 @@ void CommandPalette::Search() {
 
 void CommandPalette::Choose() {
     const QModelIndex index = m_pList->currentIndex();
-    // One that cannot run says why, and stays in sight.
+    // Commands that cannot run keep the list open, where their reason is visible.
     if (index.isValid() && index.data(kWhyNot).toString().isEmpty()) {
         hide();
         emit chosen(index.data(kName).toString());

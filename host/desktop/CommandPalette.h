@@ -1,4 +1,4 @@
-// All commands in one list, found by typing.
+// A searchable list of all commands.
 #pragma once
 
 #include <QFrame>
@@ -10,7 +10,7 @@ class QListView;
 
 namespace Tessaly {
 
-/// Pops up over the window and goes with the focus. Keeps nothing from one use to the next.
+/// Pops up over the window and closes when it loses the focus. Keeps no state between uses.
 class CommandPalette final : public QFrame {
     Q_OBJECT
 public:

@@ -133,7 +133,7 @@ void CommandPane::FocusInput() {
 }
 
 void CommandPane::GoToInput() {
-    activateWindow(); // a pane that floats is a window of its own
+    activateWindow(); // a floating pane is a window of its own
     FocusInput();
 }
 
@@ -180,7 +180,7 @@ bool CommandPane::OnListKey(const QKeyEvent& event) {
     if (!isEnter && event.key() != Qt::Key_Tab) {
         return false;
     }
-    // The list would only complete the word; whoever presses Enter wants the command, too.
+    // By default Enter would only complete the word; run the command as well.
     QAbstractItemView& list = *m_pCompleter->popup();
     QModelIndex choice = list.currentIndex();
     if (!choice.isValid() && !isEnter) {
@@ -202,7 +202,7 @@ bool CommandPane::eventFilter(QObject* pWatched, QEvent* pEvent) {
         if (pWatched == m_pInput && OnInputKey(key)) {
             return true;
         }
-        // Whoever types over the messages means the input.
+        // Typing over the messages goes to the input.
         const bool isText = !key.text().isEmpty() && key.text()[0].isPrint() &&
                             !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
         if (pWatched == m_pText && isText) {

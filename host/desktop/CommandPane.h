@@ -1,4 +1,4 @@
-// The command line of the desktop: what was said, and what is asked.
+// The command line of the desktop: output and input.
 #pragma once
 
 #include <QColor>
@@ -14,28 +14,28 @@ class QPlainTextEdit;
 
 namespace Tessaly {
 
-/// Shows texts and takes lines. It knows nothing of commands: who listens decides whether a
-/// line is one or the answer to a prompt.
+/// Shows text and reads lines. Knows nothing of commands: its listener decides whether a line is a
+/// command or the answer to a prompt.
 class CommandPane final : public QWidget {
     Q_OBJECT
 public:
     explicit CommandPane(QWidget* pParent = nullptr);
 
-    /// At the end of the text, without a line end of its own.
+    /// Appends to the output without adding a line end.
     void Append(const QString& text);
-    /// What stands in front of the input; line ends in it are left out.
+    /// The text before the input. Line ends in it are removed.
     void SetPrompt(const QString& prompt);
-    /// Words that the input completes, while commands are asked for.
+    /// Completions offered while a command is expected.
     void SetCompletions(const QStringList& words);
     void SetCompleting(bool isOn);
-    /// Lines that the arrow keys bring back, the oldest first.
+    /// Lines that the arrow keys recall, the oldest first.
     void SetHistory(const QStringList& lines);
     const QStringList& History() const { return m_history; }
     void Remember(const QString& line);
     void FocusInput();
-    /// As FocusInput, and the window that the pane is in comes to the front.
+    /// Like FocusInput, but also brings the pane's window to the front.
     void GoToInput();
-    /// Puts a key that was pressed elsewhere into the input.
+    /// Forwards a key pressed elsewhere to the input.
     void TypeKey(QKeyEvent& event);
     QString Text() const;
 
@@ -50,7 +50,7 @@ protected:
 
 private:
     bool OnInputKey(const QKeyEvent& event);
-    /// A key over the list of completions.
+    /// Handles a key in the completion list.
     bool OnListKey(const QKeyEvent& event);
     void GoThroughHistory(int step);
 
@@ -59,7 +59,7 @@ private:
     QLineEdit* m_pInput;
     QCompleter* m_pCompleter = nullptr;
     QStringList m_history;
-    qsizetype m_nHistoryPlace = 0; ///< behind the last one: a new line
+    qsizetype m_nHistoryPlace = 0; ///< past the last one: a new line
 };
 
 } // namespace Tessaly

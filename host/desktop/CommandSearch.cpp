@@ -9,7 +9,7 @@ namespace Tessaly {
 
 namespace {
 
-// How well a word fits; 0 if it does not.
+// Scores of a matching word; 0 means no match.
 constexpr int kWholeName = 1000;
 constexpr int kNameBegin = 600;
 constexpr int kWordOfName = 400;
@@ -32,7 +32,7 @@ bool BeginsWordAt(const std::wstring& text, std::size_t at) {
     return at == 0 || text[at - 1] == L' ' || text[at - 1] == L'-';
 }
 
-/// Of the best place where a word stands in a text.
+/// The score of the best match in the text.
 int ScorePlaces(const std::wstring& text, const std::wstring& word, int atWord, int inside) {
     std::size_t at = text.find(word);
     const int otherwise = at == std::wstring::npos ? 0 : inside;
@@ -75,7 +75,7 @@ CommandSearch::CommandSearch(std::vector<CommandEntry> entries) : m_entries(std:
     for (const CommandEntry& entry : m_entries) {
         m_texts.push_back({SearchedName(entry.name), Lower(entry.description)});
     }
-    // Sorted once here, so that nothing is compared letter by letter at a keystroke.
+    // Sorted once here, so that searching needs no string comparisons.
     std::vector<std::size_t> order(m_texts.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(), [this](std::size_t left, std::size_t right) {
@@ -106,7 +106,7 @@ std::vector<std::size_t> CommandSearch::Find(const CString& query,
     struct Hit {
         std::size_t entry;
         int score;
-        std::size_t age; ///< place among the recent ones
+        std::size_t age; ///< position in the list of recent commands
     };
     const std::vector<std::wstring> words = Words(query);
     std::unordered_map<std::wstring, std::size_t> ages;

@@ -1,4 +1,4 @@
-// Finding commands by what somebody types of them.
+// Searches commands by typed words.
 #pragma once
 
 #include <string>
@@ -10,27 +10,26 @@ namespace Tessaly {
 
 using CommandEntry = ListedCommand;
 
-/// Answers each keystroke among ten thousand commands within a frame: what has to be prepared
-/// is prepared once.
+/// Fast enough to search ten thousand commands per keystroke within a frame: entries are prepared
+/// once.
 class CommandSearch {
 public:
     explicit CommandSearch(std::vector<CommandEntry> entries);
 
     const std::vector<CommandEntry>& Entries() const { return m_entries; }
 
-    /// Places of the entries that fit, best first. Every word of the query has to be found in
-    /// the name or the description, in any order and case: as a whole, at the begin of a
-    /// word, inside of one, or, in the name, as letters in their order ("nwi" finds
-    /// NETWORK_IMPORT). Without words all fit. Among equally good ones those used last come
-    /// first, then those earlier in the alphabet.
-    /// \param recent names of commands, the one used last first
+    /// Indexes of the matching entries, best match first. Every word of the query must match the
+    /// name or the description, in any order and case: a whole word, the start of a word, a part of
+    /// one or, in the name, letters in order ("nwi" finds NETWORK_IMPORT). Without words all
+    /// entries match. Equally good matches are ordered by last use, then alphabetically.
+    /// \param recent names of commands, the most recent first
     std::vector<std::size_t> Find(const CString& query, const std::vector<CString>& recent) const;
 
 private:
     struct Text {
-        std::wstring name;        ///< in lower case, "_" as a blank
+        std::wstring name;        ///< in lower case, with a space for "_"
         std::wstring description; ///< in lower case
-        std::size_t place = 0;    ///< in the alphabet
+        std::size_t place = 0;    ///< in alphabetical order
     };
     static int ScoreWord(const Text& text, const std::wstring& word);
 

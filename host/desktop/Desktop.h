@@ -1,12 +1,12 @@
-// The program with a window.
+// The program's desktop mode.
 #pragma once
 
 #include "host/Options.h"
 
 namespace Tessaly {
 
-/// With the toolkit started, runs the desktop until the user leaves, or until its picture was
-/// drawn.
+/// Runs the desktop until the user quits or the screenshot has been saved. The toolkit must have
+/// been started.
 /// \return the program's exit status
 int RunDesktop(const Options& options);
 

@@ -21,10 +21,10 @@ namespace {
 constexpr const wchar_t* kEscape = L"\x1B";
 constexpr const wchar_t* kTitle = L"Tessaly";
 constexpr std::wstring_view kBlanks = L" \t";
-/// More choices are asked for at the command line.
+/// With more choices, the prompt is shown on the command line.
 constexpr std::size_t kMostButtons = 5;
 
-/// What a box stands on: whatever is in front, or else the frame.
+/// The parent of a message box: null if a window is active, which is used then, else the frame.
 CWnd* Over() {
     return QApplication::activeWindow() ? nullptr : acedGetAcadFrame();
 }
@@ -128,7 +128,7 @@ void DesktopPort::Wait(Question& question, const QString& prompt) {
     question.loop.exec();
     std::erase(m_questions, &question);
     m_window.EndPrompt();
-    acedRunner().WakeSoon(); // what waited for the answer of something that is no command
+    acedRunner().WakeSoon(); // resumes orders that waited for this prompt
 }
 
 void DesktopPort::OnEntered(const QString& line) {
@@ -171,7 +171,7 @@ void DesktopPort::CancelAll() {
 }
 
 void DesktopPort::Alert(std::wstring_view text, std::wstring_view title) {
-    // A script has nobody to take note of it.
+    // A script must not wait for someone to close a box.
     if (!IsAttended() || m_pInput) {
         Print(FormatText(L"%s: %s\n", CString(title), CString(text)));
         return;

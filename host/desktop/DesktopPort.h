@@ -1,4 +1,4 @@
-// How modules talk to the user of the desktop.
+// Prompts and messages on the desktop.
 #pragma once
 
 #include <QEventLoop>
@@ -13,21 +13,20 @@ namespace Tessaly {
 class CommandPane;
 class IPromptWindow;
 
-/// Something that waits for the user in an event loop of its own, while the desktop goes on:
-/// a prompt, or pointing into the drawing.
+/// A prompt or pick that waits for the user in a nested event loop.
 struct Question {
     QEventLoop loop;
-    std::optional<CString> answer; ///< of a prompt, once it was answered
+    std::optional<CString> answer; ///< of a prompt, once answered
     bool takesText = true;
 };
 
-/// Of nested questions the inner one is answered first. Lines of an input, as those of a
-/// script, come before what the user types. Without a desktop (AfxIsDesktopMode) nobody is
-/// there to answer what the input leaves open, and it is cancelled.
+/// Nested questions are answered from the innermost out. Input lines, such as those of a script,
+/// take precedence over typing. Without a desktop (AfxIsDesktopMode) there is nobody to answer, so
+/// prompts left open by the input are cancelled.
 class DesktopPort final : public QObject, public ILinePort {
     Q_OBJECT
 public:
-    /// Takes what the user types in the pane.
+    /// Reads the lines typed in the pane.
     DesktopPort(IPromptWindow& window, const CommandPane& pane);
     ~DesktopPort() override;
 
@@ -36,10 +35,10 @@ public:
 
     void Print(std::wstring_view text) override;
     void PrintLine(std::wstring_view text) override;
-    /// What is printed next begins a line.
+    /// Ends the current line, if any.
     void EndLine();
     PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) override;
-    /// Few choices are buttons of a box, unless an input answers.
+    /// Shows a few choices as buttons, unless the input has an answer.
     PromptEnd GetChoice(const ChoicePrompt& prompt, CString& answer) override;
     void Alert(std::wstring_view text, std::wstring_view title) override;
     void Escape() override { Cancel(); }
@@ -47,7 +46,7 @@ public:
     bool ShowProgress(std::wstring_view what, int percent) override;
     void EndProgress() override;
 
-    /// Everything printed goes to the file, too; null ends that.
+    /// Also writes all output to this file; null stops that.
     void SetTranscript(FileHandle file) { m_transcript = std::move(file); }
     void SetAnswers(const std::vector<CString>& answers) override {
         m_answers = {answers.begin(), answers.end()};
@@ -57,14 +56,14 @@ public:
     void Wait(Question& question, const QString& prompt);
     bool IsPrompting() const override { return !m_questions.empty(); }
     void CancelPrompts() override;
-    /// Cancels all questions, those to come included: the program is about to end.
+    /// Cancels all open and future questions, because the program is about to exit.
     void CancelAll();
 
 private:
-    /// A line is the answer to the innermost question or, if nothing is asked, a command; an
-    /// empty one is the last command again, as draftsmen are used to.
+    /// Answers the innermost question or, if there is none, runs a command; an empty line repeats
+    /// the last command.
     void OnEntered(const QString& line);
-    /// An answer to the innermost question, if that is one that takes a text.
+    /// Answers the innermost question if it accepts text.
     void Answer(const CString& text);
     /// Cancels the innermost question.
     void Cancel();

@@ -37,10 +37,10 @@ namespace Tessaly {
 namespace {
 
 constexpr int kTitleInterval = 500; // ms
-/// Between two looks at what the user does while long work goes on.
+/// Interval for processing user events during a long operation.
 constexpr int kEventInterval = 40; // ms
 
-/// The start page of the help, in the user's language if there is one in it.
+/// The start page of the help, in the user's language if available.
 CString HelpPage() {
     const CString page = GetHostOption(kHostOptionInstall) + L"help/index";
     const CString translated = page + L"_" + Language() + L".htm";
@@ -52,13 +52,13 @@ QString DrawingFilter() {
            QStringLiteral(" (*)");
 }
 
-/// A single "&" would underline the next letter.
+/// Escapes "&", which would underline the next letter.
 QString TabText(const AcApDocument& document) {
     return ToQt(document.title().View()).replace('&', "&&") +
            (document.isModified() ? QStringLiteral(" *") : QString());
 }
 
-/// The dialogs that hold a window, the innermost first.
+/// The dialogs that contain a window, the innermost first.
 std::vector<CDialog*> DialogsAround(CWnd* pWindow) {
     std::vector<CDialog*> dialogs;
     for (; pWindow; pWindow = pWindow->GetParent()) {
@@ -142,8 +142,8 @@ void Frame::LeaveKeyboardTo(DrawingView& view) {
 }
 
 void Frame::keyPressEvent(QKeyEvent* pEvent) {
-    // Whoever types over the drawing means the command line; a key that a pane has left is
-    // not meant for it.
+    // Typing over the drawing goes to the command line, but not keys that another pane has left
+    // unhandled.
     const QWidget* pPane = QApplication::focusWidget();
     while (pPane && !qobject_cast<const QDockWidget*>(pPane)) {
         pPane = pPane->parentWidget();
@@ -180,14 +180,14 @@ void Frame::CommandEnded(const CommandOrder&, bool) {
     }
     UpdateTitles();
     if (HasQuit()) {
-        // Behind what is still open, so that nothing is left in a loop of its own.
+        // Queued, so that nested event loops can end first.
         QMetaObject::invokeMethod(this, "LeaveLoop", Qt::QueuedConnection);
     }
 }
 
 void Frame::LeaveLoop() {
-    // Not by quit(): that would ask every window to close first, and a dialog that stays open
-    // would keep the program.
+    // Not quit(): it would ask every window to close, and a dialog that refuses would keep the
+    // program running.
     QCoreApplication::exit();
 }
 
@@ -216,7 +216,7 @@ void Frame::SaveAsWithDialog() {
     const QString file =
         QFileDialog::getSaveFileName(this, QtText(Msg::SaveAsTitle), {}, DrawingFilter());
     if (!file.isEmpty()) {
-        // The dialog has asked already whether a file may be replaced.
+        // The file dialog has already asked about replacing the file.
         acedRunner().Give(
             {L"SAVEAS", OrderOrigin::Menu, nullptr, {FromQt(file), KeywordAnswer(YesChoice())}});
     }
@@ -238,7 +238,7 @@ void Frame::OpenHelp() {
     }
 }
 
-// What the user is asked, and told.
+// Prompts and output.
 
 void Frame::ShowText(const QString& text) {
     m_pPane->Append(text);
@@ -285,7 +285,7 @@ bool Frame::ShowProgress(const QString& what, int percent) {
 }
 
 void Frame::RestWhileWorking() {
-    // Only stopping is possible meanwhile: the drawing is being worked on.
+    // Disables everything except stopping, because the drawing is being changed.
     m_focusBefore = QApplication::focusWidget();
     m_resting = {centralWidget(), menuBar(), m_pPalette};
     for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
@@ -324,7 +324,7 @@ void Frame::closeEvent(QCloseEvent* pEvent) {
         pEvent->accept();
         return;
     }
-    // QUIT asks about changes, and the modules, and closes the window if all agree.
+    // QUIT asks about unsaved changes, then the modules, and closes the window if all agree.
     pEvent->ignore();
     if (m_pWork->isHidden()) {
         acedRunner().Give({L"QUIT", OrderOrigin::Menu});
@@ -380,7 +380,7 @@ void Frame::OnTabChanged(int index) {
     for (const auto& [pDoc, view] : m_views) {
         if (!m_bFollowing && m_pTabs->widget(index) == view.pView) {
             if (acedRunner().IsBusy()) {
-                // A command works on the drawing that it began with.
+                // A running command keeps working on its drawing, so switch back.
                 documentBecameCurrent(acDocManagerPtr()->curDocument());
             } else {
                 acDocManagerPtr()->setCurDocument(pDoc);
@@ -400,7 +400,7 @@ void Frame::UpdateTitles() {
         }
     }
     const AcApDocument* const pDoc = acDocManagerPtr()->curDocument();
-    // Where the mark of changes goes is told by signs that a name can hold as well.
+    // Qt replaces "[*]" by the mark of unsaved changes; escape it in names.
     setWindowTitle(pDoc ? ToQt(pDoc->title().View()).replace("[*]", "[*][*]") +
                               QStringLiteral("[*] – Tessaly")
                         : QStringLiteral("Tessaly"));

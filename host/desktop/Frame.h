@@ -1,4 +1,4 @@
-// The window of the desktop: drawings in tabs, panes around them, the command line below.
+// The main window: drawings in tabs, surrounded by panes, with the command line below.
 #pragma once
 
 #include <QMainWindow>
@@ -26,8 +26,8 @@ class CommandPalette;
 class DrawingView;
 class SystemTheme;
 
-/// Shows what the document manager has, and gives the command runner what menus and keys ask
-/// for.
+/// Shows the documents of the document manager, and passes orders from menus and keys to the
+/// command runner.
 class Frame final : public QMainWindow,
                     public IPromptWindow,
                     private AcApDocManagerReactor,
@@ -41,17 +41,17 @@ public:
     DrawingView* CurrentView() const;
     CommandPane& Pane() { return *m_pPane; }
 
-    /// Places itself and its panes, as far as the screens allow.
+    /// Restores positions of the window and its panes, as far as the screens allow.
     void ApplyLayout(const Layout& layout);
     Layout CurrentLayout() const;
-    /// "light" or "dark" until the user chooses, and not kept.
+    /// "light" or "dark" until the user chooses a theme; not saved.
     void SetThemeOfRun(const CString& theme);
-    /// Moves all windows to where they can be seen.
+    /// Moves all windows to visible positions.
     void BringAllWindowsHere();
-    /// Panes that float come to lie behind a window that is shown after them.
+    /// Keeps floating panes above a main window shown after them.
     void RaiseFloatingPanes();
 
-    // What the user is asked, and told.
+    // Prompts and output.
     void ShowText(const QString& text) override;
     void BeginPrompt(const QString& prompt, bool takesText) override;
     void SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) override;
@@ -88,9 +88,9 @@ private:
     void SaveAsWithDialog();
     void ImportWithDialog();
     void FillPaneMenu(QMenu& menu);
-    /// Moves the keyboard to the drawing, or to a pane, going round all that are seen.
+    /// Moves the focus to the next visible pane or the drawing, cyclically.
     void GoToPane(int step);
-    /// Keeps it for later runs, too.
+    /// Also saves the theme for later runs.
     void SetTheme(const CString& theme);
     void FollowTheme();
     void RestWhileWorking();
@@ -104,20 +104,20 @@ private:
     QProgressBar* m_pProgress = nullptr;
     QPushButton* m_pStop = nullptr;
     CommandPalette* m_pPalette = nullptr;
-    CWnd m_window; ///< stands for this, for modules
+    CWnd m_window; ///< represents this window to modules
     struct View {
         DrawingView* pView;
-        std::unique_ptr<CWnd> pWindow; ///< stands for it
+        std::unique_ptr<CWnd> pWindow; ///< represents the view to modules
     };
     std::map<AcApDocument*, View> m_views;
     CString m_strTheme;
     std::optional<CString> m_themeOfRun;
     std::unique_ptr<SystemTheme> m_pSystemTheme;
-    std::vector<QPointer<QWidget>> m_resting; ///< while long work goes on
-    QPointer<QWidget> m_focusBefore;          ///< that work
-    QStringList m_prompts;                    ///< that are open, the innermost last
+    std::vector<QPointer<QWidget>> m_resting; ///< disabled during a long operation
+    QPointer<QWidget> m_focusBefore;          ///< focus before the long operation
+    QStringList m_prompts;                    ///< open prompts, the innermost last
     bool m_bStopAsked = false;
-    bool m_bFollowing = false; ///< the tabs are being made to show what is current
+    bool m_bFollowing = false; ///< tabs are being synchronised with the documents
 };
 
 } // namespace Tessaly

@@ -13,7 +13,7 @@
 
 namespace Tessaly {
 
-/// One pointing that waits for the user.
+/// A pick in progress.
 struct FrameDisplay::Pick {
     QPointer<DrawingView> view;
     Question question;
@@ -37,7 +37,7 @@ FrameDisplay::~FrameDisplay() {
 PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) {
     DrawingView* const pView = m_frame.CurrentView();
     if (!pView || m_port.IsScripted()) {
-        // A script points by number.
+        // A script identifies entities by number.
         SetDrawingDisplay(nullptr);
         const int status = acedEntSel(prompt, id, place);
         SetDrawingDisplay(this);
@@ -46,13 +46,13 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
                                    : PickOutcome::Cancelled;
     }
     if (!AfxIsDesktopMode()) {
-        return PickOutcome::Cancelled; // nobody sees the drawing
+        return PickOutcome::Cancelled; // there is no user to pick
     }
     Pick pick;
     pick.view = pView;
     pick.question.takesText = false;
     const auto ended = [&](PickOutcome how, AcDbObjectId picked, double x, double y) {
-        // A click is for the pick that was asked for last.
+        // Clicks go to the innermost pick.
         if (m_picks.back() == &pick) {
             pick.outcome = how;
             id = picked;
@@ -66,7 +66,7 @@ PickOutcome FrameDisplay::PickEntity(const wchar_t* prompt, AcDbObjectId& id, Ac
     pick.Start();
     m_port.Wait(pick.question, ToQt(prompt));
     if (pick.view && pick.view->IsPicking()) {
-        pick.view->CancelPick(); // it was cancelled elsewhere; still the last one, so it alone ends
+        pick.view->CancelPick(); // cancelled elsewhere; the last one, so no other pick ends
     }
     std::erase(m_picks, &pick);
     if (!m_picks.empty()) {

@@ -1,4 +1,4 @@
-// The view of the frame, as modules reach it.
+// Gives modules access to the frame's view.
 #pragma once
 
 #include <vector>
@@ -10,7 +10,7 @@ namespace Tessaly {
 class DesktopPort;
 class Frame;
 
-/// Hands everything on to the view of the current drawing. In force while it lives.
+/// Forwards everything to the view of the current drawing. Installed for its lifetime.
 class FrameDisplay final : public IDrawingDisplay {
 public:
     FrameDisplay(Frame& frame, DesktopPort& port);

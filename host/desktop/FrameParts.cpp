@@ -1,4 +1,4 @@
-// What the window consists of: menus, panes, themes, and where all of it stands.
+// The frame's menus, panes, themes and layout.
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
@@ -22,11 +22,11 @@ namespace Tessaly {
 
 namespace {
 
-/// Of the saved pane states; another number makes old ones unreadable.
+/// Version of the saved pane states; changing it discards older ones.
 constexpr int kPaneVersion = 1;
-constexpr int kCommandHeight = 150; // at first
+constexpr int kCommandHeight = 150; // initial
 
-/// All of it as modules count; see IScreens.
+/// The work areas of all screens in module coordinates; see IScreens.
 std::vector<ScreenRect> WorkAreas() {
     std::vector<ScreenRect> areas;
     for (const Monitor& monitor : Screens().Monitors()) {
@@ -36,7 +36,7 @@ std::vector<ScreenRect> WorkAreas() {
     return areas;
 }
 
-/// With its title bar as far as the place goes: that is what has to be on a screen.
+/// The position includes the title bar, which must stay on a screen; the size does not.
 ScreenRect RectOf(const QWidget& window) {
     const QRect rect =
         window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
@@ -50,14 +50,14 @@ void Place(QWidget& window, const ScreenRect& rect) {
     window.move(rect.left + corner.x, rect.top + corner.y);
 }
 
-/// The next place beside a window for one more of those that are brought to it.
+/// The next cascaded position for a window brought to the main window.
 ScreenRect Beside(const ScreenRect& window, ScreenRect moved, int step) {
     moved.left = window.left + 40 + 30 * step;
     moved.top = window.top + 80 + 30 * step;
     return moved;
 }
 
-/// Gives the keyboard to what a pane shows.
+/// Moves the focus into a pane.
 void FocusInside(QWidget& pane) {
     pane.window()->activateWindow();
     QWidget* pTarget = pane.focusWidget() ? pane.focusWidget() : &pane;
@@ -71,7 +71,7 @@ void FocusInside(QWidget& pane) {
     pTarget->setFocus(Qt::ShortcutFocusReason);
 }
 
-/// What a menu entry does: a command of the host.
+/// A menu entry that runs a host command.
 struct MenuCommand {
     Msg text;
     const char* shortcut;
@@ -149,7 +149,7 @@ void Frame::MakeMenus() {
     pView->addSeparator();
     QMenu* const pPanes = pView->addMenu(QtText(Msg::MenuPanes));
     connect(pPanes, &QMenu::aboutToShow, this, [this, pPanes] { FillPaneMenu(*pPanes); });
-    // Floating panes are windows of their own, and are left by the same keys.
+    // Application shortcuts, because floating panes are windows of their own.
     add(pView, QtText(Msg::MenuNextPane), QStringLiteral("F6"), [this] {
         GoToPane(1);
     })->setShortcutContext(Qt::ApplicationShortcut);
@@ -218,7 +218,7 @@ void Frame::GoToPane(int step) {
     const std::ptrdiff_t from = here == places.end() ? 0 : here - places.begin();
     QWidget& next = *places[static_cast<std::size_t>((from + step + count) % count)];
     if (QDockWidget* const pDock = qobject_cast<QDockWidget*>(next.parentWidget())) {
-        pDock->raise(); // of those that share a place only one is seen
+        pDock->raise(); // only one of the tabbed panes is visible
     }
     if (&next == m_pPane) {
         m_pPane->GoToInput();
@@ -242,7 +242,7 @@ void Frame::FollowTheme() {
     ApplyTheme(m_themeOfRun.value_or(m_strTheme), m_pSystemTheme->Current());
 }
 
-// Where it was.
+// Layout.
 
 void Frame::ApplyLayout(const Layout& layout) {
     acedRunner().SetRecent(layout.recent);
@@ -255,13 +255,13 @@ void Frame::ApplyLayout(const Layout& layout) {
     if (layout.window.width > 0) {
         Place(*this, OnScreen(layout.window, WorkAreas()));
     }
-    // Panes that float belong to a window that is there before them.
+    // Create the native window first, because floating panes belong to it.
     winId();
     restoreState(QByteArray::fromStdString(layout.panes), kPaneVersion);
     if (layout.isMaximized) {
         setWindowState(windowState() | Qt::WindowMaximized);
     }
-    // The command line is how everything is reached.
+    // Always show the command line, through which everything can be reached.
     m_pCommandDock->show();
     if (layout.panes.empty()) {
         resizeDocks({m_pCommandDock}, {kCommandHeight}, Qt::Vertical);
@@ -286,7 +286,7 @@ void Frame::RaiseFloatingPanes() {
     for (QDockWidget* const pDock : findChildren<QDockWidget*>()) {
         if (pDock->isFloating() && pDock->isVisibleTo(this)) {
             const ScreenRect rect = OnScreen(RectOf(*pDock), WorkAreas());
-            // Shown anew: a window manager knows only now to whom it belongs.
+            // Shown again, so that the window manager learns the owner, which now exists.
             pDock->hide();
             Place(*pDock, rect);
             pDock->show();

@@ -1,4 +1,4 @@
-// What the way to the user needs of a window.
+// The window that DesktopPort uses for prompts and output.
 #pragma once
 
 #include <QColor>
@@ -16,10 +16,10 @@ class IPromptWindow {
 public:
     virtual ~IPromptWindow() = default;
 
-    /// At the end of the command line's text.
+    /// Appends to the output of the command line.
     virtual void ShowText(const QString& text) = 0;
     /// Prompts nest; the innermost is shown.
-    /// \param takesText the user is to type the answer
+    /// \param takesText the user types the answer
     virtual void BeginPrompt(const QString& prompt, bool takesText) = 0;
     virtual void EndPrompt() = 0;
     virtual void SetColors(const CommandLineLook& messages, const CommandLineLook& prompt) = 0;

@@ -1,4 +1,4 @@
-// Between the texts of the system and those of the toolkit.
+// Converts texts to and from Qt.
 #pragma once
 
 #include <QString>

@@ -57,7 +57,7 @@ void SystemTheme::OnSettingChanged(const QDBusMessage& message) {
 }
 
 void SystemTheme::Take(const QVariant& value) {
-    // Wrapped once, by some services twice.
+    // The value is wrapped once, and twice by some services.
     QVariant inner = value;
     while (inner.canConvert<QDBusVariant>()) {
         inner = inner.value<QDBusVariant>().variant();

@@ -1,4 +1,4 @@
-// Whether the user's desktop is dark or light.
+// Detects whether the user's desktop is dark or light.
 #pragma once
 
 #include <QDBusMessage>
@@ -6,13 +6,13 @@
 
 namespace Tessaly {
 
-/// Asks the desktop's settings service, and hears from it when the user chooses otherwise.
-/// Without one, and until it has answered, nothing is known.
+/// Queries the desktop's settings service and follows changes. Unknown without such a service, and
+/// until it has answered.
 class SystemTheme final : public QObject {
     Q_OBJECT
 public:
     enum class Scheme { Unknown, Light, Dark };
-    /// Asks without waiting for the answer.
+    /// Sends the query without waiting for the answer.
     SystemTheme();
     Scheme Current() const { return m_scheme; }
 

@@ -9,7 +9,7 @@ namespace Tessaly {
 
 namespace {
 
-/// A colour for what it is used for, in both themes.
+/// A palette role's colour in both themes.
 struct ThemeColor {
     QPalette::ColorRole role;
     QRgb light;
@@ -58,7 +58,7 @@ void ApplyTheme(const CString& theme, SystemTheme::Scheme system) {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
         QApplication::setPalette(MakePalette(isDark));
     } else {
-        // An empty palette is the one that the system asks for.
+        // An empty palette restores the system's.
         QApplication::setPalette(QPalette());
     }
 }

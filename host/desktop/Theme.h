@@ -6,11 +6,11 @@
 
 namespace Tessaly {
 
-/// "light" or "dark"; any other text follows the system, or the palette that it has given the
-/// toolkit where it does not say. Works at any time.
+/// "light" or "dark"; any other text follows the system's setting or, if that is unknown, the
+/// palette that the toolkit got from the system. Can be called at any time.
 void ApplyTheme(const CString& theme, SystemTheme::Scheme system = SystemTheme::Scheme::Unknown);
 
-/// Whether texts are lighter than what they stand on.
+/// Whether text is lighter than its background.
 bool IsDark();
 
 } // namespace Tessaly

@@ -30,6 +30,7 @@ CString DrawingReader::Read(const AcDbDatabase& empty) {
     m_rows.emplace(m_progress);
     m_objects.emplace(empty, m_schema.nextId);
     m_remembered.firstUnwritten = m_schema.nextId;
+    m_remembered.identity = m_schema.identity;
     if (m_schema.exists) {
         m_coordinateSystem = m_schema.coordinateSystem;
     }
@@ -51,6 +52,9 @@ void DrawingReader::MoveInto(AcDbDatabase& database, RememberedFile& remembered)
               [](const auto& a, const auto& b) { return a.id < b.id; });
     const CString wkt = Utf8ToWide(m_coordinateSystem.value_or(""));
     m_objects->MoveInto(database, wkt);
+    for (const AcDbObjectId id : database.dictionaries()) {
+        m_remembered.NoteRecords(static_cast<const AcDbDictionary&>(*database.peek(id)));
+    }
     remembered = std::move(m_remembered);
 }
 

@@ -30,6 +30,8 @@ public:
     /// After success, once.
     void MoveInto(AcDbDatabase& database, RememberedFile& remembered);
     std::vector<CString>& Warnings() { return m_warnings; }
+    /// Tables that the file should have.
+    const std::vector<std::string>& MissingTables() const { return m_schema.missing; }
 
 private:
     /// Rows of one table that were passed over, and the first of them.

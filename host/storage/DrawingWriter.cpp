@@ -6,10 +6,12 @@
 #include <utility>
 
 #include "host/Texts.h"
+#include "host/storage/ConflictTexts.h"
 #include "host/storage/EntityRows.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "host/storage/StoredExtent.h"
 #include "host/storage/SymbolRows.h"
+#include "platform/arx/DbDictionary.h"
 #include "platform/win/CodePage.h"
 
 namespace Tessaly {
@@ -68,14 +70,22 @@ DrawingWriter::DrawingWriter(OpenGeoPackage& file, GdalErrors& errors, const AcD
 
 DrawingWriter::~DrawingWriter() = default;
 
-CString DrawingWriter::Write(Scope scope) {
+CString DrawingWriter::Write(Scope scope, Identity identity) {
     m_scope = scope;
+    m_identity = identity;
     if (!m_file.BeginWriting()) {
         return m_errors.Reason();
     }
     CString reason = LoadSchema(m_file, m_schema);
     if (!reason.IsEmpty()) {
         return reason;
+    }
+    // Looked at here, where nobody else can write any more.
+    if (m_scope != Scope::Everything) {
+        m_conflict = FindConflict(m_file, m_schema, m_remembered, m_database);
+    }
+    if (m_conflict) {
+        return ConflictReason(m_conflict);
     }
     m_nNotedColumns = m_schema.columns.size();
     m_errors.Clear();
@@ -102,7 +112,7 @@ bool DrawingWriter::WriteAll() {
         m_strRefusal = Text(Msg::TooManyObjects);
         return false;
     }
-    if (!CreateSchema(m_file) || !MoveRenumbered()) {
+    if (!ForgetMissingTables(m_file, m_schema) || !CreateSchema(m_file) || !MoveRenumbered()) {
         return false;
     }
     CollectObjects();
@@ -378,9 +388,27 @@ bool DrawingWriter::WriteNotes() {
             return false;
         }
     }
-    return WriteMeta(m_file, "version", std::to_string(kSchemaVersion)) &&
+    return WriteIdentity() && WriteMeta(m_file, "version", std::to_string(kSchemaVersion)) &&
            WriteMeta(m_file, "next_id", std::to_string(m_nNextId)) &&
            WriteMeta(m_file, "srs", WideToUtf8(m_database.coordinateSystem().View()));
+}
+
+bool DrawingWriter::WriteIdentity() {
+    const bool isNewFile = m_identity == Identity::NewFile;
+    m_next = NextIdentity(isNewFile ? FileIdentity() : m_schema.identity);
+    std::optional<NumberRuns> changed;
+    if (m_identity == Identity::Same) {
+        std::vector<std::uint32_t> numbers;
+        // Rows that are only written anew hold what they held.
+        for (const AcDbObjectId id : m_database.unsavedObjects()) {
+            numbers.push_back(id.number());
+        }
+        for (const AcDbObjectId id : m_remembered.made) {
+            numbers.push_back(id.number());
+        }
+        changed.emplace(std::move(numbers));
+    }
+    return (!isNewFile || ClearSaves(m_file)) && NoteSave(m_file, m_next, changed);
 }
 
 void DrawingWriter::Update(RememberedFile& remembered) const {
@@ -388,6 +416,13 @@ void DrawingWriter::Update(RememberedFile& remembered) const {
         const std::string path = std::move(remembered.path);
         remembered = RememberedFile();
         remembered.path = path;
+    }
+    remembered.identity = m_next;
+    for (const AcDbObjectId id : m_objects) {
+        const AcDbObject* pObject = m_database.peek(id);
+        if (pObject && pObject->isA() == AcDbDictionary::desc()) {
+            remembered.NoteRecords(static_cast<const AcDbDictionary&>(*pObject));
+        }
     }
     for (const AcDbObjectId id : m_takenOver) {
         remembered.FindForeign(id)->isOurs = true;

@@ -25,6 +25,12 @@ public:
         Rewrite,    ///< what the file has of ours, and the changes: every row anew
     };
 
+    /// What the file is to be from now on.
+    enum class Identity {
+        Same,    ///< the next state of the file that the drawing was read from
+        NewFile, ///< the first state of another one
+    };
+
     DrawingWriter(OpenGeoPackage& file, GdalErrors& errors, const AcDbDatabase& database,
                   const RememberedFile& remembered, const AcDbProgress& progress);
     ~DrawingWriter();
@@ -32,7 +38,9 @@ public:
     DrawingWriter& operator=(const DrawingWriter&) = delete;
 
     /// Empty on success, else why not: the file is then as it was.
-    CString Write(Scope scope);
+    CString Write(Scope scope, Identity identity);
+    /// After a failure: the file is not in the state that the drawing knows.
+    const AcDbConflict& Conflict() const { return m_conflict; }
     /// After success: what is to be remembered of the file now.
     void Update(RememberedFile& remembered) const;
     /// Objects that are not in the file, since it has no table for their class.
@@ -56,6 +64,7 @@ private:
     bool InsertBeside(Table& table, OGRFeature& row);
     bool TakeOver(AcDbObjectId id);
     bool WriteNotes();
+    bool WriteIdentity();
     bool FinishTables();
     CString FailureReason();
 
@@ -65,6 +74,9 @@ private:
     const RememberedFile& m_remembered;
     RowProgress m_progress;
     Scope m_scope = Scope::Changes;
+    Identity m_identity = Identity::Same;
+    FileIdentity m_next; ///< the file's after this writing
+    AcDbConflict m_conflict;
     Schema m_schema;
     std::size_t m_nNotedColumns = 0;
     std::size_t m_nUnknown = 0;

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "host/Texts.h"
+#include "host/storage/ConflictTexts.h"
 #include "host/storage/Journals.h"
 #include "host/storage/SystemFile.h"
 #include "platform/win/File.h"
@@ -64,7 +65,9 @@ std::string AbsolutePath(const wchar_t* path) {
 CString WhyNoDatabase(const std::string& path) {
     struct stat info {};
     if (stat(path.c_str(), &info) != 0) {
-        return errno == ENOENT ? Text(Msg::NoSuchFile) : ErrnoText(errno);
+        return errno == ENOENT  ? Text(Msg::NoSuchFile)
+               : errno == ELOOP ? LinkLoopReason()
+                                : ErrnoText(errno);
     }
     if (!S_ISREG(info.st_mode)) {
         return S_ISDIR(info.st_mode) ? Text(Msg::IsFolder) : Text(Msg::NotRegularFile);
@@ -89,7 +92,7 @@ CString WhyNotWritable(const std::string& path) {
         return access(checked.c_str(), W_OK) != 0 && errno != ENOENT;
     };
     if (isProtected(path)) {
-        return Text(Msg::WriteProtected);
+        return errno == ELOOP ? LinkLoopReason() : Text(Msg::WriteProtected);
     }
     // Every write keeps a journal beside the file.
     return isProtected(fs::path(BehindLinks(path)).parent_path().string())

@@ -5,6 +5,7 @@
 
 #include "host/Texts.h"
 #include "platform/win/CodePage.h"
+#include "platform/win/File.h"
 
 namespace Tessaly {
 
@@ -26,6 +27,7 @@ constexpr Meaning kMeanings[] = {
     {"read-only", Msg::WriteProtected},
     {"unable to open database file", Msg::CannotOpenOrWrite},
     {"malformed", Msg::IsDamaged},
+    {"replaced while it was opened", Msg::ReplacedMeanwhile},
     {"not a database", Msg::DamagedOrOther},
     {"disk I/O error", Msg::DiskFailed},
     {"not recognized as", Msg::DamagedOrUnknown},
@@ -85,7 +87,7 @@ GdalSetting::~GdalSetting() {
 }
 
 CString FileReason(const std::string& nativePath, const CString& reason) {
-    return CString(Utf8ToWide(nativePath)) + L": " + reason;
+    return WidePath(nativePath) + L": " + reason;
 }
 
 } // namespace Tessaly

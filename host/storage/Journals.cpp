@@ -7,6 +7,7 @@
 #include "host/Texts.h"
 #include "host/storage/OpenGeoPackage.h"
 #include "host/storage/SystemFile.h"
+#include "host/storage/WriteLock.h"
 
 namespace Tessaly {
 
@@ -56,14 +57,13 @@ CString ClearJournals(const std::string& path) {
     if (!HasJournal(path) || RemoveOrphans(path)) {
         return {};
     }
-    GdalErrors errors;
     {
-        OpenGeoPackage file(path, OpenGeoPackage::Mode::Write);
-        if (!file.IsOpen() || !file.Execute("BEGIN IMMEDIATE")) {
-            return errors.Reason();
+        WriteLock lock(BehindLinks(path));
+        CString reason = lock.Take();
+        if (!reason.IsEmpty()) {
+            return reason;
         }
         RemoveColdJournal(path);
-        file.Execute("COMMIT");
     }
     return HasJournal(path) ? Text(Msg::OpenElsewhere) : CString();
 }

@@ -23,7 +23,8 @@ std::string Quote(const std::string& text, char mark) {
 
 } // namespace
 
-OpenGeoPackage::OpenGeoPackage(const std::string& path, Mode mode) {
+OpenGeoPackage::OpenGeoPackage(const std::string& path, Mode mode)
+    : m_path(path), m_number(FileNumberOf(path)) {
     // Only this format: other drivers look for their files everywhere, and take their time.
     static std::once_flag once;
     std::call_once(once, [] {
@@ -109,7 +110,15 @@ bool OpenGeoPackage::Begin() {
 
 bool OpenGeoPackage::BeginWriting() {
     // GDAL has no transaction that begins with the lock, but any write takes it.
-    return Begin() && Execute("DELETE FROM gpkg_contents WHERE 0");
+    if (!Begin() || !Execute("DELETE FROM gpkg_contents WHERE 0")) {
+        return false;
+    }
+    // What is written into a file that lost its name is lost.
+    const bool isSame = m_number == FileNumber() || FileNumberOf(m_path) == m_number;
+    if (!isSame) {
+        CPLError(CE_Failure, CPLE_AppDefined, "replaced while it was opened");
+    }
+    return isSame;
 }
 
 bool OpenGeoPackage::Commit() {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "host/storage/GdalErrors.h"
+#include "host/storage/SystemFile.h"
 
 class GDALDataset;
 class OGRFeature;
@@ -39,7 +40,7 @@ public:
 
     bool Begin();
     /// The same for a write: another program's is waited for now, which is not possible once
-    /// something was read.
+    /// something was read. Fails if another file has meanwhile taken the place of this one.
     bool BeginWriting();
     /// Everything to the disk, or nothing of it.
     bool Commit();
@@ -49,6 +50,8 @@ private:
     void Open(const std::string& path, Mode mode);
     bool IsDurable();
 
+    std::string m_path;
+    FileNumber m_number; ///< of the file when it was opened
     GDALDataset* m_pDataset = nullptr;
     bool m_bInTransaction = false;
 };

@@ -11,6 +11,22 @@ const RememberedFile::Foreign* RememberedFile::FindForeign(AcDbObjectId id) cons
     return found != foreign.end() && found->id == id && !found->isOurs ? &*found : nullptr;
 }
 
+std::size_t SumOf(const CString& text) {
+    return std::hash<std::wstring_view>()(text.View());
+}
+
+void RememberedFile::NoteRecords(const AcDbDictionary& dictionary) {
+    if (dictionary.isErased()) {
+        dictionaries.erase(dictionary.name());
+        return;
+    }
+    Records& sums = dictionaries[dictionary.name()];
+    sums.clear();
+    for (const auto& [name, text] : dictionary.records()) {
+        sums.emplace(name, SumOf(text));
+    }
+}
+
 bool RememberedFile::HasRow(AcDbObjectId id) const {
     if (id.number() < firstUnwritten) {
         return !FindForeign(id);

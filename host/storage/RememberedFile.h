@@ -2,14 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "host/storage/Schema.h"
-#include "platform/arx/DbObject.h"
+#include "platform/arx/DbDictionary.h"
 
 namespace Tessaly {
+
+/// By which texts of records are compared with what they were.
+std::size_t SumOf(const CString& text);
 
 struct RememberedFile {
     /// An entity that stands for a row of somebody else's table.
@@ -30,6 +34,7 @@ struct RememberedFile {
     std::string path;
     /// Changes with every write of any program; other than at our last: somebody wrote.
     std::uint32_t changeCounter = 0;
+    FileIdentity identity;
     /// Objects from this id on are not in the file.
     std::uint32_t firstUnwritten = 0;
     /// Objects that were made while reading, and are not in the file either.
@@ -38,11 +43,20 @@ struct RememberedFile {
     std::vector<std::string> foreignTables;
     std::vector<Foreign> foreign; ///< in the order of ids
     std::vector<IdRun> newRuns;   ///< not noted in the file yet
+    /// Sums of the texts of records as the file has them, by dictionary and record.
+    using Records = std::map<CString, std::size_t, CStringLess>;
+    std::map<CString, Records, CStringLess> dictionaries;
 
     /// Null if the entity is no row of another's table, or not any more.
     const Foreign* FindForeign(AcDbObjectId id) const;
     /// A row of ours stands for the entity, or did so before it was erased.
     bool HasRow(AcDbObjectId id) const;
+    /// What others save into the file can be told from what is in the drawing: ids below
+    /// firstUnwritten mean the same in both, and those above are the drawing's own.
+    bool CanFollow() const { return firstUnwritten > 0 && renumbered.empty() && newRuns.empty(); }
+    /// Keeps the sums of a dictionary that was read or written.
+    void NoteRecords(const AcDbDictionary& dictionary);
+
     Foreign* FindForeign(AcDbObjectId id) {
         return const_cast<Foreign*>(std::as_const(*this).FindForeign(id));
     }

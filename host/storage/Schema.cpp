@@ -1,5 +1,6 @@
 #include "host/storage/Schema.h"
 
+#include <algorithm>
 #include <charconv>
 #include <functional>
 #include <map>
@@ -39,6 +40,14 @@ const std::vector<Table>& Tables() {
           {"place", OFTInteger64},
           {"first_id", OFTInteger64},
           {"count", OFTInteger64}}},
+        {kSaveTable,
+         {{"revision", OFTInteger64},
+          {"save_id", OFTString},
+          {"saved_by", OFTString},
+          {"host", OFTString},
+          {"program", OFTString},
+          {"saved_at", OFTString},
+          {"changed", OFTString}}},
     };
     return tables;
 }
@@ -112,6 +121,22 @@ bool CreateTable(OpenGeoPackage& file, const Table& table) {
     return pLayer->SyncToDisk() == OGRERR_NONE;
 }
 
+void FindMissingTables(OpenGeoPackage& file, Schema& schema) {
+    for (const Table& table : Tables()) {
+        // A file that no save has marked never had the notes about saves.
+        const bool isExpected =
+            table.name != std::string_view(kSaveTable) || !schema.identity.guid.empty();
+        if (isExpected && !file.Table(table.name)) {
+            schema.missing.emplace_back(table.name);
+        }
+    }
+    for (const std::string& table : schema.tables) {
+        if (!table.empty() && !file.Table(table)) {
+            schema.missing.push_back(table);
+        }
+    }
+}
+
 /// A dictionary's records are looked up whenever it is written.
 bool CreateIndex(OpenGeoPackage& file) {
     return file.Execute("CREATE INDEX IF NOT EXISTS orv_records_by_dictionary ON orv_records "
@@ -156,11 +181,14 @@ CString LoadSchema(OpenGeoPackage& file, Schema& schema) {
     }
     schema.exists = true;
     schema.nextId = static_cast<std::uint32_t>(nextId);
+    schema.identity = {meta["guid"], std::max<std::int64_t>(WholeOf(meta["revision"]), 0),
+                       meta["save_id"]};
     schema.coordinateSystem = meta["srs"];
     for (std::size_t i = 0; i < kEntityKinds; ++i) {
         schema.tables[i] = meta[std::string("table.") + kEntityTables[i]];
         schema.lastFids[i] = WholeOf(meta[std::string("last.") + kEntityTables[i]]);
     }
+    FindMissingTables(file, schema);
     return LoadNotes(file, schema) ? CString() : damaged;
 }
 
@@ -171,6 +199,34 @@ bool CreateSchema(OpenGeoPackage& file) {
         }
     }
     return CreateIndex(file);
+}
+
+bool ForgetMissingTables(OpenGeoPackage& file, Schema& schema) {
+    for (const std::string& table : schema.missing) {
+        // The one that the others point to comes last.
+        for (const char* list :
+             {"gpkg_geometry_columns", "gpkg_ogr_contents", "gpkg_extensions", "gpkg_contents"}) {
+            bool isThere = false;
+            if (!file.Query("SELECT name FROM sqlite_master WHERE name = " + QuoteText(list),
+                            [&isThere](const OGRFeature&) { isThere = true; }) ||
+                (isThere && !file.Execute("DELETE FROM " + std::string(list) +
+                                          " WHERE table_name = " + QuoteText(table)))) {
+                return false;
+            }
+        }
+    }
+    for (std::size_t i = 0; i < kEntityKinds; ++i) {
+        std::string& table = schema.tables[i];
+        if (std::find(schema.missing.begin(), schema.missing.end(), table) !=
+            schema.missing.end()) {
+            table.clear();
+            if (!file.Execute("DELETE FROM orv_meta WHERE key = " +
+                              QuoteText(std::string("table.") + kEntityTables[i]))) {
+                return false;
+            }
+        }
+    }
+    return true;
 }
 
 bool WriteMeta(OpenGeoPackage& file, const std::string& key, const std::string& value) {

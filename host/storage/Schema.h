@@ -2,8 +2,9 @@
 //
 //   nodes, sections,     feature tables: a row is an entity, its fid the object's id, its
 //   polygons, texts      columns the attributes, and those of kColumns
-//   orv_meta             key and value: "version", "next_id", "srs", and for each of the feature
-//                        tables that there are "table.nodes", "last.nodes"
+//   orv_meta             key and value: "version", "next_id", "srs", for each of the feature
+//                        tables that there are "table.nodes", "last.nodes", and which file it
+//                        is in which state: "guid", "revision", "save_id"
 //   orv_layers           fid is the object's id in this and the next two
 //   orv_blocks
 //   orv_dictionaries
@@ -11,6 +12,8 @@
 //   orv_columns          columns that are not named as the attribute that they hold
 //   orv_foreign          rows of others' tables that the drawing replaced or erased
 //   orv_ids              runs of ids that the entities of others' tables have
+//   orv_saves            the last saves: who and when, and the ids of the objects that were
+//                        written or erased; see SaveHistory.h
 #pragma once
 
 #include <array>
@@ -20,6 +23,7 @@
 #include <tuple>
 #include <vector>
 
+#include "host/storage/SaveHistory.h"
 #include "platform/win/String.h"
 
 class OGRFeature;
@@ -40,6 +44,7 @@ inline constexpr const char* kRecordTable = "orv_records";
 inline constexpr const char* kColumnTable = "orv_columns";
 inline constexpr const char* kForeignTable = "orv_foreign";
 inline constexpr const char* kIdTable = "orv_ids";
+inline constexpr const char* kSaveTable = "orv_saves";
 
 /// Kinds of entities, one feature table each.
 enum class EntityKind : std::uint8_t { Node, Section, Polygon, Text };
@@ -77,6 +82,7 @@ struct ColumnName {
 struct Schema {
     bool exists = false;
     std::uint32_t nextId = 0;
+    FileIdentity identity;
     std::string coordinateSystem;
     /// Real names: another one where the plain one was taken. Empty: not made yet.
     std::array<std::string, kEntityKinds> tables;
@@ -85,6 +91,8 @@ struct Schema {
     std::vector<ColumnName> columns;
     std::set<ForeignKey> foreign;
     std::vector<IdRun> runs;
+    /// Tables that the file has had, and that somebody has dropped.
+    std::vector<std::string> missing;
 
     bool IsOurs(const std::string& table) const;
 };
@@ -94,6 +102,8 @@ CString LoadSchema(OpenGeoPackage& file, Schema& schema);
 
 /// Makes the tables that are missing, except those of entities.
 bool CreateSchema(OpenGeoPackage& file);
+/// Takes what the file notes about its missing tables out of it, so that they can be made anew.
+bool ForgetMissingTables(OpenGeoPackage& file, Schema& schema);
 bool WriteMeta(OpenGeoPackage& file, const std::string& key, const std::string& value);
 
 /// A field's text; empty where there is none.

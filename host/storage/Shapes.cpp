@@ -286,8 +286,12 @@ ShapeResult ReadShapes(std::span<const unsigned char> bytes, IShapeSink& sink) {
         break;
     }
     OGRGeometry* pGeometry = nullptr;
+    // A broken geometry is one row's damage; reported as an error it would be the file's.
+    CPLPushErrorHandler(CPLQuietErrorHandler);
     const OGRErr result =
         OGRGeometryFactory::createFromWkb(wkb.data(), nullptr, &pGeometry, wkb.size());
+    CPLPopErrorHandler();
+    CPLErrorReset();
     const std::unique_ptr<OGRGeometry> geometry(pGeometry);
     return result == OGRERR_NONE && geometry ? ReadShapes(*geometry, sink) : ShapeResult::NotPlace;
 }

@@ -32,7 +32,17 @@ private:
 /// Why the operating system refused, from its number.
 CString ErrnoText(int number);
 
-/// The file itself: that is what is replaced, and what journals lie beside.
+/// Tells a file from one that takes its name; the same for all names of a file.
+struct FileNumber {
+    dev_t device = 0;
+    ino_t number = 0;
+    bool operator==(const FileNumber&) const = default;
+};
+/// All zero if there is no such file.
+FileNumber FileNumberOf(const std::string& path);
+
+/// The file itself: that is what is replaced, and what journals lie beside. Of links that lead
+/// to no file yet, the place where it would be; of links that lead in a circle, the path.
 std::string BehindLinks(const std::string& path);
 
 /// Removes a file with the journals beside it.

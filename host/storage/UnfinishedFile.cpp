@@ -11,6 +11,7 @@
 
 #include "host/Texts.h"
 #include "host/storage/OpenGeoPackage.h"
+#include "host/storage/Processes.h"
 #include "host/storage/SystemFile.h"
 
 namespace Tessaly {
@@ -20,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Longest part of the target's name in a temporary name: both have to fit a file system.
-constexpr std::size_t kLongestStem = 150;
+constexpr std::size_t kLongestStem = 100;
 
 const std::string& PartSuffix() {
     static const std::string suffix = ".part" + std::string(kGeoPackageExtension);
@@ -31,32 +32,22 @@ std::string PartPrefix(const fs::path& target) {
     return "." + target.filename().string().substr(0, kLongestStem) + ".";
 }
 
-/// Number of the process in the name of a temporary file; 0 if it is not one of the target.
-pid_t WriterOf(const std::string& name, const std::string& prefix) {
-    if (name.compare(0, prefix.size(), prefix) != 0) {
+/// Behind the target's name: a folder may be shared by machines that number processes alike.
+std::string WriterPart(pid_t writer) {
+    return ThisProcess().host + "." + std::to_string(writer);
+}
+
+/// Number of the process of this machine that writes, or wrote, a temporary file; 0 if it is
+/// none of this machine's.
+pid_t WriterOf(const std::string& name) {
+    const std::size_t suffix = name.rfind(PartSuffix());
+    const std::size_t number = suffix == name.npos ? name.npos : name.rfind('.', suffix - 1);
+    if (number == name.npos || name.front() != '.') {
         return 0;
     }
     pid_t writer = 0;
-    const char* pEnd = name.data() + name.size();
-    const auto parsed = std::from_chars(name.data() + prefix.size(), pEnd, writer);
-    const std::string_view rest(parsed.ptr, static_cast<std::size_t>(pEnd - parsed.ptr));
-    return rest.starts_with(PartSuffix()) ? writer : 0;
-}
-
-void ClearLeftovers(const fs::path& target) {
-    const std::string prefix = PartPrefix(target);
-    std::error_code error;
-    std::vector<fs::path> leftovers;
-    for (fs::directory_iterator it(target.parent_path(), error), end; !error && it != end;
-         it.increment(error)) {
-        const pid_t writer = WriterOf(it->path().filename().string(), prefix);
-        if (writer > 0 && (writer == getpid() || (kill(writer, 0) != 0 && errno == ESRCH))) {
-            leftovers.push_back(it->path());
-        }
-    }
-    for (const fs::path& leftover : leftovers) {
-        fs::remove(leftover, error);
-    }
+    std::from_chars(name.data() + number + 1, name.data() + suffix, writer);
+    return name.substr(0, suffix).ends_with("." + WriterPart(writer)) ? writer : 0;
 }
 
 CString SyncFile(const std::string& path, int flags) {
@@ -69,12 +60,30 @@ CString SyncFile(const std::string& path, int flags) {
 
 } // namespace
 
+void ClearLeftovers(const std::string& path) {
+    std::error_code error;
+    std::vector<fs::path> leftovers;
+    const fs::path folder = fs::path(BehindLinks(path)).parent_path();
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        const std::string name = it->path().filename().string();
+        const pid_t writer = name.find(PartSuffix()) == name.npos ? 0 : WriterOf(name);
+        if (writer > 0 && writer != getpid() && kill(writer, 0) != 0 && errno == ESRCH) {
+            leftovers.push_back(it->path());
+        }
+    }
+    for (const fs::path& leftover : leftovers) {
+        fs::remove(leftover, error);
+    }
+}
+
 UnfinishedFile::UnfinishedFile(const std::string& target) : m_target(BehindLinks(target)) {
     const fs::path targetPath(m_target);
-    ClearLeftovers(targetPath);
-    m_path = (targetPath.parent_path() /
-              (PartPrefix(targetPath) + std::to_string(getpid()) + PartSuffix()))
-                 .string();
+    ClearLeftovers(m_target);
+    m_path =
+        (targetPath.parent_path() / (PartPrefix(targetPath) + WriterPart(getpid()) + PartSuffix()))
+            .string();
+    // Of an earlier process of the same number.
+    RemoveWithJournals(m_path);
 }
 
 UnfinishedFile::~UnfinishedFile() {

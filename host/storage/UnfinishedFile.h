@@ -7,6 +7,10 @@
 
 namespace Tessaly {
 
+/// Removes what processes that died left unfinished in the folder of a file, whatever they
+/// meant to write.
+void ClearLeftovers(const std::string& path);
+
 /// A file under another name beside its target until it is complete. Gone with its journals
 /// unless it was put in place. Those of processes that died are cleared away.
 class UnfinishedFile {

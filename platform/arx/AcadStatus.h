@@ -1,4 +1,4 @@
-// How operations on the drawing's database end.
+// Status codes of database operations.
 #pragma once
 
 namespace Acad {
@@ -12,8 +12,8 @@ enum ErrorStatus : int {
     eDuplicateKey = 8,
     eNoDatabase = 9,
     eNotOpenForWrite = 10,
-    eWasOpenForRead = 82,  ///< somebody reads it, so it cannot be written
-    eWasOpenForWrite = 83, ///< somebody writes it already
+    eWasOpenForRead = 82,  ///< open for reading elsewhere, so not writable
+    eWasOpenForWrite = 83, ///< already open for writing
 };
 } // namespace Acad
 

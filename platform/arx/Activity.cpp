@@ -22,7 +22,7 @@ ActivityScope::~ActivityScope() {
 }
 
 void NoteInterruptedActivity(const CString& subject, const wchar_t* step) {
-    // The innermost scope is unwound first and has the most to tell.
+    // The innermost scope is unwound first and is the most specific.
     if (Interrupted().IsEmpty()) {
         Interrupted().Format(L"%s: %s", subject, step);
     }

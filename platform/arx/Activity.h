@@ -1,15 +1,15 @@
-// What was going on when an exception passed by.
+// Records which call into a module an exception interrupted.
 //
-// Code that calls into somebody else's module says so with an ActivityScope. Nothing is
-// caught there; if an exception leaves the scope, its description is kept, so that the
-// host, which catches at its command line, can tell the user who failed.
+// Code that calls into another module opens an ActivityScope around the call. The scope catches
+// nothing; if an exception leaves it, its description is kept so that the host, which catches at
+// its command line, can report which module failed.
 #pragma once
 
 #include "platform/win/String.h"
 
 class PLATFORM_API ActivityScope {
 public:
-    /// Both texts have to outlive the scope; they are only put together when needed.
+    /// Both texts must outlive the scope; they are only joined when an exception leaves it.
     ActivityScope(const wchar_t* subject, const wchar_t* step);
     ~ActivityScope();
     ActivityScope(const ActivityScope&) = delete;
@@ -21,16 +21,16 @@ private:
     int m_nExceptions;
 };
 
-/// The same for code that catches an exception to pass it on: keeps who was at work, unless
-/// somebody further inside has said so already.
+/// The same for code that catches and rethrows: records the activity unless an inner scope already
+/// has.
 PLATFORM_API void NoteInterruptedActivity(const CString& subject, const wchar_t* step);
 
-/// The innermost activity that the last exception left, as "subject: step", and forgets it.
+/// Returns the innermost activity that the last exception left, as "subject: step", and clears it.
 /// Empty if there was none.
 PLATFORM_API CString TakeInterruptedActivity();
 
-/// Sets aside what is kept of an exception that is still on its way, or that somebody has caught
-/// meanwhile: what is kept in this scope is of what happens in it.
+/// Sets aside the record of an exception that is still in flight or already caught, so that only
+/// activities interrupted inside this scope are recorded here. Restores it at the end.
 class PLATFORM_API OwnActivities {
 public:
     OwnActivities();

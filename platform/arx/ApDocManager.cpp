@@ -50,7 +50,7 @@ void AcApDocument::setPath(const CString& path) {
     m_strTitle = FileNameOf(path);
 }
 
-/// The time in which a drawing is saved: it stays open, and is the working database.
+/// Keeps a document open and its database the working one during a save.
 class AcApDocManager::Saving {
 public:
     Saving(const AcApDocManager& manager, AcApDocument& document)
@@ -67,7 +67,7 @@ public:
     Saving(const Saving&) = delete;
     Saving& operator=(const Saving&) = delete;
 
-    /// What is put into the drawing now is not the user's doing, so it is not theirs to undo.
+    /// Changes that reactors make now are not the user's, so they are not undoable.
     void TellBegin(const CString& path) {
         const AcDbUndoPause pause(*m_document.database());
         acedEditor()->fireBeginSave(m_document.database(), path);
@@ -80,11 +80,12 @@ private:
 
 template <class Call>
 void AcApDocManager::Tell(Call call) {
-    // Over a copy: a reactor may attach or remove reactors while it is being told.
+    // Iterate over a copy: a reactor may add or remove reactors during the call.
     const std::vector<AcApDocManagerReactor*> reactors = m_reactors;
     for (AcApDocManagerReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
-            // Each keeps track of the same documents, so none may miss what another fails at.
+            // Every reactor tracks the same documents, so a failing one must not hide events from
+            // the others.
             Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }
@@ -150,6 +151,8 @@ AcDbStorageResult AcApDocManager::openDocument(const wchar_t* path, const AcDbPr
         return result;
     }
     pNew->setPath(file);
+    pNew->setReadOnly(result.readOnlyReason);
+    m_pStorage->MarkOpen(*pNew->database());
     pDoc = pNew.get();
     m_documents.push_back(std::move(pNew));
     setCurDocument(pDoc);
@@ -167,6 +170,10 @@ AcDbStorageResult AcApDocManager::Save(AcApDocument& document, const CString& pa
     saving.TellBegin(path);
     result = write();
     if (result.ok()) {
+        if (document.path() != path || document.isReadOnly()) {
+            document.setReadOnly(L"");
+            m_pStorage->MarkOpen(*document.database());
+        }
         document.setPath(path);
         acedEditor()->fireSaveComplete(document.database(), path);
     }
@@ -177,6 +184,9 @@ AcDbStorageResult AcApDocManager::saveDocument(AcApDocument* pDoc, const AcDbPro
     if (!m_pStorage || !IsOpen(pDoc) || !pDoc->hasFile()) {
         return Refusal(IsOpen(pDoc) ? pDoc->fileName() : L"",
                        m_pStorage ? PlatformMsg::HasNoFile : PlatformMsg::CannotSave);
+    }
+    if (pDoc->isReadOnly()) {
+        return Refusal(pDoc->fileName(), PlatformMsg::OpenReadOnly);
     }
     const CString path = pDoc->path();
     return Save(*pDoc, path, [&] { return m_pStorage->Save(*pDoc->database(), path, progress); });
@@ -192,9 +202,29 @@ AcDbStorageResult AcApDocManager::saveDocumentAs(AcApDocument* pDoc, const wchar
     if (pOwner && pOwner != pDoc) {
         return Refusal(file, PlatformMsg::FileInUse);
     }
+    if (pOwner && pDoc->isReadOnly()) {
+        return Refusal(file, PlatformMsg::OpenReadOnly);
+    }
     const CString from = pDoc->path();
     return Save(*pDoc, file,
                 [&] { return m_pStorage->SaveAs(*pDoc->database(), from, file, progress); });
+}
+
+AcDbStorageResult AcApDocManager::compareDocument(AcApDocument* pDoc, const AcDbProgress& progress,
+                                                  AcDbComparison& comparison) {
+    if (!m_pStorage || !IsOpen(pDoc) || !pDoc->hasFile()) {
+        return Refusal(L"", PlatformMsg::HasNoFile);
+    }
+    return m_pStorage->Compare(*pDoc->database(), progress, comparison);
+}
+
+AcDbStorageResult AcApDocManager::takeOverDocument(AcApDocument* pDoc, const AcDbProgress& progress,
+                                                   AcDbComparison& comparison) {
+    if (!m_pStorage || !IsOpen(pDoc) || !pDoc->hasFile()) {
+        return Refusal(L"", PlatformMsg::HasNoFile);
+    }
+    const Saving working(*this, *pDoc);
+    return m_pStorage->TakeOver(*pDoc->database(), progress, comparison);
 }
 
 void AcApDocManager::setCurDocument(AcApDocument* pDoc) {

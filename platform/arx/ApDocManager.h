@@ -1,5 +1,5 @@
-// The host's open documents, which of them is current, where they are kept, and who is told
-// about it.
+// The host's open documents: which one is current, where they are stored, and the reactors that are
+// notified about them.
 #pragma once
 
 #include <memory>
@@ -9,37 +9,41 @@
 #include "platform/arx/DbStorage.h"
 #include "platform/win/Types.h"
 
-/// What stands between the changes of a drawing and its picture.
+/// Connects changes of a drawing with its display.
 class PLATFORM_API AcTransactionManager {
 public:
-    /// Has the view of the current drawing show at once what has changed; see
-    /// IDrawingDisplay::Update.
+    /// Updates the view of the current drawing immediately; see IDrawingDisplay::Update.
     void flushGraphics();
 };
 
 /// One open drawing. Owned by the document manager.
 class PLATFORM_API AcApDocument : public AcRxObject {
 public:
-    /// A drawing that has a name and no file yet.
+    /// A new drawing that has a name but no file yet.
     explicit AcApDocument(const wchar_t* name)
         : m_strTitle(name), m_pDatabase(std::make_unique<AcDbDatabase>()) {}
 
-    /// Path of the drawing's file, or the name of a new drawing that has none yet.
+    /// Path of the drawing's file, or the drawing's name if it has no file yet.
     const wchar_t* fileName() const { return hasFile() ? m_strPath : m_strTitle; }
-    /// Absolute path of the drawing's file; empty for a new drawing.
+    /// Absolute path of the drawing's file; empty if it has none.
     const CString& path() const { return m_strPath; }
     bool hasFile() const { return !m_strPath.IsEmpty(); }
-    /// The file name without its folder, or the name of a new drawing.
+    /// The file name without its folder, or the drawing's name if it has no file yet.
     const CString& title() const { return m_strTitle; }
     AcDbDatabase* database() const { return m_pDatabase.get(); }
     AcTransactionManager* transactionManager() { return &m_transactions; }
-    /// Shows at once what has changed, if the drawing is the current one. Others are shown
-    /// as they are when they become current.
+    /// Updates the view immediately if this is the current drawing. Other drawings are redrawn when
+    /// they become current.
     void refreshView();
-    /// It has changes that are not in its file.
+    /// True if there are changes that have not been saved.
     bool isModified() const { return m_pDatabase->isModified(); }
 
-    /// A document is not closed while somebody holds a lock on it. Locks nest.
+    /// Why the drawing cannot be saved to its own file; empty if it can.
+    const CString& readOnlyReason() const { return m_strReadOnlyReason; }
+    bool isReadOnly() const { return !m_strReadOnlyReason.IsEmpty(); }
+    void setReadOnly(const CString& reason) { m_strReadOnlyReason = reason; }
+
+    /// A locked document cannot be closed. Locks nest.
     void lock() { ++m_nLocks; }
     void unlock() { --m_nLocks; }
     bool isLocked() const { return m_nLocks > 0; }
@@ -52,17 +56,19 @@ private:
     AcTransactionManager m_transactions;
     CString m_strPath;
     CString m_strTitle;
+    CString m_strReadOnlyReason;
     std::unique_ptr<AcDbDatabase> m_pDatabase;
 };
 
-/// Is told about documents, on the main thread, in the order of registration.
-/// Not owned by the manager.
+/// Notified about documents on the main thread, in the order of registration. Not owned by the
+/// manager.
 class PLATFORM_API AcApDocManagerReactor : public AcRxObject {
 public:
     virtual void documentToBeDestroyed(AcApDocument* /*pDoc*/) {}
-    /// The document is gone; only its file name is left.
+    /// The document no longer exists; only its file name is passed.
     virtual void documentDestroyed(const wchar_t* /*lpszFileName*/) {}
-    /// Null when the last document has gone. One that was opened is read whole.
+    /// Null after the last document was closed. A document opened from a file is fully loaded by
+    /// now.
     virtual void documentBecameCurrent(AcApDocument* /*pDoc*/) {}
     virtual void documentToBeDeactivated(AcApDocument* /*pDoc*/) {}
 };
@@ -79,44 +85,53 @@ public:
     int documentCount() const { return static_cast<int>(m_documents.size()); }
     /// In the order of opening.
     const std::vector<std::unique_ptr<AcApDocument>>& documents() const { return m_documents; }
-    /// Null if there is no document.
+    /// Null if no document is open.
     AcApDocument* curDocument() const { return m_pCurrent; }
-    /// The document whose file this is, by whatever name; null if none has it open.
+    /// The document whose file this is, even if the path is spelled differently; null if it is not
+    /// open.
     AcApDocument* documentOf(const wchar_t* path) const;
 
-    /// Opens a new empty drawing under a name and makes it current.
+    /// Creates an empty drawing with the given name and makes it current.
     AcApDocument* newDocument(const wchar_t* name);
-    /// The same under the next name that is free of "Drawing1", "Drawing2", ...
+    /// The same, named with the first free name of "Drawing1", "Drawing2", ...
     AcApDocument* newDocument();
-    /// Makes a document current: the old one is told first that it will no longer be.
+    /// Makes a document current. The previous one is deactivated first.
     void setCurDocument(AcApDocument* pDoc);
-    /// Destroys a document; the one opened last of the others becomes current. False, and
-    /// nothing happens, for a locked document and for one that is not open.
+    /// Destroys a document; the most recently opened of the remaining ones becomes current. Returns
+    /// false and does nothing if the document is locked or not open.
     bool closeDocument(AcApDocument* pDoc);
 
-    // Files. A path is completed as drawingPath does.
-    /// Where drawings are kept; not owned. Without one, opening and saving are refused.
+    // Files. Paths are completed by drawingPath.
+    /// The storage of drawings; not owned. Without one, opening and saving are refused.
     void setStorage(IDbStorage* pStorage) { m_pStorage = pStorage; }
-    /// acdbDrawingPath with the extension of the storage.
+    IDbStorage* storage() const { return m_pStorage; }
+    /// Completes a path by acdbDrawingPath, with the storage's extension.
     CString drawingPath(const wchar_t* path) const;
-    /// Reads a drawing and makes it current; one whose file is open already only becomes
-    /// current. After a failure pDoc is null, and no reactor has heard of anything.
+    /// Reads a drawing and makes it current. If its file is already open, that document becomes
+    /// current instead. On failure pDoc is null and no reactor is called.
     AcDbStorageResult openDocument(const wchar_t* path, const AcDbProgress& progress,
                                    AcApDocument*& pDoc);
-    /// Writes a drawing into its file. Editor reactors are told before, with the drawing as
-    /// the working database: what they change is part of the save, and no step of the undo
-    /// history. They are told again after a success. After a failure the drawing counts as
-    /// modified as before.
+    /// Writes a drawing to its file. Editor reactors are called before, with the drawing as the
+    /// working database: their changes are part of the save and are not undoable. They are called
+    /// again after a successful save. After a failure the drawing counts as modified as before.
     AcDbStorageResult saveDocument(AcApDocument* pDoc, const AcDbProgress& progress);
-    /// The same into another file, or for the first time, which becomes the drawing's own. An
-    /// existing file is replaced. Refused for a file that another document has open.
+    /// Writes a drawing to another file, or to its first one, which becomes the drawing's own. An
+    /// existing file is replaced. Refused if the file is open in another document. Afterwards the
+    /// drawing is no longer read-only.
     AcDbStorageResult saveDocumentAs(AcApDocument* pDoc, const wchar_t* path,
                                      const AcDbProgress& progress);
 
-    /// Makes a module's dialogs and icons the ones that are found first.
+    /// IDbStorage::Compare and TakeOver for a drawing that has a file. Refused while a command is
+    /// running on the drawing.
+    AcDbStorageResult compareDocument(AcApDocument* pDoc, const AcDbProgress& progress,
+                                      AcDbComparison& comparison);
+    AcDbStorageResult takeOverDocument(AcApDocument* pDoc, const AcDbProgress& progress,
+                                       AcDbComparison& comparison);
+
+    /// Makes a module's dialogs and icons take precedence over those pushed before.
     void pushResourceHandle(HINSTANCE hInstance) { m_resources.push_back(hInstance); }
     void popResourceHandle();
-    /// Null while nothing was pushed.
+    /// Null if no module was pushed.
     HINSTANCE resourceHandle() const { return m_resources.empty() ? nullptr : m_resources.back(); }
 
 private:
@@ -131,7 +146,7 @@ private:
     std::vector<std::unique_ptr<AcApDocument>> m_documents;
     AcApDocument* m_pCurrent = nullptr;
     IDbStorage* m_pStorage = nullptr;
-    int m_nLastNew = 0; ///< number in the last name that was given to a new drawing
+    int m_nLastNew = 0; ///< number in the last generated name
     std::vector<AcApDocManagerReactor*> m_reactors;
     std::vector<HINSTANCE> m_resources;
 };

@@ -19,7 +19,7 @@ constexpr Rgb Grey(int level) {
     return Make(level, level, level);
 }
 
-// 1 to 9; the seventh is asked of the background.
+// Indices 1 to 9; the seventh depends on the background.
 constexpr std::array<Rgb, 9> kNamed = {
     Make(255, 0, 0), Make(255, 255, 0), Make(0, 255, 0), Make(0, 255, 255),
     Make(0, 0, 255), Make(255, 0, 255), kWhite,          Grey(128),
@@ -31,7 +31,7 @@ constexpr std::array<int, 5> kBrightness = {255, 165, 127, 76, 38};
 constexpr std::array<int, 6> kGreys = {51, 91, 132, 173, 214, 255};
 
 /// One of the 24 hues, 15 degrees apart.
-/// \param high,low the largest and the smallest part of the colour
+/// \param high,low largest and smallest component of the colour
 constexpr Rgb Hue(int hue, int high, int low) {
     constexpr int kStepsPerSide = 4;
     const int side = hue / kStepsPerSide;

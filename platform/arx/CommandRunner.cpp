@@ -17,11 +17,11 @@ namespace {
 constexpr std::size_t kMostRecent = 30;
 constexpr const wchar_t* kPrompt = L"> ";
 
-/// What becomes of an order by where it comes from.
+/// How an order is treated, depending on its origin.
 struct OriginRule {
     OrderOrigin origin;
-    bool isEchoed;     ///< nothing on the command line shows it yet
-    bool isRemembered; ///< Enter repeats it; it can be found among the recent ones
+    bool isEchoed;     ///< echoed because the command line does not show it yet
+    bool isRemembered; ///< repeated by Enter and listed among the recent commands
 };
 constexpr OriginRule kOriginRules[] = {
     {OrderOrigin::Typed, true, true},    {OrderOrigin::Palette, true, true},
@@ -36,7 +36,7 @@ const OriginRule& RuleOf(OrderOrigin origin) {
                          [origin](const OriginRule& rule) { return rule.origin == origin; });
 }
 
-/// What is known of the running command, apart from those around it.
+/// State of the running command; nested commands have their own.
 struct Running {
     bool hasFailed = false;
     CString text;
@@ -57,8 +57,8 @@ private:
     Running m_outer;
 };
 
-/// One step of the undo history of the drawing that is current at its beginning, which the
-/// command may close. Groups that the command left open end with it.
+/// One undo step in the drawing that is current at its start, which the command may close. Ends the
+/// groups that the command left open.
 class UndoStep final : public AcApDocManagerReactor {
 public:
     explicit UndoStep(const wchar_t* name) : m_pDoc(acDocManagerPtr()->curDocument()) {
@@ -90,7 +90,7 @@ private:
     int m_nGroupsBefore = 0;
 };
 
-/// A command of the stack, with the words behind its name.
+/// A registered command and the text after its name.
 struct NamedCommand {
     std::shared_ptr<const AcEdCommand> command;
     CString text;

@@ -1,4 +1,4 @@
-// The one way in which commands run, whoever asks for them.
+// Runs every command, wherever the order comes from.
 #pragma once
 
 #include <deque>
@@ -7,9 +7,9 @@
 
 #include "platform/arx/EdCommandStack.h"
 
-/// Who asks for a command.
+/// Where an order comes from.
 enum class OrderOrigin {
-    Typed, ///< at the command line, where the line is gone once it was entered
+    Typed, ///< entered at the command line, which is cleared on Enter
     Palette,
     Menu,
     Tree,
@@ -17,63 +17,63 @@ enum class OrderOrigin {
     Timer,
     Module,  ///< acedPostCommand
     Console, ///< the text console, which is a command itself
-    Script,  ///< a line of an input that is shown as it is read
+    Script,  ///< a line of an input that is echoed as it is read
 };
 
-/// A command that somebody asks for.
+/// A request to run a command.
 struct CommandOrder {
-    CString id; ///< as it was typed; also names the undo step
+    CString id; ///< as typed; also names the undo step
     OrderOrigin origin = OrderOrigin::Typed;
-    /// What to run; null: what the command stack has under the id. Whatever the command needs
-    /// to know is in there, and nobody else's business.
+    /// The work to run; null runs the command registered under the id. Captures whatever the
+    /// command needs.
     std::function<CommandOutcome()> work = nullptr;
-    std::vector<CString> answers = {}; ///< for its first prompts
+    std::vector<CString> answers = {}; ///< for the command's first prompts
 };
 
-/// Is told of each command on the main thread. Not owned.
+/// Notified of each command on the main thread. Not owned.
 class PLATFORM_API ICommandWatcher {
 public:
     virtual ~ICommandWatcher() = default;
     virtual void CommandBegins(const CommandOrder& /*order*/) {}
-    /// \param hasThrown with the exception on its way to whoever contains it
+    /// \param hasThrown true while an exception is propagating to its handler
     virtual void CommandEnded(const CommandOrder& /*order*/, bool /*hasThrown*/) {}
 };
 
-/// Commands run one at a time: what is asked for while one runs waits for its end. A command
-/// may run others as parts of it.
+/// Runs commands one at a time: orders given while a command runs wait for its end. A command may
+/// run others as parts of itself.
 ///
-/// What a command changes in the drawing that is current at its beginning is one step of the
-/// undo history; also if it throws.
+/// The changes a command makes to the drawing that is current at its start form one undo step, even
+/// if the command throws.
 class PLATFORM_API CommandRunner {
 public:
     explicit CommandRunner(const AcEdCommandStack& stack) : m_stack(stack) {}
     CommandRunner(const CommandRunner&) = delete;
     CommandRunner& operator=(const CommandRunner&) = delete;
 
-    /// Has the command run from the message loop, once what is going on now has ended. A
-    /// command that waits at a prompt is cancelled for it.
+    /// Queues an order; it runs from the message loop once the current activity has ended. Cancels
+    /// the prompt of a command that waits at one.
     void Post(CommandOrder order);
-    /// Runs it at once if nothing else runs; otherwise as Post.
+    /// Runs the order now if nothing else is running; otherwise the same as Post.
     void Give(CommandOrder order);
-    /// Runs it now, within the running command if there is one. What it throws ends here; the
-    /// user is told of that, and of an unknown command.
+    /// Runs the order now, within the running command if there is one. Exceptions are caught and
+    /// reported, and so is an unknown command.
     CommandOutcome Run(const CommandOrder& order);
-    /// Runs it now as a part of the running command, to which it passes on what it throws. An
-    /// unknown command is only answered as such.
+    /// Runs the order now as part of the running command. Exceptions propagate to that command; an
+    /// unknown command is returned as such but not reported.
     CommandOutcome RunInside(const CommandOrder& order);
-    /// Runs what waits, unless something else runs.
+    /// Runs the waiting orders unless something else is running.
     void RunWaiting();
-    /// Has RunWaiting called from the message loop.
+    /// Calls RunWaiting from the message loop.
     void WakeSoon();
 
-    /// A command runs, or something waits for the user's answer.
+    /// True while a command runs or a prompt waits for an answer.
     bool IsBusy() const;
     bool HasWaiting() const { return !m_waiting.empty(); }
-    /// The program ends: what waits is dropped, and nothing is taken any more.
+    /// Called when the program ends: drops the waiting orders and accepts no more.
     void Stop();
     bool IsStopped() const { return m_bStopped; }
 
-    /// Commands that users asked for by name, the one used last first, in upper case.
+    /// Commands that users ran by name, most recent first, in upper case.
     const std::vector<CString>& Recent() const { return m_recent; }
     void SetRecent(std::vector<CString> recent) { m_recent = std::move(recent); }
 
@@ -91,16 +91,16 @@ private:
     std::deque<CommandOrder> m_waiting;
     std::vector<CString> m_recent;
     std::vector<ICommandWatcher*> m_watchers;
-    int m_nDepth = 0; ///< commands that run, one inside of the other
+    int m_nDepth = 0; ///< number of nested running commands
     bool m_bStopped = false;
 };
 
 /// The runner of the host's commands.
 PLATFORM_API CommandRunner& acedRunner();
 
-/// Says that the running command was not carried out, for commands that are plain functions;
-/// why is for the command to print. A script stops at it.
+/// Marks the running command as failed, for commands that are plain functions; they report the
+/// reason themselves. A script stops at a failed command.
 PLATFORM_API void acedSetCommandFailed();
-/// What was typed behind the name of the running command, without blanks around it. Empty
-/// unless the command takes texts (ACRX_CMD_TAKES_TEXT).
+/// The text typed after the name of the running command, trimmed. Empty unless the command accepts
+/// text (ACRX_CMD_TAKES_TEXT).
 PLATFORM_API const CString& acedCommandText();

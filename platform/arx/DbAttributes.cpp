@@ -39,10 +39,10 @@ std::optional<std::int64_t> AcDbValue::asInteger() const {
     return std::nullopt;
 }
 
-/// One value. Trivial, so that a block of them moves by copying bytes; who drops one
-/// releases its letters first.
+/// One value. Trivial, so that blocks of slots can be moved bytewise; the block's code must release
+/// the slot's text explicitly.
 struct AcDbAttributes::Slot {
-    std::uint32_t tag; ///< name and, above it, kind
+    std::uint32_t tag; ///< kind in the upper bits, name in the lower ones
     std::uint32_t length;
     union {
         double real;
@@ -88,7 +88,7 @@ AcDbAttributes::Slot AcDbAttributes::Slot::Make(AcDbNameId name, const AcDbValue
 
 void AcDbAttributes::Slot::SetText(std::string_view text) {
     if (text.size() > UINT32_MAX) {
-        throw std::length_error("A text of an attribute is too long.");
+        throw std::length_error("The text of an attribute is too long.");
     }
     length = static_cast<std::uint32_t>(text.size());
     if (length > kInlineLetters) {
@@ -125,7 +125,7 @@ struct AcDbAttributes::Block {
     }
 };
 
-/// Frees the block alone: its slots have moved.
+/// Frees the block only: its slots have been moved.
 struct AcDbAttributes::FreeBlock {
     void operator()(Block* pBlock) const { ::operator delete(pBlock); }
 };
@@ -166,7 +166,7 @@ std::size_t AcDbAttributes::size() const {
 
 AcDbAttributes::Item AcDbAttributes::at(std::size_t index) const {
     if (index >= size()) {
-        throw std::out_of_range("There is no attribute of this index.");
+        throw std::out_of_range("The index of an attribute is out of range.");
     }
     const Slot& slot = m_pBlock->Slots()[index];
     return {slot.Name(), slot.Value()};
@@ -192,7 +192,7 @@ bool AcDbAttributes::has(AcDbNameId name) const {
 
 void AcDbAttributes::set(AcDbNameId name, const AcDbValue& value) {
     if (Slot* const pSlot = find(name)) {
-        // Made before the old one goes: the value may be the old text itself.
+        // Created before the old value is released: the new value may refer to its text.
         const Slot slot = Slot::Make(name, value);
         pSlot->Release();
         *pSlot = slot;
@@ -201,7 +201,7 @@ void AcDbAttributes::set(AcDbNameId name, const AcDbValue& value) {
     const std::size_t count = size();
     std::unique_ptr<Block, FreeBlock> old;
     if (!m_pBlock || count == m_pBlock->capacity) {
-        // Kept to the end: the value may be a text inside of it.
+        // Freed last: the value may refer to a text in it.
         old.reset(relocate(count + std::max<std::size_t>(2, count / 2)));
     }
     m_pBlock->Slots()[count] = Slot::Make(name, value);

@@ -8,20 +8,20 @@
 
 #include "platform/Api.h"
 
-/// Number of an attribute's name; the same in all databases of a process.
+/// Number of an attribute name; the same in all databases of a process.
 enum class AcDbNameId : std::uint32_t {};
 
-/// The number of a name, given at its first use. Names are UTF-8 and told apart by case.
-/// From any thread. Throws std::length_error once there are 2^24 names.
+/// The number of a name, assigned at its first use. Names are UTF-8 and case-sensitive.
+/// Thread-safe. Throws std::length_error after 2^24 names.
 PLATFORM_API AcDbNameId AcDbIntern(std::string_view name);
-/// The number for a name in what another program has written. The names by which entities
-/// belong to systems of the drawing ("SYSTEMID" and others) are kept for the drawing's own
-/// entities: theirs get a "_" behind them.
+/// The number of a name read from another program's file. The names that link entities to systems
+/// of the drawing ("SYSTEMID" and others) are reserved for the drawing's own entities; foreign ones
+/// get a trailing "_".
 PLATFORM_API AcDbNameId AcDbInternForeign(std::string_view name);
-/// Valid to the end of the process; empty for a number that was never given.
+/// Valid until the process ends; empty for an unassigned number.
 PLATFORM_API std::string_view AcDbNameOf(AcDbNameId id);
 
-/// A value as it is handed in and out. A view: a text belongs to whoever made it.
+/// An attribute value, as a view: it does not own its text.
 class PLATFORM_API AcDbValue {
 public:
     enum class Kind : std::uint8_t { Null, Real, Integer, Text };
@@ -35,11 +35,11 @@ public:
 
     Kind kind() const { return m_kind; }
     bool isNull() const { return m_kind == Kind::Null; }
-    /// An integer counts as a number; nothing for a text.
+    /// Integers are converted; nothing for a text.
     std::optional<double> asReal() const;
-    /// A real number counts if it is whole and fits.
+    /// Real numbers are converted if they are whole and in range.
     std::optional<std::int64_t> asInteger() const;
-    /// Empty unless it is a text.
+    /// Empty if it is not a text.
     std::string_view asText() const { return m_kind == Kind::Text ? m_text : std::string_view(); }
 
 private:
@@ -49,8 +49,8 @@ private:
     std::string_view m_text;
 };
 
-/// Named values in the order in which they were set; sixteen bytes each, and the letters of
-/// texts that are longer than eight bytes. Copies are deep.
+/// Named values in the order they were set. Each takes sixteen bytes, plus the characters of texts
+/// longer than eight bytes. Copies are deep.
 class PLATFORM_API AcDbAttributes {
 public:
     struct Item {
@@ -66,20 +66,20 @@ public:
 
     std::size_t size() const;
     Item at(std::size_t index) const;
-    /// A null value if there is none of the name.
+    /// A null value if the name does not exist.
     AcDbValue get(AcDbNameId name) const;
     bool has(AcDbNameId name) const;
-    /// Adds or replaces. A null value is kept as one. The text may be one of these attributes'
-    /// own. Throws std::length_error for a text of 4 GiB or more.
+    /// Adds or replaces. A null value is stored as such. The text may belong to these attributes
+    /// themselves. Throws std::length_error for a text of 4 GiB or more.
     void set(AcDbNameId name, const AcDbValue& value);
-    /// False if there was none.
+    /// False if the name did not exist.
     bool remove(AcDbNameId name);
     void reserve(std::size_t count);
 
 private:
     struct Slot;
     struct FreeBlock;
-    struct Block; ///< header with counts, slots behind it: one allocation for all values
+    struct Block; ///< header with counts, followed by the slots: one allocation for all values
     Slot* find(AcDbNameId name) const;
     /// Returns the old block, which the caller frees.
     Block* relocate(std::size_t capacity);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <string>
 
 #include "platform/arx/DbClass.h"
 #include "platform/arx/DbUndo.h"
@@ -62,11 +63,11 @@ AcDbObjectId AcDbDatabase::append(std::unique_ptr<AcDbObject> pObject) {
 
 AcDbObjectId AcDbDatabase::appendEntity(std::unique_ptr<AcDbEntity> pEntity, AcDbObjectId block) {
     if (!pEntity) {
-        throw std::logic_error("There is no entity to add to the drawing.");
+        throw std::logic_error("Cannot add a null entity to the drawing.");
     }
     if (m_bLoading) {
         pEntity->m_block = block;
-        return append(std::move(pEntity)); // endLoading gives it its place
+        return append(std::move(pEntity)); // endLoading adds it to its block
     }
     pEntity->m_block = block.isNull() ? m_modelSpace : block;
     if (pEntity->m_layer.isNull()) {
@@ -81,9 +82,28 @@ AcDbObjectId AcDbDatabase::appendEntity(std::unique_ptr<AcDbEntity> pEntity, AcD
     return append(std::move(pEntity));
 }
 
+void AcDbDatabase::restoreEntity(AcDbObjectId id, std::unique_ptr<AcDbEntity> pEntity,
+                                 AcDbObjectId block) {
+    auto* const pBlock = live<AcDbBlockTableRecord>(block);
+    const bool isFree = id.number() > 0 && id.number() < m_objects.size() && !object(id);
+    if (m_bLoading || !pEntity || !pBlock || !isFree ||
+        !live<AcDbLayerTableRecord>(pEntity->m_layer)) {
+        throw std::logic_error("An entity cannot be brought back under the number " +
+                               std::to_string(id.number()) + ".");
+    }
+    pEntity->m_block = block;
+    // At the position it would have if it had been read with the others.
+    std::vector<AcDbObjectId>& ids = pBlock->m_entities;
+    ids.insert(std::lower_bound(ids.begin(), ids.end(), id), id);
+    AcDbObject& restored = adopt(id, std::move(pEntity));
+    markUnsaved(restored);
+    m_pUndo->noteCreated(restored);
+    tellAppended(restored);
+}
+
 AcDbDatabase::Names* AcDbDatabase::namesOf(const AcDbObject& object, CString& key) {
     if (object.m_bEntity) {
-        return nullptr; // the many; spares the casts
+        return nullptr; // the most frequent case; avoids the casts
     }
     if (const auto* const pLayer = dynamic_cast<const AcDbLayerTableRecord*>(&object)) {
         key = LowerCase(pLayer->getName());

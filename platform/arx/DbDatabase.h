@@ -1,4 +1,4 @@
-// The drawing's database and the services by which modules reach the current one.
+// The drawing's database and the services through which modules reach the current one.
 #pragma once
 
 #include <memory>
@@ -11,47 +11,47 @@
 
 class AcDbUndo;
 
-/// Hears of changes of a database. Not owned. Called when an object that was changed is
-/// closed, and when undo or redo changed it; the object may be read, not opened. Reactors may
-/// come and go during a call: one that comes hears from the next event on.
+/// Notified of changes of a database. Not owned. Called when a changed object is closed and when
+/// undo or redo has changed it; the object may be read but not opened. Reactors may be added and
+/// removed during a call; an added one is called from the next event on.
 class PLATFORM_API AcDbDatabaseReactor {
 public:
     virtual ~AcDbDatabaseReactor() = default;
     virtual void objectAppended(const AcDbDatabase*, const AcDbObject*) {}
     virtual void objectModified(const AcDbDatabase*, const AcDbObject*) {}
-    /// False: it is back, by undoing its erasure or redoing its creation among others.
+    /// False: restored, for instance by undoing its erasure or redoing its creation.
     virtual void objectErased(const AcDbDatabase*, const AcDbObject*, bool /*bErased*/) {}
-    /// The whole content is another one: the drawing was read.
+    /// The entire content was replaced: a drawing was read.
     virtual void databaseReplaced(const AcDbDatabase*) {}
     /// The database is about to go, and will not ask for its reactors to be removed.
     virtual void goodbye(const AcDbDatabase*) {}
 };
 
-/// One drawing's content. Owned by its document. Main thread only.
+/// The content of one drawing. Owned by its document. Main thread only.
 class PLATFORM_API AcDbDatabase : public AcRxObject {
 public:
     static AcRxClass* desc();
     AcRxClass* isA() const override { return desc(); }
-    /// With layer "0" and the model space.
+    /// Contains layer "0" and the model space.
     AcDbDatabase();
     ~AcDbDatabase() override;
     AcDbDatabase(const AcDbDatabase&) = delete;
     AcDbDatabase& operator=(const AcDbDatabase&) = delete;
 
-    // Adding. The database takes ownership and gives the id.
-    /// To the model space, or to a block. The entity's layer is layer "0" unless it has one.
-    /// Throws std::logic_error for a null entity, and for a layer or block that the database
-    /// does not have.
+    // Adding. The database takes ownership and assigns the id.
+    /// Adds an entity to the model space or to a block. An entity without a layer is put on layer
+    /// "0". Throws std::logic_error for a null entity and for a layer or block that is not in the
+    /// database.
     AcDbObjectId appendEntity(std::unique_ptr<AcDbEntity> pEntity, AcDbObjectId block = {});
     /// The layer of a name; made if there is none. An erased one comes back as it was (a
     /// dictionary without its records): a name belongs to one object for good.
     AcDbObjectId layer(const wchar_t* name);
-    /// Null id if there is none.
+    /// Null id if it does not exist.
     AcDbObjectId findLayer(const wchar_t* name) const;
-    AcDbObjectId block(const wchar_t* name); ///< without regard to case, as layers
+    AcDbObjectId block(const wchar_t* name); ///< not case-sensitive, like layers
     AcDbObjectId findBlock(const wchar_t* name) const;
     AcDbObjectId modelSpace() const { return m_modelSpace; }
-    AcDbObjectId dictionary(const wchar_t* name); ///< told apart by case
+    AcDbObjectId dictionary(const wchar_t* name); ///< case-sensitive
     AcDbObjectId findDictionary(const wchar_t* name) const;
     /// In the order of creation, without erased ones.
     std::vector<AcDbObjectId> layers() const;
@@ -61,8 +61,8 @@ public:
     /// For whoever only reads, without opening. Null for an unknown id; an erased object is
     /// given too.
     const AcDbObject* peek(AcDbObjectId id) const;
-    /// The same for entities of the model space: calls visit(const AcDbEntity&) for each
-    /// that is not erased, in the order of adding. What is added meanwhile is not visited.
+    /// Calls visit(const AcDbEntity&) for each entity of the model space that is not erased, in the
+    /// order of adding. Entities added meanwhile are not visited.
     template <class Visit>
     void forEachEntity(Visit&& visit) const;
     std::size_t entityCount() const { return m_nEntities; } ///< not erased, all blocks
@@ -71,36 +71,45 @@ public:
     const CString& coordinateSystem() const { return m_strCoordinateSystem; }
     void setCoordinateSystem(const wchar_t* wkt);
 
-    // Undo. A group is what one UNDO takes back; outside of groups, what was changed between
-    // the opening and the closing of one object is one.
+    // Undo. A group is one undo step; outside groups, the changes between opening and closing one
+    // object form a step.
     AcDbUndo& undo() { return *m_pUndo; }
-    /// While it is switched off, changes leave no trace in the history. Calls do not nest.
+    /// While disabled, changes are not recorded in the history. Calls do not nest.
     void disableUndoRecording(bool bDisable);
     bool isUndoRecordingDisabled() const;
 
-    // What a storage needs.
-    /// Something differs from the file.
+    // For storages.
+    /// True if anything differs from the file.
     bool isModified() const { return !m_unsaved.empty() || m_bHeaderUnsaved; }
-    /// Objects that do, each once, erased ones included, in the order of their first change.
+    /// Objects that differ from the file, each once, including erased ones, in the order of their
+    /// first change.
     std::span<const AcDbObjectId> unsavedObjects() const { return m_unsaved; }
     bool isHeaderUnsaved() const { return m_bHeaderUnsaved; }
     void markSaved();
     /// The next id to be given; ids below it have been used.
     std::uint32_t nextId() const { return static_cast<std::uint32_t>(m_objects.size()); }
-    /// Fills an empty database: objects keep their ids, nothing counts as unsaved or
-    /// undoable, and reactors hear of it once, at endLoading. What the database held is
-    /// dropped; throws std::logic_error if an object of it is open. Room is made for nextId
-    /// objects at once, so the number has to be believable.
+    /// Prepares for loading into an empty database. Loaded objects keep their ids and are neither
+    /// unsaved nor undoable; reactors are notified once, by endLoading. Existing content is
+    /// dropped; throws std::logic_error if one of its objects is open. Allocates room for nextId
+    /// objects at once, so the caller must have checked the number.
     void beginLoading(std::uint32_t nextId);
-    /// In any order, but before the layer, block or dictionary of that name is asked for.
-    /// Throws std::logic_error, and takes nothing, for a null id, one that is
-    /// not below nextId or is in use, and for a second layer, block or dictionary of a name.
+    /// Adds a loaded object, in any order, but before the layer, block or dictionary of its name is
+    /// asked for. Throws std::logic_error and adds nothing for a null id, an id that is in use or
+    /// not below nextId, and a second layer, block or dictionary of the same name.
     void load(AcDbObjectId id, std::unique_ptr<AcDbObject> pObject, AcDbObjectId block = {});
-    /// Entities take their places in their blocks, by number. One on a layer (block) that
-    /// was not loaded comes to layer "0" (the model space), which are made if not loaded.
+    /// Adds the entities to their blocks, ordered by id. Entities whose layer (block) was not
+    /// loaded are put on layer "0" (into the model space), which are created if necessary.
     void endLoading();
-    /// Gives up: the database is a new, empty one. Reactors hear nothing.
+    /// Aborts loading and leaves a new, empty database. Reactors are not notified.
     void cancelLoading();
+
+    /// Restores an entity that was not loaded, with its former id, which must be below nextId and
+    /// unused. It counts as unsaved. Otherwise the same as appendEntity.
+    void restoreEntity(AcDbObjectId id, std::unique_ptr<AcDbEntity> pEntity, AcDbObjectId block);
+    /// Moves another database's content into this one, keeping ids and unsaved states; the other
+    /// one is empty afterwards. Reactors are notified as after loading. Previous content and undo
+    /// history are dropped. Throws std::logic_error if an object of either database is open.
+    void takeContent(AcDbDatabase& other);
 
     void addReactor(AcDbDatabaseReactor* pReactor);
     void removeReactor(AcDbDatabaseReactor* pReactor);
@@ -122,10 +131,11 @@ private:
     void endWriting(AcDbObject& object);
 
     void reset();
-    /// Gives a new object the next id and tells of it.
+    /// Assigns the next id to a new object and notifies the reactors.
     AcDbObjectId append(std::unique_ptr<AcDbObject> pObject);
     AcDbObject& adopt(AcDbObjectId id, std::unique_ptr<AcDbObject> pObject);
-    /// Null for an object that has no name. Its key there goes to `key`.
+    /// The map that holds the object's name, and in `key` its key there. Null for an unnamed
+    /// object.
     Names* namesOf(const AcDbObject& object, CString& key);
     template <class T>
     AcDbObjectId named(Names& names, const CString& key, const wchar_t* name);
@@ -136,7 +146,7 @@ private:
 
     bool isInUse(const AcDbObject& object) const;
     Acad::ErrorStatus mayErase(const AcDbObject& object, bool bErasing) const;
-    /// Without a note in the history.
+    /// Not recorded in the history.
     void setErased(AcDbObject& object, bool bErased);
     void markUnsaved(AcDbObject& object);
 
@@ -150,7 +160,7 @@ private:
     // Index is the id's number; 0 stays empty.
     std::vector<std::unique_ptr<AcDbObject>> m_objects;
     std::vector<AcDbObjectId> m_unsaved;
-    // With erased ones. Layers and blocks in lower case.
+    // Including erased ones. Layer and block names in lower case.
     Names m_layersByName;
     Names m_blocksByName;
     Names m_dictionariesByName;
@@ -160,18 +170,17 @@ private:
     CString m_strCoordinateSystem;
     bool m_bHeaderUnsaved = false;
     bool m_bLoading = false;
-    std::size_t m_nOpen = 0; ///< objects, not openings
+    std::size_t m_nOpen = 0; ///< objects, however often each is open
     std::size_t m_nWriters = 0;
     std::unique_ptr<AcDbUndo> m_pUndo;
-    // Null where one went during a call.
+    // Reactors removed during a call are replaced by null.
     std::vector<AcDbDatabaseReactor*> m_reactors;
     int m_nTelling = 0;
 };
 
 class PLATFORM_API AcDbHostApplicationServices {
 public:
-    /// The database that operations without a database argument work on; null if no
-    /// document is current.
+    /// The database used by operations that do not name one; null if no document is current.
     AcDbDatabase* workingDatabase() const { return m_pWorkingDatabase; }
     void setWorkingDatabase(AcDbDatabase* pDatabase) { m_pWorkingDatabase = pDatabase; }
 
@@ -193,7 +202,7 @@ void AcDbDatabase::forEachEntity(Visit&& visit) const {
     const auto* const pSpace = static_cast<const AcDbBlockTableRecord*>(peek(m_modelSpace));
     const std::size_t count = pSpace ? pSpace->entityIds().size() : 0;
     for (std::size_t i = 0; i < count; ++i) {
-        // Looked up each time: a visitor that adds entities moves the list.
+        // Looked up each time: a visitor that adds entities may reallocate the list.
         const AcDbObject* const pObject = m_objects[pSpace->entityIds()[i].number()].get();
         if (!pObject->isErased()) {
             visit(static_cast<const AcDbEntity&>(*pObject));

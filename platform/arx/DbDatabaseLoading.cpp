@@ -21,7 +21,7 @@ void AcDbDatabase::reset() {
 
 void AcDbDatabase::beginLoading(std::uint32_t nextId) {
     if (m_nOpen > 0) {
-        throw std::logic_error("A drawing was to be read while objects of it are open.");
+        throw std::logic_error("Cannot read a drawing while objects of it are open.");
     }
     m_pUndo->clear();
     m_unsaved.clear();
@@ -45,7 +45,7 @@ void AcDbDatabase::cancelLoading() {
 void AcDbDatabase::load(AcDbObjectId id, std::unique_ptr<AcDbObject> pObject, AcDbObjectId block) {
     const bool free = id.number() < m_objects.size() && !m_objects[id.number()];
     if (!m_bLoading || !pObject || id.isNull() || !free) {
-        throw std::logic_error("An object cannot be read into the drawing under the number " +
+        throw std::logic_error("Cannot read an object into the drawing with the number " +
                                std::to_string(id.number()) + ".");
     }
     CString key;
@@ -68,8 +68,33 @@ void AcDbDatabase::endLoading() {
     tellReplaced();
 }
 
+void AcDbDatabase::takeContent(AcDbDatabase& other) {
+    if (m_nOpen > 0 || other.m_nOpen > 0) {
+        throw std::logic_error("A drawing was to be replaced while objects of it are open.");
+    }
+    m_pUndo->clear();
+    other.m_pUndo->clear();
+    m_objects = std::move(other.m_objects);
+    for (const auto& pObject : m_objects) {
+        if (pObject) {
+            pObject->m_pDatabase = this;
+        }
+    }
+    m_unsaved = std::move(other.m_unsaved);
+    m_layersByName = std::move(other.m_layersByName);
+    m_blocksByName = std::move(other.m_blocksByName);
+    m_dictionariesByName = std::move(other.m_dictionariesByName);
+    m_layerZero = other.m_layerZero;
+    m_modelSpace = other.m_modelSpace;
+    m_nEntities = other.m_nEntities;
+    m_strCoordinateSystem = other.m_strCoordinateSystem;
+    m_bHeaderUnsaved = other.m_bHeaderUnsaved;
+    other.reset();
+    tellReplaced();
+}
+
 void AcDbDatabase::placeLoadedEntities() {
-    // Neighbours mostly share both, so that only the last ones are kept at hand.
+    // Consecutive entities mostly share both, so caching the last ones is enough.
     AcDbObjectId knownLayer;
     AcDbObjectId knownBlock;
     AcDbBlockTableRecord* pBlock = nullptr;

@@ -1,4 +1,4 @@
-// Opening and erasing of objects, and who is told.
+// Opening and erasing of objects, and notification of reactors.
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// One less than the room for the count of readers.
+/// The highest reader count that leaves room for one more in its bit field.
 constexpr std::uint32_t kMostReaders = (1U << 20) - 2;
 
 } // namespace
@@ -61,8 +61,8 @@ bool AcDbDatabase::isInUse(const AcDbObject& object) const {
     if (object.m_id == m_layerZero || object.m_id == m_modelSpace) {
         return true;
     }
-    // Every entity is looked at: layers and blocks are erased rarely, and a count in each
-    // would have to be kept right through undo and redo.
+    // Checks every entity: layers and blocks are rarely erased, and keeping a count in each correct
+    // through undo and redo would cost more.
     return std::any_of(m_objects.begin(), m_objects.end(), [&](const auto& pOther) {
         if (!pOther || !pOther->m_bEntity || pOther->m_bErased) {
             return false;
@@ -103,7 +103,7 @@ void AcDbDatabase::addReactor(AcDbDatabaseReactor* pReactor) {
 }
 
 void AcDbDatabase::removeReactor(AcDbDatabaseReactor* pReactor) {
-    // Only emptied while a call goes over them.
+    // Only set to null, as a call may be iterating over them.
     std::replace(m_reactors.begin(), m_reactors.end(), pReactor,
                  static_cast<AcDbDatabaseReactor*>(nullptr));
     if (m_nTelling == 0) {

@@ -22,7 +22,7 @@ void AcDbDictionary::noteRecord(const CString& record) {
 
 void AcDbDictionary::setAt(const wchar_t* record, const wchar_t* text) {
     CString name(record);
-    CString copy(text); // before the note: it may be the present text
+    CString copy(text); // copied before the change is recorded: it may be the stored text itself
     noteRecord(name);
     m_records[std::move(name)] = std::move(copy);
 }
@@ -54,5 +54,5 @@ std::unique_ptr<AcDbObject> AcDbDictionary::cloneBody() const {
 }
 
 void AcDbDictionary::swapBody(AcDbObject&) {
-    // Records are noted one by one.
+    // Records are recorded in the history one by one.
 }

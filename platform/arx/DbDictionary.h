@@ -1,4 +1,4 @@
-// Texts kept in a drawing under names: a dictionary holds records.
+// Texts stored by name in a drawing: dictionaries and their records.
 #pragma once
 
 #include <map>
@@ -6,8 +6,8 @@
 
 #include "platform/arx/DbObject.h"
 
-/// One named dictionary of the drawing. Names of dictionaries and records are told apart by
-/// case; texts may be of any length.
+/// A named dictionary of the drawing. Dictionary and record names are case-sensitive; texts may
+/// have any length.
 class PLATFORM_API AcDbDictionary final : public AcDbObject {
 public:
     static AcRxClass* desc();
@@ -17,10 +17,10 @@ public:
     const CString& name() const { return m_strName; }
     using Records = std::map<CString, CString, CStringLess>;
     const Records& records() const { return m_records; }
-    /// Null if there is no record of the name.
+    /// Null if the record does not exist.
     const CString* getAt(const wchar_t* record) const;
     void setAt(const wchar_t* record, const wchar_t* text);
-    /// eKeyNotFound if there is no record of the name.
+    /// eKeyNotFound if the record does not exist.
     Acad::ErrorStatus remove(const wchar_t* record);
 
     std::unique_ptr<AcDbObject> clone() const override;

@@ -14,7 +14,7 @@ AcRxClass* AcDbEntity::desc() {
 AcDbEntity::AcDbEntity(const AcDbEntity& other)
     : AcDbObject(other), m_attributes(other.m_attributes), m_layer(other.m_layer),
       m_nColorIndex(other.m_nColorIndex) {
-    // Not its block: that is a place in a drawing, as the id is.
+    // The block is not copied: like the id, it belongs to one drawing.
 }
 
 CString AcDbEntity::layer() const {

@@ -1,4 +1,4 @@
-// What is drawn: points, lines, areas and texts.
+// Drawable objects: points, lines, areas and texts.
 #pragma once
 
 #include <span>
@@ -9,7 +9,7 @@
 #include "platform/arx/DbObject.h"
 #include "platform/arx/GePoint.h"
 
-/// Takes the colour of its layer.
+/// Colour index of entities that use the colour of their layer.
 inline constexpr int kColorByLayer = 256;
 
 class PLATFORM_API AcDbEntity : public AcDbObject {
@@ -18,27 +18,27 @@ public:
     AcRxClass* isA() const override { return desc(); }
 
     AcDbObjectId layerId() const { return m_layer; }
-    /// Name of its layer; empty if it is in no database.
+    /// Name of its layer; empty if it is not in a database.
     CString layer() const;
-    /// Throws std::logic_error if the database has no such layer, or it is erased. The id is
-    /// taken as it is while the entity is in no database.
+    /// Throws std::logic_error if the layer is not in the entity's database or is erased. The id is
+    /// not checked while the entity is not in a database.
     void setLayer(AcDbObjectId layer);
-    /// The block table record that it stands in.
+    /// The block table record that contains it.
     AcDbObjectId blockId() const { return m_block; }
-    /// Index of the standard 255-colour table, or kColorByLayer, which any number outside
-    /// that table is taken for.
+    /// Index into the standard 255-colour table, or kColorByLayer, which replaces any number
+    /// outside the table.
     int colorIndex() const { return m_nColorIndex; }
     void setColorIndex(int index);
 
     const AcDbAttributes& attributes() const { return m_attributes; }
     AcDbValue attribute(AcDbNameId name) const { return m_attributes.get(name); }
     void setAttribute(AcDbNameId name, const AcDbValue& value);
-    /// Makes room; for whoever knows how many will be set.
+    /// Reserves memory for the given number of attributes.
     void reserveAttributes(std::size_t count) { m_attributes.reserve(count); }
-    /// False if there was none.
+    /// False if the attribute did not exist.
     bool removeAttribute(AcDbNameId name);
 
-    /// The upright box around it; empty (low above high) if it has no place.
+    /// The axis-aligned bounding box; empty (minimum above maximum) if it has no position.
     virtual AcGeExtents2d extents() const = 0;
 
 protected:
@@ -48,7 +48,7 @@ protected:
 private:
     friend class AcDbDatabase;
     friend class AcDbUndo;
-    // The smallest member last: a derived class may use the room behind it.
+    // The smallest member last: a derived class may use the padding after it.
     AcDbAttributes m_attributes;
     AcDbObjectId m_layer;
     AcDbObjectId m_block;
@@ -74,7 +74,7 @@ private:
     AcGePoint3d m_position;
 };
 
-/// A line of straight segments.
+/// A polyline of straight segments.
 class PLATFORM_API AcDbPolyline final : public AcDbEntity {
 public:
     static AcRxClass* desc();
@@ -94,12 +94,12 @@ protected:
     void swapBody(AcDbObject& other) override;
 
 private:
-    bool m_bClosed = false; // in front, where it costs no room
+    bool m_bClosed = false; // first, where it uses existing padding
     std::vector<AcGePoint3d> m_vertices;
 };
 
-/// Areas with holes: rings in the order of the file, each an outer one or a hole of the
-/// last outer one before it. The first point of a ring is not repeated at its end.
+/// An area with holes. Rings are in file order: each is an outer ring or a hole of the last outer
+/// ring before it. The first point of a ring is not repeated at its end.
 class PLATFORM_API AcDbMPolygon final : public AcDbEntity {
 public:
     struct Ring {
@@ -134,10 +134,10 @@ public:
     void setPosition(const AcGePoint3d& position);
     std::string_view textUtf8() const { return m_text; }
     void setText(std::string_view utf8);
-    /// Drawing units; 0 for the view's own choice.
+    /// In drawing units; 0 lets the view choose.
     double height() const { return m_dHeight; }
     void setHeight(double height);
-    /// The position alone: how far a text reaches is known to the view.
+    /// Only the insertion point: the extent of a text is known to the view alone.
     AcGeExtents2d extents() const override;
     std::unique_ptr<AcDbObject> clone() const override;
 

@@ -1,5 +1,5 @@
-// Files of other programs as plain values, on their way into a drawing. Implemented by the
-// host; modules never see a file format.
+// Content of other programs' files as plain values, before it is added to a drawing. Implemented by
+// the host; modules never see a file format.
 #pragma once
 
 #include <memory>
@@ -8,12 +8,12 @@
 #include "platform/arx/DbEntity.h"
 #include "platform/arx/DbStorage.h"
 
-/// One shape with its values. Several shapes may come from one row of a file.
+/// One shape with its values. Several shapes may come from the same row.
 struct AcDbImportFeature {
     enum class Kind : std::uint8_t { Point, Line, Polygon };
     Kind kind = Kind::Point;
-    std::int64_t row = 0;                  ///< place in its layer, from 1
-    std::vector<AcGePoint3d> points;       ///< one of a point, all of a line
+    std::int64_t row = 0;                  ///< row number in its layer, from 1
+    std::vector<AcGePoint3d> points;       ///< one for a point, all vertices of a line
     std::vector<AcDbMPolygon::Ring> rings; ///< of a polygon
     AcDbAttributes attributes;
 };
@@ -24,10 +24,10 @@ struct AcDbImportLayer {
     std::vector<AcDbImportFeature> features;
 };
 
-/// All of a file or nothing: there are layers only if there is no reason.
+/// An import succeeds or fails as a whole: there are layers only if the reason is empty.
 struct AcDbImportResult {
-    CString reason;                ///< names the file and says why; empty on success
-    std::vector<CString> warnings; ///< what was passed over, a text each
+    CString reason;                ///< names the file and the error; empty on success
+    std::vector<CString> warnings; ///< skipped content, one text each
     std::vector<AcDbImportLayer> layers;
     bool ok() const { return reason.IsEmpty(); }
 };
@@ -35,18 +35,18 @@ struct AcDbImportResult {
 class PLATFORM_API IDbImporter {
 public:
     virtual ~IDbImporter() = default;
-    /// Reads a file, or a folder where a format is one. Positions are as in the file. The
-    /// percentage stays 0 where a format does not know how much it holds.
+    /// Reads a file, or a folder for formats that consist of one. Positions are as in the file. The
+    /// progress stays at 0 for formats of unknown total size.
     virtual AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) = 0;
 
-    /// Whether positions in the one coordinate system are positions in the other. Texts (WKT)
-    /// that cannot be read are the same only letter by letter.
+    /// True if positions in both coordinate systems are interchangeable. Texts (WKT) that cannot be
+    /// parsed are equal only if identical.
     virtual bool IsSameCoordinateSystem(const CString& left, const CString& right) = 0;
     /// Such as "ETRS89 / UTM zone 32N"; "unknown" for an empty text.
     virtual CString CoordinateSystemName(const CString& wkt) = 0;
 };
 
-/// How modules read files of other programs; null while no host provides it.
+/// The importer for files of other programs; null while no host provides one.
 PLATFORM_API IDbImporter* acdbImporter();
-/// Called by the host, which goes on owning it. Null takes it away.
+/// Called by the host, which keeps ownership. Null removes the importer.
 PLATFORM_API void acdbSetImporter(IDbImporter* pImporter);

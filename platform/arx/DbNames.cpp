@@ -7,16 +7,17 @@
 #include <unordered_map>
 
 #include "platform/arx/DbAttributes.h"
+#include "platform/arx/DbReferences.h"
 
 namespace {
 
-/// The bits that a value has for its name.
+/// The number of names that fit into a value's tag.
 constexpr std::size_t kMostNames = std::size_t{1} << 24;
 
-/// Lives to the end of the process, as views of its texts are handed out.
+/// Never destroyed, as views of its texts are handed out.
 struct NameTable {
     std::shared_mutex mutex;
-    std::deque<std::string> names; ///< a deque leaves its texts where they are
+    std::deque<std::string> names; ///< a deque does not move its texts
     std::unordered_map<std::string_view, AcDbNameId> numbers;
 };
 
@@ -37,10 +38,10 @@ AcDbNameId AcDbIntern(std::string_view name) {
     }
     const std::unique_lock lock(table.mutex);
     if (const auto hit = table.numbers.find(name); hit != table.numbers.end()) {
-        return hit->second; // another thread was first
+        return hit->second; // another thread added it first
     }
     if (table.names.size() == kMostNames) {
-        throw std::length_error("There are too many names of attributes.");
+        throw std::length_error("There are too many attribute names.");
     }
     const AcDbNameId id{static_cast<std::uint32_t>(table.names.size())};
     table.numbers.emplace(table.names.emplace_back(name), id);
@@ -48,8 +49,12 @@ AcDbNameId AcDbIntern(std::string_view name) {
 }
 
 AcDbNameId AcDbInternForeign(std::string_view name) {
-    static constexpr std::string_view kOwnNames[] = {"SYSTEMID", "SYSTEMS",   "STARTNODE",
-                                                     "ENDNODE",  "STARTNAME", "ENDNAME"};
+    static constexpr std::string_view kOwnNames[] = {AcDbReferences::kSystemAttribute,
+                                                     AcDbReferences::kSystemListAttribute,
+                                                     AcDbReferences::kObjectAttributes[0],
+                                                     AcDbReferences::kObjectAttributes[1],
+                                                     "STARTNAME",
+                                                     "ENDNAME"};
     const bool isOwn =
         std::find(std::begin(kOwnNames), std::end(kOwnNames), name) != std::end(kOwnNames);
     return AcDbIntern(isOwn ? std::string(name) + "_" : std::string(name));

@@ -6,9 +6,9 @@
 //         pLine->close();
 //     }
 //
-// An object belongs to its database. It is opened for reading any number of times, or for
-// writing once; what was opened must be closed. Changing an object that is not open for
-// writing throws std::logic_error: it is a mistake of the program.
+// An object belongs to its database. It may be open for reading any number of times or for writing
+// once, and each opening must be closed. Changing an object that is not open for writing throws
+// std::logic_error, as it is a programming error.
 #pragma once
 
 #include <compare>
@@ -50,40 +50,41 @@ public:
     AcRxClass* isA() const override { return desc(); }
 
     AcDbObjectId objectId() const { return m_id; }
-    /// Null until it was added to a database.
+    /// Null until added to a database.
     AcDbDatabase* database() const { return m_pDatabase; }
     bool isErased() const { return m_bErased; }
-    /// Derived from AcDbEntity; spares a cast where millions are looked at.
+    /// True if derived from AcDbEntity; saves a cast when iterating over millions.
     bool isEntity() const { return m_bEntity; }
     bool isReadEnabled() const { return m_nReaders > 0 || m_bWriter; }
     bool isWriteEnabled() const { return m_bWriter || !m_pDatabase; }
 
-    /// Ends one opening; reactors then hear what was changed. eInvalidInput if it is not open.
+    /// Ends one opening; reactors are then notified of the changes. eInvalidInput if it is not
+    /// open.
     Acad::ErrorStatus close();
-    /// From reading to writing; only for the one reader. eWasOpenForWrite if it is open for
-    /// writing already, which changes nothing.
+    /// Changes from reading to writing; requires that there is only one reader. eWasOpenForWrite,
+    /// without any effect, if it is already open for writing.
     Acad::ErrorStatus upgradeOpen();
     Acad::ErrorStatus downgradeOpen();
-    /// Erases, or brings back, an object that is open for writing. eInvalidInput for what
-    /// others stand on: layer "0", the model space, a layer or block with entities that are
-    /// not erased; and for bringing back an entity whose layer or block is erased. eWasErased
-    /// if it was already.
+    /// Erases or restores an object that is open for writing. eInvalidInput if other objects depend
+    /// on it (layer "0", the model space, a layer or block with entities that are not erased), and
+    /// when restoring an entity whose layer or block is erased. eWasErased if it is already erased.
     Acad::ErrorStatus erase(bool bErasing = true);
 
-    /// A copy of the content alone: no id, in no database.
+    /// A copy of the content only: without an id and in no database.
     virtual std::unique_ptr<AcDbObject> clone() const = 0;
 
 protected:
     AcDbObject() = default;
-    /// Content only: a copy starts outside every database.
+    /// Copies the content only; the copy is not in a database.
     AcDbObject(const AcDbObject& other) : AcRxObject(other), m_bEntity(other.m_bEntity) {}
     AcDbObject& operator=(const AcDbObject&) = delete;
 
-    /// To be called by every operation before it changes the body: what swapBody exchanges.
+    /// Must be called by every operation before it changes the body, that is, what swapBody
+    /// exchanges.
     void assertWriteEnabled();
-    /// A copy of the body, which is what one note in the undo history holds. An entity's
-    /// layer, colour and attributes, and a dictionary's records, are no part of it: their
-    /// changes are noted apart.
+    /// A copy of the body, as recorded in the undo history. The body does not include an entity's
+    /// layer, colour and attributes or a dictionary's records; their changes are recorded
+    /// separately.
     virtual std::unique_ptr<AcDbObject> cloneBody() const { return clone(); }
     /// Exchanges the body with another object of the same class.
     virtual void swapBody(AcDbObject& other) = 0;
@@ -94,40 +95,39 @@ private:
     friend class AcDbEntity;
     friend class AcDbUndo;
 
-    /// Throws unless it may be changed. True if it is in a database, whose undo history then
-    /// has to be told.
+    /// Throws unless it is open for writing or in no database. True if it is in a database, whose
+    /// undo history must then record the change.
     bool beginChange();
 
     AcDbDatabase* m_pDatabase = nullptr;
     AcDbObjectId m_id;
-    // Bits, as a drawing holds millions of these.
+    // Bit fields, as a drawing holds millions of objects.
     std::uint32_t m_nReaders : 20 = 0;
     std::uint32_t m_bWriter : 1 = false;
     std::uint32_t m_bErased : 1 = false;
     std::uint32_t m_bEntity : 1 = false; ///< derived from AcDbEntity
-    /// What reactors have to hear of once it is closed.
+    /// Reactors must be notified of this when the object is closed.
     std::uint32_t m_bChanged : 1 = false;
     std::uint32_t m_bWasErased : 1 = false;
-    std::uint32_t m_bTouched : 1 = false; ///< the undo or redo going on changed it
-    /// Differs from what the drawing's file holds.
+    std::uint32_t m_bTouched : 1 = false; ///< changed by the undo or redo in progress
+    /// Differs from the drawing's file.
     std::uint32_t m_bUnsaved : 1 = false;
-    /// The state of its body (properties) before the open undo group is in the history.
+    /// The body (properties) as of before the open undo group is already recorded in the history.
     std::uint32_t m_bBodyNoted : 1 = false;
     std::uint32_t m_bPropertiesNoted : 1 = false;
-    /// The history has something of the kind.
+    /// The history contains a record of this kind.
     std::uint32_t m_bBodyInHistory : 1 = false;
     std::uint32_t m_bPropertiesInHistory : 1 = false;
 };
 
-/// Opens an object of the database that the id is looked up in: the given one, or the
-/// working database. Null in pObject unless the result is eOk: eNoDatabase, eNullObjectId,
-/// eUnknownObject, eWasErased, eWasOpenForRead, eWasOpenForWrite, or eInvalidInput for a mode
-/// that is none.
+/// Opens an object, looked up in the given database or else in the working database. pObject is
+/// null unless the result is eOk. Errors: eNoDatabase, eNullObjectId, eUnknownObject, eWasErased,
+/// eWasOpenForRead, eWasOpenForWrite, and eInvalidInput for an invalid mode.
 PLATFORM_API Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& pObject, AcDbObjectId id,
                                                   AcDb::OpenMode mode, bool openErased = false,
                                                   AcDbDatabase* pDatabase = nullptr);
 
-/// The same for an object of a class; eInvalidInput if it is of another one.
+/// The same for an object of a given class; eInvalidInput if it is of another class.
 template <class T>
 Acad::ErrorStatus acdbOpenObject(T*& pObject, AcDbObjectId id, AcDb::OpenMode mode,
                                  bool openErased = false, AcDbDatabase* pDatabase = nullptr) {

@@ -36,7 +36,7 @@ AcRxClass* AcDbPolyline::desc() {
 
 void AcDbPolyline::setVertices(std::span<const AcGePoint3d> vertices) {
     assertWriteEnabled();
-    // By way of a copy: they may be part of the present ones.
+    // Copied first: the new vertices may be part of the current ones.
     m_vertices = std::vector<AcGePoint3d>(vertices.begin(), vertices.end());
 }
 

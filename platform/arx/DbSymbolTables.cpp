@@ -38,5 +38,5 @@ std::unique_ptr<AcDbObject> AcDbBlockTableRecord::clone() const {
 }
 
 void AcDbBlockTableRecord::swapBody(AcDbObject&) {
-    // Its entities only ever become more; each knows for itself whether it is erased.
+    // Entities are only ever appended; each stores its own erased flag.
 }

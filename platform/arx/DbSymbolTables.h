@@ -12,12 +12,13 @@ public:
     AcRxClass* isA() const override { return desc(); }
     explicit AcDbLayerTableRecord(CString name) : m_strName(std::move(name)) {}
 
-    /// Unique in the drawing, without regard to case.
+    /// Unique in the drawing; not case-sensitive.
     const CString& getName() const { return m_strName; }
-    /// Index of the standard 255-colour table; 7 unless set, and for a number outside it.
+    /// Index into the standard 255-colour table; defaults to 7, which also replaces invalid
+    /// numbers.
     int colorIndex() const { return m_nColorIndex; }
     void setColorIndex(int index);
-    /// An off layer's entities are there, and not shown.
+    /// Entities on a layer that is off are hidden.
     bool isOff() const { return m_bOff; }
     void setIsOff(bool off);
 
@@ -43,7 +44,7 @@ public:
     /// Ids of its entities in the order of adding, erased ones included.
     std::span<const AcDbObjectId> entityIds() const { return m_entities; }
 
-    /// An empty block of the name.
+    /// Copies the name only: the new block is empty.
     std::unique_ptr<AcDbObject> clone() const override;
 
 protected:

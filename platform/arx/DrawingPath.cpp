@@ -15,17 +15,16 @@ CString acdbDrawingPath(const wchar_t* path, const CString& extension) {
     fs::path whole = fs::absolute(NativePath(path), error);
     const fs::path name = whole.filename();
     if (name.empty() || name == "." || name == "..") {
-        return Utf8ToWide(whole.string()); // a folder, which whoever opens it will say
+        return WidePath(whole.string()); // a folder: reported by the code that tries to open it
     }
     const fs::path folder = fs::weakly_canonical(whole.parent_path(), error);
     if (!error) {
         whole = folder / name;
     }
-    // A file that is there is meant by its name; to a new one belongs the extension.
-    const bool hasExtension =
-        CString(Utf8ToWide(name.extension().string())).CompareNoCase(extension) == 0;
+    // An existing file is meant by its exact name; only a new one gets the extension.
+    const bool hasExtension = WidePath(name.extension().string()).CompareNoCase(extension) == 0;
     if (!hasExtension && !fs::exists(whole, error)) {
         whole += WideToUtf8(extension.View());
     }
-    return Utf8ToWide(whole.string());
+    return WidePath(whole.string());
 }

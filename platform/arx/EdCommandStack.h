@@ -1,5 +1,5 @@
-// The host's commands: those that modules register, and those that a module answers
-// for without registering each.
+// The host's commands: those registered by modules, and those that a module provides as a source
+// without registering each.
 #pragma once
 
 #include <functional>
@@ -8,21 +8,20 @@
 
 #include "platform/arx/RxObject.h"
 
-/// The command may run while another one waits at a prompt. It is no step of the undo history
-/// either: what it does belongs to the other one, or to the commands that it runs.
+/// The command may run while another waits at a prompt. It forms no undo step: its changes belong
+/// to the other command or to the commands it runs.
 inline constexpr int ACRX_CMD_TRANSPARENT = 1;
-/// The command is no step of the undo history: it works on whole drawings, or on the history
-/// itself.
+/// The command forms no undo step, because it works on whole drawings or on the history itself.
 inline constexpr int ACRX_CMD_NO_UNDO_GROUP = 2;
-/// The command works on the current drawing, so that lists of commands can tell why it cannot
-/// run now. It is not kept from running: the command itself says so, too.
+/// The command works on the current drawing, so that command lists can show why it is unavailable.
+/// The runner does not enforce this; the command must check it, too.
 inline constexpr int ACRX_CMD_NEEDS_DRAWING = 4;
-/// Words may be typed behind the command's name; see acedCommandText.
+/// Text may follow the command's name; see acedCommandText.
 inline constexpr int ACRX_CMD_TAKES_TEXT = 8;
 
 using AcRxFunctionPtr = void (*)();
 
-/// One command of the host's command line.
+/// A command of the host's command line.
 class PLATFORM_API AcEdCommand final : public AcRxObject {
 public:
     AcEdCommand(const wchar_t* group, const wchar_t* globalName, const wchar_t* localName,
@@ -44,46 +43,46 @@ private:
     AcRxFunctionPtr m_pFunction;
 };
 
-/// How a command of a source went.
+/// Result of a command.
 enum class CommandOutcome {
-    Unknown, ///< the source has no such command
+    Unknown, ///< no such command
     Done,
-    Failed, ///< it ran, and said that it was not carried out
+    Failed, ///< it ran but reported a failure
 };
 
-/// What lists of commands show of one that a source has.
+/// Description of a source's command, for command lists.
 struct EdSourceCommand {
-    CString name;    ///< as it can be typed
+    CString name;    ///< as typed
     CString purpose; ///< heading under which it is listed
-    CString title;   ///< what users call it; may be empty
+    CString title;   ///< display name; may be empty
     CString description;
-    CString whyNot; ///< why it cannot run now; empty if it can
+    CString whyNot; ///< why it is not available now; empty if it is
 };
 
-/// Answers for a whole set of commands that live elsewhere, such as the workspace's.
+/// Provides a set of commands defined elsewhere, such as the workspace's.
 class PLATFORM_API IEdCommandSource {
 public:
     virtual ~IEdCommandSource() = default;
     /// Called by the command runner.
-    /// \param name as it was typed
+    /// \param name as typed
     virtual CommandOutcome Run(const wchar_t* name) = 0;
     virtual std::vector<EdSourceCommand> List() const = 0;
 };
 
 class PLATFORM_API AcEdCommandStack final : public AcRxObject {
 public:
-    /// False if the group has a command of this global name already.
+    /// False if the group already has a command with this global name.
     bool addCommand(const wchar_t* group, const wchar_t* globalName, const wchar_t* localName,
                     int flags, AcRxFunctionPtr function);
-    /// False if there was none.
+    /// False if it did not exist.
     bool removeCmd(const wchar_t* group, const wchar_t* globalName);
     void removeGroup(const wchar_t* group);
 
-    /// The command of a global or local name, without regard to case; null if there is none.
+    /// Finds a command by its global or local name, ignoring case; null if it does not exist.
     std::shared_ptr<const AcEdCommand> lookupCmd(const wchar_t* name) const;
     const std::vector<std::shared_ptr<const AcEdCommand>>& commands() const { return m_commands; }
 
-    /// Sources are asked in order of adding, after the commands. Not owned.
+    /// Sources are tried in the order of adding, after the registered commands. Not owned.
     void addSource(IEdCommandSource* pSource) { m_sources.push_back(pSource); }
     void removeSource(IEdCommandSource* pSource) { std::erase(m_sources, pSource); }
     const std::vector<IEdCommandSource*>& sources() const { return m_sources; }
@@ -93,5 +92,5 @@ private:
     std::vector<IEdCommandSource*> m_sources;
 };
 
-/// The stack, which also stands in the system registry as "ACAD_REGISTERED_COMMANDS".
+/// The stack; also in the system registry, as "ACAD_REGISTERED_COMMANDS".
 PLATFORM_API AcEdCommandStack* acedRegCmds();

@@ -12,7 +12,7 @@ namespace {
 IDrawingDisplay* s_pDisplay = nullptr;
 constexpr int kHighlightColor = 1; // red
 
-/// Without a display an entity is told by its number.
+/// Without a display, entities are identified by number.
 int AskForNumber(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) {
     CString answer;
     if (acedGetString(0, CString(prompt) + MessageText(PlatformMsg::EntityNumber) + L": ",

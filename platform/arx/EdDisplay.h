@@ -1,53 +1,53 @@
-// The view of the current drawing, as modules reach it.
+// The view of the current drawing, as modules see it.
 #pragma once
 
 #include <span>
 
 #include "platform/arx/DbEntity.h"
 
-/// How pointing at an entity ended.
+/// Result of picking an entity.
 enum class PickOutcome {
     Picked,
-    Missed,    ///< the user pointed at nothing
-    Cancelled, ///< Escape, no more input, or the drawing went
+    Missed,    ///< no entity at the picked point
+    Cancelled, ///< Escape, end of input, or the drawing was closed
 };
 
-/// Implemented by a host that shows drawings. All operations are about the current drawing;
-/// entities that are no more are passed over.
+/// Implemented by a host that shows drawings. All operations apply to the current drawing; entities
+/// that no longer exist are skipped.
 class PLATFORM_API IDrawingDisplay {
 public:
     virtual ~IDrawingDisplay() = default;
-    /// Waits until the user has pointed, while the host's own events go on.
-    /// \param place where they pointed, in drawing units
+    /// Waits until the user has picked a point, while the host keeps processing events.
+    /// \param place the picked point, in drawing units
     virtual PickOutcome PickEntity(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place) = 0;
-    /// Shows entities whole, in the middle; a factor of 1.05 leaves five per cent of margin.
-    /// False, and the view stays, if none of them has a place.
+    /// Fits the entities into the view, centred; a factor of 1.05 leaves a margin of five per cent.
+    /// Returns false and leaves the view unchanged if none of them has a position.
     virtual bool ZoomTo(std::span<const AcDbObjectId> ids, double factor) = 0;
     virtual void ZoomExtents() = 0;
-    /// Shows more of the drawing, or less: 2 shows half as much to each side.
+    /// Zooms the view by a factor: 2 shows half as much in each direction.
     virtual void ZoomBy(double factor) = 0;
-    /// In a colour of the 255-colour table, until the view is drawn anew.
+    /// Highlights in a colour of the 255-colour table, until the next redraw.
     virtual void Highlight(std::span<const AcDbObjectId> ids, int colorIndex) = 0;
     virtual void Mark(std::span<const AcDbObjectId> ids, int colorIndex) = 0;
-    /// Draws all anew, without marks and highlights.
+    /// Redraws the view without marks and highlights.
     virtual void Redraw() = 0;
-    /// Shows at once what has changed.
+    /// Shows pending changes immediately.
     virtual void Update() = 0;
 };
 
-/// Makes a display the one in force and returns the one before. Not owned. Null: there is
-/// none, as in a console; pointing then asks for the entity's number at the prompt, and the
-/// rest does nothing.
+/// Sets the display in use and returns the previous one. Not owned. Without a display (null), as in
+/// a console, picking asks for the entity's number at the prompt and the other operations do
+/// nothing.
 PLATFORM_API IDrawingDisplay* SetDrawingDisplay(IDrawingDisplay* pDisplay);
-/// Null if there is none.
+/// Null without a display.
 PLATFORM_API IDrawingDisplay* DrawingDisplay();
 
-/// Lets the user pick an entity. RTNORM, RTERROR if they pointed at nothing, or RTCAN.
+/// Lets the user pick an entity. Returns RTNORM, RTERROR if there is none at the picked point, or
+/// RTCAN.
 PLATFORM_API int acedEntSel(const wchar_t* prompt, AcDbObjectId& id, AcGePoint3d& place);
 /// Modes of acedRedraw.
 inline constexpr int kRedrawHighlight = 3;
 inline constexpr int kRedrawUnhighlight = 4;
-/// Highlights an entity; any other mode, and null, draws the whole view anew without
-/// highlights and marks.
+/// Highlights an entity. Any other mode, or null, redraws the view without highlights and marks.
 PLATFORM_API void acedRedraw(const AcDbObjectId* pId, int mode);
 PLATFORM_API void acedUpdateDisplay();

@@ -32,11 +32,11 @@ AcRxClass* AcEditor::desc() {
 
 template <class Call>
 void AcEditor::Tell(Call call) {
-    // Over a copy: a reactor may attach or remove reactors while it is being told.
+    // Iterate over a copy: a reactor may add or remove reactors during the call.
     const std::vector<AcEditorReactor*> reactors = m_reactors;
     for (AcEditorReactor* pReactor : reactors) {
         if (std::find(m_reactors.begin(), m_reactors.end(), pReactor) != m_reactors.end()) {
-            // A save goes on, whoever fails: the drawing is the user's work.
+            // A failing reactor must not prevent the save: the drawing is the user's work.
             Guarded(kEvent, [&] { CallForeign(*pReactor, kEvent, [&] { call(*pReactor); }); });
         }
     }

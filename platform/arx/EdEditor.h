@@ -1,4 +1,4 @@
-// The host's editor: who is told about saves.
+// The host's editor: notifies reactors of saves.
 #pragma once
 
 #include <vector>
@@ -7,18 +7,18 @@
 
 class AcDbDatabase;
 
-/// Is told about saves, on the main thread, in the order of registration. Not owned.
+/// Notified of saves on the main thread, in the order of registration. Not owned.
 class PLATFORM_API AcEditorReactor : public AcRxObject {
 public:
     static AcRxClass* desc();
     AcRxClass* isA() const override { return desc(); }
-    /// Before anything is written; what is put into the database now is part of the save.
+    /// Called before anything is written; changes made to the database now are part of the save.
     virtual void beginSave(AcDbDatabase* /*pDb*/, const wchar_t* /*fileName*/) {}
-    /// After the file was written whole.
+    /// Called after the file was written completely.
     virtual void saveComplete(AcDbDatabase* /*pDb*/, const wchar_t* /*fileName*/) {}
 };
 
-/// Stands in the system registry as "AcEditor".
+/// Registered in the system registry as "AcEditor".
 class PLATFORM_API AcEditor final : public AcRxObject {
 public:
     static AcRxClass* desc();
@@ -35,8 +35,9 @@ private:
     std::vector<AcEditorReactor*> m_reactors;
 };
 
-/// Makes the editor known; called by the host before it loads modules. Never null.
+/// Creates and registers the editor at the first call, which the host makes before it loads
+/// modules. Never null.
 PLATFORM_API AcEditor* acedEditor();
 
-/// Ends the process: the program's own structure is broken beyond repair.
+/// Ends the process: an internal invariant is violated beyond repair.
 [[noreturn]] PLATFORM_API void acrx_abort(const wchar_t* reason);

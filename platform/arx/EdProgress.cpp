@@ -6,12 +6,12 @@ namespace {
 
 int s_nShown = 0;
 
-/// Work that goes on.
+/// An operation in progress.
 class Shown {
 public:
     explicit Shown(const wchar_t* what) : m_strWhat(what) {
         ++s_nShown;
-        // At once: the user may want to stop before the first step is done.
+        // Immediately: the user may want to stop before the first step is done.
         Show(0);
     }
     ~Shown() {

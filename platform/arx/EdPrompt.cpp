@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Title of messages that name none.
+/// Default title of messages.
 constexpr std::wstring_view kMessageTitle = L"Tessaly";
 
 constexpr const wchar_t* kEscape = L"\x1B";
@@ -22,6 +22,18 @@ AcColorSettings& Colors() {
     return colors;
 }
 
+/// Shortens a prompt in the middle: a value longer than any screen would hide the question.
+CString Shown(const wchar_t* prompt) {
+    constexpr std::size_t kLongest = 2000;
+    constexpr std::size_t kEnd = 200;
+    const std::wstring_view whole = prompt ? prompt : L"";
+    if (whole.size() <= kLongest) {
+        return CString(std::wstring(whole));
+    }
+    return CString(std::wstring(whole.substr(0, kLongest - kEnd)) + L" ... " +
+                   std::wstring(whole.substr(whole.size() - kEnd)));
+}
+
 } // namespace
 
 void acutPrint(std::wstring_view text) {
@@ -30,7 +42,7 @@ void acutPrint(std::wstring_view text) {
 
 int acedGetString(int flags, const wchar_t* prompt, CString& answer) {
     const bool allowBlanks = (flags & kGetStringAllowBlanks) != 0;
-    const PromptEnd end = HostPort().GetString(allowBlanks, prompt ? prompt : L"", answer);
+    const PromptEnd end = HostPort().GetString(allowBlanks, Shown(prompt).View(), answer);
     return end == PromptEnd::Answered ? RTNORM : RTCAN;
 }
 

@@ -8,10 +8,10 @@
 
 /// Results of prompts.
 inline constexpr int RTNORM = 5100;   ///< answered
-inline constexpr int RTERROR = -5001; ///< the arguments make no prompt
+inline constexpr int RTERROR = -5001; ///< invalid arguments
 inline constexpr int RTCAN = -5002;   ///< cancelled by the user
 
-/// Flag of acedGetString: the answer may contain blanks.
+/// Flag of acedGetString: the answer may contain spaces.
 inline constexpr int kGetStringAllowBlanks = 32;
 
 PLATFORM_API void acutPrint(std::wstring_view text);
@@ -22,46 +22,45 @@ void acutPrintf(std::wstring_view format, const Args&... args) {
     acutPrint(FormatText(format, args...));
 }
 
-/// Asks for a text. An answer longer than the buffer is cut to fit; the result is ended
-/// with a NUL in any case.
-/// \param bufferSize number of characters, the NUL included; less than 1 gives RTERROR.
+/// Asks for a text. The answer is truncated to fit the buffer and always NUL-terminated.
+/// \param bufferSize number of characters including the NUL; less than 1 gives RTERROR.
 /// \return RTNORM, RTCAN or RTERROR
 PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, wchar_t* buffer,
                                std::size_t bufferSize);
-/// The same for an answer of any length.
+/// The same without a limit on the length.
 PLATFORM_API int acedGetString(int flags, const wchar_t* prompt, CString& answer);
 
-/// Asks "label <current>: " for a text, trimmed; an empty answer stands for the current one.
+/// Asks "label <current>: " for a text and trims it; an empty answer returns the current one.
 /// Nothing if the user cancelled.
 PLATFORM_API std::optional<CString> acedAskText(const CString& label, const CString& current = {});
 
-/// Asks for one of several choices. RTNORM with the number of the choice; RTERROR with the
-/// answer in `other` if it is none of them; RTCAN.
+/// Asks for one of several choices. RTNORM with the choice's index; RTERROR with the answer in
+/// `other` if it is not one of the choices; RTCAN.
 PLATFORM_API int acedGetChoice(const ChoicePrompt& prompt, std::size_t& choice, CString& other);
-/// The same for a prompt that takes nothing else. Nothing if the user cancelled or, which is
-/// reported, gave another answer: it is not repeated, since the next line of a script is
-/// hardly an answer.
+/// The same for a prompt that accepts only its choices. Nothing if the user cancelled or gave
+/// another answer. The latter is reported; the prompt is not repeated, since the next line of a
+/// script is unlikely to be an answer.
 PLATFORM_API std::optional<std::size_t> acedAskChoice(const ChoicePrompt& prompt);
 /// Asks "question [Yes/No] <No>: ".
 PLATFORM_API bool acedAskYes(const CString& question);
 
-/// "Yes" and "No", and "Cancel" in the user's language.
+/// Localised "Yes", "No" and "Cancel".
 PLATFORM_API PromptChoice YesChoice();
 PLATFORM_API PromptChoice NoChoice();
 PLATFORM_API PromptChoice CancelChoice();
 
-/// Shows a message until the user has taken note of it.
+/// Shows a message until the user acknowledges it.
 PLATFORM_API void acedAlert(const wchar_t* message);
-/// Shows a message box of the default style: the text and one button.
+/// Shows a message box of the default style: the text and an OK button.
 PLATFORM_API void AfxMessageBox(const wchar_t* message);
 
-/// Has the host run the command of this name once the running one has ended. A single Escape
-/// character cancels what is still open instead.
+/// Queues the command of this name until the running one has ended. A single Escape character
+/// cancels the open prompt instead.
 PLATFORM_API void acedPostCommand(const wchar_t* text);
 
-/// Colours of the host's own surfaces by their fixed places, as 0x00RRGGBB.
+/// Colours of the host's own surfaces, as 0x00RRGGBB.
 struct AcColorSettings {
-    /// The host's own choice, which may change with its theme.
+    /// Stands for the host's default colour, which may change with its theme.
     static constexpr std::uint32_t kHostColor = 0xFFFFFFFF;
     static constexpr std::size_t kCommandLineBackground = 5;
     static constexpr std::size_t kCommandLineText = 24;

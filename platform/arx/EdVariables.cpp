@@ -42,7 +42,7 @@ bool acedGetVar(const wchar_t* name, CString& value) {
 
 CString acdbDrawingName(const wchar_t* fileName) {
     CString name = FileNameOf(fileName);
-    // A dot in front hides a file, and begins no extension.
+    // A leading dot marks a hidden file, not an extension.
     const int dot = name.ReverseFind(L'.');
     return (dot > 0 ? name.Left(dot) : name) + L".dwg";
 }

@@ -1,4 +1,4 @@
-// Places and boxes in drawing units.
+// Positions and boxes in drawing units.
 #pragma once
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 struct AcGePoint3d {
     double x = 0;
     double y = 0;
-    double z = std::numeric_limits<double>::quiet_NaN(); ///< not a number: no height is known
+    double z = std::numeric_limits<double>::quiet_NaN(); ///< NaN: unknown height
 };
 
 struct AcGeExtents2d {

@@ -24,7 +24,7 @@ void ReportCaught(const wchar_t* what) noexcept {
                    MessageText(PlatformMsg::Failed,
                                activity.IsEmpty() ? what : activity.GetString(), reason));
     } catch (...) {
-        // There is no memory for the message, or nowhere to print it.
+        // Out of memory, or no place to print.
         return;
     }
 }

@@ -1,19 +1,19 @@
-// Containing what foreign code throws, where nothing may pass: at the commands, at the toolkit,
-// and where several listeners are told the same.
+// Contains exceptions of foreign code where none may pass: at commands, in toolkit callbacks, and
+// between the listeners of an event.
 #pragma once
 
 #include "platform/arx/Activity.h"
 #include "platform/win/Library.h"
 #include "platform/win/MessageCatalogue.h"
 
-/// The text of the exception in hand. Only inside a catch block.
+/// The message of the current exception. Call only inside a catch block.
 PLATFORM_API CString CaughtReason();
-/// Prints the exception in hand: who threw it, as far as an activity tells, otherwise what was
-/// going on. Only inside a catch block; throws nothing itself.
+/// Reports the current exception with the interrupted activity, or with `what` if none was
+/// recorded. Call only inside a catch block; does not throw.
 PLATFORM_API void ReportCaught(const wchar_t* what) noexcept;
 
-/// What was going on, as a text or as a message of the catalogue, which is only looked up once
-/// something failed.
+/// The text of a step, given as plain text or as a message of the catalogue, which is only looked
+/// up after a failure.
 inline const wchar_t* StepText(const wchar_t* step) {
     return step;
 }
@@ -22,8 +22,8 @@ requires std::is_enum_v<Id> CString StepText(Id step) {
     return MessageText(step);
 }
 
-/// Calls something of a module's object. What is thrown passes on, marked with the module that
-/// brought the object's class and with the step in which it failed.
+/// Calls a module's object. Exceptions propagate, marked with the module that defines the object's
+/// class and with the step that failed.
 template <class Object, class Step, class Call>
 decltype(auto) CallForeign(const Object& object, Step step, Call call) {
     const void* const owner = ClassAddress(object); // the call may destroy the object
@@ -35,7 +35,7 @@ decltype(auto) CallForeign(const Object& object, Step step, Call call) {
     }
 }
 
-/// False, and the user is told, if the call threw anything at all.
+/// Returns false, after reporting it, if the call threw anything.
 template <class Step, class Call>
 bool Guarded(Step what, Call call) {
     const OwnActivities scope;

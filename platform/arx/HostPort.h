@@ -1,4 +1,4 @@
-// What a host program has to provide so that modules can talk to the user.
+// User interaction that a host program provides for modules.
 #pragma once
 
 #include <vector>
@@ -7,59 +7,56 @@
 
 struct AcColorSettings;
 
-/// How a prompt ended.
+/// Result of a prompt.
 enum class PromptEnd {
     Answered,
-    Cancelled, ///< Escape, or no more input
+    Cancelled, ///< Escape or end of input
 };
 
-/// Implemented by the host, once, on the main thread. Texts are shown as they are; line
-/// ends are "\n".
+/// Implemented once, by the host. Called on the main thread. Texts are shown unchanged; line ends
+/// are "\n".
 class PLATFORM_API IHostPort {
 public:
     virtual ~IHostPort() = default;
 
-    /// Writes at the end of the command line's text, without a line end of its own.
+    /// Appends to the command line's text without adding a line end.
     virtual void Print(std::wstring_view text) = 0;
-    /// Shows a prompt and waits for an answer, while the host's own events go on.
-    /// \param allowBlanks false: a blank ends the answer.
+    /// Shows a prompt and waits for an answer, while the host keeps processing events.
+    /// \param allowBlanks false: a space ends the answer
     virtual PromptEnd GetString(bool allowBlanks, std::wstring_view prompt, CString& answer) = 0;
-    /// Shows a question with its choices, if need be as buttons, and waits for an answer: one
-    /// that FindChoice understands, or anything else that was typed.
+    /// Shows a question with its choices, as buttons where possible, and waits for an answer: one
+    /// that FindChoice recognises, or any other text.
     virtual PromptEnd GetChoice(const ChoicePrompt& prompt, CString& answer) {
         return GetString(true, PromptText(prompt).View(), answer);
     }
-    /// Shows a text until the user has taken note of it.
+    /// Shows a text until the user acknowledges it.
     virtual void Alert(std::wstring_view text, std::wstring_view title) = 0;
-    /// Writes a line of its own.
+    /// Prints a text on a line of its own.
     virtual void PrintLine(std::wstring_view text) {
         Print(text);
         Print(L"\n");
     }
-    /// As the Escape key: cancels the prompt that is open, or the next one of the running
-    /// command.
+    /// Acts like the Escape key: cancels the open prompt, or the next one of the running command.
     virtual void Escape() = 0;
 
-    /// A prompt waits for the user, within a command or not.
+    /// True while a prompt is waiting, in a command or not.
     virtual bool IsPrompting() const { return false; }
-    /// Cancels all prompts that wait, because another command is to run.
+    /// Cancels all waiting prompts because another command is about to run.
     virtual void CancelPrompts() {}
-    /// What the next prompts are answered with, in this order. Replaces what is left of
-    /// earlier ones.
+    /// Presets the answers of the next prompts, in this order. Replaces any unused earlier ones.
     virtual void SetAnswers(const std::vector<CString>& /*answers*/) {}
 
-    /// The colours of the host's surfaces changed (EdPrompt.h).
+    /// Called when the colours of the host's surfaces have changed (EdPrompt.h).
     virtual void ShowColors(const AcColorSettings& /*colors*/) {}
 
-    /// Shows how far long work is, in percent. False once the user wants it to stop. The
-    /// first call, with 0, comes as the work begins; texts may be printed in between.
+    /// Shows the progress of a long operation, in percent. Returns false once the user wants to
+    /// stop it. The first call, with 0, marks its start; texts may be printed between calls.
     virtual bool ShowProgress(std::wstring_view /*what*/, int /*percent*/) { return true; }
-    /// The work, and all that was begun during it, is over, done or not.
+    /// The operation, including nested ones, has ended, completed or not.
     virtual void EndProgress() {}
 };
 
-/// Makes a port the one in force and returns the one before. Not owned; null brings back
-/// the port that is there before any host is: it prints to standard output, and every
-/// prompt is cancelled.
+/// Sets the port in use and returns the previous one. Not owned. Null restores the initial port,
+/// which prints to standard output and cancels every prompt.
 PLATFORM_API IHostPort* SetHostPort(IHostPort* pPort);
 PLATFORM_API IHostPort& HostPort();

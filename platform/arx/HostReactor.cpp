@@ -29,7 +29,7 @@ bool acedAskToClose() {
     const std::vector<AcApHostReactor*> reactors = Reactors();
     return std::none_of(reactors.begin(), reactors.end(), [](AcApHostReactor* pReactor) {
         bool isVeto = false;
-        // One that cannot answer must not hold the user.
+        // A reactor that throws must not keep the user from leaving.
         Guarded(kEvent,
                 [&] { CallForeign(*pReactor, kEvent, [&] { isVeto = pReactor->hostToClose(); }); });
         return isVeto;

@@ -1,4 +1,4 @@
-// Who is asked before the host ends.
+// Lets modules veto the end of the host.
 #pragma once
 
 #include "platform/Api.h"
@@ -7,12 +7,12 @@
 class PLATFORM_API AcApHostReactor {
 public:
     virtual ~AcApHostReactor() = default;
-    /// True is a veto: the host stays.
+    /// Returns true to veto: the host then keeps running.
     virtual bool hostToClose() = 0;
 };
 
 PLATFORM_API void acedAddHostReactor(AcApHostReactor* pReactor);
 PLATFORM_API void acedRemoveHostReactor(AcApHostReactor* pReactor);
 
-/// Asks in the order of adding. True if nobody vetoed; after a veto nobody else is asked.
+/// Asks the reactors in the order of adding, up to the first veto. True if there was none.
 PLATFORM_API bool acedAskToClose();

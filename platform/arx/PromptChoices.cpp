@@ -17,7 +17,7 @@ std::optional<std::size_t> FindWhole(const ChoicePrompt& prompt, Part part, cons
     return std::nullopt;
 }
 
-/// Nothing if several begin so.
+/// Finds a choice by a prefix. Nothing if it is ambiguous.
 std::optional<std::size_t> FindBegin(const ChoicePrompt& prompt, Part part, const CString& answer) {
     std::optional<std::size_t> found;
     for (std::size_t i = 0; i < prompt.choices.size(); ++i) {

@@ -1,4 +1,4 @@
-// Questions that are answered by one of several choices.
+// Prompts that offer several choices.
 #pragma once
 
 #include <optional>
@@ -6,17 +6,17 @@
 
 #include "platform/win/String.h"
 
-/// One answer that a prompt offers.
+/// One choice of a prompt.
 struct PromptChoice {
-    CString keyword; ///< English and the same in every language, for scripts: "Yes"
-    CString text;    ///< what the user reads: "Ja"
+    CString keyword; ///< language-independent English keyword, for scripts: "Yes"
+    CString text;    ///< display text in the user's language: "Ja"
 };
 
 struct ChoicePrompt {
     CString question; ///< without the choices: "Save the changes?"
     std::vector<PromptChoice> choices;
-    std::optional<std::size_t> fallback = {}; ///< chosen by an empty answer
-    bool takesOther = false; ///< the answer may also be something else, as a number
+    std::optional<std::size_t> fallback = {}; ///< index of the choice for an empty answer
+    bool takesOther = false;                  ///< other answers are allowed, such as a number
 };
 
 /// "Save the changes? [Ja/Nein] <Nein>: ".
@@ -24,12 +24,12 @@ PLATFORM_API CString PromptText(const ChoicePrompt& prompt);
 /// "Ja/Nein".
 PLATFORM_API CString ChoicesText(const ChoicePrompt& prompt);
 
-/// The choice that an answer stands for, in any case of letters: a keyword, also with "_" in
-/// front; a text; or what only one of them begins with. Texts come before keywords there,
+/// Finds the choice for an answer, ignoring case: a keyword, optionally preceded by "_", a text, or
+/// an unambiguous prefix of either. Texts take precedence over keywords when matching prefixes,
 /// unless "_" asks for a keyword.
 PLATFORM_API std::optional<std::size_t> FindChoice(const ChoicePrompt& prompt, CString answer);
 
-/// What answers a prompt with this choice in every language.
+/// The answer that selects this choice in every language.
 inline CString KeywordAnswer(const PromptChoice& choice) {
     return L"_" + choice.keyword;
 }

@@ -1,18 +1,18 @@
-// The application object of a module: the table of its commands and classes, and what
-// happens when the host loads and unloads it.
+// The application object of a module: its tables of commands and classes, and the handlers for
+// loading and unloading.
 #pragma once
 
 #include <span>
 
 #include "platform/arx/EdCommandStack.h"
 
-/// What the host sends to a module's acrxEntryPoint, and what it hears back.
+/// Messages that the host sends to a module's acrxEntryPoint, and the replies.
 namespace AcRx {
 enum AppMsgCode : int {
     kNullMsg = 0,
     kInitAppMsg = 1,
     kUnloadAppMsg = 2,
-    kLastMsg = 15, ///< higher numbers are not handed on
+    kLastMsg = 15, ///< higher numbers are not dispatched
 };
 enum AppRetCode : int {
     kRetNothing = 0,
@@ -21,7 +21,7 @@ enum AppRetCode : int {
 };
 } // namespace AcRx
 
-/// Version of this interface; a module that declares another one is not loaded.
+/// Version of this interface; modules that report another one are not loaded.
 inline constexpr int kRxApiVersion = 20;
 
 /// One row of a module's command table.
@@ -45,10 +45,10 @@ public:
     virtual ~AcRxDbxApp() = default;
     virtual AcRx::AppRetCode On_kInitAppMsg(void* pPacket);
     virtual AcRx::AppRetCode On_kUnloadAppMsg(void* pPacket);
-    /// All other messages, which mean nothing to a module by default.
+    /// All other messages; ignored by default.
     virtual AcRx::AppRetCode OnOtherMsg(AcRx::AppMsgCode, void*) { return AcRx::kRetOK; }
 
-    /// Hands a message to its handler; a number the protocol does not have gives 0.
+    /// Dispatches a message to its handler; returns 0 for an unknown message.
     int Dispatch(int message, void* pPacket);
 
 protected:

@@ -58,7 +58,7 @@ bool AcRxDynamicLinker::loadModule(const wchar_t* path) {
         FreeLibrary(library);
         return false;
     }
-    // Listed before it is told: the module unlocks and marks itself while it starts.
+    // Added before the call: the module unlocks and marks itself during its initialisation.
     m_modules.push_back(std::make_unique<Module>(Module{path, library}));
     Module* const pModule = m_modules.back().get();
     if (Send(*pModule, AcRx::kInitAppMsg) == AcRx::kRetError) {

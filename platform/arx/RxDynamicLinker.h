@@ -1,4 +1,4 @@
-// Loading of host modules by their entry point protocol.
+// Loads host modules by their entry point protocol.
 #pragma once
 
 #include <vector>
@@ -6,22 +6,23 @@
 #include "platform/arx/RxArxApp.h"
 #include "platform/win/Types.h"
 
-/// Modules that the host has loaded. Every module exports
+/// The modules loaded by the host. Every module exports
 ///     int acrxEntryPoint(int message, void* packet)   and
 ///     int acrxGetApiVersion().
 class PLATFORM_API AcRxDynamicLinker {
 public:
-    /// Loads a module and sends it kInitAppMsg. False on failure, with LastErrorText set;
-    /// a module that answers with kRetError is unloaded again. A file that is loaded
-    /// already counts as loaded.
+    /// Loads a module and sends it kInitAppMsg. Returns false on failure, with LastErrorText set; a
+    /// module that answers with kRetError is unloaded again. Succeeds if the module is already
+    /// loaded.
     bool loadModule(const wchar_t* path);
-    /// Sends kUnloadAppMsg and unloads. A locked module stays; that gives false.
+    /// Sends kUnloadAppMsg and unloads. Returns false if the module is locked; it then stays
+    /// loaded.
     bool unloadModule(const wchar_t* path);
     bool isModuleLoaded(const wchar_t* path) const { return Find(path) != nullptr; }
 
-    /// A module is locked until it unlocks itself; the packet of its messages names it.
+    /// Modules are locked until they unlock themselves, identified by the packet of their messages.
     void unlockApplication(void* pPacket);
-    /// Marks a module as fit for several documents.
+    /// Marks a module as able to handle several documents.
     void registerAppMDIAware(void* pPacket);
     bool isAppMDIAware(const wchar_t* path) const;
 

@@ -1,5 +1,4 @@
-// Runtime classes and the dictionaries in which they and other process-wide objects
-// are found by name.
+// Runtime classes, and the dictionaries that map names to these and other process-wide objects.
 #pragma once
 
 #include <map>
@@ -9,8 +8,8 @@
 
 class AcRxClass;
 
-/// Base of everything that can tell its class at run time. An object of a derived class
-/// that declares no class of its own answers with its nearest declared base.
+/// Base of everything with a runtime class. An object whose C++ class declares none reports that of
+/// its nearest base that does.
 class PLATFORM_API AcRxObject {
 public:
     virtual ~AcRxObject() = default;
@@ -24,7 +23,7 @@ protected:
     AcRxObject& operator=(const AcRxObject&) = default;
 };
 
-/// One runtime class. Made by newAcRxClass and owned by the class dictionary.
+/// A runtime class. Created by newAcRxClass and owned by the class dictionary.
 class PLATFORM_API AcRxClass final : public AcRxObject {
 public:
     AcRxClass(const wchar_t* name, const wchar_t* parentName)
@@ -34,9 +33,9 @@ public:
     AcRxClass* isA() const override { return desc(); }
 
     const CString& name() const { return m_strName; }
-    /// Null for the root, and for a class whose parent is not (yet) registered.
+    /// Null for the root, and while the parent class is not registered.
     AcRxClass* myParent() const { return m_pParent; }
-    /// True for the class itself as well.
+    /// Also true for the class itself.
     bool isDerivedFrom(const AcRxClass* pClass) const;
 
 private:
@@ -47,12 +46,12 @@ private:
     AcRxClass* m_pParent = nullptr;
 };
 
-/// Objects by name. Not owned.
+/// Objects by name. Does not own them.
 class PLATFORM_API AcRxDictionary final : public AcRxObject {
 public:
-    /// Null if there is none of the name.
+    /// Null if the key does not exist.
     AcRxObject* at(const wchar_t* key) const;
-    /// Puts an object under a name in place of what stood there.
+    /// Stores an object under a key, replacing any previous one.
     void atPut(const wchar_t* key, AcRxObject* pObject);
     void remove(const wchar_t* key);
 
@@ -60,13 +59,13 @@ private:
     std::map<CString, AcRxObject*, CStringLess> m_objects;
 };
 
-/// The root of names: "ClassDictionary", "AcEditor", "ACAD_REGISTERED_COMMANDS".
+/// The root dictionary: "ClassDictionary", "AcEditor", "ACAD_REGISTERED_COMMANDS".
 PLATFORM_API AcRxDictionary* acrxSysRegistry();
 PLATFORM_API AcRxDictionary* acrxClassDictionary();
 
-/// Registers a class. A name that is taken already is left alone and gives null.
+/// Registers a class. Returns null and changes nothing if the name is taken.
 PLATFORM_API AcRxClass* newAcRxClass(const wchar_t* name, const wchar_t* parentName);
-/// Takes a class out of the registry and destroys it; null is ignored.
+/// Unregisters and destroys a class; null is ignored.
 PLATFORM_API void deleteAcRxClass(AcRxClass* pClass);
-/// Links every registered class to its parent by name. False if a parent is missing.
+/// Links every registered class to its parent. False if a parent is missing.
 PLATFORM_API bool acrxBuildClassHierarchy();

@@ -1,10 +1,10 @@
-// The base of dialogs that live beside a drawing.
+// Base class of dialogs that work alongside a drawing.
 #pragma once
 
 #include "platform/mfc/Dialog.h"
 
 /// The host asks with WM_ACAD_KEEPFOCUS whether the dialog keeps the keyboard focus while the
-/// cursor is over the drawing; without a handler of its own a dialog gives it away.
+/// cursor is over the drawing; by default, a dialog gives it up.
 class PLATFORM_API CAdUiBaseDialog : public CDialog {
 public:
     explicit CAdUiBaseDialog(UINT templateId = 0, CWnd* pParent = nullptr,
@@ -14,8 +14,8 @@ public:
 protected:
     const MessageMap* GetMessageMap() const override;
 
-    /// A modal dialog gives way to the drawing, so that the user can pick in it.
+    /// Hides a modal dialog so that the user can pick in the drawing.
     void BeginEditorCommand();
-    /// The dialog comes back.
+    /// Shows the dialog again.
     void CompleteEditorCommand(bool restore = true);
 };

@@ -1,9 +1,9 @@
-// Buttons that show a picture and nothing else.
+// Buttons that show only a picture.
 #pragma once
 
 #include "platform/mfc/Button.h"
 
-/// Flat, with the picture in the middle. What its template has as its text is not shown.
+/// A flat button with a centred picture. The text of its template is not shown.
 class PLATFORM_API CORVBitmapButton : public CButton {
 public:
     void SetIcon(HICON icon, CSize size) {

@@ -13,7 +13,7 @@
 
 PushButtonWidget::PushButtonWidget(QWidget* pParent, UINT style)
     : ButtonBase(pParent, style), m_ownerDrawn((style & BS_TYPEMASK) == BS_OWNERDRAW) {
-    // Enter is the dialog's; it knows which button is meant.
+    // The dialog handles Enter; it knows the default button.
     setAutoDefault(false);
 }
 

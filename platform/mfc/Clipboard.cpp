@@ -18,7 +18,7 @@ std::vector<QString>& OwnFormats() {
     return formats;
 }
 
-/// Empty for a number that was never given out.
+/// Empty for an unregistered number.
 QString MimeTypeOf(UINT format) {
     const std::size_t place = format - kFirstOwnFormat;
     return format >= kFirstOwnFormat && place < OwnFormats().size() ? OwnFormats()[place]
@@ -50,7 +50,7 @@ void CClipboardContent::SetData(UINT format, std::span<const std::byte> data) {
 
 void CClipboardContent::Put() const {
     AfxStartToolkit();
-    auto* const pMime = new QMimeData; // the clipboard takes it over
+    auto* const pMime = new QMimeData; // ownership passes to the clipboard
     if (!m_text.empty()) {
         pMime->setText(ToQString(m_text));
     }

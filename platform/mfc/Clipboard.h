@@ -1,4 +1,4 @@
-// The clipboard: one content, in one or several formats.
+// The clipboard: one content in one or more formats.
 #pragma once
 
 #include <map>
@@ -11,14 +11,14 @@
 
 inline constexpr UINT CF_UNICODETEXT = 13;
 
-/// The number of a format of one's own; the same name gives the same number.
+/// Returns the number of a custom format; the same for the same name.
 PLATFORM_API UINT RegisterClipboardFormat(const wchar_t* name);
 
-/// Gathers a content and puts it on the clipboard, replacing what was there.
+/// Collects a content and puts it on the clipboard, replacing the previous one.
 class PLATFORM_API CClipboardContent {
 public:
     void SetText(std::wstring_view text) { m_text = text; }
-    /// Formats that were not registered are left out.
+    /// Unregistered formats are ignored.
     void SetData(UINT format, std::span<const std::byte> data);
     void Put() const;
 
@@ -28,6 +28,6 @@ private:
 };
 
 PLATFORM_API bool IsClipboardFormatAvailable(UINT format);
-/// Empty if the clipboard holds nothing of the kind. Line ends come as they were put.
+/// Empty if the clipboard holds no text. Line ends are not converted.
 PLATFORM_API CString GetClipboardText();
 PLATFORM_API std::vector<std::byte> GetClipboardData(UINT format);

@@ -25,7 +25,7 @@ constexpr int kLastColor = 255;
 constexpr int kColorsInRow = 16;
 constexpr int kCellSize = 22; // pixels
 
-/// All colours side by side, in the order of their indices.
+/// All colours in a grid, in the order of their indices.
 class ColorTable final : public QWidget {
 public:
     explicit ColorTable(int chosen) : m_chosen(chosen) {

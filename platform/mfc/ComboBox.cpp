@@ -28,7 +28,7 @@ int CComboBox::InsertString(int index, const wchar_t* text) {
     const bool first = pCombo->count() == 0;
     pCombo->insertItem(place, ToQString(text));
     if (first) {
-        // The toolkit selects the first entry that comes; nobody asked for it.
+        // The toolkit selects the first entry added; undo that.
         pCombo->setCurrentIndex(-1);
     }
     return place;

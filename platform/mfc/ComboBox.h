@@ -1,4 +1,4 @@
-// A text chosen from a list that drops down.
+// Choice of a text from a drop-down list.
 #pragma once
 
 #include "platform/mfc/ImageList.h"
@@ -6,7 +6,7 @@
 
 inline constexpr int CB_ERR = -1;
 
-/// CBN_SELCHANGE comes when the user has chosen, never for what the program selects.
+/// CBN_SELCHANGE is sent only when the user selects an entry, not when the program does.
 class PLATFORM_API CComboBox : public CWnd {
 public:
     bool Create(UINT style, const CRect& rect, CWnd* pParent, UINT id);
@@ -14,29 +14,30 @@ public:
     /// \return the index of the new entry
     int AddString(const wchar_t* text);
     int InsertString(int index, const wchar_t* text);
-    /// \return how many are left, or CB_ERR. A selected entry leaves no selection behind.
+    /// Deleting the selected entry clears the selection.
+    /// \return the number of remaining entries, or CB_ERR
     int DeleteString(UINT index);
     void ResetContent();
     int GetCount() const;
     CString GetLBText(int index) const;
     int FindStringExact(int after, const wchar_t* text) const;
 
-    int GetCurSel() const; ///< CB_ERR for none
-    /// An index without an entry clears the selection and gives CB_ERR.
+    int GetCurSel() const; ///< CB_ERR if nothing is selected
+    /// An invalid index clears the selection and returns CB_ERR.
     int SetCurSel(int index);
 
     bool SetItemData(int index, DWORD_PTR data);
     bool SetItemDataPtr(int index, void* pData);
-    DWORD_PTR GetItemData(int index) const; ///< 0 without an entry
+    DWORD_PTR GetItemData(int index) const; ///< 0 for an invalid index
     void* GetItemDataPtr(int index) const;
 };
 
-/// The same with a picture before each text.
+/// A combo box with a picture before each text.
 class PLATFORM_API CWzComboBox : public CComboBox {
 public:
-    /// Of the entries' pictures; 16 by 16 unless created otherwise.
+    /// The entries' pictures; 16 by 16 unless created otherwise.
     CImageList& GetImageList() { return m_images; }
-    /// \param image an index of the image list; without one there is no picture
+    /// \param image index in the image list; without a picture if invalid
     int AddString(const wchar_t* text, int image);
 
 private:

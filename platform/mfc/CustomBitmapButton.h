@@ -1,4 +1,4 @@
-// Small buttons on the caption of a dialog.
+// Small buttons in the caption of a dialog.
 #pragma once
 
 #include "platform/mfc/Image.h"
@@ -6,16 +6,16 @@
 
 class CWnd;
 
-/// A strip of buttons, numbered by who adds them. A click comes to the dialog as NM_CLICK
-/// from a control of that number. The buttons go with the window; the strip only knows it.
+/// A strip of buttons, with numbers assigned by the caller. Clicks are sent to the dialog as
+/// NM_CLICK from a control of that number. The buttons belong to the window, not to the strip.
 class PLATFORM_API CCustomBitmapButton {
 public:
     /// False for a window without a caption.
     bool Attach(CWnd* pDialog);
-    /// False if there is such a button already, or nothing to put it on.
+    /// False if the number is in use or no dialog is attached.
     bool AddButton(int number);
     bool HasButton(int number) const;
-    /// Both are false without such a button.
+    /// Both return false for an unknown button.
     bool SetBitmap(int number, const CImage& image);
     bool SetTooltip(int number, const wchar_t* text);
 
@@ -23,9 +23,9 @@ private:
     HWND m_dialog = nullptr;
 };
 
-/// Sizes of the screen and of what windows have around them, in pixels.
+/// System metrics, in pixels.
 inline constexpr int SM_CXSCREEN = 0; ///< of the primary screen
 inline constexpr int SM_CYSCREEN = 1;
 inline constexpr int SM_CXFIXEDFRAME = 7;
-inline constexpr int SM_CYSIZE = 31; ///< the height of a caption
+inline constexpr int SM_CYSIZE = 31; ///< height of a caption
 PLATFORM_API int GetSystemMetrics(int index);

@@ -17,10 +17,10 @@ inline constexpr UINT DT_CENTER = 0x0001;
 inline constexpr UINT DT_RIGHT = 0x0002;
 inline constexpr UINT DT_VCENTER = 0x0004;
 inline constexpr UINT DT_WORDBREAK = 0x0010;
-inline constexpr UINT DT_NOPREFIX = 0x0800; ///< "&" is a letter
+inline constexpr UINT DT_NOPREFIX = 0x0800; ///< "&" is drawn as such
 inline constexpr UINT DT_END_ELLIPSIS = 0x8000;
 
-/// Lives only while its handler runs. What is selected into it is not owned.
+/// Valid only while its handler runs. Selected objects are not owned.
 class PLATFORM_API CDC {
 public:
     class Impl;
@@ -33,11 +33,11 @@ public:
     COLORREF GetTextColor() const;
     COLORREF SetBkColor(COLORREF color);
     COLORREF GetBkColor() const;
-    /// OPAQUE texts are written on a ground in the background colour.
+    /// OPAQUE texts are drawn on the background colour.
     int SetBkMode(int mode);
     int GetBkMode() const;
 
-    /// Each returns what was selected before; null selects what was there at first.
+    /// Each returns the previous object; null selects the initial one.
     const CFont* SelectObject(const CFont* pFont);
     const CPen* SelectObject(const CPen* pPen);
     const CBrush* SelectObject(const CBrush* pBrush);
@@ -48,7 +48,7 @@ public:
     CSize GetTextExtent(const wchar_t* text) const;
     void FillSolidRect(const CRect& rect, COLORREF color);
     void FillRect(const CRect& rect, const CBrush* pBrush);
-    /// Lines in the pen, filled with the brush.
+    /// Outlined with the pen, filled with the brush.
     void Rectangle(const CRect& rect);
     void DrawImage(int x, int y, const CImage& image);
 
@@ -58,7 +58,7 @@ protected:
     std::unique_ptr<Impl> m_pImpl;
 };
 
-/// The device context of a window in its handler of WM_PAINT, and only there.
+/// The device context of a window; valid only in its WM_PAINT handler.
 class PLATFORM_API CPaintDC : public CDC {
 public:
     explicit CPaintDC(CWnd* pWnd);

@@ -65,7 +65,7 @@ std::unique_ptr<CWnd> MakeControl(enmControlKind kind) {
     return nullptr;
 }
 
-/// In the middle of a window, or of the primary monitor, and in sight.
+/// Centres a dialog on a window or the primary monitor, within the visible area.
 void CentreOn(QWidget& dialog, const QWidget* pParent) {
     const std::vector<Monitor> monitors = Screens().Monitors();
     const CRect around = pParent && pParent->isVisible()
@@ -193,7 +193,7 @@ int CDialog::DoModal() {
         QWidget& outer = *Core()->Outer();
         outer.setWindowModality(Qt::ApplicationModal);
         CentreOn(outer, pParent && pParent->Core() ? pParent->Core()->Outer() : nullptr);
-        m_result = IDCANCEL; // what a loop that somebody else ends gives
+        m_result = IDCANCEL; // if the event loop is ended from outside
         ShowWindow(SW_SHOW);
         owner.loop.exec();
         m_pLoop = nullptr;
@@ -286,7 +286,7 @@ bool CDialog::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->message != WM_KEYDOWN || (!isReturn && pMsg->wParam != VK_ESCAPE) || !Core()) {
         return CWnd::PreTranslateMessage(pMsg);
     }
-    // An editor of a label is no window of ours; both keys end it.
+    // The editor of a label is not a window of ours; both keys end it.
     const QWidget* const pFocus = QApplication::focusWidget();
     if (pFocus && !WindowCore::OfWidget(pFocus)) {
         return false;

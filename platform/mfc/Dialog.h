@@ -1,46 +1,46 @@
-// Windows that are built from a template.
+// Windows created from a template.
 #pragma once
 
 #include "platform/mfc/DialogTemplate.h"
 #include "platform/mfc/Wnd.h"
 
-/// A dialog. Modal: DoModal creates the window, runs it and destroys it. Modeless: Create
-/// makes the window, which stays until DestroyWindow.
+/// A dialog. Modal: DoModal creates the window, runs it and destroys it. Modeless: Create creates
+/// the window, which exists until DestroyWindow.
 ///
-/// Enter presses the button that has the focus, or else the default button; Escape means
-/// IDCANCEL, and so does the close box.
+/// Enter presses the focused button, or else the default button; Escape and the close box act as
+/// IDCANCEL.
 class PLATFORM_API CDialog : public CWnd {
 public:
-    /// \param module whose template of the id it is; null: the module that is current when
+    /// \param module the module that provides the template; null: the module that is current when
     /// the window is created
     explicit CDialog(UINT templateId = 0, CWnd* pParent = nullptr, HINSTANCE module = nullptr);
     ~CDialog() override;
 
-    /// \param templateId 0: the one of the constructor
-    /// \return false if there is no such template, or a window already
+    /// \param templateId 0: the constructor's
+    /// \return false if the template does not exist or there already is a window
     bool Create(UINT templateId = 0, CWnd* pParent = nullptr);
-    /// Without a desktop it prints title, texts and rows at the host and answers IDOK.
-    /// \return what EndDialog was called with; -1 if there is no template
+    /// Without a desktop, prints title, texts and rows at the host and returns IDOK.
+    /// \return the argument of EndDialog; -1 if the template does not exist
     virtual int DoModal();
-    /// Ends DoModal; a modeless dialog is hidden.
+    /// Ends DoModal; hides a modeless dialog.
     void EndDialog(int result);
 
-    /// Dialog units of this dialog as pixels.
+    /// Converts dialog units of this dialog to pixels.
     CRect MapDialogRect(const CRect& rect) const;
 
     bool PreTranslateMessage(MSG* pMsg) override;
 
 protected:
     const MessageMap* GetMessageMap() const override;
-    /// The controls are there. The base moves values into them.
-    /// \return whether the first control shall have the focus
+    /// Called once the controls exist. The base implementation transfers values to them.
+    /// \return true to focus the first control
     virtual bool OnInitDialog();
     virtual void OnOK();
     virtual void OnCancel();
     bool OnCommand(WPARAM wParam, LPARAM lParam) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    /// While a modal dialog gives way to the drawing.
+    /// Hides a modal dialog while the user works in the drawing.
     void SetModalWindowHidden(bool hidden);
 
 private:
@@ -57,5 +57,5 @@ private:
     int m_result = 0;
     bool m_ended = false;
     class QEventLoopOwner;
-    QEventLoopOwner* m_pLoop = nullptr; ///< of DoModal, while it runs
+    QEventLoopOwner* m_pLoop = nullptr; ///< event loop of DoModal while it runs
 };

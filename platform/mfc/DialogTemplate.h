@@ -1,4 +1,4 @@
-// Dialogs as data: what stands where on them.
+// Descriptions of dialogs and their controls as data.
 #pragma once
 
 #include <span>
@@ -7,7 +7,7 @@
 #include "platform/mfc/Styles.h"
 #include "platform/win/Rect.h"
 
-/// Places and sizes are in dialog units: a quarter of the font's mean letter width, an
+/// Positions and sizes are in dialog units: a quarter of the font's average character width and an
 /// eighth of its height.
 struct DialogItem {
     enmControlKind kind;
@@ -15,32 +15,33 @@ struct DialogItem {
     int x;
     int y;
     int cx;
-    int cy; ///< of a combo box: its height with the list open
+    int cy; ///< for a combo box: its height with the list open
     const wchar_t* text = L"";
-    UINT style = 0; ///< beside WS_CHILD and WS_VISIBLE
+    UINT style = 0; ///< in addition to WS_CHILD and WS_VISIBLE
     bool invisible = false;
 };
 
-/// Everything it points to lives as long as the process.
-// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): in the order in which tables read
+/// All pointers must remain valid for the lifetime of the process.
+// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): in the order of the tables
 struct DialogTemplate {
     UINT id;
     int cx; ///< of the client area
     int cy;
     const wchar_t* title;
-    UINT style; ///< WS_CHILD for a dialog that lies in another window
+    UINT style; ///< WS_CHILD for a dialog inside another window
     std::span<const DialogItem> items;
-    const wchar_t* fontName = L"MS Shell Dlg"; ///< this one means the desktop's own font
+    const wchar_t* fontName = L"MS Shell Dlg"; ///< stands for the desktop's own font
     int fontPoints = 8;
 };
 
-/// Makes the templates of a module known.
+/// Registers the templates of a module.
 PLATFORM_API void AddDialogTemplates(HINSTANCE module, std::span<const DialogTemplate> templates);
-/// The template of an id: the module's own, or else that of the module that added one last.
-/// Null for none.
+/// Finds a template: the module's own, or else that of the module registered last. Null if it does
+/// not exist.
 PLATFORM_API const DialogTemplate* FindDialogTemplate(HINSTANCE module, UINT id);
 
-/// Dialog units as pixels, rounded; the base is the mean width and the height of a letter.
+/// Converts dialog units to pixels, rounded; the base is the average width and the height of a
+/// character.
 constexpr CRect FromDialogUnits(const CRect& rect, CSize base) {
     const auto scale = [](int value, int unit, int parts) {
         const int product = value * unit;

@@ -1,11 +1,11 @@
-// What a device context draws with: plain values.
+// Drawing attributes of device contexts, as plain values.
 #pragma once
 
 #include "platform/win/String.h"
 #include "platform/win/Types.h"
 
-/// A font as it is asked for. A height below 0 is that of the letters in pixels; 0 is the
-/// usual height.
+/// Description of a font. A negative height is the character height in pixels; 0 is the default
+/// height.
 struct LOGFONT {
     int lfHeight = 0;
     int lfWeight = 400;
@@ -28,7 +28,7 @@ private:
     LOGFONT m_font;
 };
 
-/// A colour to fill with, or nothing at all ("hollow").
+/// A fill colour, or no fill ("hollow").
 class CBrush {
 public:
     CBrush() = default;
@@ -36,7 +36,7 @@ public:
     void CreateSolidBrush(COLORREF color) { *this = CBrush(color); }
     bool IsHollow() const { return m_hollow; }
     COLORREF Color() const { return m_color; }
-    /// The hollow brush that everybody may hand out.
+    /// The shared hollow brush.
     static const CBrush* Hollow() {
         static const CBrush brush;
         return &brush;

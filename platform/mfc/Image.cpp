@@ -19,7 +19,7 @@ namespace {
 
 IIconSource* g_pIconSource = nullptr;
 
-/// What the gray form of a picture keeps of its opacity.
+/// Share of the opacity kept by the gray form of a picture.
 constexpr double kGrayShare = 0.7;
 
 } // namespace
@@ -58,7 +58,7 @@ CImage CImage::FromFile(const CString& path, CSize size, double density) {
         density = qApp->devicePixelRatio();
     }
     if (sized) {
-        // Read at the size wanted, a drawing stays sharp.
+        // Rendered at the requested size, vector images stay sharp.
         const QSize wanted(qCeil(size.cx * density), qCeil(size.cy * density));
         reader.setScaledSize(own.isValid() ? own.scaled(wanted, Qt::KeepAspectRatio) : wanted);
     }
@@ -66,7 +66,7 @@ CImage CImage::FromFile(const CString& path, CSize size, double density) {
     if (image.isNull()) {
         return {};
     }
-    // Lines of 32-bit pixels have no gaps.
+    // Rows of 32-bit pixels have no padding.
     return {image.width(),
             image.height(),
             {reinterpret_cast<const std::uint32_t*>(image.constBits()),

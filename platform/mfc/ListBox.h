@@ -1,4 +1,4 @@
-// A list of lines.
+// A list of text lines.
 #pragma once
 
 #include <vector>
@@ -7,21 +7,21 @@
 
 inline constexpr int LB_ERR = -1;
 
-/// With LBS_SORT lines keep alphabetical order, upper and lower case alike. With
-/// LBS_EXTENDEDSEL several lines can be selected.
+/// With LBS_SORT, lines are in alphabetical order, ignoring case. LBS_EXTENDEDSEL allows multiple
+/// selection.
 class PLATFORM_API CListBox : public CWnd {
 public:
     bool Create(UINT style, const CRect& rect, CWnd* pParent, UINT id);
 
-    /// \return where the line came to stand
+    /// \return the line's index
     int AddString(const wchar_t* text);
     void ResetContent();
     int GetCount() const;
     CString GetText(int index) const;
-    int GetCurSel() const; ///< LB_ERR for none; the first of several
+    int GetCurSel() const; ///< LB_ERR if nothing is selected; the first of several
     int SetCurSel(int index);
     bool GetSel(int index) const;
     bool SetSel(int index, bool selected = true);
-    /// The selected lines, ascending.
+    /// Indices of the selected lines, ascending.
     std::vector<int> GetSelItems() const;
 };

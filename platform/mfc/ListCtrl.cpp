@@ -14,7 +14,7 @@ ListWidget* ListOf(const CListCtrl& list) {
     return WidgetOf<ListWidget>(list);
 }
 
-/// The widget if it has the row, else null.
+/// The list's widget if the row exists, else null.
 ListWidget* WithRow(const CListCtrl& list, int row) {
     ListWidget* const pList = ListOf(list);
     return pList && pList->Rows().HasRow(row) ? pList : nullptr;

@@ -1,4 +1,4 @@
-// A report: rows of cells under column headers.
+// A report view: rows of cells with column headers.
 #pragma once
 
 #include <functional>
@@ -21,7 +21,7 @@ inline constexpr int LVCFMT_CENTER = 2;
 inline constexpr int LVSCW_AUTOSIZE = -1;
 inline constexpr int LVSCW_AUTOSIZE_USEHEADER = -2;
 
-/// A cell, or all of a row; the mask says which of the fields count.
+/// A cell or a whole row; the mask selects the valid fields.
 struct LVITEM {
     UINT mask = 0;
     int iItem = 0;
@@ -33,8 +33,8 @@ struct LVITEM {
     LPARAM lParam = 0;
 };
 
-/// What LVN_ITEMCHANGED points to. It comes for each row whose state changed, by the user
-/// or the program.
+/// Data of LVN_ITEMCHANGED, which is sent for each row whose state was changed by the user or the
+/// program.
 struct NMLISTVIEW {
     NMHDR hdr;
     int iItem = -1;
@@ -45,8 +45,7 @@ struct NMLISTVIEW {
     LPARAM lParam = 0;
 };
 
-/// What NM_CLICK, NM_RCLICK, NM_DBLCLK and LVN_ITEMACTIVATE point to; iItem is -1 beside
-/// the rows.
+/// Data of NM_CLICK, NM_RCLICK, NM_DBLCLK and LVN_ITEMACTIVATE; iItem is -1 outside the rows.
 struct NMITEMACTIVATE {
     NMHDR hdr;
     int iItem = -1;
@@ -54,7 +53,7 @@ struct NMITEMACTIVATE {
     CPoint ptAction;
 };
 
-/// Stages of NM_CUSTOMDRAW, and what a handler answers to them.
+/// Stages of NM_CUSTOMDRAW, and the handler's results.
 inline constexpr UINT CDDS_PREPAINT = 0x00001;
 inline constexpr UINT CDDS_ITEMPREPAINT = 0x10001;
 inline constexpr UINT CDDS_ITEMPOSTPAINT = 0x10002;
@@ -65,45 +64,45 @@ inline constexpr LRESULT CDRF_NOTIFYPOSTPAINT = 0x10;
 inline constexpr LRESULT CDRF_NOTIFYITEMDRAW = 0x20;
 inline constexpr LRESULT CDRF_NOTIFYSUBITEMDRAW = 0x20;
 
-/// The handler may change the two colours, and select a font into the device context.
-/// Colours set for a row are those its cells start with.
+/// The handler may change the two colours and select a font into the device context. Colours set
+/// for a row are the defaults of its cells.
 struct NMLVCUSTOMDRAW {
     NMHDR hdr;
     UINT dwDrawStage = 0;
     CDC* pDC = nullptr;
     CRect rc;
-    int iItem = -1; ///< the row
+    int iItem = -1; ///< the row's index
     int iSubItem = 0;
     LPARAM lItemlParam = 0;
     COLORREF clrText = 0;
     COLORREF clrTextBk = 0;
 };
 
-/// The first column carries the pictures. Rows and columns count from 0. Filling is fast for
-/// hundreds of thousands of rows, at both ends of the list.
+/// The first column shows the pictures. Row and column indices start at 0. Adding at either end is
+/// fast, up to hundreds of thousands of rows.
 class PLATFORM_API CListCtrl : public CWnd {
 public:
     bool Create(UINT style, const CRect& rect, CWnd* pParent, UINT id);
     void SetExtendedStyle(UINT style);
-    /// Copies the list; later additions to it are not seen.
+    /// Copies the list; later additions to it have no effect.
     void SetImageList(const CImageList& images);
     void SetTextColor(COLORREF color);
     void SetTextBkColor(COLORREF color);
     COLORREF GetTextColor() const;
     COLORREF GetTextBkColor() const;
 
-    /// \param width in pixels; below 0 for the usual width
-    /// \return the column's place, or -1
+    /// \param width in pixels; a negative value for the default
+    /// \return the column's index, or -1
     int InsertColumn(int column, const wchar_t* heading, int format = LVCFMT_LEFT, int width = -1);
     bool DeleteColumn(int column);
     int GetColumnCount() const;
     CString GetColumnText(int column) const;
     int GetColumnWidth(int column) const;
-    /// In pixels, or LVSCW_AUTOSIZE for the widest cell, LVSCW_AUTOSIZE_USEHEADER for the
-    /// header and the widest cell; the last column then takes what is left.
+    /// Width in pixels, or LVSCW_AUTOSIZE for the widest cell, or LVSCW_AUTOSIZE_USEHEADER for the
+    /// wider of header and cells; with the latter, the last column takes the remaining space.
     bool SetColumnWidth(int column, int width);
 
-    /// A place behind the last row means the end. \return where the row came to stand, or -1
+    /// An index past the last row appends. \return the row's index, or -1
     int InsertItem(int row, const wchar_t* text, int image = -1);
     int InsertItem(const LVITEM& item);
     bool SetItem(const LVITEM& item);
@@ -121,16 +120,16 @@ public:
     bool SetItemState(int row, UINT state, UINT mask);
     UINT GetItemState(int row, UINT mask) const;
     int GetSelectedCount() const;
-    /// The next row behind another (-1: from the start), -1 at the end.
+    /// The next row after another (-1: from the start), or -1 if there are no more.
     int GetNextItem(int after, UINT flags) const;
     bool EnsureVisible(int row);
     void Update(int row);
     void RedrawItems();
-    /// The row at a point of the client area, or -1.
+    /// The row at a point in client coordinates, or -1.
     int HitTest(CPoint point) const;
     CRect GetSubItemRect(int row, int column) const;
 
-    /// Orders the rows by their data: the comparison gives less than, equal to or greater
-    /// than 0. Rows that compare equal keep their order.
+    /// Sorts the rows by their data, with a comparison that returns less than, equal to or greater
+    /// than 0. The sort is stable.
     void SortItems(const std::function<int(DWORD_PTR, DWORD_PTR)>& compare);
 };

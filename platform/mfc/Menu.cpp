@@ -76,7 +76,7 @@ std::optional<UINT> CMenu::TrackPopupMenu(UINT, int x, int y, CWnd* pWnd) const 
     QWidget* const pOver = pWnd && pWnd->Core() ? pWnd->Core()->Outer() : nullptr;
     const QPointer<QMenu> menu = new QMenu(pOver);
     FillMenu(*menu, *this);
-    // What exec returns misses choices that come by the keyboard in a menu within a menu.
+    // The result of exec misses items chosen by keyboard in a submenu.
     std::optional<UINT> chosen;
     QObject::connect(menu.data(), &QMenu::triggered, menu.data(),
                      [&chosen](const QAction* pAction) { chosen = pAction->data().toUInt(); });

@@ -20,7 +20,7 @@ inline constexpr UINT MF_SEPARATOR = 0x0800;
 inline constexpr UINT TPM_RIGHTBUTTON = 0x0002;
 inline constexpr UINT TPM_RETURNCMD = 0x0100;
 
-/// A menu as data; it comes to the screen in TrackPopupMenu alone. Places count from 0.
+/// A menu as data; only TrackPopupMenu creates a widget for it. Positions start at 0.
 class PLATFORM_API CMenu {
 public:
     CMenu() = default;
@@ -29,24 +29,24 @@ public:
     CMenu(CMenu&&) = default;
     CMenu& operator=(CMenu&&) = default;
 
-    /// Empties the menu, as does DestroyMenu.
+    /// Clears the menu, like DestroyMenu.
     bool CreatePopupMenu();
     bool DestroyMenu();
 
     /// \param flags MF_STRING or MF_SEPARATOR, with MF_GRAYED and MF_CHECKED
     bool AppendMenu(UINT flags, UINT id = 0, const wchar_t* text = L"");
-    /// Takes over another menu as a menu of this one.
+    /// Adds another menu as a submenu and takes ownership.
     bool AppendMenu(CMenu subMenu, const wchar_t* text);
 
     UINT GetMenuItemCount() const { return static_cast<UINT>(m_items.size()); }
     UINT GetMenuItemID(UINT place) const; ///< 0 for a separator
     CString GetMenuString(UINT place) const;
-    UINT GetMenuState(UINT place) const; ///< the flags
-    CMenu* GetSubMenu(UINT place) const; ///< null for none
+    UINT GetMenuState(UINT place) const; ///< the item's flags
+    CMenu* GetSubMenu(UINT place) const; ///< null if it is not a submenu
 
-    /// Shows the menu on the screen and waits.
-    /// \return the id that was chosen, which may be 0; nothing if the menu was dismissed, if
-    /// it is empty, and without a desktop
+    /// Shows the menu and waits for a choice.
+    /// \return the chosen id, which may be 0; nothing if the menu is dismissed or empty, or without
+    /// a desktop
     std::optional<UINT> TrackPopupMenu(UINT flags, int x, int y, CWnd* pWnd) const;
 
 private:

@@ -22,7 +22,7 @@
 namespace {
 
 constexpr wchar_t kProductTitle[] = L"Halvane";
-/// At a prompt, before what is said instead counts as no answer.
+/// Number of attempts at the prompt before it counts as unanswered.
 constexpr int kMostAsked = 5;
 
 struct BoxButton {
@@ -36,14 +36,14 @@ constexpr BoxButton kCancel{IDCANCEL, L"Cancel", PlatformMsg::Cancel};
 constexpr BoxButton kYes{IDYES, L"Yes", PlatformMsg::Yes};
 constexpr BoxButton kNo{IDNO, L"No", PlatformMsg::No};
 
-/// The toolkit gives these the places that the desktop has for them.
+/// The toolkit arranges these in the order customary on the desktop.
 constexpr std::pair<const wchar_t*, QMessageBox::StandardButton> kStandardButtons[] = {
     {L"OK", QMessageBox::Ok},
     {L"Cancel", QMessageBox::Cancel},
     {L"Yes", QMessageBox::Yes},
     {L"No", QMessageBox::No}};
 
-/// The last one is the answer of those who give none.
+/// The last button is the answer if the user gives none.
 std::span<const BoxButton> ButtonsOf(UINT type) {
     static constexpr std::array kJustOk = {kOk};
     static constexpr std::array kOkCancel = {kOk, kCancel};
@@ -95,7 +95,7 @@ QAbstractButton* AddButton(QMessageBox& box, const PromptChoice& choice) {
     return box.addButton(ToQString(choice.text.View()), QMessageBox::ActionRole);
 }
 
-/// What is not over a modal dialog could not be answered before that is closed.
+/// A box that is not above a modal dialog could not be answered until the dialog is closed.
 QWidget* ParentOf(CWnd* pParent) {
     if (QWidget* const pModal = QApplication::activeModalWidget()) {
         return pModal;
@@ -103,11 +103,11 @@ QWidget* ParentOf(CWnd* pParent) {
     return pParent && pParent->Core() ? pParent->Core()->Outer() : QApplication::activeWindow();
 }
 
-/// Nothing if the user gave no answer.
+/// Nothing if the user did not answer.
 std::optional<std::size_t> ShowBox(CWnd* pParent, const ChoicePrompt& prompt,
                                    const wchar_t* caption, QMessageBox::Icon icon) {
     AfxStartToolkit();
-    // Guarded: the parent may be destroyed with all its children while the box waits.
+    // QPointer: the parent and its children may be destroyed while the box is open.
     const QPointer<QMessageBox> box = new QMessageBox(ParentOf(pParent));
     box->setIcon(icon);
     box->setWindowTitle(ToQString(caption));

@@ -1,4 +1,4 @@
-// Message maps: tables that say which member function handles which message.
+// Message maps: tables that assign member functions to messages.
 //
 //     const MessageMap* CDlgReport::GetMessageMap() const {
 //         static constexpr MessageEntry kEntries[] = {
@@ -22,8 +22,8 @@ class CWnd;
 class CBrush;
 struct DroppedFiles;
 
-using HBRUSH = const CBrush*;      ///< not owned; null for none
-using HDROP = const DroppedFiles*; ///< lives while its message is handled
+using HBRUSH = const CBrush*;      ///< not owned; may be null
+using HDROP = const DroppedFiles*; ///< valid while its message is being handled
 using MessageThunk = LRESULT (*)(CCmdTarget*, WPARAM, LPARAM);
 
 struct MessageEntry {
@@ -34,13 +34,13 @@ struct MessageEntry {
     MessageThunk thunk;
 };
 
-/// The table of one class, and that of its base. Both live as long as the process.
+/// The table of one class, and that of its base class. Both are static.
 struct MessageMap {
     const MessageMap* pBase;
     std::span<const MessageEntry> entries;
 };
 
-/// Anything that has a message map.
+/// Base of all classes with a message map.
 class PLATFORM_API CCmdTarget {
 public:
     virtual ~CCmdTarget() = default;
@@ -48,11 +48,11 @@ public:
 protected:
     CCmdTarget() = default;
     virtual const MessageMap* GetMessageMap() const;
-    /// The nearest handler, from the class of the object down to its bases; null for none.
+    /// The handler in the most derived class that has one; null if there is none.
     MessageThunk FindHandler(UINT message, UINT code, UINT id) const;
 };
 
-/// What WM_CTLCOLOR and WM_NOTIFY point to with their last parameter.
+/// Data that the last parameter of WM_CTLCOLOR points to.
 struct ControlColorQuery {
     CDC* pDC;
     CWnd* pControl;
@@ -64,7 +64,7 @@ namespace MessageMapDetail {
 
 enum class enmArguments { None, Raw, Size, Timer, Place, Mouse, Colors, Drop, Notify };
 
-/// How the parameters of a message reach its handler.
+/// How the parameters of a message are passed to its handler.
 consteval enmArguments ArgumentsOf(UINT message) {
     switch (message) {
     case WM_DESTROY:
@@ -196,7 +196,7 @@ template <auto Handler>
 consteval MessageEntry MapMessage(UINT message) {
     return MessageMapDetail::Entry<Handler>(message, 0, 0, 0);
 }
-/// A click on a button or static, or a chosen command.
+/// A click on a button or static, or a menu command.
 template <auto Handler>
 consteval MessageEntry MapCommand(UINT id) {
     return MessageMapDetail::Entry<Handler>(WM_COMMAND, BN_CLICKED, id, id);
@@ -213,7 +213,7 @@ template <auto Handler>
 consteval MessageEntry MapNotify(UINT code, UINT id) {
     return MessageMapDetail::Entry<Handler>(WM_NOTIFY, code, id, id);
 }
-/// A notification that the control itself handles, before its parent is asked.
+/// A notification that the control handles itself before its parent gets it.
 template <auto Handler>
 consteval MessageEntry MapNotifyReflect(UINT code) {
     return MessageMapDetail::Entry<Handler>(kReflectedNotify, code, 0, 0);

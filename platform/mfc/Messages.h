@@ -1,4 +1,4 @@
-// The messages that windows get, and the values that come with them.
+// Window messages and their parameters.
 #pragma once
 
 #include "platform/win/Rect.h"
@@ -20,7 +20,7 @@ inline constexpr UINT WM_DROPFILES = 0x0233;
 inline constexpr UINT WM_USER = 0x0400;
 /// The host asks a dialog whether it keeps the keyboard focus over the drawing.
 inline constexpr UINT WM_ACAD_KEEPFOCUS = 0x7101;
-/// Not a message: marks entries of a map for notifications that come back to the control.
+/// Not a message: marks map entries for notifications reflected to the control.
 inline constexpr UINT kReflectedNotify = 0xBC4E;
 
 /// Codes of WM_COMMAND.
@@ -46,9 +46,9 @@ inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 inline constexpr int IDYES = 6;
 inline constexpr int IDNO = 7;
-inline constexpr UINT IDC_STATIC = 0xFFFF; ///< a control that nobody asks for
+inline constexpr UINT IDC_STATIC = 0xFFFF; ///< a control that is never looked up
 
-/// Keys by their codes; a letter or digit is its own code.
+/// Virtual key codes; letters and digits are their own codes.
 inline constexpr int VK_BACK = 0x08;
 inline constexpr int VK_TAB = 0x09;
 inline constexpr int VK_RETURN = 0x0D;
@@ -72,17 +72,17 @@ inline constexpr UINT SWP_NOZORDER = 0x0004;
 inline constexpr UINT SWP_NOACTIVATE = 0x0010;
 inline constexpr UINT SWP_SHOWWINDOW = 0x0040;
 inline constexpr UINT SWP_HIDEWINDOW = 0x0080;
-/// In WINDOWPOS alone: the user moves the window, keeping its size.
+/// Only in WINDOWPOS: the user moves the window without resizing it.
 inline constexpr UINT SWP_USERMOVE = 0x10000;
 
-/// How a window is shown.
+/// Show commands of windows.
 inline constexpr int SW_HIDE = 0;
 inline constexpr int SW_SHOWNORMAL = 1;
 inline constexpr int SW_SHOWMINIMIZED = 2;
 inline constexpr int SW_SHOWNOACTIVATE = 4;
 inline constexpr int SW_SHOW = 5;
 
-/// What is painted when WM_CTLCOLOR asks for colours.
+/// Kinds of controls for which WM_CTLCOLOR asks for colours.
 inline constexpr UINT CTLCOLOR_BTN = 3;
 inline constexpr UINT CTLCOLOR_STATIC = 6;
 
@@ -91,10 +91,10 @@ struct MSG {
     UINT message = 0;
     WPARAM wParam = 0;
     LPARAM lParam = 0;
-    CPoint pt; ///< the cursor on the screen when the message came about
+    CPoint pt; ///< screen position of the cursor when the message was generated
 };
 
-/// A place that a window is about to take; a handler may change it.
+/// Requested position of a window; a handler may change it.
 struct WINDOWPOS {
     HWND hwnd = nullptr;
     HWND hwndInsertAfter = nullptr;
@@ -108,10 +108,10 @@ using tagWINDOWPOS = WINDOWPOS;
 
 struct WINDOWPLACEMENT {
     int showCmd = SW_HIDE;
-    CRect rcNormalPosition; ///< on the screen, for a child in its parent
+    CRect rcNormalPosition; ///< in screen coordinates, for a child in its parent's
 };
 
-/// The head of everything that a notification points to.
+/// Common header of all notification data.
 struct NMHDR {
     HWND hwndFrom = nullptr;
     UINT idFrom = 0;
@@ -119,12 +119,12 @@ struct NMHDR {
 };
 using tagNMHDR = NMHDR;
 
-/// The object that a parameter points to.
+/// Converts a parameter to a pointer.
 template <class T>
 T* PointerOf(LPARAM value) {
     return reinterpret_cast<T*>(value); // NOLINT(performance-no-int-to-ptr): so messages are
 }
-/// Two numbers in one parameter.
+/// Packs two numbers into one parameter.
 constexpr LPARAM PackInts(int low, int high) {
     return static_cast<LPARAM>(static_cast<std::uint64_t>(static_cast<std::uint32_t>(high)) << 32 |
                                static_cast<std::uint32_t>(low));
@@ -135,7 +135,7 @@ constexpr int LowInt(LPARAM value) {
 constexpr int HighInt(LPARAM value) {
     return static_cast<int>(value >> 32);
 }
-/// The parameter of WM_COMMAND: whose it is, and what happened to it.
+/// Packs the parameter of WM_COMMAND: control id and notification code.
 constexpr WPARAM PackCommand(UINT id, UINT code) {
     return static_cast<WPARAM>(id) | static_cast<WPARAM>(code) << 32;
 }

@@ -1,4 +1,4 @@
-// Between windows and the widgets of the toolkit, for a host that knows the toolkit.
+// Conversion between windows and toolkit widgets, for hosts that use the toolkit directly.
 #pragma once
 
 #include "platform/Api.h"
@@ -6,13 +6,13 @@
 
 class CWnd;
 
-/// The widget (a QWidget*) that is moved, shown and laid out; null without a window.
+/// The outermost widget (a QWidget*), for moving, showing and layout; null without a window.
 PLATFORM_API void* NativeWidget(const CWnd& wnd);
-/// The widget that other windows are placed on, which the mouse and the keys reach.
+/// The inner widget, which receives mouse and key events and is the parent of child windows.
 PLATFORM_API void* NativeClient(const CWnd& wnd);
-/// Has an object stand for a widget (a QWidget*) of the host's own, so that it can be a parent
-/// and get messages. The widget stays the host's: it decides about its closing, and destroying
-/// the window hides the widget only.
+/// Attaches an object to a widget (a QWidget*) of the host, so that it can be a parent and receive
+/// messages. The host keeps ownership and control over closing; destroying the window only hides
+/// the widget.
 PLATFORM_API bool AttachNativeWidget(CWnd& wnd, void* pWidget);
-/// The upper left corner of the primary monitor as the toolkit counts; see IScreens.
+/// The upper left corner of the primary monitor in toolkit coordinates; see IScreens.
 PLATFORM_API CPoint NativePrimaryCorner();

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// "&" underlines what follows; two of them stand for the letter.
+/// "&" marks the mnemonic; "&&" is a literal "&".
 std::wstring WithoutMnemonics(const QString& text) {
     std::wstring result;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -108,7 +108,7 @@ void StaticWidget::PaintText(QPainter& painter) {
     } else if ((m_style & SS_TYPEMASK) == SS_RIGHT) {
         flags |= DT_RIGHT;
     }
-    // A line that is too high for its place by a pixel or two is better than half a line.
+    // A line that is a pixel or two too high is better than half a line.
     const int lineHeight = fontMetrics().height();
     if (height() < 2 * lineHeight) {
         flags = (flags & ~DT_WORDBREAK) | DT_VCENTER;

@@ -1,4 +1,4 @@
-// Texts, lines, icons and frames: controls that only show something.
+// Texts, lines, icons and frames: controls for display only.
 #pragma once
 
 #include "platform/mfc/Image.h"
@@ -6,21 +6,21 @@
 
 class StaticWidget;
 
-/// What it shows depends on its style. Colours come from WM_CTLCOLOR of the parent. With
-/// SS_NOTIFY clicks come as STN_CLICKED; otherwise the mouse is its parent's.
+/// The style selects the kind of content. Colours are requested from the parent with WM_CTLCOLOR.
+/// With SS_NOTIFY, clicks are sent as STN_CLICKED; otherwise mouse events go to the parent.
 class PLATFORM_API CStatic : public CWnd {
 public:
     bool Create(const wchar_t* text, UINT style, const CRect& rect, CWnd* pParent, UINT id);
     void SetIcon(HICON icon, CSize size);
-    /// Shown in the middle, in its own size, instead of the text; an empty one clears.
+    /// Shown centred and unscaled instead of the text; an empty one removes it.
     void SetBitmap(const CImage& image);
 
 protected:
     StaticWidget* Widget() const;
 };
 
-/// A text, or a bar, with colours of its own. A brush of the parent's WM_CTLCOLOR comes
-/// before its background.
+/// A text or bar with its own colours. A brush from the parent's WM_CTLCOLOR takes precedence over
+/// its background.
 class PLATFORM_API CXColorStatic : public CStatic {
 public:
     void SetTextColor(COLORREF color);
@@ -28,16 +28,16 @@ public:
     void SetBold(bool bold = true);
 };
 
-/// A text that opens an address.
+/// A text that opens an address when clicked.
 class PLATFORM_API CXHyperLink : public CXColorStatic {
 public:
     void SetURL(const wchar_t* address);
     CString GetURL() const;
-    /// What a click does.
+    /// Opens the address.
     bool Open() const;
 };
 
-/// A picture, as large as the control allows.
+/// A picture, scaled to fit the control.
 class PLATFORM_API CPictureBox : public CStatic {
 public:
     void SetPicture(const CImage& image);

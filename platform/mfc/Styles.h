@@ -1,5 +1,4 @@
-// Kinds of controls, and the styles that windows are created with. Styles of one kind of
-// control mean nothing to another.
+// Kinds of controls, and window styles. Styles of one kind of control do not apply to others.
 #pragma once
 
 #include "platform/win/Types.h"
@@ -10,15 +9,15 @@ inline constexpr UINT WS_CHILD = 0x40000000;
 inline constexpr UINT WS_POPUP = 0x80000000;
 inline constexpr UINT WS_VISIBLE = 0x10000000;
 inline constexpr UINT WS_DISABLED = 0x08000000;
-inline constexpr UINT WS_CAPTION = 0x00C00000;    ///< a caption strip with the title
-inline constexpr UINT WS_SYSMENU = 0x00080000;    ///< a close box on it
-inline constexpr UINT WS_THICKFRAME = 0x00040000; ///< edges that size the window
+inline constexpr UINT WS_CAPTION = 0x00C00000;    ///< a caption bar with the title
+inline constexpr UINT WS_SYSMENU = 0x00080000;    ///< a close box in the caption
+inline constexpr UINT WS_THICKFRAME = 0x00040000; ///< resizable borders
 
 inline constexpr UINT BS_PUSHBUTTON = 0x00;
-inline constexpr UINT BS_DEFPUSHBUTTON = 0x01; ///< what Enter presses
-inline constexpr UINT BS_CHECKBOX = 0x02;      ///< a click does not change it by itself
+inline constexpr UINT BS_DEFPUSHBUTTON = 0x01; ///< pressed by Enter
+inline constexpr UINT BS_CHECKBOX = 0x02;      ///< does not change its check state when clicked
 inline constexpr UINT BS_AUTOCHECKBOX = 0x03;
-inline constexpr UINT BS_OWNERDRAW = 0x0B; ///< filled with the brush of WM_CTLCOLOR
+inline constexpr UINT BS_OWNERDRAW = 0x0B; ///< filled with the brush returned by WM_CTLCOLOR
 inline constexpr UINT BS_TYPEMASK = 0x0F;
 inline constexpr UINT BS_PUSHLIKE = 0x1000;
 
@@ -29,7 +28,7 @@ inline constexpr UINT SS_ICON = 0x03;
 inline constexpr UINT SS_WHITERECT = 0x06;
 inline constexpr UINT SS_ETCHEDVERT = 0x11;
 inline constexpr UINT SS_TYPEMASK = 0x1F;
-inline constexpr UINT SS_NOTIFY = 0x0100; ///< clicks give STN_CLICKED
+inline constexpr UINT SS_NOTIFY = 0x0100; ///< clicks send STN_CLICKED
 
 inline constexpr UINT ES_READONLY = 0x0800;
 

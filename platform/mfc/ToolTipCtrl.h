@@ -1,9 +1,9 @@
-// The hints that come up when the cursor rests on a control.
+// Tool tips of controls.
 #pragma once
 
 #include "platform/mfc/Wnd.h"
 
-/// One hint for each window that was added. The windows keep their hints without it.
+/// Holds one tip per window. The windows keep their tips if this object is destroyed.
 class PLATFORM_API CToolTipCtrl {
 public:
     bool Create(CWnd* pParent);
@@ -12,5 +12,5 @@ public:
     CString GetText(const CWnd* pWnd) const;
 };
 
-/// The name under which panels have it.
+/// The name used by panels.
 using CMyToolTipCtrl = CToolTipCtrl;

@@ -139,7 +139,7 @@ HTREEITEM CTreeCtrl::GetPrevSiblingItem(HTREEITEM item) const {
 }
 
 HTREEITEM CTreeCtrl::GetParentItem(HTREEITEM item) const {
-    // The holder of the top nodes has no parent itself.
+    // Top-level nodes are children of the invisible root, which has no parent.
     return item && item->pParent->pParent ? item->pParent : nullptr;
 }
 

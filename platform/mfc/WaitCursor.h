@@ -1,9 +1,9 @@
-// The wait cursor while work goes on.
+// The wait cursor for long operations.
 #pragma once
 
 #include "platform/Api.h"
 
-/// Shown from construction to destruction; they may nest.
+/// Shows the wait cursor from construction to destruction. May be nested.
 class PLATFORM_API CWaitCursor {
 public:
     CWaitCursor();

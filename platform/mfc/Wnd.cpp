@@ -15,8 +15,8 @@
 
 namespace {
 
-/// The window that was last asked to become the active one. The window manager takes its
-/// time: until it has answered, the window that is active now is no longer meant to stay so.
+/// The window whose activation was requested last. The window manager responds later; until then,
+/// the window that is still active no longer counts.
 QPointer<QWidget>& AskedToBeActive() {
     static auto& asked = *new QPointer<QWidget>;
     return asked;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The upper half of the page where it differs from Latin-1. 0: the C1 control.
+/// The upper half of the page where it differs from Latin-1. 0 means the C1 control.
 struct CodePageTable {
     unsigned char first;
     std::array<wchar_t, 32> characters;
@@ -45,7 +45,7 @@ unsigned char ByteOf(wchar_t character) {
     return freeControl ? static_cast<unsigned char>(character) : '?';
 }
 
-/// Length that a lead byte announces; 0 for one that starts nothing.
+/// Length announced by a lead byte; 0 if it cannot start a sequence.
 int SequenceLength(unsigned char lead) {
     if (lead < 0x80) {
         return 1;
@@ -63,7 +63,8 @@ bool IsScalar(std::uint32_t code) {
     return code < 0xD800 || (code > 0xDFFF && code <= 0x10FFFF);
 }
 
-/// Reads one sequence at `at`; returns the replacement and steps one byte on a bad one.
+/// Reads the sequence at `at`. For an ill-formed one, returns the replacement character and
+/// advances by one byte.
 wchar_t ReadSequence(std::string_view bytes, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(bytes[at]);
     const int length = SequenceLength(lead);
@@ -93,7 +94,7 @@ wchar_t ReadSequence(std::string_view bytes, std::size_t& at) {
     return static_cast<wchar_t>(code);
 }
 
-/// Widens the ASCII at the front of `bytes` and returns how many there were.
+/// Widens the leading ASCII characters of `bytes` and returns their number.
 std::size_t CopyAscii(std::string_view bytes, wchar_t* out) {
     constexpr std::size_t kStep = 32;
     std::size_t at = 0;
@@ -113,7 +114,7 @@ std::size_t CopyAscii(std::string_view bytes, wchar_t* out) {
     return at;
 }
 
-/// Writes a scalar value from 0x80 on and returns the place behind it.
+/// Writes a scalar value from 0x80 on and returns the end of the sequence.
 char* WriteSequence(std::uint32_t code, char* out) {
     if (code < 0x800) {
         *out++ = static_cast<char>(0xC0 | code >> 6);
@@ -161,7 +162,7 @@ std::size_t Utf8ToWide(std::string_view bytes, wchar_t* text) {
         const std::size_t ascii = CopyAscii(bytes.substr(at), out);
         at += ascii;
         out += ascii;
-        // Text of other scripts comes in runs too: no search for ASCII before each letter.
+        // Non-ASCII text comes in runs, too: do not search for ASCII before each character.
         while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) >= 0x80) {
             *out++ = ReadSequence(bytes, at);
         }

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Modules go after the thread's own objects have, and still save what they hold; from then on
-/// nobody asks for reasons any more.
+/// True once the thread's own objects have been destroyed. Modules are unloaded later and still
+/// save their data, but errors are no longer reported then.
 thread_local bool t_isGone = false;
 
 struct LastError {
@@ -19,7 +19,7 @@ struct LastError {
     ~LastError() { t_isGone = true; }
 };
 
-/// Null once it has gone.
+/// Null after its destruction.
 CString* Last() {
     if (t_isGone) {
         return nullptr;
@@ -32,7 +32,8 @@ struct ErrorName {
     int number;
     PlatformMsg text;
 };
-/// The system's own texts follow its locale, not the language of this program.
+/// Translated here, since the system's own texts follow its locale instead of the program's
+/// language.
 constexpr ErrorName kErrors[] = {
     {ENOENT, PlatformMsg::NoSuchFile},        {EACCES, PlatformMsg::NoPermission},
     {EPERM, PlatformMsg::NoPermission},       {EISDIR, PlatformMsg::IsFolder},

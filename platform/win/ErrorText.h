@@ -3,12 +3,12 @@
 
 #include "platform/win/String.h"
 
-/// What the last failed call of the platform on this thread had to say.
+/// The reason why the last platform call on this thread failed.
 PLATFORM_API CString LastErrorText();
 
-/// Notes a reason of the platform's own, where the operating system has none.
+/// Sets a reason of the platform's own, for failures without an error number.
 PLATFORM_API void SetLastErrorText(CString text);
 /// The operating system's text for an error number, in the user's language.
 PLATFORM_API CString ErrorNumberText(int number);
-/// Notes the operating system's text for an error number.
+/// Sets the operating system's text for an error number as the reason.
 PLATFORM_API void SetLastErrorNumber(int number);

@@ -9,10 +9,11 @@
 
 #include "platform/win/CodePage.h"
 #include "platform/win/ErrorText.h"
+#include "platform/win/PlatformTexts.h"
 
 namespace {
 
-/// Renames unless there is something of that name; then errno is EEXIST.
+/// Renames unless the target exists; then it fails with EEXIST.
 bool RenameToFree(const char* from, const char* to) {
     if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) {
         return true;
@@ -20,7 +21,7 @@ bool RenameToFree(const char* from, const char* to) {
     if (errno != EINVAL) {
         return false;
     }
-    // The file system cannot do it in one step.
+    // The file system does not support an atomic rename without replacing.
     struct stat info {};
     if (lstat(to, &info) == 0) {
         errno = EEXIST;
@@ -29,12 +30,55 @@ bool RenameToFree(const char* from, const char* to) {
     return std::rename(from, to) == 0;
 }
 
+/// Stands for a byte that is not UTF-8: an unpaired surrogate, which no valid text contains.
+constexpr wchar_t kByteBase = 0xDC00;
+
+bool IsByte(wchar_t character) {
+    return character >= kByteBase + 0x80 && character <= kByteBase + 0xFF;
+}
+
 } // namespace
 
 std::string NativePath(const wchar_t* path) {
-    std::string native = WideToUtf8(path ? path : L"");
+    std::string native;
+    std::wstring_view rest = path ? path : L"";
+    while (!rest.empty()) {
+        const auto byte = std::find_if(rest.begin(), rest.end(), IsByte);
+        const auto length = static_cast<std::size_t>(byte - rest.begin());
+        native += WideToUtf8(rest.substr(0, length));
+        if (byte != rest.end()) {
+            native += static_cast<char>(*byte - kByteBase);
+        }
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
     std::replace(native.begin(), native.end(), '\\', '/');
     return native;
+}
+
+CString WidePath(std::string_view native) {
+    std::wstring wide = Utf8ToWide(native);
+    if (WideToUtf8(wide) == native) {
+        return wide;
+    }
+    wide.clear();
+    constexpr std::size_t kLongestSequence = 4;
+    while (!native.empty()) {
+        // One character, or a byte that is not part of one.
+        std::size_t length = 1;
+        std::wstring next = Utf8ToWide(native.substr(0, length));
+        while (length < std::min(kLongestSequence, native.size()) &&
+               WideToUtf8(next) != native.substr(0, length)) {
+            next = Utf8ToWide(native.substr(0, ++length));
+        }
+        if (next.size() != 1 || WideToUtf8(next) != native.substr(0, length)) {
+            length = 1;
+            next.assign(
+                1, static_cast<wchar_t>(kByteBase + static_cast<unsigned char>(native.front())));
+        }
+        wide += next;
+        native.remove_prefix(length);
+    }
+    return wide;
 }
 
 FileHandle OpenFile(const wchar_t* path, const char* mode) {
@@ -46,13 +90,13 @@ FileHandle OpenFile(const wchar_t* path, const char* mode) {
 }
 
 FileHandle OpenRegularFile(const wchar_t* path) {
-    // Without O_NONBLOCK opening a named pipe would wait until somebody writes to it.
+    // Without O_NONBLOCK, opening a named pipe would block until it is opened for writing.
     const int descriptor = open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat info {};
     const bool isKnown = descriptor >= 0 && fstat(descriptor, &info) == 0;
     if (isKnown && !S_ISREG(info.st_mode)) {
         S_ISDIR(info.st_mode) ? SetLastErrorNumber(EISDIR)
-                              : SetLastErrorText(L"Not a regular file");
+                              : SetLastErrorText(MessageText(PlatformMsg::NotRegularFile));
     } else if (FileHandle file{isKnown ? fdopen(descriptor, "rb") : nullptr}) {
         return file;
     } else {
@@ -84,7 +128,7 @@ bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes) {
     const std::string draft = target + ".new-" + std::to_string(getpid());
     FileHandle file(std::fopen(draft.c_str(), "wb"));
     bool isWritten = file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    // Without this the name could reach the disk before the content does.
+    // Otherwise the rename could reach the disk before the content does.
     isWritten = isWritten && std::fflush(file.get()) == 0 && fsync(fileno(file.get())) == 0;
     isWritten = isWritten && std::fclose(file.release()) == 0;
     isWritten = isWritten && std::rename(draft.c_str(), target.c_str()) == 0;
@@ -146,7 +190,7 @@ std::optional<std::vector<CString>> ListFileNames(const wchar_t* folder) {
          at.increment(error)) {
         std::error_code ignored;
         if (!at->is_directory(ignored)) {
-            names.emplace_back(Utf8ToWide(at->path().filename().string()));
+            names.emplace_back(WidePath(at->path().filename().string()));
         }
     }
     if (error) {

@@ -1,8 +1,7 @@
-// The version that a module file carries, readable without loading it.
+// The version of a module file, readable without loading it.
 //
-// It is an ELF note of the owner "Tessaly" and type 1 with four 16-bit numbers. A note
-// survives stripping and stays in a loadable segment. OrvModule.cmake compiles one into
-// every module.
+// The version is an ELF note with owner "Tessaly", type 1 and four 16-bit numbers. Notes survive
+// stripping and stay in a loadable segment. OrvModule.cmake compiles one into every module.
 #pragma once
 
 #include <cstdint>
@@ -18,8 +17,8 @@ struct FileVersion {
     bool operator==(const FileVersion&) const = default;
 };
 
-/// The version of a module file; nothing if the file cannot be read, is no ELF file of
-/// this machine's word size, is cut short, or has no version note.
+/// The version of a module file; nothing if the file cannot be read, is not an ELF file of this
+/// machine's word size, is truncated or has no version note.
 PLATFORM_API std::optional<FileVersion> ReadFileVersion(const wchar_t* path);
 
 /// The version as "major.minor.build.revision"; empty if the file has none.

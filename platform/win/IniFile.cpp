@@ -79,7 +79,7 @@ const CString* IniFile::Find(const wchar_t* section, const wchar_t* key) const {
 
 namespace {
 
-/// Where a line begins, counted from 1; behind the end for one that is not there.
+/// Offset of the start of a line, counted from 1; the end of the text if there are fewer lines.
 std::size_t StartOfLine(std::string_view text, int line) {
     std::size_t place = 0;
     for (int number = 1; number < line; ++number) {

@@ -33,7 +33,7 @@ HINSTANCE LoadLibrary(const wchar_t* path) {
     if (!HasItsWholeLength(path)) {
         return nullptr;
     }
-    // A path without a slash would be searched for along the library path instead.
+    // The loader would search a path without a slash in the library path.
     std::string native = NativePath(path);
     if (native.find('/') == std::string::npos) {
         native.insert(0, "./");
@@ -47,8 +47,7 @@ HINSTANCE LoadLibrary(const wchar_t* path) {
 
 void* GetProcAddress(HINSTANCE library, const char* name) {
     void* const address = library ? dlsym(library, name) : nullptr;
-    // The loader also searches what the library depends on, which would hand one module
-    // the entry of another.
+    // dlsym also searches the library's dependencies and could return another module's entry.
     link_map* own = nullptr;
     Dl_info found{};
     link_map* owner = nullptr;

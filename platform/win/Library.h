@@ -6,24 +6,23 @@
 #include "platform/win/String.h"
 #include "platform/win/Types.h"
 
-/// Loads a library; null on failure, with LastErrorText (ErrorText.h) set.
-/// The file's length is compared with what its own headers announce first: mapping a
-/// library that was cut short would kill the process instead of failing.
+/// Loads a library; null on failure, with LastErrorText (ErrorText.h) set. First checks the file's
+/// size against its own headers: mapping a truncated library would kill the process instead of
+/// failing.
 PLATFORM_API HINSTANCE LoadLibrary(const wchar_t* path);
 
-/// Address of an entry that this very library exports; null if it has none of that name.
+/// Address of an entry exported by this library itself; null if it does not exist.
 PLATFORM_API void* GetProcAddress(HINSTANCE library, const char* name);
 
-/// Name of the file, without its folder, that an address in the process was loaded from; empty
-/// if it is in none.
+/// File name, without folder, of the library that contains an address; empty if none does.
 PLATFORM_API CString LibraryOfAddress(const void* address);
-/// Where the tables of an object's class are, an address in the library that brought the class.
-/// It stays valid when the object is gone.
+/// Address of an object's virtual table, which lies in the library that defines its class. Remains
+/// valid after the object was destroyed.
 template <class Object>
 const void* ClassAddress(const Object& object) {
     static_assert(std::is_polymorphic_v<Object>);
     return *reinterpret_cast<const void* const*>(&object);
 }
 
-/// Gives up one reference to the library. Returns false for a handle that is not loaded.
+/// Releases one reference to the library. Returns false for an unknown handle.
 PLATFORM_API bool FreeLibrary(HINSTANCE library);

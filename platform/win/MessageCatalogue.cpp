@@ -22,7 +22,7 @@ bool IsLanguage(const CString& text) {
     });
 }
 
-/// The messages that belong to this library.
+/// Folder of the messages installed with this library.
 CString OwnFolder() {
     Dl_info self{};
     if (dladdr(reinterpret_cast<const void*>(&UseLanguage), &self) == 0 || !self.dli_fname) {
@@ -32,7 +32,7 @@ CString OwnFolder() {
     return Utf8ToWide((library / "share/messages/").string());
 }
 
-/// One language, with English to stand in for what it lacks.
+/// One language, with English as fallback.
 class Catalogue {
 public:
     Catalogue(const CString& folder, const CString& language) : m_strLanguage(language) {
@@ -68,7 +68,7 @@ private:
     bool Load(const CString& folder, const CString& language) {
         const CString path = folder + L"tessaly_" + language + L".qm";
         auto translator = std::make_unique<QTranslator>();
-        // The name is complete: nothing is to be tried in its place.
+        // The full file name is given, so the translator must not try shorter ones.
         const bool isRead = translator->load(QString::fromStdWString(path.Str()));
         if (isRead) {
             m_translators.push_back(std::move(translator));
@@ -79,12 +79,12 @@ private:
     }
 
     CString m_strLanguage;
-    std::vector<std::unique_ptr<QTranslator>> m_translators; ///< the first one that knows wins
-    std::map<int, CString> m_texts;                          ///< looked up before
+    std::vector<std::unique_ptr<QTranslator>> m_translators; ///< in order of precedence
+    std::map<int, CString> m_texts;                          ///< cache
     std::vector<CString> m_problems;
 };
 
-/// Lives to the end of the process: modules print while they are unloaded.
+/// Never destroyed: modules still print while they are unloaded.
 std::unique_ptr<Catalogue>& InUse() {
     static auto* const catalogue = new std::unique_ptr<Catalogue>;
     return *catalogue;

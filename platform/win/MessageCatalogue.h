@@ -1,7 +1,7 @@
-// Every text that a user reads, by number, in the user's language.
+// All user-visible texts, by number, in the user's language.
 //
-// One catalogue serves the host and all modules. It reads the compiled files
-// "tessaly_LANGUAGE.qm" of share/messages; which language counts is the setting "language".
+// The host and all modules share one catalogue. It reads the compiled files "tessaly_LANGUAGE.qm"
+// of share/messages; the setting "language" selects the language.
 #pragma once
 
 #include <type_traits>
@@ -9,23 +9,23 @@
 
 #include "platform/win/String.h"
 
-/// Chooses the language of all texts from now on; anything but letters and "_" means English.
-/// English also stands in for what a language lacks. Until the first call the texts are
-/// English, from beside the platform library.
-/// \param folder with a separator at its end
+/// Selects the language of all texts; anything other than letters and "_" selects English. English
+/// is also the fallback for missing texts. Until the first call the texts are English, loaded from
+/// the folder of the platform library.
+/// \param folder with a trailing separator
 /// \return one problem for each message file that cannot be read
 PLATFORM_API std::vector<CString> UseLanguage(const CString& folder, const CString& language);
 
-/// The same, for the language that a settings file names.
+/// The same, with the language set in a settings file.
 PLATFORM_API std::vector<CString> UseLanguageOf(const wchar_t* settingsFile, const CString& folder);
 
-/// "de", as chosen last.
+/// The language code selected last, such as "de".
 PLATFORM_API CString Language();
 
-/// "#ID" for an id that no language has.
+/// Returns "#ID" for an id that is in no language.
 PLATFORM_API CString MessageText(int id);
 
-/// The text of a message with its places filled; each part of the product names its messages
+/// The text of a message with its arguments inserted. Each part of the product numbers its messages
 /// in an enumeration of its own.
 template <class Id, class... Args>
 requires std::is_enum_v<Id> CString MessageText(Id id, const Args&... args) {

@@ -20,7 +20,7 @@ Whole ToWhole(std::wstring_view text) {
     }
     constexpr Whole kLeast = std::numeric_limits<Whole>::min();
     constexpr Whole kMost = std::numeric_limits<Whole>::max();
-    // Counts downwards: below zero there is one number more than above it.
+    // Counts downwards, as the negative range is larger by one.
     Whole value = 0;
     for (; at < text.size() && text[at] >= L'0' && text[at] <= L'9'; ++at) {
         const auto digit = static_cast<Whole>(text[at] - L'0');
@@ -46,7 +46,7 @@ long TextToLong(std::wstring_view text) {
 }
 
 double TextToDouble(const std::wstring& text) {
-    // The locale of the process is the user's, and may have a decimal comma.
+    // The process uses the user's locale, which may have a decimal comma.
     static const locale_t kNoLocale = newlocale(LC_ALL_MASK, "C", nullptr);
     return wcstod_l(text.c_str(), nullptr, kNoLocale);
 }

@@ -1,4 +1,4 @@
-// Reading of numbers from texts, independent of the locale.
+// Locale-independent parsing of numbers.
 #pragma once
 
 #include <optional>
@@ -7,18 +7,17 @@
 
 #include "platform/Api.h"
 
-/// The standard conversion of a text to an int: leading blanks and one sign are taken,
-/// reading stops at the first other character, no digits give 0, and a number out of
-/// range gives the nearest int.
+/// Parses an int like wcstol: skips leading white space, accepts a sign, stops at the first other
+/// character, and returns 0 without digits. Out-of-range numbers are clamped.
 PLATFORM_API int TextToInt(std::wstring_view text);
-/// The same to a long.
+/// The same for long.
 PLATFORM_API long TextToLong(std::wstring_view text);
-/// The same to a double, with a decimal point; a number out of range gives infinity or 0.
+/// The same for double, with a decimal point; out-of-range numbers give infinity or 0.
 PLATFORM_API double TextToDouble(const std::wstring& text);
 
-/// The whole text as a finite number with a decimal point, or nothing. Takes a leading
-/// plus sign; blanks are not taken.
+/// Parses the whole text as a finite number with a decimal point; nothing if that fails. Accepts a
+/// leading plus sign but no spaces.
 PLATFORM_API std::optional<double> TextToReal(std::string_view text);
 
-/// The shortest decimal form that reads back as the same number.
+/// The shortest decimal form that parses to the same number.
 PLATFORM_API std::wstring RealToText(double value);

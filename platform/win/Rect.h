@@ -1,4 +1,4 @@
-// Points, sizes and rectangles with the operations that are used on them.
+// Points, sizes and rectangles.
 #pragma once
 
 #include "platform/win/Types.h"

@@ -1,4 +1,4 @@
-// What the desktop looks like: monitors, cursor, work area, stacking of windows.
+// Properties of the desktop: monitors, cursor, work area, stacking order of windows.
 #pragma once
 
 #include <span>
@@ -9,51 +9,49 @@
 
 struct Monitor {
     CRect full;
-    CRect work; ///< what panels of the desktop (a task bar) leave free
+    CRect work; ///< excludes desktop panels such as task bars
 };
 
-/// The desktop as it is now; every call asks anew. Main thread.
+/// The current state of the desktop; every call queries it again. Main thread only.
 ///
-/// Places on the screen count from the upper left corner of the primary monitor, here and in
-/// everything that windows tell and are told: monitors to its left or above have negative
-/// places.
+/// Screen positions are relative to the upper left corner of the primary monitor, here and in all
+/// window functions and messages: monitors to its left or above have negative positions.
 class PLATFORM_API IScreens {
 public:
     virtual ~IScreens() = default;
     /// The primary one first; never empty.
     virtual std::vector<Monitor> Monitors() const = 0;
-    /// The first of them, for whoever asks at every step of the mouse: its work area may be a
+    /// The primary monitor, for callers that ask at every mouse move: its work area may be up to a
     /// quarter of a second old.
     virtual Monitor Primary() const { return Monitors().front(); }
     virtual CPoint Cursor() const = 0;
-    /// The visible top-level windows of this process, from the front to the back.
+    /// The visible top-level windows of this process, front to back.
     virtual std::vector<HWND> Stacking() const = 0;
 };
 
-/// The desktop in force: that of the toolkit unless another was set.
+/// The desktop in use: the toolkit's unless another was set.
 PLATFORM_API IScreens& Screens();
-/// Sets another desktop and returns the one set before. Not owned; null brings back the
-/// toolkit's.
+/// Sets the desktop and returns the previous one. Not owned; null restores the toolkit's.
 PLATFORM_API IScreens* SetScreens(IScreens* pScreens);
 
 /// The monitor that holds the point, or the nearest one. The list must not be empty.
 PLATFORM_API Monitor NearestMonitor(const std::vector<Monitor>& monitors, CPoint point);
-/// The strip along one edge that the work area leaves out, the thickest one if there are
-/// several; empty without one.
+/// The strip along one edge that the work area excludes, the thickest if there are several; empty
+/// if there is none.
 PLATFORM_API CRect TaskBarOf(const Monitor& monitor);
 
 enum class enmEdge { Left, Right, Top, Bottom };
 
-/// Room that a panel asks for at an edge of all monitors together.
+/// Space reserved by a panel at an edge of the combined area of all monitors.
 struct EdgeStrut {
     enmEdge edge;
-    int thickness; ///< from that edge, also where a monitor does not reach it
+    int thickness; ///< measured from that edge, even where a monitor does not reach it
     int from;      ///< along the edge, both ends included
     int to;
 };
 
-/// What the struts leave of a monitor. A strut counts for the monitor in which it ends; one
-/// that reaches beyond it stands on another.
-/// \param all the rectangle around all monitors
+/// The part of a monitor that the struts leave free. A strut applies to the monitor in which it
+/// ends; one that extends beyond it belongs to another monitor.
+/// \param all the bounding rectangle of all monitors
 PLATFORM_API CRect WorkAreaOf(const CRect& monitor, const CRect& all,
                               std::span<const EdgeStrut> struts);

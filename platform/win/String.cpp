@@ -17,12 +17,12 @@ bool IsBlank(wchar_t c) {
     return c == L' ' || (c >= L'\t' && c <= L'\r');
 }
 
-/// Accented Latin, Greek and Cyrillic letters, which the C locale does not know.
-/// Each block keeps its cases at a fixed distance or in neighbouring pairs.
+/// Accented Latin, Greek and Cyrillic letters, which the C locale does not convert. Within a block,
+/// upper and lower case are a fixed distance apart or alternate.
 struct CaseBlock {
     wchar_t firstUpper;
     wchar_t lastUpper;
-    int distance; ///< 0: pairs, the even code upper; 1: pairs, the odd code upper
+    int distance; ///< 0: alternating, upper case even; 1: alternating, upper case odd
 };
 
 constexpr CaseBlock kCaseBlocks[] = {

@@ -1,4 +1,4 @@
-// The text class of all interfaces: a value over wide characters.
+// The text class used in all interfaces.
 #pragma once
 
 #include <compare>
@@ -7,8 +7,8 @@
 
 #include "platform/win/TextFormat.h"
 
-/// A wide text with value meaning. Positions and lengths are int and count wide
-/// characters; a position outside the text is clamped, never an error.
+/// A wide text with value semantics. Positions and lengths are ints in wide characters;
+/// out-of-range positions are clamped.
 class PLATFORM_API CString {
 public:
     CString() = default;
@@ -32,10 +32,10 @@ public:
 
     /// Less than, equal to or greater than 0, by code point.
     int Compare(const wchar_t* other) const { return m_text.compare(other ? other : L""); }
-    /// The same without regard to case, letter by letter (no language rules).
+    /// The same ignoring case, character by character (no language rules).
     int CompareNoCase(const wchar_t* other) const;
 
-    /// Position of the first match at or behind start; -1 if there is none.
+    /// Position of the first match at or after start; -1 if there is none.
     int Find(std::wstring_view part, int start = 0) const;
     int Find(wchar_t character, int start = 0) const;
     int ReverseFind(wchar_t character) const;
@@ -47,14 +47,14 @@ public:
 
     CString& MakeUpper();
     CString& MakeLower();
-    /// Removes blanks, tabs and line ends at both ends.
+    /// Removes spaces, tabs and line ends at both ends.
     CString& Trim();
-    /// Replaces every match and returns how many there were. An empty `from` matches nothing.
+    /// Replaces every match and returns their number. An empty `from` matches nothing.
     int Replace(std::wstring_view from, std::wstring_view to);
 
     template <class... Args>
     void Format(std::wstring_view format, const Args&... args) {
-        // Built apart first: an argument may be this very text.
+        // Formatted first: an argument may refer to this text.
         m_text = FormatText(format, args...);
     }
     template <class... Args>
@@ -92,7 +92,7 @@ private:
     std::wstring m_text;
 };
 
-/// Lets ordered maps keyed by CString be searched by plain text without building a key.
+/// Compares CStrings with plain text, so maps can be searched without constructing a key.
 struct CStringLess {
     using is_transparent = void;
     static std::wstring_view View(const CString& text) { return text.View(); }
@@ -103,6 +103,6 @@ struct CStringLess {
     }
 };
 
-/// Wide text by upper or lower case rules of each letter alone.
+/// Converts case character by character, without language rules.
 PLATFORM_API wchar_t ToUpper(wchar_t character);
 PLATFORM_API wchar_t ToLower(wchar_t character);

@@ -1,4 +1,4 @@
-// An array of texts, as interfaces pass it.
+// An array of texts for use in interfaces.
 #pragma once
 
 #include <vector>

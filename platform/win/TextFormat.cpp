@@ -22,7 +22,7 @@ struct Directive {
     wchar_t conversion = 0;
 };
 
-/// Hands the arguments out one by one; null when they have run out.
+/// Iterates over the arguments; null after the last one.
 class ArgReader {
 public:
     explicit ArgReader(std::span<const FormatArg> args) : m_args(args) {}
@@ -37,7 +37,7 @@ private:
     std::size_t m_nNext = 0;
 };
 
-// Wider fields than this are mistakes; the limit keeps a bad format from eating memory.
+// Wider fields are mistakes; the limit keeps a bad format from exhausting memory.
 constexpr int kWidest = 100000;
 
 int ReadNumber(std::wstring_view format, std::size_t& at) {
@@ -101,7 +101,7 @@ void ReadPrecision(std::wstring_view format, std::size_t& at, ArgReader& args,
 }
 
 void ReadLength(std::wstring_view format, std::size_t& at, Directive& directive) {
-    // Arguments know their own widths, so only "h" before "s" says anything.
+    // Arguments know their own size, so only "h" before "s" matters.
     while (at < format.size() &&
            std::wstring_view(L"hlLqjzt").find(format[at]) != std::wstring_view::npos) {
         directive.narrow = format[at] == L'h';
@@ -193,7 +193,7 @@ void PutReal(std::wstring& out, const Directive& directive, const FormatArg* arg
     const std::chars_format form = directive.conversion == L'f'   ? std::chars_format::fixed
                                    : directive.conversion == L'e' ? std::chars_format::scientific
                                                                   : std::chars_format::general;
-    // The longest fixed double has 309 digits before the point.
+    // The longest fixed-point double has 309 digits before the point.
     std::string buffer(static_cast<std::size_t>(precision) + 330, '\0');
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), arg->Real(), form, precision)

@@ -1,8 +1,7 @@
-// printf-style formatting of wide texts whose arguments carry their own types.
+// printf-style formatting of wide texts with typed arguments.
 //
-// The C library's wide formatter reads "%s" as narrow, depends on the locale and
-// cannot check its arguments. This one takes the system's format texts as they
-// stand: "%s" is a wide text.
+// The C library's wide formatter reads "%s" as narrow, depends on the locale and cannot check its
+// arguments. Here "%s" is a wide text, as the format texts of the system expect.
 #pragma once
 
 #include <array>
@@ -33,7 +32,7 @@ public:
     }
     FormatArg(std::wstring_view text) : m_kind(Kind::Wide), m_wide(text) {}
     FormatArg(const std::wstring& text) : m_kind(Kind::Wide), m_wide(text) {}
-    /// Narrow texts are UTF-8.
+    /// Narrow texts are in UTF-8.
     FormatArg(const char* text) : m_kind(Kind::Narrow) {
         m_narrow = text ? std::string_view(text) : std::string_view("(null)");
     }
@@ -44,8 +43,7 @@ public:
     Kind GetKind() const { return m_kind; }
     /// Two's complement bits of an integer, sign extended for Kind::Signed.
     std::uint64_t Integer() const { return m_integer; }
-    /// Width of the integer argument as it was passed, so that "%X" of an int -1
-    /// prints eight digits.
+    /// Size of the integer as passed, so that "%X" of the int -1 prints eight digits.
     unsigned Bytes() const { return m_nBytes; }
     double Real() const { return m_real; }
     std::wstring_view Wide() const { return m_wide; }
@@ -69,10 +67,9 @@ private:
     std::string_view m_narrow;
 };
 
-/// Builds the text of a format. Understands "%s %ls %hs %S %d %i %u %x %X %o %c %p
-/// %f %e %g %%" with flags, width, precision, "*" and length marks. An argument
-/// that is missing or of the wrong kind shows as "<?>" in the result; nothing is cut
-/// and nothing depends on the locale.
+/// Formats a text. Supports "%s %ls %hs %S %d %i %u %x %X %o %c %p %f %e %g %%" with flags, width,
+/// precision, "*" and length modifiers. A missing argument or one of the wrong type shows as "<?>"
+/// in the result. Never truncates; does not depend on the locale.
 PLATFORM_API std::wstring FormatTextV(std::wstring_view format, std::span<const FormatArg> args);
 
 template <class... Args>

@@ -1,5 +1,5 @@
-// Plain values and opaque handles that travel through interfaces and files. Nobody outside
-// the platform looks into what a handle points at.
+// Plain values and opaque handles used in interfaces and files. Only the platform knows what a
+// handle refers to.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@ using HINSTANCE = void*; ///< a loaded library; see Library.h
 using HICON = void*;     ///< an icon owned by the icon cache of the configuration module
 
 struct WindowHandle;
-/// A window. It points at nothing: a handle is never used again for another window, so one
-/// that outlived its window is simply unknown.
+/// A window. Handles are not pointers and are never reused, so the handle of a destroyed window is
+/// simply unknown.
 using HWND = WindowHandle*;
 
 using UINT = unsigned int;
@@ -24,7 +24,7 @@ constexpr COLORREF RGB(unsigned red, unsigned green, unsigned blue) {
     return (red & 0xFFU) | (green & 0xFFU) << 8 | (blue & 0xFFU) << 16;
 }
 
-/// Places and sizes are in pixels of the screen's own scale, to the right and down.
+/// Positions and sizes are in logical pixels, to the right and down.
 struct POINT {
     int x = 0;
     int y = 0;
@@ -37,7 +37,7 @@ struct SIZE {
     bool operator==(const SIZE&) const = default;
 };
 
-/// right and bottom lie outside.
+/// right and bottom are exclusive.
 struct RECT {
     int left = 0;
     int top = 0;

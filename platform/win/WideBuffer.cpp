@@ -7,7 +7,7 @@
 namespace {
 
 constexpr std::size_t kHugePage = std::size_t{2} << 20;
-/// From here on a half-used last huge page weighs little.
+/// From this size on, a partly used last huge page does not matter.
 constexpr std::size_t kLargeBlock = 4 * kHugePage;
 
 void* Allocate(std::size_t bytes) {
@@ -17,7 +17,7 @@ void* Allocate(std::size_t bytes) {
     const std::size_t whole = (bytes + kHugePage - 1) / kHugePage * kHugePage;
     void* block = std::aligned_alloc(kHugePage, whole);
     if (block) {
-        // Only a wish: where there are no huge pages the block works as it is.
+        // Only a hint: the block also works without huge pages.
         madvise(block, whole, MADV_HUGEPAGE);
     }
     return block;

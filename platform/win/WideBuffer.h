@@ -1,4 +1,4 @@
-// Room for a long text that is written once and read often.
+// Storage for a long text that is written once and read often.
 #pragma once
 
 #include <cstddef>
@@ -7,13 +7,12 @@
 
 #include "platform/Api.h"
 
-/// A block of wide characters that is allocated without being filled. A large block asks
-/// the system for huge pages, which makes the first touch several times faster. A NUL
-/// follows the text.
+/// An uninitialised block of wide characters, followed by a NUL. Large blocks ask the system for
+/// huge pages, which makes the first access several times faster.
 class PLATFORM_API WideBuffer {
 public:
     WideBuffer() = default;
-    /// Room for `length` characters of any content, and the NUL behind them.
+    /// Room for `length` characters and the terminating NUL. The content is undefined.
     explicit WideBuffer(std::size_t length);
     WideBuffer(WideBuffer&& other) noexcept { Swap(other); }
     WideBuffer& operator=(WideBuffer&& other) noexcept;
@@ -21,10 +20,11 @@ public:
 
     /// Never null.
     const wchar_t* Data() const { return m_pData ? m_pData.get() : L""; }
-    /// Null if nothing was allocated.
+    /// Null if nothing is allocated.
     wchar_t* Data() { return m_pData.get(); }
     std::size_t Length() const { return m_nLength; }
-    /// Cuts the text to its first `length` characters and gives up much unused room.
+    /// Truncates the text to its first `length` characters and releases unused memory if there is
+    /// much of it.
     void Shorten(std::size_t length);
     void Swap(WideBuffer& other) noexcept;
 

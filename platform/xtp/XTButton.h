@@ -1,19 +1,19 @@
-// Buttons whose look is chosen by style bits.
+// Buttons whose appearance is chosen by style bits.
 #pragma once
 
 #include "platform/mfc/Button.h"
 
-/// Bits of a look. Each of them makes a button flat: its edge shows only while the cursor is
-/// over it, and while it is pressed or checked.
+/// Appearance bits. Each makes a button flat: its edge shows only while the cursor is over it, or
+/// while it is pressed or checked.
 inline constexpr UINT BS_XT_FLAT = 0x0040;
-inline constexpr UINT BS_XT_RAISED = 0x0010; ///< the edge shows under the cursor
-inline constexpr UINT BS_XT_TOGGLE = 0x1000; ///< and while it is checked
+inline constexpr UINT BS_XT_RAISED = 0x0010; ///< edge shown under the cursor
+inline constexpr UINT BS_XT_TOGGLE = 0x1000; ///< and while checked
 
-/// Hints are those of a CToolTipCtrl; SetIcon takes a size.
+/// Tool tips work as in CToolTipCtrl; SetIcon takes a size.
 class PLATFORM_API CXTButton : public CButton {
 public:
-    /// \param style bits of a look, 0 for a usual button
+    /// \param style appearance bits, 0 for a standard button
     void SetXButtonStyle(UINT style) { SetFlat(style != 0); }
-    /// Pixels between the edge and what stands inside.
+    /// Pixels between the edge and the content.
     void SetBorderGap(int pixels) { SetGap(pixels); }
 };

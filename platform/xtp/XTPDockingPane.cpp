@@ -14,7 +14,7 @@ CXTPDockingPane::~CXTPDockingPane() {
     if (!m_pImpl->dock) {
         return;
     }
-    // The window that it shows belongs to somebody else.
+    // The attached window is not owned.
     if (QWidget* const pShown = m_pImpl->dock->widget(); pShown && GetChild()) {
         pShown->setParent(nullptr);
     }

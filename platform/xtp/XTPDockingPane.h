@@ -1,12 +1,12 @@
-// One pane that docks at the frame of the host.
+// A pane docked at the host's frame.
 #pragma once
 
 #include <memory>
 
 #include "platform/mfc/Wnd.h"
 
-/// Made and owned by its manager; lives as long as that. A pane that the user closes is only
-/// hidden. Operations on a pane whose frame has gone do nothing.
+/// Created and owned by its manager. Closing a pane only hides it. Operations on a pane whose frame
+/// was destroyed do nothing.
 class PLATFORM_API CXTPDockingPane {
 public:
     ~CXTPDockingPane();
@@ -16,17 +16,17 @@ public:
     int GetID() const { return m_nId; }
     void SetTitle(const wchar_t* title);
     CString GetTitle() const;
-    /// Shows a window in the pane, which follows the pane's size from now on, shows and hides
-    /// with it, and goes with the frame, whoever was its parent before. Not owned; it takes
-    /// itself off when it is destroyed.
+    /// Shows a window in the pane. From now on the window follows the pane's size and visibility
+    /// and is destroyed with the frame, whatever its parent was before. Not owned; the pane becomes
+    /// empty when the window is destroyed.
     void Attach(CWnd* pWnd);
-    /// Null once it was destroyed.
+    /// Null if the window was destroyed.
     CWnd* GetChild() const;
-    /// The pane does not get smaller than that, in pixels.
+    /// Minimum size of the pane, in pixels.
     void SetMinTrackSize(CSize size);
 
-    /// Non-zero if the pane is not to be seen. One that is hidden together with the whole
-    /// frame is not closed.
+    /// Non-zero if the pane is not visible. A pane hidden only because the frame is hidden does not
+    /// count as closed.
     int IsClosed() const;
     int IsFloating() const;
     void Hide();

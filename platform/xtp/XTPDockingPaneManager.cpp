@@ -92,7 +92,7 @@ CXTPDockingPane* CXTPDockingPaneManager::CreatePane(int id, const CRect& rect,
     }
     auto* const pDock = new QDockWidget(pFrame);
     pDock->setObjectName(QStringLiteral("Pane%1").arg(id));
-    // One that stood somewhere in an earlier run comes there again, whatever is asked now.
+    // The place remembered from an earlier run takes precedence over the arguments.
     const bool isRestored = pFrame->restoreDockWidget(pDock);
     if (!isRestored) {
         QDockWidget* const pBeside =

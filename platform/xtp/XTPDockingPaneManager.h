@@ -1,4 +1,4 @@
-// The panes that dock at the frame of the host.
+// The panes docked at the host's frame.
 #pragma once
 
 #include <memory>
@@ -13,9 +13,8 @@ enum XTPDockingPaneDirection : int {
     xtpPaneDockRight = 3,
 };
 
-/// Makes panes and finds them by their numbers. Where panes stand is remembered by the host
-/// from one run to the next: a pane that is made comes to where the user left the one of its
-/// number.
+/// Creates panes and finds them by number. The host remembers their places between runs: a new pane
+/// appears where the user left the pane of the same number.
 class PLATFORM_API CXTPDockingPaneManager {
 public:
     CXTPDockingPaneManager();
@@ -23,13 +22,13 @@ public:
     CXTPDockingPaneManager(const CXTPDockingPaneManager&) = delete;
     CXTPDockingPaneManager& operator=(const CXTPDockingPaneManager&) = delete;
 
-    /// Docks at a frame: a window that stands for the host's main window (see acedGetAcadFrame).
-    /// Zero, and no pane can be made, for any other.
+    /// Sets the frame to dock at, which must be the window of the host's main window (see
+    /// acedGetAcadFrame). Returns zero for any other window; panes cannot be created then.
     /// \param bRestoreByMove taken as true: closed panes keep their place
     int InstallDockingPanes(CWnd* pFrame, int bRestoreByMove);
 
-    // How panes look while they are moved. The toolkit has one look for all of it; the host
-    // shows where a pane would dock and moves panes gently if any of these asks for it.
+    // Appearance of panes while they are moved. The toolkit has a single option for all of these:
+    // the host animates moves and shows the docking target if any of these asks for it.
     void SetStickyFloatingFrames(int bSticky);
     void SetTheme(int theme);
     void SetThemedFloatingFrames(int bThemed);
@@ -37,21 +36,18 @@ public:
     void SetShowDockingContextStickers(int bShow);
     void SetAnimationDelay(double delay, int steps, int interval);
 
-    /// Null if there is a pane of the number already, or no frame.
-    /// \param rect its size counts; its place is where it docks
-    /// \param pNeighbour stands beside this one; null: at the side of the frame
+    /// Returns null if the number is in use or there is no frame.
+    /// \param rect only its size is used; the place follows from docking
+    /// \param pNeighbour pane to dock beside; null docks at the frame's edge
     CXTPDockingPane* CreatePane(int id, const CRect& rect, XTPDockingPaneDirection direction,
                                 CXTPDockingPane* pNeighbour = nullptr);
-    /// Puts a pane into the place of another one, behind which it stands as a tab; a pane that
-    /// the user left somewhere else stays there.
+    /// Adds a pane as a tab after another one. A pane that the user left elsewhere stays there.
     void AttachPane(CXTPDockingPane* pPane, CXTPDockingPane* pNeighbour);
-    /// Null if there is none.
+    /// Null if the pane does not exist.
     CXTPDockingPane* FindPane(int id) const;
-    /// Shows a pane in front of those it shares a place with. Nothing happens for an unknown
-    /// number.
-    /// \param bFocus non-zero: its window gets the keyboard
+    /// Shows a pane and brings its tab to the front. Does nothing for an unknown number.
+    /// \param bFocus non-zero: its window gets the keyboard focus
     void ShowPane(int id, int bFocus);
-    /// Hides all of them.
     void CloseAll();
 
 private:
@@ -62,10 +58,10 @@ private:
     std::vector<std::unique_ptr<CXTPDockingPane>> m_panes;
 };
 
-/// The host's main window as modules see it. Null in a console.
+/// The host's main window; null in a console.
 PLATFORM_API CWnd* acedGetAcadFrame();
-/// The window in which the current drawing is shown; null without one.
+/// The window that shows the current drawing; null if there is none.
 PLATFORM_API CWnd* acedGetAcadDwgView();
-/// For the host. Not owned; null takes it away.
+/// Called by the host. Not owned; null removes the window.
 PLATFORM_API void acedSetAcadFrame(CWnd* pFrame);
 PLATFORM_API void acedSetAcadDwgView(CWnd* pView);

@@ -5,8 +5,8 @@
 
 #include "platform/mfc/Wnd.h"
 
-/// The corners of a control as fractions of what its dialog grows by: 0 stays, 1 follows
-/// the right or lower edge.
+/// How far each edge of a control follows the growth of its dialog: 0 stays, 1 follows the right or
+/// lower edge.
 struct ResizeAnchors {
     double left = 0;
     double top = 0;
@@ -14,20 +14,20 @@ struct ResizeAnchors {
     double bottom = 0;
 };
 
-/// Where a control comes to be. Fractions of a pixel are dropped towards the upper left.
+/// New rectangle of a control. Coordinates are rounded towards the upper left.
 PLATFORM_API CRect ResizedRect(const CRect& designed, CSize growth, const ResizeAnchors& anchors);
 
-/// A further base of dialogs whose controls follow. Call Init once the controls are there,
-/// set the anchors, and call Size from the handler of WM_SIZE.
+/// Additional base class for dialogs with such controls. Call Init once the controls exist, set the
+/// anchors, and call Size from the handler of WM_SIZE.
 class PLATFORM_API CXTPResize {
 public:
     explicit CXTPResize(CWnd* pDialog) : m_pDialog(pDialog) {}
 
-    /// Takes the present sizes as the designed ones, and forgets all anchors.
+    /// Takes the current sizes as the designed ones and clears all anchors.
     void Init();
-    /// An unknown control is passed over.
+    /// Unknown controls are ignored.
     void SetResize(UINT id, double left, double top, double right, double bottom);
-    /// Places the controls for the present size. Before Init nothing happens.
+    /// Places the controls for the current size. Does nothing before Init.
     void Size();
 
 private:

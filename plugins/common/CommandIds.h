@@ -1,12 +1,12 @@
-// Ids of commands as executors get them.
+// Command ids as passed to executors.
 #pragma once
 
 #include "workspacecore/core/WsManager.h"
 
 namespace Orvane::Plugins {
 
-/// The command's own id: the registry also finds commands by ids with one letter too many.
-/// An id that it does not know stays as it is.
+/// The id as registered, because the registry also accepts ids with one extra letter. Unknown ids
+/// are returned unchanged.
 inline CString OwnCommandId(const wchar_t* id) {
     const auto command =
         Workspace::CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandById(id);

@@ -1,4 +1,4 @@
-// Entities that stand out in the view.
+// Highlights entities in the view.
 #pragma once
 
 #include <span>
@@ -7,8 +7,7 @@
 
 namespace Orvane::Plugins {
 
-/// Shows entities in the colour of marks, and nothing else any more. Nothing happens where
-/// there is no view.
+/// Highlights these entities and clears earlier highlights. Does nothing without a view.
 void MarkEntities(std::span<const AcDbObjectId> ids);
 
 } // namespace Orvane::Plugins

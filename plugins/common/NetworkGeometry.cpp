@@ -13,7 +13,7 @@ constexpr std::array<std::string_view, kNodeKindCount> kNodeKindNames = {
 constexpr std::array<std::string_view, kSectionKindCount> kSectionKindNames = {
     "Pipe", "Pump", "Valve", "Conduit", "Weir", "Orifice", "Outlet", "Other"};
 
-/// The place of a word, or the last place, which is that of `Other`.
+/// The index of a word, or the last index, which is that of `Other`.
 template <std::size_t N>
 std::size_t PlaceOf(const std::array<std::string_view, N>& words, std::string_view word) {
     const auto found = std::find(words.begin(), words.end() - 1, word);
@@ -61,7 +61,7 @@ SectionKind SectionKindOf(std::string_view name) {
 }
 
 bool IsPlace(const Point& point) {
-    constexpr double kFarthest = 1e150; // its square is still a finite number
+    constexpr double kFarthest = 1e150; // its square is still finite
     return std::abs(point.x) <= kFarthest && std::abs(point.y) <= kFarthest;
 }
 
@@ -69,10 +69,10 @@ std::string GeometryFault(const NetworkGeometry& geometry) {
     const std::size_t nodes = geometry.NodeCount();
     const std::size_t sections = geometry.SectionCount();
     if (geometry.endNodes.size() != sections) {
-        return "there are not as many end nodes as start nodes";
+        return "the numbers of start and end nodes differ";
     }
     if (!AreNodeNumbers(geometry.startNodes, nodes) || !AreNodeNumbers(geometry.endNodes, nodes)) {
-        return "a section has the number of a node that does not exist";
+        return "a section refers to an invalid node number";
     }
     if (!AreOffsetsSound(geometry)) {
         return "the inner vertices do not fit the sections";

@@ -1,4 +1,4 @@
-// What statistics and checks see of a network, wherever it is kept.
+// The view of a network that statistics and checks work on, independent of its storage.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace Orvane::Network {
 
-// Attributes of entities under which the figures of a network are kept.
+// Attribute names used for the numeric properties of network entities.
 inline constexpr std::string_view kElevation = "ELEVATION";
 inline constexpr std::string_view kDiameter = "DIAMETER";
 inline constexpr std::string_view kStatedLength = "LENGTH";
@@ -23,7 +23,7 @@ enum class NodeKind : std::uint8_t {
     Outfall,
     Storage,
     Divider,
-    Other ///< no kind is known; the last one
+    Other ///< unknown kind; always last
 };
 inline constexpr std::size_t kNodeKindCount = 7;
 
@@ -35,19 +35,19 @@ enum class SectionKind : std::uint8_t {
     Weir,
     Orifice,
     Outlet,
-    Other ///< no kind is known; the last one
+    Other ///< unknown kind; always last
 };
 inline constexpr std::size_t kSectionKindCount = 8;
 
-/// The word that stands in drawings and lists, as "Junction".
+/// The name used in drawings and lists, such as "Junction".
 std::string_view KindName(NodeKind kind);
 std::string_view KindName(SectionKind kind);
-/// The kind of a word of KindName; `Other` for every other word.
+/// The kind with this KindName; `Other` if there is no such kind.
 NodeKind NodeKindOf(std::string_view name);
 SectionKind SectionKindOf(std::string_view name);
 
 inline constexpr double kNotStated = std::numeric_limits<double>::quiet_NaN();
-/// Stands for a node that a section names and that does not exist.
+/// Replaces a node that a section names but that does not exist.
 inline constexpr std::int32_t kMissingNode = -1;
 
 struct Point {
@@ -56,7 +56,7 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-/// Points of many lines in one array: line i has the points offsets[i] to offsets[i + 1].
+/// The points of many lines in one array: line i has the points offsets[i] to offsets[i + 1].
 struct PointLists {
     std::vector<std::uint32_t> offsets{0};
     std::vector<Point> points;
@@ -67,18 +67,18 @@ struct PointLists {
     }
 };
 
-/// A view of a network as arrays; it owns nothing. Make it with GeometryOf from a read
-/// network, or over arrays of one's own that were filled from a drawing.
+/// A non-owning view of a network as arrays. Create it with GeometryOf from a network file's model,
+/// or over your own arrays filled from a drawing.
 ///
-/// The first group of arrays is required. The other arrays may be left empty, which
-/// means "not stated"; otherwise they have one element a node or a section.
+/// The first group of arrays is required. The others may be empty, meaning "not stated"; otherwise
+/// they have one element per node or section.
 struct NetworkGeometry {
-    std::span<const Point> nodes;             ///< a node whose position is no place lies nowhere
-    std::span<const std::int32_t> startNodes; ///< one a section; number of a node or kMissingNode
+    std::span<const Point> nodes;             ///< nodes without valid coordinates have no position
+    std::span<const std::int32_t> startNodes; ///< one per section; a node number or kMissingNode
     std::span<const std::int32_t> endNodes;
 
     /// Inner vertices of section i: vertices[vertexOffsets[i]] to vertices[vertexOffsets[i + 1]],
-    /// so one offset more than sections. Both empty if all sections are straight.
+    /// hence one more offset than sections. Both are empty if all sections are straight.
     std::span<const std::uint32_t> vertexOffsets;
     std::span<const Point> vertices;
 
@@ -97,27 +97,27 @@ struct NetworkGeometry {
     }
 };
 
-/// The reason why arrays cannot be a network (lengths that do not fit each other, numbers
-/// of nodes that do not exist), or an empty text. Statistics and checks require an empty one.
+/// Why the arrays do not form a network (inconsistent lengths, invalid node numbers), or an empty
+/// string. Statistics and checks require valid arrays.
 std::string GeometryFault(const NetworkGeometry& geometry);
 
-/// Calls take(point) for each point of the drawn line of a section: its start node, its
-/// inner vertices, its end node. A missing node, and a point that is no place, is left out.
+/// Calls take(point) for each point of a section's drawn line: start node, inner vertices, end
+/// node. Skips missing nodes and invalid points.
 template <class Take>
 void ForEachLinePoint(const NetworkGeometry& geometry, std::size_t section, Take&& take);
 
-/// The names of a network's entities, for texts that people read. UTF-8.
+/// The names of a network's entities for reports. UTF-8.
 class INetworkNames {
 public:
     virtual ~INetworkNames() = default;
     virtual std::string NodeName(std::size_t node) const = 0;
     virtual std::string SectionName(std::size_t section) const = 0;
-    /// What a section states for a start (end) node that does not exist.
+    /// The name that a section gives for a start (end) node that does not exist.
     virtual std::string MissingStart(std::size_t section) const = 0;
     virtual std::string MissingEnd(std::size_t section) const = 0;
 };
 
-/// Whether both coordinates are numbers of a size with which areas can be computed.
+/// Whether both coordinates are finite and small enough to compute areas.
 bool IsPlace(const Point& point);
 
 template <class Take>

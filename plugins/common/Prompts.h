@@ -1,4 +1,4 @@
-// Talk with the user at the command line.
+// Prompts and refusals at the command line.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 namespace Orvane::Plugins {
 
 void PrintLine(const std::string& line);
-/// Prints why a command is not carried out. Always false.
+/// Prints why a command was refused. Always returns false.
 bool Refuse(const CString& reason);
 
 } // namespace Orvane::Plugins

@@ -28,8 +28,8 @@ void SystemNetwork::ReadNodes() {
 }
 
 void SystemNetwork::ReadSections() {
-    // Ids of a system ascend, so a node's number is found by search. A section may end at
-    // a node of another system; that one joins the snapshot at its end.
+    // Entity ids of a system ascend, so a binary search finds a node's number. A section may end at
+    // a node of another system; such nodes are appended to the snapshot.
     const auto ownCount = m_nodeIds.size();
     std::unordered_map<AcDbObjectId, std::int32_t> foreign;
     const auto numberOf = [&](AcDbObjectId id) -> std::int32_t {

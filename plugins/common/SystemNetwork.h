@@ -1,4 +1,4 @@
-// A line system of the drawing as statistics, checks and ways see it.
+// A line system of the drawing for statistics, checks and path searches.
 #pragma once
 
 #include <vector>
@@ -8,9 +8,8 @@
 
 namespace Orvane::Network {
 
-/// One line system of the drawing as arrays, for statistics and checks. A snapshot: it does
-/// not follow later changes of the drawing. The names are read from the drawing, so it has
-/// to live as long as they are asked for.
+/// One line system of the drawing as arrays, for statistics and checks. A snapshot: it does not
+/// follow later changes. Names are read from the drawing on demand, so the drawing must outlive it.
 class SystemNetwork final : public INetworkNames {
 public:
     SystemNetwork(const Topology::CTopologyStorage& storage, const System::CGisSystem& system);

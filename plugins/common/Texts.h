@@ -1,4 +1,4 @@
-// Messages of the plug-ins to the user; their texts are in share/messages.
+// Messages from the plug-ins to the user; the texts are in share/messages.
 #pragma once
 
 #include "platform/win/CodePage.h"
@@ -35,7 +35,7 @@ enum class Msg : int {
     SystemName = 900445,
     SystemKind = 900446,
     SystemFunction = 900447,
-    // What can be chosen.
+    // Choices.
     Everything = 900462,
     AllConditions = 900463,
     AnyCondition = 900464,
@@ -44,7 +44,7 @@ enum class Msg : int {
     LayerColor = 900467,
     Disk = 900468,
     Net = 900469,
-    // Why something is not done; most with what was typed.
+    // Reasons for refusing something; most with the user's input.
     NoCondition = 900404,
     UnknownAttribute = 900406, // with system and attribute
     NoNumbers = 900411,
@@ -60,7 +60,7 @@ enum class Msg : int {
     NothingDropped = 900443,
     UnknownSystem = 900449,
     SameItem = 900453,
-    // What was done.
+    // Completed actions.
     Added = 900421,
     Changed = 900422,
     Deleted = 900423,
@@ -84,21 +84,21 @@ enum class Msg : int {
     HiddenMark = 900515,  // with the name of a system
     // The console's views of the trees.
     AskPath = 900520,
-    NoSuchNode = 900521, // with what was asked for, and where it was looked for
+    NoSuchNode = 900521, // what was searched for, and where
     ThereIs = 900522,    // with the names of nodes
     NoChildren = 900523, // with a node
     EmptyMenu = 900524,  // with a node
     PlaceToAdd = 900525, // with the kind of configurations
     NoTemplate = 900526,
     SystemTemplate = 900527, // with topology and function
-    // Words that the workspace has as well.
+    // Words shared with the workspace.
     ColumnProperty = 464,
     Function = 1216,
     ColumnSystem = 1253,
     ColumnValue = 1257,
     // Find.
     Find = 900540,
-    FindWhat = 900541, // labels, with the letter that leads to their control
+    FindWhat = 900541, // labels, with the mnemonic of their control
     FindIn = 900542,
     FindWhere = 900543,
     FindNow = 900544,
@@ -113,7 +113,7 @@ enum class Msg : int {
     ColumnFoundIn = 900554,
     Show = 900555,
     ShowProperties = 900556,
-    NotThere = 900557, // what was found
+    NotThere = 900557, // with the entity that was found
     AskFindWhat = 900558,
     AskFindIn = 900559,
     AskFindWhere = 900560,
@@ -128,12 +128,12 @@ enum class Msg : int {
     NotEditable = 900575, // with the property
     ValueSet = 900576,    // with property and value
     NotSet = 900577,      // with the property
-    NoNumber = 900578,    // with what was typed, and the property
+    NoNumber = 900578,    // with the input and the property
     NoName = 900579,
     NothingPicked = 900580,
     AskProperty = 900581,
-    AskValue = 900582,   // with the value now
-    NoProperty = 900583, // with what was typed
+    AskValue = 900582,   // with the current value
+    NoProperty = 900583, // with the input
     Type = 900584,
     Position = 900585,
     StartNode = 900586,
@@ -151,14 +151,14 @@ enum class Msg : int {
     NoDrawing = 900617,
     LegendLine = 900618, // layer, colour, count
     EmptyLegend = 900619,
-    // Families of other plug-ins, and default items.
+    // Families from other plug-ins, and default items.
     NoFamilyCommand = 930001,    // with the id
     UnknownFamily = 930002,      // with the tag
     FamilyWithoutPlace = 930003, // with the tag
     NotHandedOver = 930004,      // with the id
     DefaultIsShown = 930005,     // with system and name
-    ShowsDefaults = 930006,      // name of a step of the history
-    // Why a configuration makes no sense.
+    ShowsDefaults = 930006,      // name of an undo step
+    // Why a configuration is invalid.
     InvalidHeight = 912200,
     UnmatchedBrace = 912201,
     NoAttributeInIt = 912202,
@@ -178,7 +178,7 @@ enum class Msg : int {
     NodeColumn = 912215,
     // Networks and their files.
     NoNetworks = 912130,
-    IsOff = 912131, // follows the name of a system
+    IsOff = 912131, // appended to the name of a system
     NoSystems = 912132,
     ImportedNetwork = 912140,  // name, counts of nodes and sections
     ImportedPolygons = 912141, // name, count
@@ -188,7 +188,7 @@ enum class Msg : int {
     KindOfNetwork = 912144,
     JoinDistance = 912145,
     NoFeatures = 912146, // with the file
-    NoDistance = 912148, // with what was typed
+    NoDistance = 912148, // with the input
     MadeNodes = 912149,  // with the count
     NetworkFile = 912150,
     NoFileGiven = 912151,
@@ -212,14 +212,14 @@ enum class Msg : int {
     FromTo = 912080, // two numbers
     Polygons = 912081,
     FindingKinds = 912085, // the first of them, in the order of FindingKind
-    IsolatedNode = 912095, // findings; with an entity, most with another one
+    IsolatedNode = 912095, // findings; with an entity, most with a second one
     CoincidentNode = 912096,
     ZeroLength = 912097,
     LacksNode = 912098,
     MissingNode = 912099,
     MissingNodes = 912100,
     ParallelSection = 912101,
-    Crossing = 912102,  // and the place
+    Crossing = 912102,  // and the position
     NodeKinds = 912110, // the first of them, in the order of NodeKind
     OtherKind = 912116,
     SectionKinds = 912117, // the first of them, in the order of SectionKind
@@ -233,7 +233,7 @@ enum class Msg : int {
     CannotReadFile = 912006, // with the reason
     MoreProblems = 912007,   // with the count
     FewColumns = 912010,     // heading, count, count needed, their names
-    NotANumber = 912011,     // what it is, and the text
+    NotANumber = 912011,     // the column, and the text
     TooLargeNumber = 912012,
     NegativeNumber = 912013,
     NameTaken = 912014, // kind of entity, name, line
@@ -261,7 +261,7 @@ enum class Msg : int {
     TextBeforeSection = 912043,
     HeadingIsCut = 912044,
     UnknownHeading = 912045,
-    NameColumn = 912050, // columns that a line needs
+    NameColumn = 912050, // columns required in a line
     HeadColumns = 912051,
     ElevationColumns = 912052,
     LineColumns = 912053,

@@ -40,7 +40,7 @@ void PrintImported(const CString& name, std::size_t nodes, std::size_t sections,
     acutPrintf(L"%s.\n", line);
 }
 
-/// Prints why, and that nothing was imported. Always false.
+/// Prints the reason and that nothing was imported. Always returns false.
 bool RefuseImport(const CString& reason) {
     const CString nothing = Text(Msg::NothingImported);
     return Refuse(reason.IsEmpty() ? nothing : reason + L" " + nothing);
@@ -68,7 +68,7 @@ bool ImportNetworkFile(const NetworkFormat& format, const CString& file, const C
     return true;
 }
 
-/// Asks what the network is for; nothing if the answer is no function of networks.
+/// Asks for the network's function; nothing if the user cancelled.
 std::optional<int> AskFunction() {
     const CTopology* const pLines = CModuleConfiguration::Instance()->GetTopology(TopologyLine);
     if (!pLines || !pLines->GetHasFunctions()) {
@@ -83,8 +83,8 @@ std::optional<int> AskFunction() {
     return choice ? std::optional(functions[*choice].GetId()) : std::nullopt;
 }
 
-/// Asks how near ends have to be to meet. Nothing if the user cancelled or, which is reported,
-/// the answer is not a distance.
+/// Asks for the distance within which line ends are joined. Nothing if the user cancelled, or if
+/// the answer is not a distance, which is reported.
 std::optional<double> AskTolerance(double usual) {
     const auto answer = acedAskText(Text(Msg::JoinDistance), CString(RealToText(usual)));
     const auto distance = answer ? TextToReal(WideToUtf8(answer->View())) : std::nullopt;
@@ -95,7 +95,7 @@ std::optional<double> AskTolerance(double usual) {
     return distance;
 }
 
-/// Anything that the host can read: points and lines become a network, areas polygons.
+/// Any format the host can read: points and lines become a network, areas become polygons.
 bool ImportLayers(const CString& file, const CString& name) {
     auto progress =
         std::make_unique<ImportProgress>(acedProgress(Text(Msg::Reading, FileNameOf(file))));
@@ -103,7 +103,7 @@ bool ImportLayers(const CString& file, const CString& name) {
     for (const CString& warning : read.warnings) {
         acutPrintf(L"%s\n", warning);
     }
-    progress.reset(); // the user is asked now
+    progress.reset(); // closes the progress display before the prompts below
     if (!read.ok()) {
         Refuse(read.reason);
         return RefuseImport({});

@@ -1,4 +1,4 @@
-// How far an import is, over its parts.
+// The progress of an import across its phases.
 #pragma once
 
 #include <algorithm>
@@ -8,18 +8,18 @@
 
 namespace Orvane::Network {
 
-/// Reading is the first half of an import, adding to the drawing the second. Asked often, it
-/// looks at the clock of the host now and then only.
+/// Reading the file is the first half of an import, adding to the drawing the second. Cheap to call
+/// often: the host's progress is only updated every 1024 entities.
 class ImportProgress {
 public:
     explicit ImportProgress(AcDbProgress progress) : m_progress(std::move(progress)) {}
 
-    /// For who reads and says how far from 0 to 100 that is.
+    /// Progress callback for the reader; takes 0 to 100.
     AcDbProgress Reading() {
         return [this](int percent) { return Tell(percent / 2); };
     }
     void ExpectAdding(std::size_t count) { m_nExpected = std::max<std::size_t>(count, 1); }
-    /// One more was added. False once the user wants it to stop.
+    /// Counts one added entity. False once the user has stopped the import.
     bool Added() {
         constexpr std::size_t kInterval = 1024;
         ++m_nAdded;

@@ -7,7 +7,7 @@ namespace Orvane::Network {
 
 namespace {
 
-// Messages.
+// Message ids.
 constexpr int kPolygonsName = 900120;
 constexpr int kNameTaken = 900302;
 
@@ -19,7 +19,7 @@ SystemsInMaking::~SystemsInMaking() {
             try {
                 System::CSystemManager::Instance()->DeleteSystem(pSystem);
             } catch (...) {
-                // Something has gone wrong already, and that is what the user will read.
+                // The import has already failed; that error is the one to report.
             }
         }
     }
@@ -31,7 +31,7 @@ CString SystemsInMaking::Make(const CString& name, int function, bool hasNetwork
     const CModuleConfiguration& messages = *CModuleConfiguration::Instance();
     const CString polygonName =
         hasNetwork ? FormatText(messages.GetMsg(kPolygonsName).View(), name) : name;
-    // Before anything is made: nobody is to hear of systems that go again at once.
+    // Checked first, so listeners are not notified of a system that is deleted again at once.
     if (hasPolygons && systems.GetSystemByName(polygonName)) {
         return FormatText(messages.GetMsg(kNameTaken).View(), polygonName);
     }

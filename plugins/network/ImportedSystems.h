@@ -1,4 +1,4 @@
-// The systems that an import makes, all or none, and how their entities are described.
+// The systems created by an import: all or none.
 #pragma once
 
 #include "platform/win/String.h"
@@ -11,16 +11,14 @@ class CGisSystem;
 
 namespace Orvane::Network {
 
-/// The reason of an import that the user ended.
-
-/// What an import added. Null where there was nothing of the kind.
+/// The systems an import created; null if it had no entities of that kind.
 struct ImportedSystems {
     System::CGisSystem* pNetwork = nullptr;
     System::CGisSystem* pPolygons = nullptr;
 };
 
-/// Makes the systems of an import in the current drawing, and removes them again at its end
-/// unless they are kept.
+/// Creates an import's systems in the current drawing and deletes them in the destructor unless
+/// Keep() was called.
 class SystemsInMaking {
 public:
     SystemsInMaking() = default;
@@ -28,9 +26,9 @@ public:
     SystemsInMaking(const SystemsInMaking&) = delete;
     SystemsInMaking& operator=(const SystemsInMaking&) = delete;
 
-    /// A network of a function, and a system of polygons: "<name> polygons" beside a
-    /// network, else of the plain name.
-    /// \return an empty text, or the reason why nothing was made
+    /// Creates a network with this function and a polygon system, named "<name> polygons" beside a
+    /// network, else just "<name>".
+    /// \return an empty string, or the reason why nothing was created
     CString Make(const CString& name, int function, bool hasNetwork, bool hasPolygons);
     const ImportedSystems& Systems() const { return m_systems; }
     void Keep() { m_bKept = true; }

@@ -17,7 +17,7 @@ namespace {
 
 using FileSections = std::vector<InpFileSection>;
 
-/// Line numbers and numbers of points have 32 bits.
+/// Line and point numbers are 32 bit.
 constexpr std::size_t kLargestFile = 0xFFFFFFF0;
 
 std::string AnsiToUtf8(std::string_view bytes) {
@@ -38,7 +38,7 @@ bool IsBlankText(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
-/// What kind of file it cannot be, from its first bytes; nothing if it may be one.
+/// Why this cannot be a network file, judged by its first bytes; nothing if it may be one.
 std::optional<Msg> FaultOfWhole(std::string_view bytes) {
     if (IsBlankText(bytes)) {
         return Msg::FileIsEmpty;
@@ -73,8 +73,8 @@ std::string TitleOf(const FileSections& sections) {
     return title;
 }
 
-/// Puts the parts of the reader to work in the order of what rests on what, which need not
-/// be the order of the file: nodes, where they are, sections, and what belongs to those.
+/// Runs the parts of the reader in dependency order, which need not be the file's order: nodes,
+/// positions, sections, then what belongs to those.
 class ModelReader {
 public:
     ModelReader(const FileSections& file, InpContext& context, NetworkModel& model)
@@ -82,7 +82,7 @@ public:
           m_sections(context, model.sections, m_nodes),
           m_polygons(context, model.polygons, m_nodes) {}
 
-    /// False if it was stopped in between.
+    /// False if the caller stopped it.
     bool Run(const std::function<bool(int)>& progress) {
         const auto goesOn = [&](int percent) { return !progress || progress(percent); };
         if (!goesOn(10)) {
@@ -121,7 +121,7 @@ private:
             line = section.headingLine;
         });
         if (m_context.problems.HasErrors()) {
-            return; // a node may lack its position for a reason that was told already
+            return; // already reported: nodes may lack positions because of an earlier error
         }
         if (m_model.nodes.size() == 0) {
             m_context.problems.Fail(1, TextUtf8(Msg::FileWithoutNodes));
@@ -165,7 +165,7 @@ void ReadUtf8(std::string_view text, InpContext& context, InpResult& result,
               const std::function<bool(int)>& progress) {
     const FileSections sections = SplitInp(text, context.problems);
     if (context.problems.HasErrors()) {
-        return; // the columns of such a file mean nothing
+        return; // the columns of such a file have no meaning
     }
     if (!HasNetwork(sections)) {
         context.problems.Fail(1, TextUtf8(Msg::NotANetworkFile));

@@ -1,4 +1,4 @@
-// What all parts of the reader share while one file is read.
+// State shared by all parts of the reader while reading one file.
 #pragma once
 
 #include <cstdint>
@@ -16,37 +16,37 @@ namespace Orvane::Network {
 
 using InpColumns = std::vector<std::string_view>;
 
-/// Turns the columns of a file into numbers and attributes, and notes what is wrong.
+/// Converts columns into numbers and attributes, and records problems.
 class InpContext {
 public:
     InpProblems problems;
     InpFormat format = InpFormat::Epanet;
 
-    /// Notes an error and answers false if a line has fewer columns than its section needs.
+    /// Records an error and returns false if a line has fewer columns than its section requires.
     bool HasColumns(const InpSectionRule& rule, std::uint32_t line, const InpColumns& columns);
 
-    /// The number of a column; nothing, and an error, if it is not a number.
+    /// The number in a column; records an error and returns nothing if it is not a number.
     std::optional<double> Number(std::uint32_t line, Plugins::Msg what, std::string_view text);
-    /// The place in two columns.
+    /// The position in two columns.
     std::optional<Point> Place(std::uint32_t line, std::string_view x, std::string_view y);
 
-    /// Adds the columns that the rule names as attributes of an entity. Such a column may
-    /// hold anything: some files have a word where others have a number.
+    /// Adds the columns named by the rule as attributes of an entity. Their values may be of any
+    /// type: some files have a word where others have a number.
     void AddAttributes(const InpSectionRule& rule, const InpColumns& columns, std::uint32_t owner,
                        AttributeTable& table);
     void AddAttribute(AttributeTable& table, std::uint32_t owner, std::string_view name,
                       std::string_view text);
 };
 
-/// Names of entities together with the lines that brought them.
+/// Entity names with the lines that introduced them.
 class InpNames {
 public:
     std::optional<std::uint32_t> Find(const TextColumn& names, std::string_view name) const {
         return m_index.Find(names, name);
     }
-    /// Adds a name unless it is known; returns its number in both cases.
+    /// Adds a name unless it is known; returns its number either way.
     std::uint32_t FindOrAdd(TextColumn& names, std::string_view name, std::uint32_t line);
-    /// Adds a name that must be new. Nothing, and an error, if it is not.
+    /// Adds a name that must be new; otherwise records an error and returns nothing.
     std::optional<std::uint32_t> AddNew(TextColumn& names, std::string_view name,
                                         std::uint32_t line, Plugins::Msg what,
                                         InpProblems& problems);
@@ -57,11 +57,11 @@ private:
     std::vector<std::uint32_t> m_lines;
 };
 
-/// Points that come in any order of their owners.
+/// Points added in arbitrary order of their owners.
 class OwnedPoints {
 public:
     void Add(std::uint32_t owner, const Point& point) { m_points.emplace_back(owner, point); }
-    /// The points by owner; those of each owner in the order in which they came.
+    /// Grouped by owner; each owner's points keep the order in which they were added.
     PointLists Sorted(std::size_t ownerCount) const;
 
 private:

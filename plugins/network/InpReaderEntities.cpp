@@ -163,7 +163,7 @@ void InpSections::ReadCrossSections(const InpFileSection& section) {
         if (IsRoundShape(columns[1])) {
             m_sections.diameters[*number] = ReadSize(line, Msg::DiameterWord, columns, 2);
         } else {
-            // The name of a street or of a measured profile stands here as well.
+            // This column may also hold the name of a street or of an irregular cross section.
             m_context.AddAttribute(m_sections.attributes, *number, "Height", columns[2]);
         }
     });
@@ -263,7 +263,7 @@ void ReadInpTags(InpContext& context, const InpFileSection& section, const InpNo
         }
         const bool isNode = EqualNoCase(columns[0], "NODE");
         if (!isNode && !EqualNoCase(columns[0], "LINK")) {
-            return; // of a subcatchment or of rain gages
+            return; // belongs to a subcatchment or rain gage
         }
         const auto owner = isNode ? nodes.Find(columns[1]) : sections.Find(columns[1]);
         if (owner) {

@@ -1,5 +1,5 @@
-// The parts of the reader, one for each table of the network. Each takes its sections of
-// the file through Read, in the order that InpReader.cpp lays down.
+// The parts of the reader, one for each network table. Each processes its file sections in Read, in
+// the order defined in InpReader.cpp.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +19,8 @@ public:
 
     void ReadNodes(const InpFileSection& section);
     void ReadCoordinates(const InpFileSection& section);
-    /// Takes out the nodes without a position, with a warning each. There must be one node
-    /// that has a position, or it is an error of the line given.
+    /// Removes nodes without a position, with a warning for each. If no node has a position,
+    /// records an error for the given line.
     void DropUnplaced(std::uint32_t coordinatesLine);
 
     std::optional<std::uint32_t> Find(std::string_view name) const {
@@ -43,7 +43,7 @@ public:
     void ReadSections(const InpFileSection& section);
     void ReadCrossSections(const InpFileSection& section);
     void ReadVertices(const InpFileSection& section);
-    /// To be called when all sections of the file were read.
+    /// Call after all sections of the file have been read.
     void Finish();
 
     std::optional<std::uint32_t> Find(std::string_view name) const {
@@ -71,7 +71,7 @@ public:
 
     void ReadSubcatchments(const InpFileSection& section);
     void ReadRings(const InpFileSection& section);
-    /// To be called when all sections of the file were read.
+    /// Call after all sections of the file have been read.
     void Finish();
 
 private:

@@ -1,4 +1,4 @@
-// What the reader knows of the sections of network files, as tables.
+// Tables describing the sections of network files.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@ namespace Orvane::Network {
 
 /// What the lines of a section of the file describe.
 enum class InpRole : std::uint8_t {
-    Ignored, ///< known to the formats, of no use here
+    Ignored, ///< known to the formats, but not used here
     Title,
     Nodes,
     Sections,
@@ -24,18 +24,18 @@ enum class InpRole : std::uint8_t {
     Polygons,
     Labels,
     Tags,
-    End ///< what follows is not part of the network
+    End ///< nothing after it belongs to the network
 };
 
 inline constexpr std::size_t kNoColumn = 0xFF;
 
-/// A section of the file by its heading. Columns count from 0.
+/// Describes a section of the file by its heading. Columns count from 0.
 struct InpSectionRule {
     std::string_view heading;                         ///< upper case, without brackets
-    Plugins::Msg columns = Plugins::Msg::NameColumn;  ///< names of those that a line needs
-    std::span<const std::string_view> attributes;     ///< in EPANET's files and by default
-    std::span<const std::string_view> swmmAttributes; ///< in SWMM's files if they differ
-    std::size_t attributeColumn = 0; ///< the columns from here on have the names above
+    Plugins::Msg columns = Plugins::Msg::NameColumn;  ///< names of the required columns
+    std::span<const std::string_view> attributes;     ///< in EPANET files, and by default
+    std::span<const std::string_view> swmmAttributes; ///< in SWMM files, if different
+    std::size_t attributeColumn = 0;                  ///< the first column with an attribute
     std::size_t lengthColumn = kNoColumn;
     std::size_t diameterColumn = kNoColumn;
     InpRole role = InpRole::Ignored;
@@ -44,16 +44,16 @@ struct InpSectionRule {
     SectionKind sectionKind = SectionKind::Other;
 };
 
-/// The rule for a heading in any case of letters; null for one that no format knows.
+/// The rule for a heading, ignoring case; null if no format has such a section.
 const InpSectionRule* FindInpSection(std::string_view heading);
-/// Whether the section belongs to SWMM's files alone.
+/// Whether only SWMM files have this section.
 bool IsSwmmSection(const InpSectionRule& rule);
-/// Whether a cross section of this shape is round, so that its height is a diameter.
+/// Whether cross sections of this shape are round, so that their height is a diameter.
 bool IsRoundShape(std::string_view shape);
-/// The attribute name of a keyword of EPANET's pumps, as "Head"; empty for another word.
+/// The attribute name for an EPANET pump keyword, such as "Head"; empty for any other word.
 std::string_view PumpAttribute(std::string_view keyword);
 
-/// Letters A to Z compared without regard to case.
+/// Compares ignoring the case of A to Z.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
 } // namespace Orvane::Network

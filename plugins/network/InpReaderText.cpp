@@ -31,7 +31,7 @@ void Keep(std::vector<InpProblem>& list, std::size_t& count, InpProblem problem)
     }
 }
 
-/// Goes through the lines of a file once, noting headings and unusable lines.
+/// Makes one pass over the lines of a file, recording headings and unusable lines.
 class Splitter {
 public:
     Splitter(std::string_view bytes, InpProblems& problems) : m_rest(bytes), m_problems(problems) {
@@ -97,7 +97,7 @@ private:
         m_isOpen = true;
     }
 
-    /// The body of an open section reaches up to here.
+    /// The body of the open section ends here.
     void Close(const char* end) {
         if (std::exchange(m_isOpen, false)) {
             std::string_view& body = m_sections.back().body;
@@ -110,12 +110,12 @@ private:
     std::vector<InpFileSection> m_sections;
     std::uint32_t m_line = 0;
     bool m_isOpen = false;
-    bool m_isSkipping = false; ///< in a section that is not known
+    bool m_isSkipping = false; ///< inside an unknown section
     bool m_isAtEnd = false;
     bool m_isTextBeforeTold = false;
 };
 
-/// The length of the well-formed sequence at the start of a text; 0 if there is none.
+/// The length of the UTF-8 sequence at the start of a text; 0 if it is malformed.
 std::size_t SequenceLength(std::string_view text) {
     const auto first = static_cast<unsigned char>(text[0]);
     const auto second = text.size() > 1 ? static_cast<unsigned char>(text[1]) : 0U;
@@ -125,7 +125,7 @@ std::size_t SequenceLength(std::string_view text) {
     } else if (first >= 0xC2 && first < 0xE0) {
         length = 2;
     } else if (first >= 0xE0 && first < 0xF0) {
-        // Neither longer than needed nor half of a pair of UTF-16.
+        // Rejects overlong forms and UTF-16 surrogates.
         const bool isAllowed =
             (first != 0xE0 || second >= 0xA0) && (first != 0xED || second < 0xA0);
         length = isAllowed ? 3 : 0;
@@ -211,7 +211,7 @@ std::string Quoted(std::string_view text) {
     }
     std::size_t end = kMost;
     while (end > 0 && IsContinuation(text[end])) {
-        --end; // never cuts through a character
+        --end; // do not split a UTF-8 sequence
     }
     return quoted.append(text.substr(0, end)).append("...\"");
 }

@@ -12,13 +12,13 @@
 
 namespace Orvane::Network {
 
-/// Gathers problems: all are counted, the first ones of each severity are kept.
+/// Collects problems: counts all and keeps the first ones of each severity.
 class InpProblems {
 public:
     void Warn(std::uint32_t line, std::string reason);
     void Fail(std::uint32_t line, std::string reason);
     bool HasErrors() const { return m_errorCount > 0; }
-    /// Hands the problems over, in the order of their lines.
+    /// Moves the problems into the result, ordered by line.
     void MoveTo(InpResult& result);
 
 private:
@@ -28,22 +28,22 @@ private:
     std::size_t m_errorCount = 0;
 };
 
-/// A section of the file: the lines behind a heading up to the next one.
+/// A section of the file: the lines from a heading up to the next one.
 struct InpFileSection {
     const InpSectionRule* rule = nullptr; ///< never null
     std::uint32_t headingLine = 0;
     std::string_view body;
 };
 
-/// The sections of a file in their order, up to its end mark. The views are into `bytes`.
-/// A line that is too long or no text is an error.
+/// The sections of a file in file order, up to the end marker. The views point into `bytes`. Lines
+/// that are too long or not text are errors.
 std::vector<InpFileSection> SplitInp(std::string_view bytes, InpProblems& problems);
 
-/// The first line of a text, without its line end; the text is left with the other lines.
+/// Removes the first line from a text and returns it without its line end.
 std::string_view TakeLine(std::string_view& text);
 
-/// The columns of a line: parts between blanks, or in quotation marks (which are taken
-/// off). A semicolon outside of quotation marks ends the line.
+/// Splits a line into columns, separated by spaces or enclosed in double quotes, which are removed.
+/// A semicolon outside quotes ends the line.
 void SplitColumns(std::string_view line, std::vector<std::string_view>& columns);
 
 /// Calls take(line number, columns) for each line of a section that has columns.
@@ -60,9 +60,9 @@ void ForEachRow(const InpFileSection& section, Take&& take) {
 }
 
 bool IsUtf8(std::string_view bytes);
-/// How many characters a text of the file has; close enough for bytes that are no UTF-8.
+/// The number of characters in a UTF-8 text; approximate if the bytes are not valid UTF-8.
 std::size_t CountCharacters(std::string_view bytes);
-/// The text in quotation marks, cut to a length that fits a message.
+/// The text in double quotes, shortened to fit a message.
 std::string Quoted(std::string_view text);
 
 } // namespace Orvane::Network

@@ -20,7 +20,7 @@ namespace {
 
 constexpr Point kNowhere{kNotStated, kNotStated};
 
-/// Counts all findings and keeps as many of each kind as are wanted.
+/// Counts all findings and keeps the first ones of each kind.
 class Findings {
 public:
     explicit Findings(std::size_t mostListed) : m_mostListed(mostListed) {}
@@ -54,9 +54,9 @@ void FindIsolatedNodes(const NetworkGeometry& geometry, Findings& findings) {
 }
 
 void FindCoincidentNodes(const NetworkGeometry& geometry, double tolerance, Findings& findings) {
-    // Only nodes near which there was none before: they lie apart, however many lie at one place.
+    // Holds only nodes without a finding, so its points stay apart however many nodes coincide.
     NodeGrid<Point> grid(std::isfinite(tolerance) ? std::max(tolerance, 0.0) : 0.0);
-    std::vector<std::uint32_t> kept; ///< by their numbers in the grid
+    std::vector<std::uint32_t> kept; ///< node numbers by grid number
     for (std::uint32_t node = 0; node < geometry.NodeCount(); ++node) {
         const Point& place = geometry.nodes[node];
         if (!IsPlace(place)) {
@@ -151,7 +151,7 @@ void FindCrossings(const NetworkGeometry& geometry, Findings& findings) {
     });
 }
 
-/// Ten digits tell a millimetre in coordinates of millions of metres.
+/// Ten digits resolve millimetres in coordinates of millions of metres.
 std::string PlaceText(const Point& place) {
     char buffer[64];
     char* end = std::to_chars(buffer, buffer + 30, place.x, std::chars_format::general, 10).ptr;

@@ -20,8 +20,8 @@ using Selection::CSpatialIndex;
 
 constexpr std::uint32_t kNobody = 0xFFFFFFFF;
 
-/// The drawn lines of all sections behind each other, without points that repeat the
-/// one before. A segment is known by the number of its first point.
+/// The drawn lines of all sections in one array, without consecutive duplicate points. A segment is
+/// identified by the number of its first point.
 struct DrawnLines {
     std::vector<Point> points;
     std::vector<std::uint32_t> owners; ///< the section of each point
@@ -29,7 +29,7 @@ struct DrawnLines {
     bool IsSegment(std::size_t point) const {
         return point + 1 < points.size() && owners[point] == owners[point + 1];
     }
-    /// Whether the line goes on to both sides of a point.
+    /// Whether the line continues on both sides of a point.
     bool IsInner(std::size_t point) const {
         return point > 0 && owners[point - 1] == owners[point] && IsSegment(point);
     }
@@ -57,8 +57,8 @@ Box BoxOf(const Point& a, const Point& b) {
     return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
 }
 
-/// Cuts segments that run long and aslant into pieces for the search, since the box of
-/// such a segment would meet half of the network.
+/// Splits long diagonal segments into pieces for the search, since the bounding box of such a
+/// segment would intersect half of the network.
 class SegmentPieces {
 public:
     explicit SegmentPieces(const DrawnLines& lines) : m_lines(lines) { ChooseSize(); }
@@ -88,7 +88,7 @@ public:
     }
 
 private:
-    /// Most pieces of one segment. More would cost more in the tree than they spare.
+    /// Limit of pieces per segment; more would cost more in the tree than they save.
     static constexpr double kMostPieces = 256;
 
     static Point Between(const Point& a, const Point& b, std::size_t i, std::size_t count) {
@@ -96,8 +96,8 @@ private:
         return {a.x + (b.x - a.x) * part, a.y + (b.y - a.y) * part};
     }
 
-    /// Points in between are rounded and may lie off the segment by a little, which depends
-    /// on the numbers of its ends and not on those of the piece.
+    /// Intermediate points are rounded and may lie slightly off the segment; the error depends on
+    /// the segment's coordinates, not on the piece's.
     static Box Padded(const Box& box, const Box& segment) {
         constexpr double kPart = 8 * std::numeric_limits<double>::epsilon();
         const double x = kPart * std::max(std::abs(segment.minX), std::abs(segment.maxX));
@@ -105,8 +105,8 @@ private:
         return {box.minX - x, box.minY - y, box.maxX + x, box.maxY + y};
     }
 
-    /// Pieces are some times as long as segments would be if they filled the network's
-    /// rectangle evenly; longer ones where that makes more pieces than segments.
+    /// Starts with pieces four times as long as segments would be if they filled the network's
+    /// extents evenly, and doubles that until there are at most two pieces per segment.
     void ChooseSize() {
         std::size_t segments = 0;
         Box all{0, 0, 0, 0};
@@ -141,14 +141,14 @@ private:
     double m_size = 0; ///< drawing units; 0 leaves all segments whole
 };
 
-/// A point of a line with the points before and behind it, all different from it.
+/// A point of a line with its neighbours, both different from it.
 struct Passage {
     Point before;
     Point at;
     Point behind;
 };
 
-/// How a line passes a point that lies on one of its segments; nothing if it ends there.
+/// How a line passes a point on one of its segments; nothing if it ends there.
 std::optional<Passage> PassageAt(const DrawnLines& lines, std::size_t segment, const Point& at) {
     std::size_t before = segment;
     std::size_t behind = segment + 1;
@@ -166,7 +166,7 @@ std::optional<Passage> PassageAt(const DrawnLines& lines, std::size_t segment, c
     return Passage{lines.points[before], at, lines.points[behind]};
 }
 
-/// 1 for a point seen to the left of a passing line, -1 to its right, 0 along the line.
+/// 1 for a point to the left of a line, -1 to its right, 0 on the line.
 int SideOf(const Passage& line, const Point& point) {
     const int turn = Orientation(line.before, line.at, line.behind);
     const int first = Orientation(line.before, line.at, point);
@@ -180,7 +180,7 @@ int SideOf(const Passage& line, const Point& point) {
     return first;
 }
 
-/// A line that turns back on itself has no sides.
+/// A line that doubles back on itself has no sides.
 bool TurnsBack(const Passage& line) {
     if (Orientation(line.before, line.at, line.behind) != 0) {
         return false;
@@ -200,7 +200,7 @@ bool IsOn(const Box& box, const Point& point) {
     return box.minX <= point.x && point.x <= box.maxX && box.minY <= point.y && point.y <= box.maxY;
 }
 
-/// Where two segments cross that are known to do so. Rounded, but never outside of them.
+/// The crossing point of two segments known to cross. Rounded, but never outside either segment.
 Point CrossingPlace(const Point& a, const Point& b, const Point& c, const Point& d) {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
@@ -210,7 +210,7 @@ Point CrossingPlace(const Point& a, const Point& b, const Point& c, const Point&
     return {a.x + part * dx, a.y + part * dy};
 }
 
-/// The place where the lines cross in or at the ends of two of their segments.
+/// Where the lines cross inside or at the ends of two of their segments.
 std::optional<Point> CrossingOf(const DrawnLines& lines, std::size_t s, std::size_t t) {
     const Point& a = lines.points[s];
     const Point& b = lines.points[s + 1];
@@ -256,7 +256,7 @@ CSpatialIndex IndexSegments(const DrawnLines& lines, const SegmentPieces& pieces
     return CSpatialIndex(entries);
 }
 
-/// Goes through the sections in their order and holds each against the earlier ones.
+/// Visits the sections in order and compares each with the earlier ones.
 class CrossingSearch {
 public:
     explicit CrossingSearch(const NetworkGeometry& geometry)
@@ -304,8 +304,8 @@ private:
     DrawnLines m_lines;
     SegmentPieces m_pieces;
     CSpatialIndex m_index;
-    std::vector<std::uint32_t> m_crossedBy; ///< the last section that each one was found to cross
-    std::vector<Found> m_found;             ///< of the section in hand
+    std::vector<std::uint32_t> m_crossedBy; ///< by section: the last section found to cross it
+    std::vector<Found> m_found;             ///< for the current section
 };
 
 } // namespace

@@ -8,13 +8,12 @@
 
 namespace Orvane::Network {
 
-/// Takes two sections and one of the places where they cross.
+/// Receives two sections and one of the points where they cross.
 using TakeCrossing =
     std::function<void(std::uint32_t section, std::uint32_t earlier, const Point& place)>;
 
-/// Calls `take` once for each pair of sections that cross (see CheckResult for what that
-/// is): `earlier` is the section with the smaller number, and the calls come in the order
-/// of `section`, then of `earlier`.
+/// Calls `take` once for each pair of sections that cross (as defined at CheckResult). `earlier` is
+/// the section with the smaller number; calls are ordered by `section`, then by `earlier`.
 void ForEachCrossing(const NetworkGeometry& geometry, const TakeCrossing& take);
 
 } // namespace Orvane::Network

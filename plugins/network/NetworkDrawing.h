@@ -1,4 +1,4 @@
-// The way of a network into the drawing, and back out of it.
+// Adds a network to the drawing.
 #pragma once
 
 #include <vector>
@@ -13,9 +13,9 @@ namespace Orvane::Network {
 inline constexpr int kFunctionWater = 1;
 inline constexpr int kFunctionSewer = 2;
 
-/// Makes a system of nodes and sections of the current drawing from a network, and one of
-/// polygons named "<name> polygons" if it has any.
-/// \return an empty text, or the reason why nothing was added
+/// Creates a system of nodes and sections in the current drawing, and one of polygons named "<name>
+/// polygons" if the network has any.
+/// \return an empty string, or the reason why nothing was added
 CString AddToDrawing(const NetworkModel& model, int systemFunction, const CString& name,
                      ImportedSystems& imported, ImportProgress& progress);
 

@@ -30,12 +30,12 @@ using Workspace::CommandScope;
 
 namespace {
 
-/// Systems of the current drawing, which there is.
+/// The systems of the current drawing. Requires an open drawing.
 std::vector<System::CGisSystem*> Systems() {
     return System::CSystemManager::Instance()->GetSystems()->GetSystemList();
 }
 
-/// Calls for each system that is a network of nodes and sections.
+/// Calls `call` for each network system.
 template <class Call>
 bool ForEachNetwork(Call call) {
     int count = 0;
@@ -50,7 +50,7 @@ bool ForEachNetwork(Call call) {
     return count > 0 || Refuse(Text(Msg::NoNetworks));
 }
 
-/// Count and extents of a system of polygons.
+/// Count and extents of a polygon system.
 void PrintPolygons(const System::CGisSystem& system) {
     const auto& storage = *Topology::CTopologyMultiStorage::Instance()->GetTopology();
     std::size_t count = 0;
@@ -125,7 +125,7 @@ constexpr NetworkCommand kCommands[] = {
     {L"SYSTEM_ACTIVATE", 900109, 900110, ActivateSystem},
 };
 
-/// Null for an id that is none of these.
+/// Null if the id is not one of these.
 const NetworkCommand* FindCommand(const wchar_t* lpszCommandId) {
     const CString id = OwnCommandId(lpszCommandId);
     for (const NetworkCommand& entry : kCommands) {

@@ -7,8 +7,8 @@
 
 namespace Orvane::Network {
 
-/// One command: what the registry lists, and what it does. The function answers false if
-/// the command was not carried out; it has told the user why.
+/// A command: its registration and its function, which returns false, after reporting why, if the
+/// command was not carried out.
 struct NetworkCommand {
     const wchar_t* id;
     int msgName;
@@ -18,8 +18,8 @@ struct NetworkCommand {
 
 std::span<const NetworkCommand> NetworkCommands();
 
-/// Runs them, with the events around each. A status of 1 says that the command was carried
-/// out; the first text is then empty.
+/// Runs the commands, with the events around each. Status 1 means that the command was carried out;
+/// the first text is then empty.
 class CNetworkExecutor final : public Workspace::IWsCommandExecutor {
 public:
     boost::shared_ptr<Workspace::CExecutorReturnValue>

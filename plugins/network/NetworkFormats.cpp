@@ -18,7 +18,7 @@ NetworkFile ReadInpNetwork(const wchar_t* path, const AcDbProgress& progress) {
     return file;
 }
 
-/// Another format is another row, with a reader that gives a NetworkFile.
+/// To add a format, add a row with a reader that returns a NetworkFile.
 constexpr NetworkFormat kFormats[] = {
     {L".inp", ReadInpNetwork}, // EPANET and SWMM
 };

@@ -1,4 +1,4 @@
-// The kinds of files that hold a whole network, by what reads them.
+// The file formats that hold a complete network, with their readers.
 #pragma once
 
 #include <string>
@@ -9,24 +9,24 @@
 
 namespace Orvane::Network {
 
-/// What a reader found. Texts are UTF-8 and name file and line.
+/// The result of reading a file. Texts are UTF-8 and name file and line.
 struct NetworkFile {
-    bool ok = false; ///< false: there is an error and the model is empty
+    bool ok = false; ///< false: there are errors and the model is empty
     NetworkModel model;
-    int function = 0; ///< of the line system that it becomes
+    int function = 0; ///< of the line system to create
     std::vector<std::string> warnings;
     std::vector<std::string> errors;
 };
 
 struct NetworkFormat {
-    const wchar_t* extension; ///< case does not count
-    /// \param progress told from 0 to 100; once it answers false, reading ends with an error
+    const wchar_t* extension; ///< case-insensitive
+    /// \param progress called with 0 to 100; if it returns false, reading stops with an error
     NetworkFile (*read)(const wchar_t* path, const AcDbProgress& progress);
 };
 
-/// The format whose extension a file has; null for a file that is none of them.
+/// The format with the file's extension; null if there is none.
 const NetworkFormat* NetworkFormatOf(const CString& file);
-/// For files of any name, where nothing else can read them.
+/// The format to try when nothing else can read the file.
 const NetworkFormat& DefaultNetworkFormat();
 
 } // namespace Orvane::Network

@@ -22,13 +22,13 @@ bool IsSameWord(std::string_view left, std::string_view right) {
                       [&](char a, char b) { return upper(a) == upper(b); });
 }
 
-/// A text, or a whole number as one. Empty for what is no name.
+/// Text as is, integers as digits. Empty for values that cannot be a name.
 std::string NameText(const AcDbValue& value) {
     const auto number = value.asInteger();
     return number ? std::to_string(*number) : std::string(value.asText());
 }
 
-/// Index of the first attribute of a word that is of use as a name; size() if there is none.
+/// The index of the first attribute with this name that can name an entity, or size().
 std::size_t FindName(const AcDbAttributes& attributes, std::string_view word) {
     for (std::size_t i = 0; i < attributes.size(); ++i) {
         if (IsSameWord(AcDbNameOf(attributes.at(i).name), word) &&
@@ -48,7 +48,7 @@ std::string_view OurSpelling(std::string_view name) {
     return name;
 }
 
-/// An entity's description in the shape that the storage wants.
+/// An entity's description in the form that the storage expects.
 class Prepared {
 public:
     explicit Prepared(const AcDbImportFeature& feature) : description(feature) {
@@ -65,7 +65,7 @@ public:
     std::vector<Topology::AttributeData> attributes;
 };
 
-/// Several entities of one row have its name; further ones are numbered.
+/// Entities from the same row share its name; all but the first get a number appended.
 class RowNames {
 public:
     std::string Next(const AcDbImportFeature& feature, const std::string& name) {

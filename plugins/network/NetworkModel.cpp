@@ -16,7 +16,7 @@ void AttributeTable::Add(std::uint32_t owner, std::string_view name, std::string
 
 void AttributeTable::Seal() {
     const auto byOwner = [](const Entry& a, const Entry& b) { return a.owner < b.owner; };
-    // Files mostly hold the entities in one order throughout; then there is nothing to do.
+    // Most files keep the entities in one order throughout, so no sorting is needed.
     if (!std::is_sorted(m_entries.begin(), m_entries.end(), byOwner)) {
         std::stable_sort(m_entries.begin(), m_entries.end(), byOwner);
     }

@@ -1,8 +1,8 @@
-// A network as plain data: what a network file holds, free of any drawing.
+// A network as plain data: the content of a network file, independent of any drawing.
 //
-// Lengths, diameters, elevations and positions are in the units of the file. A number
-// that the file does not state is NaN. All texts are UTF-8. Entities are known by their
-// place in their table.
+// Lengths, diameters, elevations and positions are in the units of the file. NaN means that the
+// file does not state the number. All texts are UTF-8. Entities are identified by their index in
+// their table.
 #pragma once
 
 #include <cstddef>
@@ -21,25 +21,25 @@ namespace Orvane::Network {
 /// A named value of an entity: a number or a text.
 struct Attribute {
     std::string_view name;
-    std::string_view text; ///< empty if it is a number
+    std::string_view text; ///< empty for a number
     std::optional<double> number;
 };
 
-/// The attributes of all entities of a table. Names and texts are kept once each.
+/// The attributes of all entities of a table. Each distinct name and text is stored once.
 class AttributeTable {
 public:
     void Add(std::uint32_t owner, std::string_view name, std::string_view text,
              std::optional<double> number);
-    /// To be called after the last Add and before Of: gathers the attributes of each
-    /// owner, in the order in which they were added.
+    /// Call after the last Add and before Of: groups the attributes by owner, in the order in which
+    /// they were added.
     void Seal();
-    /// The attributes of one entity. The views live as long as the table.
+    /// The attributes of one entity. The views are valid as long as the table.
     std::vector<Attribute> Of(std::uint32_t owner) const;
-    /// One attribute of an entity, if it has that one.
+    /// One attribute of an entity, if present.
     std::optional<Attribute> Find(std::uint32_t owner, std::string_view name) const;
     std::size_t size() const { return m_entries.size(); }
-    /// Keeps the attributes of owners with a new number only; `newNumbers` holds that
-    /// number for each owner, or kDropped.
+    /// Keeps only attributes of owners that have a new number; `newNumbers` has that number, or
+    /// kDropped, for each owner.
     void Renumber(std::span<const std::uint32_t> newNumbers);
     static constexpr std::uint32_t kDropped = 0xFFFFFFFF;
 
@@ -50,7 +50,7 @@ private:
         std::uint32_t name = 0;
         std::uint32_t text = 0;
     };
-    static constexpr std::uint32_t kIsNumber = 0xFFFFFFFF; ///< in place of a text
+    static constexpr std::uint32_t kIsNumber = 0xFFFFFFFF; ///< instead of a text
     std::span<const Entry> EntriesOf(std::uint32_t owner) const;
     Attribute Make(const Entry& entry) const;
 
@@ -62,8 +62,8 @@ private:
 struct NodeTable {
     TextColumn names;
     std::vector<NodeKind> kinds;
-    std::vector<Point> positions;   ///< always finite numbers
-    std::vector<double> elevations; ///< of a reservoir: its head; of a manhole: its invert
+    std::vector<Point> positions;   ///< always finite
+    std::vector<double> elevations; ///< the head of a reservoir, the invert of a manhole
     AttributeTable attributes;
 
     std::size_t size() const { return kinds.size(); }
@@ -74,7 +74,7 @@ struct SectionTable {
     std::vector<SectionKind> kinds;
     std::vector<std::int32_t> startNodes; ///< number in NodeTable, or kMissingNode
     std::vector<std::int32_t> endNodes;
-    PointLists innerVertices; ///< between start and end, in that direction
+    PointLists innerVertices; ///< from start to end
     std::vector<double> diameters;
     std::vector<double> statedLengths;
     AttributeTable attributes;
@@ -83,11 +83,11 @@ struct SectionTable {
     bool IsComplete(std::size_t section) const {
         return startNodes[section] != kMissingNode && endNodes[section] != kMissingNode;
     }
-    /// The name that a section states for a node that does not exist; empty if the node exists.
+    /// The name a section gives for a missing start (end) node; empty if the node exists.
     std::string_view MissingStart(std::size_t section) const { return Missing(section * 2); }
     std::string_view MissingEnd(std::size_t section) const { return Missing(section * 2 + 1); }
 
-    /// Key (section * 2, plus 1 for the end) of each name in missingNames; ascending.
+    /// Key (section * 2, plus 1 for the end node) of each name in missingNames; ascending.
     std::vector<std::uint64_t> missingKeys;
     TextColumn missingNames;
 
@@ -118,10 +118,10 @@ struct NetworkModel {
     LabelTable labels;
 };
 
-/// The view of a read network. It is valid as long as the model stays unchanged.
+/// A view of the model, valid as long as the model stays unchanged.
 NetworkGeometry GeometryOf(const NetworkModel& model);
 
-/// The names of a read network, which must outlive this.
+/// The names of the model's entities. The model must outlive it.
 class ModelNames : public INetworkNames {
 public:
     explicit ModelNames(const NetworkModel& model) : m_model(model) {}

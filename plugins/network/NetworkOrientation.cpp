@@ -9,17 +9,16 @@ namespace Orvane::Network {
 
 namespace {
 
-/// A sum of numbers kept without any rounding, as parts that do not overlap, the
-/// greatest last.
+/// A sum without rounding error, kept as non-overlapping parts, the greatest last.
 class ExactSum {
 public:
     void AddProduct(double a, double b) {
         const double product = a * b;
-        Add(std::fma(a, b, -product)); // what rounding took from the product
+        Add(std::fma(a, b, -product)); // the rounding error of the product
         Add(product);
     }
 
-    /// The sign of the sum is the sign of its greatest part.
+    /// The greatest part determines the sign.
     int Sign() const {
         for (std::size_t i = m_count; i-- > 0;) {
             if (m_parts[i] != 0) {
@@ -30,7 +29,7 @@ public:
     }
 
 private:
-    /// Carries a number upwards through the parts; each keeps what the sum rounds off.
+    /// Carries a number up through the parts; each part keeps the rounding error.
     void Add(double carried) {
         for (std::size_t i = 0; i < m_count; ++i) {
             const double part = m_parts[i];
@@ -46,7 +45,7 @@ private:
     std::size_t m_count = 0;
 };
 
-/// The terms of the determinant multiplied out, as its differences would be rounded.
+/// Multiplies the determinant out, because its differences would be rounded.
 int ExactOrientation(const Point& a, const Point& b, const Point& c) {
     ExactSum sum;
     sum.AddProduct(a.x, b.y);
@@ -64,7 +63,7 @@ int Orientation(const Point& a, const Point& b, const Point& c) {
     const double left = (a.x - c.x) * (b.y - c.y);
     const double right = (a.y - c.y) * (b.x - c.x);
     const double determinant = left - right;
-    // More than the five operations above can be wrong by.
+    // An upper bound of the rounding error of the five operations above.
     constexpr double kRelativeError = 2 * std::numeric_limits<double>::epsilon();
     if (std::abs(determinant) > kRelativeError * (std::abs(left) + std::abs(right))) {
         return determinant > 0 ? 1 : -1;

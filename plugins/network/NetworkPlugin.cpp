@@ -1,4 +1,4 @@
-// ORVZNetwork.arx: what the workspace meets of it.
+// ORVZNetwork.arx: entry points called by the workspace.
 #include "plugins/network/NetworkExecutor.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "workspacecore/core/WsManager.h"

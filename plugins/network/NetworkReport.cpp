@@ -13,7 +13,7 @@ using Plugins::TextUtf8;
 
 namespace {
 
-/// Labels, with values in a column beside them.
+/// Labels with a column of values.
 class Table {
 public:
     template <class... Args>
@@ -48,7 +48,7 @@ Msg TitleOf(SectionKind kind) {
                                       : MsgAt(Msg::SectionKinds, static_cast<std::size_t>(kind));
 }
 
-/// " (1043 Pipe, 13 Pump)" in the order of the kinds.
+/// " (1043 Pipe, 13 Pump)", ordered by kind.
 template <class Kind, class Counts>
 CString KindCounts(const Counts& counts) {
     CString text;

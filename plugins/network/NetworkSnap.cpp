@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::uint32_t kNone = kNoneNear;
 
-/// The nodes that were given, of which any number may lie close together.
+/// The given nodes, any number of which may be close together.
 class GivenNodes {
 public:
     explicit GivenNodes(std::span<const AcGePoint3d> nodes) {
-        // Of several at one place only the first counts.
+        // Of several at one position only the first is used.
         NodeGrid<AcGePoint3d> places(0);
         std::vector<Selection::BoxEntry> boxes;
         for (std::uint32_t i = 0; i < nodes.size(); ++i) {

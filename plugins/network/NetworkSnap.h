@@ -1,4 +1,4 @@
-// Which ends of lines meet: nodes of a network found from lines alone.
+// Joins line ends: derives a network's nodes from its lines.
 #pragma once
 
 #include <array>
@@ -10,27 +10,26 @@
 
 namespace Orvane::Network {
 
-/// Where a line begins and where it ends.
+/// The start and end of a line.
 using LineEnds = std::array<AcGePoint3d, 2>;
 
 struct SnapResult {
-    /// Where nodes are wanted that were not given, in the order in which lines want them.
-    /// A height is that of the first end that states one.
+    /// Positions of nodes to add, in the order of the lines that need them. The height is that of
+    /// the first end that has one.
     std::vector<AcGePoint3d> newNodes;
-    /// Start and end node of each line: a number of the given nodes, and behind those of
-    /// newNodes.
+    /// Start and end node of each line: an index into the given nodes, continued by newNodes.
     std::vector<std::array<std::uint32_t, 2>> ends;
 };
 
-/// Each end, in the order of the lines, takes the nearest node at most `tolerance` away in
-/// the plane, a given one before one that was made, the first of given ones at one place;
-/// where there is none, it becomes a node itself. Given nodes never move and are never
-/// joined. Positions are finite numbers, the tolerance is 0 or more. Takes n log n.
+/// Each end, in the order of the lines, takes the nearest node at most `tolerance` away in plan;
+/// a given node wins over an equally near added one, and the first of several given nodes at
+/// one position. Without such a node, the end becomes a node itself. Given nodes are never moved or
+/// merged. Positions must be finite and the tolerance at least 0. Takes O(n log n).
 SnapResult SnapEnds(std::span<const AcGePoint3d> nodes, std::span<const LineEnds> lines,
                     double tolerance);
 
-/// A tolerance for positions that are meant to be the same: a millionth of the larger side of
-/// the box around all ends, down to a power of ten. 0 for a box without size.
+/// A default tolerance for positions meant to be equal: a millionth of the longer side of the
+/// bounding box of all points, rounded down to a power of ten. 0 if the box is empty.
 double UsualTolerance(std::span<const AcGePoint3d> nodes, std::span<const LineEnds> lines);
 
 } // namespace Orvane::Network

@@ -1,4 +1,4 @@
-// Figures of a network as a whole.
+// Statistics of a whole network.
 #pragma once
 
 #include <array>
@@ -23,24 +23,24 @@ struct Range {
 struct NetworkStatistics {
     std::size_t nodeCount = 0;
     std::size_t sectionCount = 0;
-    std::array<std::size_t, kNodeKindCount> nodesByKind{};       ///< by number of NodeKind
-    std::array<std::size_t, kSectionKindCount> sectionsByKind{}; ///< by number of SectionKind
+    std::array<std::size_t, kNodeKindCount> nodesByKind{};       ///< by NodeKind
+    std::array<std::size_t, kSectionKindCount> sectionsByKind{}; ///< by SectionKind
     std::size_t innerVertexCount = 0;
 
-    double drawnLength = 0;  ///< along the drawn lines; a missing node's part is left out
-    double statedLength = 0; ///< sum over the sections that state one
+    double drawnLength = 0;  ///< of the drawn lines, without the parts to missing nodes
+    double statedLength = 0; ///< sum over the sections that state a length
     std::size_t sectionsWithStatedLength = 0;
 
-    std::optional<Extents> extents;  ///< of nodes and inner vertices; none if nothing is placed
-    std::optional<Range> elevations; ///< none if no node states one
+    std::optional<Extents> extents;  ///< of nodes and inner vertices; unset without any position
+    std::optional<Range> elevations; ///< unset if no node has an elevation
 
-    /// Parts of the network that hang together over sections. A node without sections is
-    /// a part of its own; a section both of whose nodes are missing belongs to none.
+    /// Connected parts of the network. A node without sections is a part of its own; a section with
+    /// two missing nodes belongs to no part.
     std::size_t componentCount = 0;
     std::size_t largestComponentNodes = 0;
 };
 
-/// Takes n operations (nearly). The arrays must be sound, see GeometryFault.
+/// Takes nearly linear time. Requires valid arrays, see GeometryFault.
 NetworkStatistics ComputeStatistics(const NetworkGeometry& geometry);
 
 } // namespace Orvane::Network

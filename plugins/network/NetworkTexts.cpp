@@ -54,7 +54,7 @@ void NameIndex::Grow() {
         if (slot.index == kFree) {
             continue;
         }
-        // All entered texts differ, so the first free place is the right one.
+        // The texts are all different, so the first free slot is the right one.
         std::size_t at = slot.hash & mask;
         while (m_slots[at].index != kFree) {
             at = (at + 1) & mask;

@@ -1,4 +1,4 @@
-// Texts of a network in one piece of memory, and search among them.
+// A network's texts in one block of memory, with lookup.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,8 @@
 
 namespace Orvane::Network {
 
-/// A growing list of UTF-8 texts, kept behind each other: a million names cost their
-/// letters and eight bytes each. A view stays valid until the next Add.
+/// A growing list of UTF-8 texts in one block: each text takes its bytes plus eight. Views are
+/// valid until the next Add.
 class TextColumn {
 public:
     std::uint32_t Add(std::string_view text) {
@@ -32,19 +32,19 @@ private:
     std::vector<std::uint64_t> m_ends;
 };
 
-/// Finds texts of a column by their content, case sensitive. The column is handed to
-/// each call; it must be the same one every time, and may have grown in between.
+/// Finds texts of a column by content, case-sensitively. Every call must get the same column, which
+/// may have grown in between.
 class NameIndex {
 public:
-    /// The number of an equal text that was entered before, if there is one.
+    /// The number of an equal text in the index, if any.
     std::optional<std::uint32_t> Find(const TextColumn& column, std::string_view text) const;
-    /// Enters the text number `index` of the column unless an equal one was entered;
-    /// returns the number under which the text is known from now on.
+    /// Adds text number `index` of the column unless the index has an equal text; returns the
+    /// number of the text that the index has.
     std::uint32_t Insert(const TextColumn& column, std::uint32_t index);
     std::size_t size() const { return m_count; }
 
 private:
-    /// Hash bits stand beside the number, so that most misses never look at a text.
+    /// The hash is stored beside the number, so most misses need no text comparison.
     struct Slot {
         std::uint32_t hash = 0;
         std::uint32_t index = kFree;
@@ -58,7 +58,7 @@ private:
     std::size_t m_count = 0;
 };
 
-/// A column in which every text stands once.
+/// A column that holds each text once.
 class InternedTexts {
 public:
     std::uint32_t Intern(std::string_view text);

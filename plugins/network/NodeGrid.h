@@ -1,4 +1,4 @@
-// Points by the cells of a grid, so that those near a place are found without asking all.
+// Points in a grid, so that points near a position are found without visiting all.
 #pragma once
 
 #include <bit>
@@ -10,20 +10,20 @@
 
 namespace Orvane::Network {
 
-/// Stands for no node of a grid.
+/// No node of the grid.
 inline constexpr std::uint32_t kNoneNear = 0xFFFFFFFF;
 
-/// For points that lie farther apart than the tolerance, so that few are in a cell. Cells are
-/// somewhat wider than the tolerance: all that is near lies in a cell or in one beside it,
-/// however numbers are rounded.
-/// \tparam Place has coordinates x and y
+/// For points that are farther apart than the tolerance, so that each cell holds few. Cells are
+/// wider than the tolerance: all points within it are in the same or an adjacent cell, regardless
+/// of rounding.
+/// \tparam Place has the coordinates x and y
 template <class Place>
 class NodeGrid {
 public:
-    /// \param tolerance finite; without one (0) only what is at the very place is near
+    /// \param tolerance finite; with 0 only equal positions are near
     explicit NodeGrid(double tolerance) : m_tolerance(tolerance), m_width(tolerance * 1.5) {}
 
-    /// Its number, counted from 0.
+    /// Returns the node's number, counted from 0.
     std::uint32_t Add(const Place& node) {
         const auto number = static_cast<std::uint32_t>(m_nodes.size());
         m_nodes.push_back(node);
@@ -32,8 +32,8 @@ public:
         return number;
     }
 
-    /// The nearest one at most `best` away, which is no more than the tolerance; the one added
-    /// first of several. kNoneNear if there is none.
+    /// The nearest node at most `best` away, which must not exceed the tolerance; the earliest
+    /// added if several are equally near. kNoneNear if there is none.
     std::uint32_t Nearest(const Place& place, double best) const {
         std::uint32_t nearest = kNoneNear;
         ForEachAround(place, [&](std::uint32_t at) {
@@ -45,7 +45,7 @@ public:
         });
         return nearest;
     }
-    /// The one added first of those within the tolerance, or kNoneNear.
+    /// The earliest added node within the tolerance, or kNoneNear.
     std::uint32_t FirstNear(const Place& place) const {
         std::uint32_t first = kNoneNear;
         ForEachAround(place, [&](std::uint32_t at) {
@@ -63,14 +63,14 @@ public:
 
 private:
     struct Cell {
-        double x; ///< whole numbers, or the coordinate itself without a tolerance
+        double x; ///< integers, or the coordinates themselves if the tolerance is 0
         double y;
         friend bool operator==(const Cell&, const Cell&) = default;
     };
     struct CellHash {
         std::size_t operator()(const Cell& cell) const {
             constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
-            // Adding 0 makes one zero of the two.
+            // Adding 0 turns -0 into 0.
             std::uint64_t hash = std::bit_cast<std::uint64_t>(cell.x + 0.0) * kOdd;
             hash = (std::rotl(hash, 29) ^ std::bit_cast<std::uint64_t>(cell.y + 0.0)) * kOdd;
             return hash ^ (hash >> 32);
@@ -81,7 +81,7 @@ private:
                            : Cell{place.x, place.y};
     }
 
-    /// Calls for each node of the cells that may hold one within the tolerance.
+    /// Visits each node of the cells that may hold one within the tolerance.
     template <class Visit>
     void ForEachAround(const Place& place, Visit visit) const {
         const Cell own = CellOf(place);
@@ -101,7 +101,7 @@ private:
     double m_width;
     std::vector<Place> m_nodes;
     std::unordered_map<Cell, std::uint32_t, CellHash> m_firsts;
-    std::vector<std::uint32_t> m_next; ///< of a node: another one in its cell
+    std::vector<std::uint32_t> m_next; ///< by node: the next node in its cell
 };
 
 } // namespace Orvane::Network

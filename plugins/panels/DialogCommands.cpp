@@ -1,4 +1,4 @@
-// The commands that open dialogs. In a console the same is asked for and printed.
+// The commands that open dialogs. In a console they prompt and print instead.
 #include "platform/arx/DbDatabase.h"
 #include "platform/arx/EdDisplay.h"
 #include "platform/arx/EdPrompt.h"
@@ -24,7 +24,7 @@ using Plugins::Refuse;
 
 constexpr std::size_t kMostPrinted = 100;
 
-/// The same words in every language, beside those of the user's.
+/// Keywords accepted in every language, in addition to the translated ones.
 constexpr struct {
     const wchar_t* word;
     Msg shown;
@@ -90,7 +90,7 @@ bool SearchEntity() {
            (AfxIsDesktopMode() ? ShowDialog(kFindDialogId) != nullptr : SearchAtPrompt());
 }
 
-/// Prints the properties, and lets the user change one.
+/// Prints the properties and lets the user change one.
 bool ChangeAtPrompt(const Topology::CEntity& entity) {
     const std::vector<EntityProperty> properties = PropertiesOf(entity);
     for (const EntityProperty& property : properties) {

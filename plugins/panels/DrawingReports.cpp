@@ -13,7 +13,7 @@ namespace {
 
 using System::enmStatistic;
 
-/// Those that a system of another kind does not have are left out by the system itself.
+/// Each system leaves out those that do not apply to its kind.
 constexpr struct {
     enmStatistic statistic;
     int message;
@@ -42,7 +42,6 @@ std::optional<CString> FigureText(const System::CGisSystem& system, enmStatistic
     return std::nullopt;
 }
 
-/// A layer and a colour.
 using LayerColor = std::pair<AcDbObjectId, int>;
 
 } // namespace
@@ -58,7 +57,7 @@ std::vector<Figure> FiguresOf(const System::CGisSystem& system) {
 }
 
 std::vector<LegendRow> LegendOf(const AcDbDatabase& drawing) {
-    // Entities in the layer's own colour, for which stands 0, come first.
+    // Entities with the layer's colour are counted under 0, which sorts first.
     std::map<LayerColor, std::size_t> counts;
     drawing.forEachEntity([&](const AcDbEntity& entity) {
         const int color = entity.colorIndex() == kColorByLayer ? 0 : entity.colorIndex();

@@ -1,4 +1,4 @@
-// Figures of a system, and what the colours of a drawing mean.
+// Statistics of a system, and the legend of a drawing.
 #pragma once
 
 #include <vector>
@@ -16,19 +16,18 @@ struct Figure {
     CString value;
 };
 
-/// What is known of a system, in the order in which it is read. Lengths and areas are in
-/// drawing units.
+/// The statistics of a system, in display order. Lengths and areas are in drawing units.
 std::vector<Figure> FiguresOf(const System::CGisSystem& system);
 
-/// Entities of a layer that are drawn in one colour.
+/// Entities of a layer drawn in one colour.
 struct LegendRow {
     CString layer;
     int colorIndex; ///< of the standard 255-colour table
     std::size_t count;
 };
 
-/// Of the layers that are shown and not empty, in the drawing's order; those in the layer's
-/// own colour come first.
+/// The legend of all visible layers with entities, in the drawing's order; entities with the
+/// layer's own colour come first.
 std::vector<LegendRow> LegendOf(const AcDbDatabase& drawing);
 
 } // namespace Orvane::Panels

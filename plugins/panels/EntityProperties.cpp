@@ -41,7 +41,7 @@ void AddPolygon(Properties& properties, const Topology::CPolygon& polygon) {
     }
 }
 
-/// Nothing for a text that is no number.
+/// Nothing if the text is not a number.
 std::optional<AcDbValue> NumberLike(const AcDbValue& before, const std::string& text) {
     const std::optional<double> number = TextToReal(text);
     if (!number) {

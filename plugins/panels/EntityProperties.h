@@ -1,4 +1,4 @@
-// What is to be seen and changed of one entity.
+// The properties of one entity, to show and to edit.
 #pragma once
 
 #include <vector>
@@ -13,20 +13,21 @@ struct EntityProperty {
     CString label;
     CString value;
     Kind kind = Kind::Fixed;
-    AcDbNameId attribute{}; ///< of an attribute
+    AcDbNameId attribute{}; ///< only for attributes
 
     bool IsEditable() const { return kind != Kind::Fixed; }
 };
 
-/// The name first, then what it is, where it lies, and its attributes. None for no entity.
+/// Name, type, position and attributes, in this order. Empty for an invalid entity.
 std::vector<EntityProperty> PropertiesOf(const Topology::CEntity& entity);
 
-/// By label; without regard to case if none is written so. Null if there is none.
+/// The property with this label; an exact match wins over one that ignores case. Null if there is
+/// none.
 const EntityProperty* FindProperty(const std::vector<EntityProperty>& properties,
                                    const CString& label);
 
-/// Gives a property another value. An attribute that is a number stays one.
-/// \return an empty text, or the reason why nothing was changed
+/// Changes a property. A numeric attribute stays numeric.
+/// \return an empty string, or the reason why nothing was changed
 CString SetProperty(const Topology::CEntity& entity, const EntityProperty& property,
                     const CString& text);
 

@@ -25,7 +25,7 @@ bool IsAscii(std::string_view text) {
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// Looks for one text in many. Most are plain letters, which need no conversion.
+/// Searches many texts for one. Most texts are ASCII and need no conversion.
 class Needle {
 public:
     explicit Needle(const CString& text) : m_wide(CString(text).MakeLower()) {
@@ -33,7 +33,7 @@ public:
     }
 
     bool IsEmpty() const { return m_utf8.empty(); }
-    /// Nothing if the text does not hold it.
+    /// Nothing if the text does not contain it.
     std::optional<Rank> In(std::string_view utf8) const {
         std::size_t place = 0;
         std::size_t length = utf8.size();
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    CString m_wide; ///< in small letters
+    CString m_wide; ///< in lower case
     std::string m_utf8;
 };
 

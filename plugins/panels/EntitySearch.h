@@ -1,4 +1,4 @@
-// Search for entities by what is written in them.
+// Searches entities by name, kind and attributes.
 #pragma once
 
 #include <vector>
@@ -7,12 +7,12 @@
 
 namespace Orvane::Panels {
 
-/// Where a text is looked for. The numbers are those of the entries of the dialog.
+/// Where to search. The values are the indexes of the dialog's entries.
 enum class SearchIn { Everywhere, Name, Kind, Attributes };
 
 struct EntitySearch {
-    CString text;     ///< any part, without regard to case; empty: everything is found
-    int systemId = 0; ///< 0: all systems
+    CString text;     ///< any part, ignoring case; empty finds everything
+    int systemId = 0; ///< 0 for all systems
     SearchIn where = SearchIn::Everywhere;
 };
 
@@ -21,20 +21,19 @@ struct FoundEntity {
     CString name;
     CString kind; ///< "Section"
     CString system;
-    CString foundIn; ///< the text in which it was found, with the attribute's name
+    CString foundIn; ///< the text that matched, with the attribute's name
 };
 
 struct SearchResult {
-    /// Those named as the text first, then those whose names begin so; as many as were asked
-    /// for at most.
+    /// Exact name matches first, then names that start with the text; at most as many as requested.
     std::vector<FoundEntity> entities;
-    std::size_t count = 0; ///< all that were found
+    std::size_t count = 0; ///< of all matches
 };
 
-/// Nodes, sections and polygons of systems. Each node once, whichever systems share it.
+/// Searches nodes, sections and polygons. A node shared by several systems is found once.
 SearchResult SearchEntities(const Topology::CTopologyStorage& storage, const EntitySearch& search,
                             std::size_t limit);
-/// In all of the current drawing.
+/// Searches the current drawing.
 SearchResult SearchDrawing(const EntitySearch& search, std::size_t limit);
 
 } // namespace Orvane::Panels

@@ -1,26 +1,26 @@
-// What entities of networks and areas are called in lists, and where they are found.
+// Finds entities by id and formats them for lists.
 #pragma once
 
 #include "siblings/networkcore/TopologyStorage.h"
 
 namespace Orvane::Panels {
 
-/// The entity of an id in the current drawing, a scheme's part or not; false if it belongs to
-/// no system.
+/// The entity of the current drawing with this id, including parts of schemes. Evaluates to false
+/// if it belongs to no system.
 Topology::CEntity FindEntity(AcDbObjectId id);
 
-/// Its storage; of an entity that is true.
+/// The entity's storage. The entity must be valid.
 Topology::CTopologyStorage& StorageOf(const Topology::CEntity& entity);
 
-/// "Section", as its system's topology calls it.
+/// The kind as the system's topology names it, such as "Section".
 CString KindOf(const Topology::CEntity& entity);
-/// Empty for a system that the drawing does not have.
+/// Empty if the drawing does not have the system.
 CString SystemNameOf(const Topology::CEntity& entity);
 
-/// Numbers as short as they can be, texts as they are.
+/// Numbers in their shortest form; texts unchanged.
 CString TextOf(const AcDbValue& value);
 
-/// Lengths and positions for people: two decimals.
+/// A length or coordinate with two decimals.
 CString MeasureText(double value);
 
 } // namespace Orvane::Panels

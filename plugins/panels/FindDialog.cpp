@@ -15,7 +15,7 @@ namespace Orvane::Panels {
 namespace {
 
 constexpr std::size_t kMostShown = 1000;
-/// What was found lies in the middle, with something around it to know it by.
+/// The found entity is centred, with some surroundings for orientation.
 constexpr double kZoom = 3;
 
 constexpr const wchar_t* kTextKey = L"TEXT";

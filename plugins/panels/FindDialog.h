@@ -1,4 +1,4 @@
-// Finds entities and shows where they are.
+// The dialog that finds and shows entities.
 #pragma once
 
 #include "platform/mfc/ComboBox.h"
@@ -10,7 +10,8 @@ namespace Orvane::Panels {
 
 inline constexpr const wchar_t* kFindDialogId = L"DLG_FIND_ENTITY";
 
-/// What was looked for and where comes back in the next run. Results go with the drawing.
+/// The search text and scope are restored in the next run. Results are cleared when the drawing
+/// changes.
 class CFindDialog final : public CModuleDialog {
 public:
     explicit CFindDialog(CWnd* pParent);
@@ -43,9 +44,9 @@ private:
     std::vector<AcDbObjectId> Selected() const;
 
     CEdit m_text;
-    CComboBox m_systems;              ///< with the systems' numbers; 0 for all
+    CComboBox m_systems;              ///< item data: system id, 0 for all
     CComboBox m_where;                ///< in the order of SearchIn
-    std::vector<FoundEntity> m_found; ///< as the list has them
+    std::vector<FoundEntity> m_found; ///< in the list's order
 };
 
 } // namespace Orvane::Panels

@@ -17,10 +17,10 @@ constexpr std::size_t kSwatch = 16; // pixels
 constexpr std::size_t kMargin = 2;
 constexpr CRect kPaneSize(0, 0, 250, 200);
 constexpr CSize kSmallest(120, 80);
-/// Gray edges are seen on light and dark.
+/// Gray edges are visible on light and dark backgrounds.
 constexpr std::uint32_t kEdge = 0xFF808080;
 
-/// The drawing stands on what lists stand on.
+/// The view uses the same background colour as lists.
 Tessaly::Background BackgroundNow() {
     constexpr int kMiddle = 3 * 128;
     const COLORREF color = GetSysColor(COLOR_WINDOW);

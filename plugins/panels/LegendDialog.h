@@ -1,4 +1,4 @@
-// What the colours of the drawing stand for.
+// The legend: layers and colours of the drawing.
 #pragma once
 
 #include "plugins/panels/ModuleDialog.h"
@@ -7,14 +7,14 @@ namespace Orvane::Panels {
 
 inline constexpr const wchar_t* kLegendDialogId = L"DLG_LEGEND";
 
-/// Lives in a docking pane.
+/// Shown in a docking pane.
 class CLegendDialog final : public CModuleDialog {
 public:
     explicit CLegendDialog(CWnd* pParent);
 
     void OnSystemBecomeHidden(System::CGisSystem*) override { RefreshContent(); }
     void OnSystemBecomeShown(System::CGisSystem*) override { RefreshContent(); }
-    /// Nothing happens while nobody sees it: the whole drawing is read.
+    /// Does nothing while hidden, since it reads the whole drawing.
     void RefreshContent() override;
 
 protected:
@@ -22,7 +22,7 @@ protected:
     void OnCancel() override {}
 };
 
-/// Shows it in its pane. False without a desktop.
+/// Shows the legend in its pane. False without a desktop.
 bool ShowLegend();
 
 } // namespace Orvane::Panels

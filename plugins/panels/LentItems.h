@@ -1,4 +1,4 @@
-// Item data in the hands of commands.
+// Node data owned by running commands.
 #pragma once
 
 #include <functional>
@@ -10,11 +10,11 @@ namespace Orvane::Panels {
 
 using LentItem = std::shared_ptr<Workspace::CWsTreeItemData>;
 
-/// A copy that stays valid as long as the command holds it, whatever becomes of the tree. Its
-/// node and its system are taken out of it once they go.
+/// A copy that stays valid as long as the command holds it, even if the tree is refilled. Its tree
+/// node and system are reset to null when these are deleted.
 LentItem LendItem(const Workspace::CWsTreeItemData& item);
 
-/// Calls for everything that is lent.
+/// Calls `call` for every copy still in use.
 void ForEachLentItem(const std::function<void(Workspace::CWsTreeItemData&)>& call);
 
 } // namespace Orvane::Panels

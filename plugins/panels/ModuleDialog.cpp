@@ -13,7 +13,7 @@ constexpr unsigned int kSubscriberNumber = 1100;
 constexpr const wchar_t* kColumnsKey = L"COLUMNS";
 constexpr int kNarrowest = 16;
 
-/// Into the middle of the host's window.
+/// Centres the dialog on the host's window.
 void MoveOverFrame(CWnd& dialog) {
     if (const CWnd* const pFrame = acedGetAcadFrame()) {
         const CRect frame = pFrame->GetWindowRect();
@@ -106,7 +106,7 @@ Workspace::CWsBaseDialog* ShowDialog(const wchar_t* dialogId) {
     Workspace::CWsBaseDialog* const pDialog = dialogs.GetDlgById(dialogId);
     if (pDialog && !pDialog->IsWindowVisible()) {
         if (Workspace::IsCascaded(pDialog->GetDialogType())) {
-            // The cascade counts from where a dialog is.
+            // The cascade offsets a dialog from its current position.
             const CRect place = pDialog->GetWindowRect();
             pDialog->MoveWindow(CRect(CPoint(), place.Size()));
             dialogs.SetNewWindowPosition(pDialog);

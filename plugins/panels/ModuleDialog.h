@@ -1,4 +1,4 @@
-// What the dialogs of the module have in common.
+// The base class of the module's dialogs.
 #pragma once
 
 #include "platform/mfc/ListCtrl.h"
@@ -10,12 +10,12 @@ namespace Orvane::Panels {
 
 struct ListColumn {
     CString heading;
-    int width; ///< in dialog units, until the user has chosen another one
+    int width; ///< initial width in dialog units
     int format = LVCFMT_LEFT;
 };
 
-/// A dialog with a list whose columns keep their widths between runs, and with controls that
-/// follow its size. It keeps the keyboard focus over the drawing.
+/// A dialog with resizing controls and a list whose column widths are restored in the next run. It
+/// keeps the keyboard focus when the mouse moves over the drawing.
 class CModuleDialog : public Workspace::CWsBaseDialog {
 public:
     void Update(Notification::CPublisher*, void*, void*) override { RefreshContent(); }
@@ -28,9 +28,9 @@ public:
 protected:
     CModuleDialog(const wchar_t* dialogId, Workspace::enmDialogType type, CWnd* pParent);
 
-    /// The drawing or its systems may be others now.
+    /// Called when the drawing or its systems may have changed.
     virtual void RefreshContent() = 0;
-    /// Writes down what is to be there in the next run.
+    /// Saves the settings to restore in the next run.
     virtual void Remember();
 
     const MessageMap* GetMessageMap() const override;
@@ -41,7 +41,7 @@ protected:
     void SetText(UINT id, const CString& text) const;
     void MakeColumns(std::initializer_list<ListColumn> columns);
 
-    CListCtrl m_list; ///< the control kList
+    CListCtrl m_list; ///< the control with the id kList
     CXTPResize m_resize{this};
 
 private:
@@ -51,8 +51,7 @@ private:
     LRESULT OnKeepFocus(WPARAM wParam, LPARAM lParam);
 };
 
-/// Brings a dialog of the workspace to the front, where it was when it was last seen. Null if
-/// nobody can make it.
+/// Brings a workspace dialog to the front, at its last position. Null if no factory can create it.
 Workspace::CWsBaseDialog* ShowDialog(const wchar_t* dialogId);
 
 } // namespace Orvane::Panels

@@ -1,4 +1,4 @@
-// The workspace commands of the panels.
+// Workspace commands of the panels.
 #pragma once
 
 #include <span>
@@ -7,8 +7,8 @@
 
 namespace Orvane::Panels {
 
-/// What the registry lists of a command, and what it does. The function answers false if it
-/// was not carried out; it has told the user why.
+/// A command: its registration and its function, which returns false, after reporting why, if the
+/// command was not carried out.
 struct PanelCommand {
     const wchar_t* id;
     int msgName;
@@ -16,9 +16,9 @@ struct PanelCommand {
     bool (*run)();
 };
 
-/// Those that print trees, templates and menus.
+/// Commands that print trees, templates and menus.
 std::span<const PanelCommand> TreeCommands();
-/// Those that open dialogs; in a console they ask and print instead.
+/// Commands that open dialogs; in a console they prompt and print instead.
 std::span<const PanelCommand> DialogCommands();
 
 class CPanelExecutor final : public Workspace::IWsCommandExecutor {
@@ -28,7 +28,7 @@ public:
             Workspace::CWsTreeItemData* pItemData) override;
 };
 
-/// With their names from the message catalogue.
+/// Takes the names from the message catalogue.
 void RegisterPanelCommands(CPanelExecutor& executor);
 
 } // namespace Orvane::Panels

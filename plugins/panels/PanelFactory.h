@@ -1,4 +1,4 @@
-// Makes the panels and dialogs of the module when somebody asks for them.
+// Creates the module's panels and dialogs on demand.
 #pragma once
 
 #include <map>
@@ -10,7 +10,7 @@
 
 namespace Orvane::Panels {
 
-/// Windows are there, and hidden, when they are handed out. One for each id.
+/// Windows are created hidden, one for each id.
 class CPanelFactory final : public Workspace::IWsDialogFactory {
 public:
     Workspace::CWsBaseDialog* CreateWsDialog(const wchar_t* dialogId) override;
@@ -20,7 +20,7 @@ public:
     void GetAllDialogIds(std::vector<CString>& ids) override;
 
 private:
-    /// Takes a dialog off the screen and off the workspace.
+    /// Destroys the window and unregisters the dialog from the workspace.
     struct Removal {
         void operator()(Workspace::CWsBaseDialog* pDialog) const;
     };

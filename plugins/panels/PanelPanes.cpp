@@ -17,8 +17,8 @@ struct PaneOfTree {
     int pane;
     Msg title;
     const wchar_t* icon;
-    int under; ///< the pane that it stands below; 0 for the side of the frame
-    int with;  ///< the pane that it shares a place with
+    int under; ///< the pane above it; 0 to dock at the side of the frame
+    int with;  ///< the pane whose tabs it joins; 0 for none
 };
 
 constexpr PaneOfTree kPanes[] = {
@@ -27,7 +27,7 @@ constexpr PaneOfTree kPanes[] = {
     {TreeKind::Net, kNetPane, Msg::NetRepository, L"IDI_NETDATA", 0, kDiskPane},
 };
 
-/// Whoever made the factory, panels come from it alone.
+/// Asks all factories, because any of them may provide the panel.
 Workspace::CWsPanelDialog* MakePanel(CWnd* pParent, const wchar_t* id) {
     for (const auto& factory : *Workspace::CWsManager::Instance()->DlgMgr()->GetDlgFactories()) {
         if (Workspace::CWsPanelDialog* const pPanel = factory->CreateWsPanelDialog(pParent, id)) {
@@ -89,7 +89,7 @@ void CPanelPanes::MakePanes(CXTPDockingPaneManager& panes) const {
     for (const PaneOfTree& entry : kPanes) {
         MakePane(panes, entry);
     }
-    // The one behind which another was put.
+    // Bring the first tab to the front.
     panes.ShowPane(kDiskPane, 0);
 }
 

@@ -1,4 +1,4 @@
-// Where the trees are shown.
+// The docking panes of the trees.
 #pragma once
 
 #include "workspacecore/dialogs/IWsDialogFactory.h"
@@ -9,17 +9,17 @@ class CXTPDockingPaneManager;
 
 namespace Orvane::Panels {
 
-/// Numbers of the module's docking panes. The host keeps where they stand under them.
+/// Ids of the module's docking panes, under which the host saves their positions.
 inline constexpr int kSystemsPane = 6710;
 inline constexpr int kDiskPane = 6711;
 inline constexpr int kNetPane = 6712;
 inline constexpr int kLegendPane = 6713;
 
-/// The docking panes of the host; null without a desktop.
+/// The host's docking panes; null without a desktop.
 CXTPDockingPaneManager* DockingPanes();
 
-/// Offers the tree panels to the main panel. Where no main panel has come up by the time the
-/// first drawing is there, each of them stands in a pane of its own.
+/// Offers the tree panels to the main panel. If no main panel has been created when the first
+/// drawing becomes current, creates a docking pane for each tree.
 class CPanelPanes final : public Workspace::IWsListener {
 public:
     static void RegisterPanels();

@@ -1,4 +1,4 @@
-// Texts of the panels and their dialogs, by their numbers in the message catalogue.
+// Message ids of the panels and their dialogs.
 #pragma once
 
 #include "plugins/common/Texts.h"

@@ -1,4 +1,4 @@
-// ORVZPanels.arx: what the workspace meets of it.
+// ORVZPanels.arx: entry points called by the workspace.
 #include <boost/make_shared.hpp>
 
 #include "plugins/panels/PanelCommands.h"

@@ -73,7 +73,7 @@ void CPropertiesDialog::ShowEntity(AcDbObjectId id) {
 }
 
 void CPropertiesDialog::RefreshContent() {
-    // What the user is typing stays.
+    // Keeps text that the user is typing.
     const CString typed = m_value.GetWindowText();
     const bool isTyping = GetFocus() == &m_value;
     FillList();
@@ -135,7 +135,7 @@ void CPropertiesDialog::OnActivate(NMHDR*, LRESULT*) {
 }
 
 void CPropertiesDialog::OnPick() {
-    // The command brings this dialog back with what was picked.
+    // The command shows this dialog again with the picked entity.
     acedRunner().Post({kCommand, OrderOrigin::Dialog});
 }
 
@@ -152,7 +152,7 @@ void CPropertiesDialog::OnSet() {
     if (!pProperty) {
         return;
     }
-    // The list is filled anew when the command has ended.
+    // Copied, because the list is refilled when the command ends.
     const EntityProperty property = *pProperty;
     const CString text = m_value.GetWindowText();
     CString reason;

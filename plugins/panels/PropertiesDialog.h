@@ -1,4 +1,4 @@
-// Shows what is known of an entity, and changes it.
+// Shows and edits the properties of an entity.
 #pragma once
 
 #include "platform/mfc/Edit.h"
@@ -9,13 +9,13 @@ namespace Orvane::Panels {
 
 inline constexpr const wchar_t* kPropertiesDialogId = L"DLG_ENTITY_PROPERTIES";
 
-/// The property that was chosen last is chosen again for the next entity, and in the next run.
+/// The last selected property is selected again for the next entity and in the next run.
 class CPropertiesDialog final : public CModuleDialog {
 public:
     explicit CPropertiesDialog(CWnd* pParent);
 
     bool PreTranslateMessage(MSG* pMsg) override;
-    /// Null, and an id that belongs to no system: nothing is shown.
+    /// Shows nothing for a null id or an entity without a system.
     void ShowEntity(AcDbObjectId id);
 
     void OnAcadDocumentBecomeCurrent(AcApDocument*) override { ShowEntity({}); }
@@ -41,11 +41,11 @@ private:
 
     CEdit m_value;
     AcDbObjectId m_id;
-    std::vector<EntityProperty> m_properties; ///< as the list has them
-    CString m_strChosen;                      ///< label of the property that was chosen last
+    std::vector<EntityProperty> m_properties; ///< in the list's order
+    CString m_strChosen;                      ///< label of the last selected property
 };
 
-/// Brings the dialog up for an entity. Nothing happens without a desktop.
+/// Shows the dialog for an entity. Does nothing without a desktop.
 void ShowProperties(AcDbObjectId id);
 
 } // namespace Orvane::Panels

@@ -6,7 +6,7 @@ namespace {
 
 using enum enmControlKind;
 
-// Texts come from the message catalogue when a dialog opens.
+// Dialogs set their texts from the message catalogue when they open.
 
 constexpr DialogItem kTreeItems[] = {
     {TreeView, kTree, 0, 0, 150, 200, L"", TVS_HASBUTTONS | TVS_EDITLABELS},

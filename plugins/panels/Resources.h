@@ -1,4 +1,4 @@
-// The dialogs of the module by number.
+// Dialog templates and control ids of the module.
 #pragma once
 
 #include "platform/mfc/DialogTemplate.h"
@@ -11,7 +11,7 @@ inline constexpr UINT kFindDialog = 6702;
 inline constexpr UINT kStatisticsDialog = 6703;
 inline constexpr UINT kLegendDialog = 6704;
 
-// Their controls.
+// Control ids.
 inline constexpr UINT kTree = 101;
 inline constexpr UINT kList = 102;
 inline constexpr UINT kValue = 103;
@@ -30,7 +30,7 @@ inline constexpr UINT kTextLabel = 115;
 inline constexpr UINT kSystemLabel = 116;
 inline constexpr UINT kWhereLabel = 117;
 
-/// Makes the templates known, the first time.
+/// Registers the dialog templates; later calls do nothing.
 void AddPanelTemplates();
 
 } // namespace Orvane::Panels

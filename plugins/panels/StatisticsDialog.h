@@ -1,4 +1,4 @@
-// The figures of the active system.
+// Shows statistics of the active system.
 #pragma once
 
 #include "plugins/panels/ModuleDialog.h"

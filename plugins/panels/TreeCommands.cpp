@@ -1,4 +1,4 @@
-// TREE_TEMPLATES, TREE_MENU and TREE: what the trees show, at the command line.
+// TREE_TEMPLATES, TREE_MENU and TREE: print the content of the trees.
 #include "platform/arx/EdPrompt.h"
 #include "plugins/panels/PanelCommands.h"
 #include "plugins/panels/PanelTexts.h"
@@ -9,7 +9,7 @@ namespace Orvane::Panels {
 
 namespace {
 
-/// How paths begin; the same in every language.
+/// First parts of paths; the same in every language.
 constexpr struct {
     const wchar_t* word;
     TreeKind kind;

@@ -16,7 +16,7 @@ namespace {
 using Workspace::CWsTreeItemDefinition;
 using Workspace::CWsTreeTemplate;
 
-/// A tree whose nodes are being made.
+/// The tree under construction and the current position in it.
 struct Place {
     TreeKind kind;
     System::CGisSystem* pSystem = nullptr;
@@ -62,8 +62,8 @@ void AddConfigurations(TreeNode& folder, const CWsTreeTemplate& slot, const Plac
     }
 }
 
-/// Templates of disk and net have an entity folder once for each topology with such entities;
-/// all of them would show the same configurations.
+/// The disk and net templates repeat an entity folder for each topology with such entities; all of
+/// them would show the same configurations.
 bool HasChildOf(const TreeNode& parent, const TreeNode::DefinitionPtr& definition) {
     return std::any_of(parent.children.begin(), parent.children.end(), [&](const TreeNode& child) {
         return definition && child.definition == definition;
@@ -146,7 +146,7 @@ TreeNode RepositoryContent(TreeKind kind) {
                                             : definitions.GetDiskTreeTemplate();
     const Place place{kind};
     TreeNode root = MakeNode(tree ? tree->GetItemDefinition() : nullptr, place);
-    // The two trees share the definition of their root, and with it its name.
+    // Both repository trees share their root's definition, and with it the name.
     if (root.definition && kind == TreeKind::Net) {
         root.name = root.text = Text(Msg::NetRepository);
     }
@@ -163,7 +163,7 @@ TreeNode TreeContent(TreeKind kind) {
 }
 
 CString KeyOf(const CWsTreeItemDefinition& definition, const CString& guid) {
-    // A family's folder and its configurations have the same id.
+    // The folder of a family and its configurations have the same id.
     return FormatText(L"%s:%d:%d:%s", definition.GetId(), definition.GetWsItemType(),
                       definition.GetEntityType(), guid);
 }

@@ -1,5 +1,5 @@
-// What the three trees show, as plain data: made of the templates, the systems of the drawing
-// and the configurations of the stores, without a window.
+// The content of the three trees as plain data, built from the templates, the systems of the
+// drawing and the configurations in the stores. Needs no window.
 #pragma once
 
 #include <vector>
@@ -12,28 +12,27 @@ class CGisSystem;
 
 namespace Orvane::Panels {
 
-/// One node. It does not own its system.
+/// A tree node. Does not own its system.
 struct TreeNode {
     using DefinitionPtr = boost::shared_ptr<Workspace::CWsTreeItemDefinition>;
 
-    CString name; ///< of what it stands for, as it can be edited
-    CString text; ///< as it is shown: the name, with marks
+    CString name; ///< of the system or configuration, for editing
+    CString text; ///< as shown: the name with marks
     DefinitionPtr definition;
     CString guid; ///< of a system or a configuration; empty for folders
     System::CGisSystem* pSystem = nullptr;
     bool isTargetNet = false;
-    bool isGray = false; ///< what belongs to a hidden system
+    bool isGray = false; ///< belongs to a hidden system
     std::vector<TreeNode> children;
 };
 
 enum class TreeKind { Systems, Disk, Net };
 inline constexpr TreeKind kTreeKinds[] = {TreeKind::Systems, TreeKind::Disk, TreeKind::Net};
 
-/// The root with all below it. Without a definition for the root it has none either, and
-/// nothing below it.
+/// The root with all its descendants. If the root has no definition, the node is empty.
 TreeNode TreeContent(TreeKind kind);
 
-/// Tells a node from those beside it, whatever they are called.
+/// Identifies a node among its siblings, independently of their names.
 CString KeyOf(const TreeNode& node);
 CString KeyOf(const Workspace::CWsTreeItemDefinition& definition, const CString& guid);
 

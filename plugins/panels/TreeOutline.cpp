@@ -74,8 +74,8 @@ bool StartsWith(std::wstring_view text, const CString& name) {
            CString(text.substr(0, name.View().size())).CompareNoCase(name) == 0;
 }
 
-/// The child whose name the rest of a path starts with, to its end or to a "/"; of several
-/// the one with the longest name.
+/// The child whose name matches the start of the path up to its end or a "/"; the longest match
+/// wins.
 const TreeNode* StepDown(const TreeNode& node, std::wstring_view rest) {
     const TreeNode* pBest = nullptr;
     for (const TreeNode& child : node.children) {

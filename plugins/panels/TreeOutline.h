@@ -1,4 +1,4 @@
-// The trees, their templates and their menus as texts, for the console.
+// The trees, their templates and their menus as text for the console.
 #pragma once
 
 #include "plugins/panels/TreeContent.h"
@@ -6,28 +6,28 @@
 
 namespace Orvane::Panels {
 
-/// One line for each node, indented by its depth; a line has no end of its own.
+/// One line per node, indented by depth, without line ends.
 using Lines = std::vector<CString>;
 
-/// What nodes are called in the tree.
+/// The texts of the nodes.
 Lines ContentLines(const TreeNode& root);
 
-/// The templates of all systems' topologies and functions, then those of disk and net. Each
-/// node with its kind, and where configurations are added with the kind of those.
+/// The templates of all topologies and functions, then those of disk and net. Lists the type of
+/// each node and, where configurations are added, their type.
 Lines TemplateLines();
 
 /// Commands with their ids; "----" for a separator.
 Lines MenuLines(const Workspace::MenuEntries& entries);
 
-/// Where a path ends: names from the tree ("system", "disk", "net") down, with "/" between,
-/// without regard to case. Names may themselves have a "/".
+/// The result of following a path of node names from the tree ("system", "disk", "net") down,
+/// separated by "/", ignoring case. Names may contain "/".
 struct PathResult {
-    const TreeNode* pNode = nullptr; ///< as far as the path could be followed
-    CString rest;                    ///< what could not be followed; empty if all could
+    const TreeNode* pNode = nullptr; ///< the last node that was found
+    CString rest;                    ///< the part that was not found; empty on success
 };
 PathResult FollowPath(const TreeNode& root, const CString& path);
 
-/// Why a path leads to nothing, and what is there instead.
+/// Reports where a path failed and which nodes exist there.
 CString DeadEnd(const PathResult& result);
 
 } // namespace Orvane::Panels

@@ -28,7 +28,7 @@ constexpr int kF10 = VK_F1 + 9;
 
 constexpr const wchar_t* kDialogIds[] = {L"DLG_TREE_SYSTEMS", L"DLG_TREE_DISK", L"DLG_TREE_NET"};
 
-/// Where the mouse is in one of the trees, whoever hosts it.
+/// The node under the mouse in any of the trees, whichever panel hosts it.
 struct TreePlace {
     CTreeCtrl* pTree = nullptr;
     HTREEITEM item = nullptr;
@@ -78,7 +78,7 @@ boost::shared_ptr<Query::CQueryDefinition> QueryOf(const CWsTreeItemData& node) 
         store ? store->GetItem(node.GetGuid()) : CRepositoryStore::ItemPtr());
 }
 
-/// From the message loop, since the command may change the tree that is being handled.
+/// Posted, because the command may change the tree whose message is being handled.
 void Give(const CWsOrder& order) {
     acedRunner().Post(MakeCommandOrder(order));
 }
@@ -143,7 +143,7 @@ bool CTreePanel::OnInitDialog() {
     return false;
 }
 
-/// Null takes the panel's own tree away, unless another one stands there.
+/// Null unregisters the panel's own tree, unless another one has replaced it.
 void CTreePanel::RegisterTree(CTreeCtrl* pTree) const {
     CWsManager& workspace = *CWsManager::Instance();
     Workspace::CWsTreeManager& trees = *workspace.TreeMgr();
@@ -229,7 +229,7 @@ void CTreePanel::Insert(const TreeNode& node, HTREEITEM parent) {
     }
 }
 
-/// The root, and the active system.
+/// Expands the root and the active system.
 void CTreePanel::OpenAtFirst() {
     HTREEITEM const root = m_tree.GetRootItem();
     m_tree.Expand(root, TVE_EXPAND);
@@ -242,7 +242,7 @@ void CTreePanel::OpenAtFirst() {
 }
 
 PanelItem* CTreePanel::ItemOf(HTREEITEM item) const {
-    // Every node of this tree was made by Insert.
+    // All nodes of this tree were created by Insert.
     return item ? static_cast<PanelItem*>(
                       PointerOf<CWsTreeItemData>(static_cast<LPARAM>(m_tree.GetItemData(item))))
                 : nullptr;
@@ -311,11 +311,11 @@ void CTreePanel::OnDoubleClick(NMHDR*, LRESULT*) {
 bool CTreePanel::PreTranslateMessage(MSG* pMsg) {
     const bool isOurs = pMsg->message == WM_KEYDOWN && GetFocus() == &m_tree && !m_isEditing;
     return (isOurs && OnKey(static_cast<int>(pMsg->wParam))) ||
-           // The keys of a label's editor are no keys of a dialog.
+           // Keys typed into a label's editor must not reach the dialog.
            (!m_isEditing && CWsPanelDialog::PreTranslateMessage(pMsg));
 }
 
-/// True for a key that means something here.
+/// True if the key was handled.
 bool CTreePanel::OnKey(int key) {
     PanelItem* const pItem = SelectedItem();
     if (key == VK_ESCAPE && m_dragged) {
@@ -372,7 +372,7 @@ void CTreePanel::OnEndLabelEdit(NMHDR* pHeader, LRESULT* pResult) {
         }
         return;
     }
-    // Shown as typed until the command has run; then the tree shows what came of it.
+    // Keeps the typed name until the command has run; the refresh then shows the result.
     *pResult = 1;
     Give({RenameCommand(*pItem), OrderOrigin::Tree, nullptr, {}, LendItem(*pItem), name});
 }

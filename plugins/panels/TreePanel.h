@@ -1,4 +1,4 @@
-// A panel with one of the three trees.
+// A panel that shows one of the three trees.
 #pragma once
 
 #include <deque>
@@ -12,19 +12,19 @@
 
 namespace Orvane::Panels {
 
-/// The id of a panel, under which the factory makes it.
+/// The panel's id in the factory.
 const wchar_t* PanelIdOf(TreeKind kind);
 
-/// What hangs on a node of a panel's tree.
+/// The data attached to a node of a panel's tree.
 struct PanelItem : Workspace::CWsTreeItemData {
-    CString name; ///< for editing, without the marks of the text
+    CString name; ///< for editing, without marks
     CString text;
     CString key; ///< KeyOf
 };
 
-/// Fills its tree from TreeContent, anew after everything that changes what the tree shows;
-/// what was open and selected stays so. Changes that come while a message is handled are
-/// shown once it has been, and not while a label is edited or a node dragged.
+/// Fills its tree from TreeContent and refills it after every relevant change, keeping what is
+/// expanded and selected. Refreshes are posted, and wait while a label is being edited or a node
+/// dragged.
 class CTreePanel final : public Workspace::CWsPanelDialog {
 public:
     CTreePanel(TreeKind kind, CWnd* parent);
@@ -85,7 +85,8 @@ private:
     void Refresh();
     void Insert(const TreeNode& node, HTREEITEM parent);
     void OpenAtFirst();
-    /// Of the tree, and of what is lent: all systems of the drawing if null.
+    /// Resets the system in the tree's and in lent node data; null stands for all systems of the
+    /// drawing.
     void ForgetSystem(const System::CGisSystem* pSystem);
     PanelItem* ItemOf(HTREEITEM item) const;
     PanelItem* SelectedItem() const { return ItemOf(m_tree.GetSelectedItem()); }
@@ -93,17 +94,17 @@ private:
 
     bool OnKey(int key);
     void ShowMenu(const PanelItem& item, CPoint place);
-    /// Gives a command that has an id; a node without one does nothing.
+    /// Posts the command, unless the id is empty.
     void GiveCommand(const CString& commandId, const PanelItem& item);
     void EndDrag();
 
     TreeKind m_kind;
     CTreeCtrl m_tree;
     CXTPResize m_resize{this};
-    std::deque<PanelItem> m_items; ///< of the nodes, which have their addresses
-    bool m_isFirstFill = true;     ///< nothing was below the root as yet
+    std::deque<PanelItem> m_items; ///< node data; a deque, because tree nodes hold pointers to it
+    bool m_isFirstFill = true;     ///< the root has never had children
     bool m_isRefreshPosted = false;
-    bool m_isRefreshWanted = false; ///< once nothing is edited or dragged
+    bool m_isRefreshWanted = false; ///< postponed until editing or dragging has ended
     bool m_isEditing = false;
     LentItem m_dragged;
 };

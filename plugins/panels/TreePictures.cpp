@@ -21,7 +21,7 @@ int TreePictures::IndexOf(const TreeNode& node) {
         return -1;
     }
     Workspace::CWsTreeItemDefinition& definition = *node.definition;
-    // The trees of disk and net share the definition of their roots.
+    // Both repository trees share the definition of their root.
     if (node.isTargetNet && definition.GetWsItemType() == Workspace::WsItemRepositoryRoot) {
         return NetRoot();
     }

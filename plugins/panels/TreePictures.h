@@ -1,4 +1,4 @@
-// The pictures of all three trees, in one list.
+// The image list shared by the three trees.
 #pragma once
 
 #include "platform/mfc/ImageList.h"
@@ -6,13 +6,13 @@
 
 namespace Orvane::Panels {
 
-/// Definitions stand in several trees and keep one place in the list each, so the trees
-/// share it. A control copies the list, so it has to take it anew once it has grown.
+/// Definitions appear in several trees and have one image index each, so the trees share the list.
+/// Controls copy it and must be given it again after it has grown.
 class TreePictures {
 public:
     static TreePictures& Instance();
 
-    /// The place of a node's picture, gray for what belongs to a hidden system; -1 for none.
+    /// The image index of a node, gray if it belongs to a hidden system; -1 for none.
     int IndexOf(const TreeNode& node);
     const CImageList& List() const { return m_list; }
 

@@ -23,7 +23,7 @@ bool IsObject(const CWsTreeItemData& node) {
 }
 
 CString DoubleClickCommand(const CWsTreeItemData& node) {
-    // Folders of a family have the command of its items, which would ask for one.
+    // Folders of a family have the same command as their items, but it needs an item.
     const auto& definition = node.GetPtrItemDefinition();
     const bool isFolder =
         definition && !definition->GetRepositoryTag().IsEmpty() && node.GetGuid().IsEmpty();
@@ -63,13 +63,13 @@ DropPlan PlanDrop(const CWsTreeItemData& dragged, const CWsTreeItemData& target)
     if (IsQuery(*item) && place->GetAcceptQueryDrop() && IsObject(target)) {
         return {place->GetCmdIdQueryDrop(), true};
     }
-    // A system takes items of every family, a folder and its items those of their own.
+    // A system accepts items of every family; folders and items accept only their own family.
     const CString family = place->GetRepositoryTag();
     const bool fits = family.IsEmpty() || family.CompareNoCase(item->GetRepositoryTag()) == 0;
     if (!fits || !place->GetAcceptRepositoryItemDrop()) {
         return {};
     }
-    // A family's own folder stands for all its kinds of entities, and no command has its id.
+    // A family's top folder is for all entity types, and no command has its id.
     const bool isOfAllKinds = !family.IsEmpty() && place->GetEntityType() == EntityNone;
     return {(isOfAllKinds ? item : place)->GetCmdIdRepositoryItemDrop()};
 }

@@ -1,4 +1,4 @@
-// What nodes of the trees do when somebody clicks, types or drops: rules without a window.
+// What nodes do on clicks, keys and drops: rules without a window.
 #pragma once
 
 #include "workspacecore/tree/WsTreeItemData.h"
@@ -9,21 +9,21 @@ class CGisSystem;
 
 namespace Orvane::Panels {
 
-/// A node that stands for something, a system or a configuration; folders do not.
+/// Whether the node is a system or a configuration, not a folder.
 bool IsObject(const Workspace::CWsTreeItemData& node);
 
-/// Command of a double click or Enter; empty for folders, which only open and close.
+/// The command for a double click or Enter; empty for folders, which only expand and collapse.
 CString DoubleClickCommand(const Workspace::CWsTreeItemData& node);
-/// Command of a new name; empty if the node cannot be renamed.
+/// The command that renames the node; empty if it cannot be renamed.
 CString RenameCommand(const Workspace::CWsTreeItemData& node);
-/// The command of the node's menu that deletes; empty if it has none.
+/// The command of the node's menu that deletes it; empty if there is none.
 CString DeleteCommand(const Workspace::CWsTreeItemData& node);
 bool CanDrag(const Workspace::CWsTreeItemData& node);
 
-/// What a drop of one node on another does.
+/// The effect of dropping one node on another.
 struct DropPlan {
-    CString commandId;    ///< empty: the target does not take it
-    bool isQuery = false; ///< the query itself is handed over, to be run; else the item is copied
+    CString commandId;    ///< empty if the target does not accept the drop
+    bool isQuery = false; ///< pass the query itself, to be run; otherwise the item is copied
 };
 DropPlan PlanDrop(const Workspace::CWsTreeItemData& dragged,
                   const Workspace::CWsTreeItemData& target);

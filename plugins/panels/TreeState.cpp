@@ -6,10 +6,10 @@ namespace Orvane::Panels {
 
 namespace {
 
-/// Stands in no key.
+/// Separates keys; no key contains it.
 constexpr wchar_t kBetween = L'\n';
 
-/// Calls for each node with its path; those above come first.
+/// Calls `call` for each node with its path, parents first.
 template <class Call>
 void Walk(const CTreeCtrl& tree, const TreeState::KeyOfItem& keyOf, HTREEITEM first,
           const std::wstring& above, const Call& call) {
@@ -49,7 +49,7 @@ void TreeState::Restore(CTreeCtrl& tree, const KeyOfItem& keyOf) const {
         if (m_open.contains(path)) {
             tree.Expand(item, TVE_EXPAND);
         }
-        // The last one that fits is the nearest.
+        // Parents come first, so the last match is the nearest.
         if (!m_selected.empty() && StartsWithPath(m_selected, path)) {
             selected = item;
         }

@@ -1,5 +1,5 @@
-// What is open and selected in a tree, by the keys of nodes, so that it can be found again in
-// a tree that was filled anew.
+// Expanded and selected nodes of a tree, by the keys of the nodes, so they can be restored after
+// the tree was refilled.
 #pragma once
 
 #include <functional>
@@ -14,13 +14,14 @@ class TreeState {
 public:
     using KeyOfItem = std::function<CString(HTREEITEM)>;
 
-    /// Notes what the tree shows now.
+    /// Saves the tree's current state.
     TreeState(const CTreeCtrl& tree, const KeyOfItem& keyOf);
-    /// Opens and selects the same nodes; where the selected one has gone, the one above it.
+    /// Expands and selects the same nodes; if the selected node no longer exists, selects its
+    /// nearest existing ancestor.
     void Restore(CTreeCtrl& tree, const KeyOfItem& keyOf) const;
 
 private:
-    std::set<std::wstring> m_open; ///< paths as one text
+    std::set<std::wstring> m_open; ///< paths of keys
     std::wstring m_selected;
 };
 

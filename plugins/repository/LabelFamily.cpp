@@ -41,11 +41,11 @@ std::optional<AcGePoint3d> PlaceOf(const AcDbObject& entity) {
     return MiddleOf({&position, 1});
 }
 
-/// What a label looks like: its text, its place and its height.
+/// A label's text, x, y and height.
 using Look = std::tuple<std::string, double, double, double>;
 
-/// The labels that a configuration has in a system. What it wants is taken from them; what is
-/// left over goes, and only what is missing is added: labels that are right stay untouched.
+/// The labels of a configuration in a system. Wanted labels that already exist stay untouched,
+/// missing ones are added and all others erased.
 class PlacedLabels {
 public:
     PlacedLabels(System::CGisSystem& system, const LabelDefinition& label)

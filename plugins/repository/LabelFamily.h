@@ -1,4 +1,4 @@
-// Labels: texts beside entities.
+// Labels: texts at entities.
 #pragma once
 
 #include "siblings/giscore/repository/IRepositoryFamily.h"
@@ -10,18 +10,18 @@ public:
     LabelDefinition(const wchar_t* guid, const wchar_t* name)
         : CRepositoryItem(L"LABEL", guid, name) {}
 
-    CString pattern;   ///< LabelPattern.h
-    double height = 0; ///< drawing units; 0 for the view's own choice
+    CString pattern;   ///< see LabelPattern.h
+    double height = 0; ///< drawing units; 0 for automatic
 
 protected:
     void WriteContent(XmlElement& root) const override;
     CString ReadContent(const XmlElement& root) override;
 };
 
-/// Running one puts a text at each node, at the middle of each section or at the centre of
-/// each polygon, on the system's layer of texts, in place of those that the same
-/// configuration put there before and does not want any more. They belong to the system and bear
-/// the configuration's GUID as the attribute "LABELITEM".
+/// Running one places a text at each node, the middle of each section or the centre of each
+/// polygon, on the system's text layer, replacing labels of the same configuration that no longer
+/// apply. The texts belong to the system and have the configuration's GUID in the attribute
+/// "LABELITEM".
 class LabelFamily final : public IRepositoryFamily {
 public:
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,

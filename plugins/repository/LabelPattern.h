@@ -1,4 +1,4 @@
-// The text of labels, made from attributes.
+// Builds label texts from attributes.
 #pragma once
 
 #include <functional>
@@ -12,24 +12,24 @@
 
 namespace Orvane::Repository {
 
-/// A text with places for attributes: "{NAME} DN {DIAMETER:0}". The digits behind a colon
-/// are decimal places of a number. "{{" and "}}" stand for the braces themselves.
+/// A text with placeholders for attributes: "{NAME} DN {DIAMETER:0}". The number after a colon is
+/// the number of decimal places. "{{" and "}}" are literal braces.
 class LabelPattern {
 public:
-    /// UTF-8. What makes no sense stays a text as it is; Fault tells.
+    /// UTF-8. Invalid parts are kept as literal text; see Fault.
     explicit LabelPattern(std::string_view pattern);
 
-    /// Empty, or why the pattern makes no labels.
+    /// The error in the pattern, if any.
     std::optional<Plugins::Msg> Fault() const { return m_fault; }
     /// The label of an entity; empty if none of its attributes has a value.
     std::string Text(const std::function<AcDbValue(AcDbNameId)>& valueOf) const;
 
 private:
     struct Piece {
-        std::string text; ///< of a piece without an attribute
+        std::string text; ///< only for literal text
         bool isAttribute = false;
         AcDbNameId attribute{};
-        int decimals = -1; ///< negative: as many as the number has
+        int decimals = -1; ///< negative: as many as needed
     };
     void AddText(std::string_view text);
     void AddAttribute(std::string_view inBraces);

@@ -21,7 +21,7 @@ struct Centre {
     AcGePoint3d point;
 };
 
-/// Seen from the first point, so that far coordinates cost no digits.
+/// Relative to the first point, so that large coordinates do not cost precision.
 Centre CentreOfRing(const Ring& ring) {
     Centre centre;
     AcGePoint3d sum;

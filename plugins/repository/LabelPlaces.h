@@ -1,4 +1,4 @@
-// Where labels of lines and areas stand.
+// Label positions of lines and areas.
 #pragma once
 
 #include <optional>
@@ -9,11 +9,11 @@
 
 namespace Orvane::Repository {
 
-/// The point half way along a line, in the plane; nothing if none of its points is a place.
+/// The point half way along a line, in plan; nothing if the line has no valid point.
 std::optional<AcGePoint3d> MiddleOf(std::span<const AcGePoint3d> line);
 
-/// The centre of gravity of the largest outer ring, or the middle of its points if it has no
-/// area; nothing if it is no place.
+/// The centroid of the largest outer ring, or the mean of its points if it has no area; nothing if
+/// the result is not a valid position.
 std::optional<AcGePoint3d> CentreOf(const std::vector<AcDbMPolygon::Ring>& rings);
 
 } // namespace Orvane::Repository

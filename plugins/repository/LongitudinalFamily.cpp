@@ -23,8 +23,8 @@ constexpr const wchar_t* kTo = L"to";
 constexpr const wchar_t* kHeightAttribute = L"height";
 constexpr const wchar_t* kDepthAttribute = L"depth";
 
-/// The number of the node of a name, asked for where none is stated. A name stands for the
-/// node that was created first.
+/// The number of the node with this name, asking the user if the name is empty. If several nodes
+/// have the name, the oldest is used.
 std::optional<std::int32_t> FindNode(const SystemNetwork& network, const System::CGisSystem& system,
                                      Msg label, CString& name) {
     if (name.IsEmpty()) {

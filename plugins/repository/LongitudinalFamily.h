@@ -1,4 +1,4 @@
-// Longitudinal sections: heights along the way between two nodes.
+// Longitudinal sections: heights along the path between two nodes.
 #pragma once
 
 #include "siblings/giscore/repository/IRepositoryFamily.h"
@@ -10,11 +10,11 @@ public:
     LongitudinalDefinition(const wchar_t* guid, const wchar_t* name)
         : CRepositoryItem(L"LONGITUDINAL", guid, name) {}
 
-    // Names of nodes. Where one is empty, the user is asked at each run.
+    // Node names. If one is empty, each run asks for it.
     CString from;
     CString to;
-    /// Attributes of nodes. Where any node of the way has a depth, heights are those of
-    /// inverts, and the ground lies a depth above; else heights are those of the ground.
+    /// Node attributes. If any node of the path has a depth, heights are invert levels and the
+    /// ground is that much higher; otherwise heights are ground levels.
     CString heightAttribute = L"ELEVATION";
     CString depthAttribute = L"MaxDepth";
 
@@ -23,7 +23,7 @@ protected:
     CString ReadContent(const XmlElement& root) override;
 };
 
-/// Running one prints the table of the shortest way.
+/// Running one prints the table of the shortest path.
 class LongitudinalFamily final : public IRepositoryFamily {
 public:
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,

@@ -26,7 +26,7 @@ double LengthOf(const NetworkGeometry& geometry, std::size_t section) {
     return length;
 }
 
-/// The sections at each node, both ends of each, in one array.
+/// The sections at each node in one array; each section is listed at both ends.
 class Neighbours {
 public:
     explicit Neighbours(const NetworkGeometry& geometry)
@@ -65,7 +65,7 @@ private:
 
 constexpr double kFar = std::numeric_limits<double>::infinity();
 
-/// How each node is reached from the first one.
+/// How each node is reached from the start node.
 struct Reached {
     std::vector<double> distance;
     std::vector<std::int32_t> by; ///< section, or kMissingNode

@@ -1,4 +1,4 @@
-// The way between two nodes of a network, and the heights along it.
+// The shortest path between two nodes of a network, and the heights along it.
 #pragma once
 
 #include <optional>
@@ -11,15 +11,15 @@ namespace Orvane::Repository {
 
 using Network::NetworkGeometry;
 
-/// A way through a network: one node more than sections.
+/// A path through a network; it has one node more than sections.
 struct NetworkPath {
     std::vector<std::int32_t> nodes;
     std::vector<std::int32_t> sections;
-    std::vector<double> chainages; ///< at each node, from 0
+    std::vector<double> chainages; ///< distance of each node from the start
 };
 
-/// The shortest way by drawn length, in whichever direction sections lead; nothing if there
-/// is none. Sections with a missing node lead nowhere.
+/// The shortest path by drawn length, ignoring the direction of sections; nothing if there is none.
+/// Sections with a missing node are not used.
 std::optional<NetworkPath> ShortestPath(const NetworkGeometry& geometry, std::int32_t from,
                                         std::int32_t to);
 
@@ -30,10 +30,9 @@ struct ProfileStation {
     std::optional<double> invert;
 };
 
-/// A table with a line for each station and a heading; columns that no station has anything
-/// in are left out. The slope of a reach, in per cent, stands at its end and is that of the
-/// inverts, or of the ground where an invert is not known; falling is negative. A reach
-/// without length has none.
+/// A table with a heading and a line per station, without empty columns. Slopes are in per cent,
+/// listed at the end of their reach, negative for falling; they are those of the inverts, or of the
+/// ground where an invert is unknown. A reach without length has no slope.
 std::vector<std::string> ProfileLines(const std::vector<ProfileStation>& stations);
 
 } // namespace Orvane::Repository

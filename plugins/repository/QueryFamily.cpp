@@ -46,7 +46,7 @@ bool AskMatch(CQueryDefinition& query) {
     return choice.has_value();
 }
 
-/// The old conditions one by one, then new ones up to an empty answer.
+/// Asks for each existing condition, then for new ones until the answer is empty.
 bool AskConditions(CQueryDefinition& query, const System::CGisSystem* pSystem) {
     const std::vector<Condition>& old = query.GetConditions();
     std::vector<Condition> conditions;

@@ -5,9 +5,9 @@
 
 namespace Orvane::Repository {
 
-/// Running one highlights the entities in the view, in the colour of the general setting
-/// "PT_MARK_COLOR", tells the publisher "SELECTION_COMPLETED" with the selection set as the
-/// first hint, and prints how many there are.
+/// Running one highlights the entities in the view with the colour of the general setting
+/// "PT_MARK_COLOR", notifies the publisher "SELECTION_COMPLETED" with the selection set as the
+/// first hint, and prints the count.
 class QueryFamily final : public IRepositoryFamily {
 public:
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,

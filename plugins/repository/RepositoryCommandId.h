@@ -1,4 +1,4 @@
-// Ids of the commands of repository families.
+// Parses the command ids of repository families.
 #pragma once
 
 #include <optional>
@@ -25,12 +25,12 @@ enum class Verb {
 struct RepositoryCommandId {
     Verb verb;
     CString tag;
-    enmEntityType entityType; ///< EntityNone where the id names none
+    enmEntityType entityType; ///< EntityNone if the id has none
     friend bool operator==(const RepositoryCommandId&, const RepositoryCommandId&) = default;
 };
 
-/// "EDIT_THEME_2", "RUN_QUERY": what to do, the family, and the kind of entities if the
-/// family has a command set for each. Letters count in their case. Nothing for other ids.
+/// Parses ids such as "EDIT_THEME_2" and "RUN_QUERY" into verb, family and, if the family has a
+/// command set per entity type, that type. Case-sensitive. Nothing for other ids.
 std::optional<RepositoryCommandId> ParseRepositoryCommandId(std::wstring_view id);
 
 } // namespace Orvane::Repository

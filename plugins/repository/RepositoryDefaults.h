@@ -1,4 +1,4 @@
-// What the default items of systems do when their drawing is opened.
+// Applies the default items of systems when a drawing is opened.
 #pragma once
 
 #include <set>
@@ -7,11 +7,10 @@
 
 namespace Orvane::Repository {
 
-/// Shows the default items of all systems when a drawing becomes current for the first time:
-/// that is when it has been opened. Each family does so in its own way
-/// (IRepositoryFamily::ShowDefault), in the order in which families were registered. What
-/// that changes in the drawing is one step of its history; a drawing that shows its defaults
-/// already stays unchanged. An item that becomes the default later does nothing by itself
+/// Shows the default items of all systems when a drawing becomes current for the first time, that
+/// is when it has been opened. Each family does this in its own way
+/// (IRepositoryFamily::ShowDefault), in the order of registration. The changes are one undo step; a
+/// drawing that already shows its defaults stays unmodified. Setting another default has no effect
 /// until the drawing is opened again.
 class DefaultsAtOpening final : public Workspace::IWsListener {
 public:
@@ -19,7 +18,7 @@ public:
     void OnAcadDocumentToBeDestroyed(AcApDocument* pDoc) override;
 
 private:
-    std::set<const AcApDocument*> m_seen; ///< of the open ones
+    std::set<const AcApDocument*> m_seen; ///< of the open documents
 };
 
 } // namespace Orvane::Repository

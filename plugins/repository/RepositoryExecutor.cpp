@@ -27,20 +27,21 @@ using ItemPtr = CRepositoryStore::ItemPtr;
 using ResultPtr = boost::shared_ptr<Workspace::CExecutorReturnValue>;
 using Workspace::CWsTreeItemData;
 
-/// What a command works with.
+/// The arguments of a verb, and its result.
 struct Call {
     IRepositoryFamily& family;
     RepositoryTarget target;
     const CWsTreeItemData* pNode;
     const Query::CQueryDefinition* pQuery;
-    int count = -1; ///< of entities that a run was about
+    int count = -1; ///< number of entities affected by a run
 };
 
 void Say(Msg message, const CString& name) {
     acutPrintf(L"%s\n", Text(message, name));
 }
 
-/// Ends a command that changed a store. Null, and the user is told, if it did not.
+/// Completes a command that changed a store. Returns null and reports the reason if nothing
+/// changed.
 ItemPtr Done(CRepositoryStore& store, const CString& reason, Msg message, const ItemPtr& item) {
     if (!reason.IsEmpty()) {
         Refuse(reason);
@@ -51,7 +52,7 @@ ItemPtr Done(CRepositoryStore& store, const CString& reason, Msg message, const 
     return item;
 }
 
-/// A name that can stand in one line.
+/// Replaces characters that would break a line.
 CString NameFrom(const CString& typed) {
     CString name = typed;
     std::replace_if(
@@ -59,7 +60,7 @@ CString NameFrom(const CString& typed) {
     return name.Trim();
 }
 
-// Each carries out one verb. Null if it was not done, which the user knows.
+// One function for each verb. They return null, after reporting why, if nothing was done.
 
 ItemPtr AddItem(Call& call) {
     if (!HasPlaceFor(call.family, call.target.entityType, call.target.store->GetSystem())) {
@@ -130,7 +131,8 @@ ItemPtr SetItemAsDefault(Call& call) {
                 item);
 }
 
-/// Asks where an item is to go; null, and the user is told, if there is no such place.
+/// Asks where to send an item. Returns null and reports the reason if the destination does not
+/// exist.
 CRepositoryFactory::StorePtr AskDestination(const Call& call) {
     CRepositoryFactory& factory =
         *CRepositoryManager::Instance()->GetRepositoryfactory(call.target.store->GetTag());
@@ -180,8 +182,8 @@ ItemPtr DropItem(Call& call) {
     return Done(*call.target.store, {}, Msg::Added, item);
 }
 
-/// Runs an item on a system. Nothing, which the user is told, without a system that has what
-/// the item is about.
+/// Runs an item on a system. Reports the reason and returns nothing if there is no system, or the
+/// system does not have the item's entities.
 std::optional<int> RunOn(IRepositoryFamily& family, const CRepositoryItem& item,
                          System::CGisSystem* pSystem, const Query::CQueryDefinition* pOnly) {
     if (!pSystem) {
@@ -238,13 +240,13 @@ bool IsRun(Verb verb) {
     return verb == Verb::Run || verb == Verb::DoubleClick || verb == Verb::QueryDrop;
 }
 
-/// What a command id asks for.
+/// A parsed command id and its family.
 struct Order {
     RepositoryCommandId command;
     IRepositoryFamily* pFamily;
 };
 
-/// Nothing, and the user is told why, for an id that no family answers to.
+/// Reports the reason and returns nothing if no family handles the id.
 std::optional<Order> OrderOf(const CString& id) {
     const auto command = ParseRepositoryCommandId(id.View());
     if (!command) {

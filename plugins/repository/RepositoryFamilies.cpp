@@ -21,7 +21,7 @@ namespace {
 constexpr unsigned int kNoEntities = 0;
 constexpr unsigned int kThemed = EntityNode | EntitySection | EntityPolygon;
 
-/// One family with all that is registered for it.
+/// A family with everything that is registered for it.
 struct Family {
     Family(const wchar_t* itsTag, IRepositoryFamily& itsItems, Msg name, const wchar_t* iconName,
            unsigned int types, enmTopologyType onlyTopology = TopologyNone)
@@ -33,13 +33,13 @@ struct Family {
     CStoredRepositoryFactory factory;
     Msg msgName;
     const wchar_t* icon;
-    /// With kinds of entities: a folder and a command set for each, drops of queries, and a
-    /// default item.
+    /// The family has a folder and a command set for each of these entity types, accepts dropped
+    /// queries, and has a default item. 0 for none of this.
     unsigned int entityTypes;
-    enmTopologyType topology; ///< TopologyNone: all
+    enmTopologyType topology; ///< TopologyNone for all
 };
 
-/// In the order in which trees show them.
+/// In tree order.
 std::span<Family> Families() {
     static QueryFamily queries;
     static ThemeFamily themes;
@@ -55,7 +55,7 @@ std::span<Family> Families() {
     return families;
 }
 
-/// Every function of a topology.
+/// All functions of a topology.
 Workspace::CWsTopologyDataSet::Vector FunctionsOf(enmTopologyType type) {
     Workspace::CWsTopologyDataSet::Vector all;
     const CTopology* const pTopology = CModuleConfiguration::Instance()->GetTopology(type);

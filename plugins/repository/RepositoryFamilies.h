@@ -1,13 +1,12 @@
-// The families of configurations that the plug-in brings.
+// Registers the plug-in's families of configurations.
 #pragma once
 
 namespace Orvane::Repository {
 
-/// Makes the families and the repositories of their items known. To be called before
-/// RegisterFamilies.
+/// Registers the families and the repositories of their items. Call before RegisterFamilies.
 void RegisterRepositories();
 
-/// Tree items and commands of the families. The base executor has to be registered before.
+/// Registers tree items and commands of the families. The base executor must be registered first.
 void RegisterFamilies();
 
 } // namespace Orvane::Repository

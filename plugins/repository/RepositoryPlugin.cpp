@@ -1,4 +1,4 @@
-// ORVZRepository.arx: what the workspace meets of it.
+// ORVZRepository.arx: entry points called by the workspace.
 #include "plugins/repository/RepositoryDefaults.h"
 #include "plugins/repository/RepositoryExecutor.h"
 #include "plugins/repository/RepositoryFamilies.h"
@@ -13,15 +13,15 @@ using namespace Orvane::Workspace;
 
 class RepositoryPlugin final : public IPluginInfo {
 public:
-    /// What others stand on comes first: the executor of standard commands, and the
-    /// repositories, of which registrations ask whether they have default items.
+    /// Registers what other registrations need: the executor of standard commands, and the
+    /// repositories, which are asked for default items.
     void PluginHook6() override {
         CWsManager::Instance()->RegisterBaseExecutor(&m_baseExecutor);
         Orvane::Repository::RegisterRepositories();
         CWsManager::Instance()->RegisterWsListener(&m_defaults);
     }
     void PluginHook1() override {}
-    /// The trees.
+    /// Registers the tree items.
     void PluginHook2() override {
         CWsRegistrationFactory::RegisterBasicItems();
         RegisterSystems();
@@ -33,8 +33,8 @@ public:
     void PluginHook7() override {}
 
 private:
-    /// The standard registration names a command for renaming, which is left to whoever knows
-    /// how to: here it is, and systems are renamed in the tree.
+    /// The standard registration refers to a rename command without providing it. Provide it here
+    /// and allow renaming in the tree.
     void RegisterSystems() {
         CWsRegistrationFactory::RegisterSystemItem(&m_systemExecutor, nullptr, 1, 1)
             ->SetAllowRename(1);

@@ -1,4 +1,4 @@
-// Questions with an answer to fall back on.
+// Prompts with a default answer.
 #pragma once
 
 #include <optional>
@@ -12,12 +12,12 @@ namespace Orvane::Repository {
 using Plugins::PrintLine;
 using Plugins::Refuse;
 
-/// acedAskText where "-" stands for an empty text.
+/// Like acedAskText, but "-" means an empty text.
 std::optional<CString> AskTextOrNone(const CString& label, const CString& current);
 
-/// The numbers of a text separated by spaces; nothing if it contains anything else.
+/// Parses numbers separated by spaces; nothing if the text contains anything else.
 std::optional<std::vector<double>> NumbersOf(const CString& text);
-/// The reverse.
+/// The inverse of NumbersOf.
 CString NumbersText(const std::vector<double>& numbers);
 
 } // namespace Orvane::Repository

@@ -26,7 +26,7 @@ bool IsOfRepositoryTree(const CWsTreeItemData* pNode) {
            (pNode->GetPtrItemDefinition()->GetWsItemType() & kRepositoryNodes) != 0;
 }
 
-/// Null, which the user is told, if there is no net repository.
+/// Returns null and reports it if there is no net repository.
 StorePtr FolderStore(CRepositoryFactory& factory, bool net) {
     StorePtr store = net ? factory.GetNetStore() : factory.GetDiskStore();
     if (!store) {
@@ -55,7 +55,7 @@ StorePtr StoreOf(CRepositoryFactory& factory, const CWsTreeItemData* pNode,
     return store;
 }
 
-/// Looks in further places where people without a tree would expect to find it.
+/// Also searches disk and net, where a user without a tree would expect to find the item.
 CRepositoryStore::ItemPtr FindByName(RepositoryTarget& target, const CString& name) {
     CRepositoryFactory& factory =
         *CRepositoryManager::Instance()->GetRepositoryfactory(target.store->GetTag());

@@ -1,4 +1,4 @@
-// What a command on configurations is about: read from the node of a tree, or asked for.
+// The target of a command on configurations, from its tree node or from prompts.
 #pragma once
 
 #include <optional>
@@ -17,43 +17,43 @@ class CWsTreeItemData;
 
 namespace Orvane::Repository {
 
-/// A place where items of a family are kept.
+/// A place that holds items of a family.
 struct RepositoryTarget {
     CRepositoryFactory::StorePtr store;
-    /// That the items stand under; else the active one, to run them on. May be null.
+    /// The items' system, or for disk and net the active system to run them on. May be null.
     System::CGisSystem* pSystem = nullptr;
-    /// Of the command, or of the node; EntityNone for neither.
+    /// From the command or the node; EntityNone if neither has one.
     enmEntityType entityType = EntityNone;
-    CString guid; ///< of the node's item; empty for folders
+    CString guid; ///< the node's item; empty for folders
 };
 
-/// The place of a node: the repository on disk or net for nodes of those trees, otherwise
-/// the node's system or the active one. Without a node, and without an active system, the
-/// disk. Nothing if there is no such place, which the user is told.
+/// The place of a node: the disk or net repository for nodes of those trees, otherwise the node's
+/// system or the active one. Without a node and an active system, the disk. Reports the reason and
+/// returns nothing if that place does not exist.
 std::optional<RepositoryTarget> TargetOf(const RepositoryCommandId& command,
                                          const Workspace::CWsTreeItemData* pNode);
 
-/// The item of a target, of its entity type if that is any. Without a node's item the user is
-/// asked for the name, which is then also looked for on disk and net, and the target changes
-/// to where it was found. Null if there is none, which the user is told.
+/// The target's item, restricted to its entity type if it has one. If the node has no item, asks
+/// for the name, searches disk and net as well, and updates the target to where the item was found.
+/// Reports the reason and returns null if there is none.
 CRepositoryStore::ItemPtr ItemOf(RepositoryTarget& target);
 
-/// The item that is dropped on a node: the query, or what stands at the node that the
-/// target node's custom data points to. Null if there is none of the family.
+/// The item dropped on a node: the query, or the item of the node that the target node's custom
+/// data points to. Null if there is none of this family.
 CRepositoryStore::ItemPtr DroppedItem(const CString& tag, const CRepositoryItem* pQuery,
                                       const Workspace::CWsTreeItemData* pNode);
 
-/// Whether a system has what items of a family and an entity type are about; folders have
-/// everything. If not, the user is told.
+/// Whether a system has the entities that items of this family and entity type apply to; always
+/// true for folders. Reports the reason if not.
 bool HasPlaceFor(const IRepositoryFamily& family, enmEntityType type,
                  const System::CGisSystem* pSystem);
 
-/// Puts an item into a place, if that has any use for it. If it is there already, the user is asked
-/// whether it may be replaced. False if it was not done, which the user is told.
+/// Stores an item in a place if the place supports it, asking before replacing an existing one.
+/// Reports the reason and returns false if it was not stored.
 bool PutItem(CRepositoryStore& store, const CRepositoryItem& item);
 
-/// Tells the trees that items of a family have come, gone or changed: publisher
-/// "REFRESH_CHILDREN", hints the system (null for folders) and the family's tag.
+/// Notifies the trees that items of a family were added, removed or changed: publisher
+/// "REFRESH_CHILDREN", with the system (null for folders) and the family's tag as hints.
 void RefreshTrees(CRepositoryStore& store);
 
 } // namespace Orvane::Repository

@@ -1,4 +1,4 @@
-// Texts for the user about configurations, by their numbers in the message catalogue.
+// Message ids for configurations.
 #pragma once
 
 #include "plugins/common/Texts.h"

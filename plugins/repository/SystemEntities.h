@@ -1,4 +1,4 @@
-// The entities of a system, as configurations work on them.
+// Access to a system's entities for configurations.
 #pragma once
 
 #include "platform/arx/DbDatabase.h"
@@ -8,32 +8,31 @@
 
 namespace Orvane::Repository {
 
-/// The storage that holds the entities of a system.
+/// The storage of a system's entities.
 Topology::CTopologyStorage& StorageOf(const System::CGisSystem& system);
 
-/// Entities of a kind, or of every kind for EntityNone. A node that the system shares with
-/// others is among them.
+/// Entities of a type, or of all types for EntityNone, including nodes shared with other systems.
 std::vector<AcDbObjectId> EntitiesOf(const System::CGisSystem& system, enmEntityType type);
 
-/// Those of a kind that fulfil a query; all of them without one. None if the query asks for
-/// another kind.
+/// Entities of a type that match a query, or all if it is null. Empty if the query is for another
+/// type.
 std::vector<AcDbObjectId> EntitiesOf(const System::CGisSystem& system, enmEntityType type,
                                      const Query::CQueryDefinition* pOnly);
 
-/// Asks for the attributes of one entity. Not after the entity was changed.
+/// Reads the attributes of one entity. Invalid once the entity was changed.
 Query::ValueOf ValuesOf(const Topology::CEntity& entity);
 
-/// The name of an attribute as entities of the system have it, found without regard to case
-/// if none has it as it is given; nothing if none has it at all.
+/// The name of an attribute as the system's entities spell it; an exact match wins over one
+/// that ignores case. Nothing if no entity has it.
 std::optional<CString> AttributeInUse(const System::CGisSystem& system, enmEntityType type,
                                       const CString& name);
 
-/// Asks for an attribute, and says so if entities of the system have none of the name. An
-/// empty answer gives nothing, as a cancelled one does.
+/// Asks for an attribute, and warns if no entity of the system has it. Nothing if the answer is
+/// empty or the user cancelled.
 std::optional<CString> AskAttribute(const CString& label, const CString& current,
                                     const System::CGisSystem* pSystem, enmEntityType type);
 
-/// Opens an entity for writing. False if somebody else has it open.
+/// Opens an entity for writing. False if it is already open elsewhere.
 template <class T, class Change>
 bool ChangeEntity(AcDbDatabase& drawing, AcDbObjectId id, Change change) {
     T* pEntity = nullptr;

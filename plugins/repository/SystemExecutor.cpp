@@ -28,14 +28,14 @@ System::CSystemManager& Systems() {
     return *System::CSystemManager::Instance();
 }
 
-/// What a command works with.
+/// The arguments of a command.
 struct Call {
     const CWsTreeItemData* pNode;
     const Query::CQueryDefinition* pQuery;
     CGisSystem* pSystem = nullptr;
 };
 
-/// Null if the user gave none, or one that is not there, which they are told.
+/// Null if the user gave no name, or an unknown one, which is reported.
 CGisSystem* AskSystem() {
     const CGisSystem* const pActive = Systems().GetActiveSystem();
     const auto name =
@@ -132,7 +132,7 @@ bool ToggleVisibility(Call& call) {
     return true;
 }
 
-/// The family of what is dropped; empty if there is nothing.
+/// The tag of the dropped item's family; empty if nothing was dropped.
 CString DroppedTag(const Call& call) {
     const CWsTreeItemData* const pDragged = Workspace::DroppedItemOf(call.pNode);
     if (call.pQuery) {
@@ -159,7 +159,7 @@ bool DropItem(Call& call) {
     return true;
 }
 
-/// Where a command without a node has its system from.
+/// How a command finds its system when it has no tree node.
 enum class Otherwise { Nothing, Ask, Active };
 
 constexpr struct {
@@ -177,7 +177,7 @@ constexpr struct {
     {L"SYSTEM_TOGGLEVISIBILITY", Otherwise::Ask, ToggleVisibility},
 };
 
-/// False, and the user is told, if the command has to have a system and there is none.
+/// Reports it and returns false if the command needs a system and there is none.
 bool FindSystem(Call& call, Otherwise otherwise) {
     if (otherwise == Otherwise::Nothing) {
         return true;

@@ -11,9 +11,9 @@ namespace Orvane::Repository {
 
 namespace {
 
-// Colours that are told apart on light and on dark.
+// Colours that are distinguishable on light and dark backgrounds.
 constexpr int kUniqueColors[] = {1, 3, 5, 30, 6, 4, 40, 94, 200, 142, 22, 82, 220, 112, 52};
-/// From blue over green to red.
+/// From blue through green to red.
 constexpr int kRamp[] = {170, 160, 140, 130, 110, 90, 70, 50, 40, 30, 20, 10};
 constexpr int kOtherColor = 8;
 
@@ -42,7 +42,7 @@ std::string RangeLabel(const std::vector<double>& breaks, std::size_t index) {
     return below + "x" + (index == breaks.size() ? "" : " < " + Text(breaks[index]));
 }
 
-/// Numbers by size, before texts by letters.
+/// Numbers by value, then texts alphabetically.
 struct LegendOrder {
     bool operator()(const ThemeValue& left, const ThemeValue& right) const {
         if (left.number && right.number && *left.number != *right.number) {
@@ -55,7 +55,7 @@ struct LegendOrder {
 
 using ValueCounts = std::map<ThemeValue, std::size_t, LegendOrder>;
 
-/// How often a value has to come to get a class of its own.
+/// The minimum count of a value to get a class of its own.
 std::size_t LeastCount(const ValueCounts& counts) {
     std::vector<std::size_t> sorted;
     for (const auto& [value, count] : counts) {

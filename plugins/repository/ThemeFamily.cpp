@@ -21,7 +21,7 @@ constexpr const wchar_t* kCount = L"count";
 constexpr const wchar_t* kBreaks = L"breaks";
 constexpr const wchar_t* kColors = L"colors";
 
-/// By the number of ThemeMode.
+/// By ThemeMode.
 constexpr const wchar_t* kModes[] = {L"unique", L"ranges", L"none"};
 
 std::optional<std::vector<int>> ColorsOf(const CString& text) {
@@ -31,7 +31,7 @@ std::optional<std::vector<int>> ColorsOf(const CString& text) {
     }
     std::vector<int> colors;
     for (const double number : *numbers) {
-        // What is none of a colour becomes one that is refused.
+        // anything that is not a colour becomes 0, which is rejected later
         colors.push_back(number >= 1 && number <= 255 ? static_cast<int>(number) : 0);
     }
     return colors;
@@ -100,7 +100,7 @@ void Paint(AcDbDatabase& drawing, AcDbObjectId id, int color) {
     }
 }
 
-/// Gives entities the colours of a theme.
+/// Colours entities by a theme.
 ThemeResult PaintTheme(const ThemeDefinition& theme, System::CGisSystem& system,
                        const std::vector<AcDbObjectId>& ids) {
     ThemeResult result = Classify(ValuesOfAll(system, theme.attribute, ids), theme.rule);

@@ -1,4 +1,4 @@
-// Themes: they colour entities by an attribute.
+// Themes: colour entities by an attribute.
 #pragma once
 
 #include "plugins/repository/ThemeClasses.h"
@@ -11,7 +11,7 @@ public:
     ThemeDefinition(const wchar_t* guid, const wchar_t* name)
         : CRepositoryItem(L"THEME", guid, name) {}
 
-    CString attribute; ///< not looked at in themes without classes
+    CString attribute; ///< ignored by themes without classes
     ThemeRule rule;
 
 protected:
@@ -19,9 +19,9 @@ protected:
     CString ReadContent(const XmlElement& root) override;
 };
 
-/// Running one sets the colours of the entities themselves, so that they are saved and
-/// undone with the drawing; entities without a value take the colour of their layer. It
-/// prints the legend with counts.
+/// Running one sets the colours of the entities themselves, so they are saved and undone with the
+/// drawing, and prints the legend with counts. Entities without a value take the colour of their
+/// layer.
 class ThemeFamily final : public IRepositoryFamily {
 public:
     boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,

@@ -1,4 +1,4 @@
-// A whole plug-in: one command that greets the active system.
+// A complete plug-in with a single command, which greets the active system.
 #include "platform/arx/EdPrompt.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/giscore/systems/SystemManager.h"
@@ -10,20 +10,20 @@ using namespace Orvane::Workspace;
 
 namespace {
 
-/// Runs the commands. It is registered by pointer, so it has to live to the end.
+/// Runs the commands. Registered by pointer and not owned, so it must live until the process
+/// ends.
 class HelloExecutor final : public IWsCommandExecutor {
 public:
     boost::shared_ptr<CExecutorReturnValue>
     Execute(const wchar_t* lpszCommandId, Query::CQueryDefinition*, CWsTreeItemData*) override {
         auto result = NeutralReturnValue();
-        // Listeners, the panel among them, learn that the command runs, and that it has ended,
-        // however it does.
+        // Raises the events before and after the command, even if it throws.
         CommandScope::Run(lpszCommandId, [&] {
             const System::CGisSystem* const pSystem =
                 System::CSystemManager::Instance()->GetActiveSystem();
             acutPrintf(L"Hello, %s!\n",
                        pSystem ? pSystem->GetSystemName() : CString(L"empty drawing"));
-            result->m_nStatus = 1; // carried out
+            result->m_nStatus = 1; // command executed
         });
         return result;
     }

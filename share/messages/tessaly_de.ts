@@ -40,7 +40,7 @@
     </message>
     <message id="1216">
         <source></source>
-        <extracomment>Column of the system manager: what a system is for</extracomment>
+        <extracomment>Column of the system manager: the system's function</extracomment>
         <translation>Funktion</translation>
     </message>
     <message id="1253">
@@ -117,7 +117,7 @@
         <source></source>
         <extracomment>Prompt on the command line</extracomment>
         <translation>
-Die Systeme sind markiert. Weiter mit Enter: </translation>
+Die Systeme sind markiert. Weiter mit der Eingabetaste: </translation>
     </message>
     <message id="5248">
         <source></source>
@@ -197,26 +197,26 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="7246">
         <source></source>
         <extracomment>Tooltip of a dialog's caption button</extracomment>
-        <translation>Einrollen</translation>
+        <translation>Einklappen</translation>
     </message>
     <message id="7247">
         <source></source>
         <extracomment>Tooltip of a dialog's caption button</extracomment>
-        <translation>Ausrollen</translation>
+        <translation>Ausklappen</translation>
     </message>
     <message id="7533">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Fehler</translation>
     </message>
     <message id="7534">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Informationen</translation>
     </message>
     <message id="7535">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Warnungen</translation>
     </message>
     <message id="7623">
@@ -272,7 +272,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="9056">
         <source></source>
         <extracomment>Command of a repository item</extracomment>
-        <translation>Als Standard setzen</translation>
+        <translation>Als Standard festlegen</translation>
     </message>
     <message id="9134">
         <source></source>
@@ -296,12 +296,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="10300">
         <source></source>
-        <extracomment>Memory report, with a number behind it</extracomment>
+        <extracomment>Memory report, followed by a number</extracomment>
         <translation>Verfügbar</translation>
     </message>
     <message id="10301">
         <source></source>
-        <extracomment>Memory report, with a number behind it</extracomment>
+        <extracomment>Memory report, followed by a number</extracomment>
         <translation>Belegt</translation>
     </message>
     <message id="10530">
@@ -452,7 +452,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900002">
         <source></source>
         <extracomment>Name of a module</extracomment>
-        <translation>Paneele</translation>
+        <translation>Bedienfelder</translation>
     </message>
     <message id="900101">
         <source></source>
@@ -472,7 +472,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900104">
         <source></source>
         <extracomment>Network plug-in</extracomment>
-        <translation>gibt Anzahlen, Längen, Ausdehnung und Teilnetze jedes Netzes aus</translation>
+        <translation>gibt Anzahl der Objekte, Längen, Ausdehnung und Teilnetze jedes Netzes aus</translation>
     </message>
     <message id="900105">
         <source></source>
@@ -652,17 +652,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900311">
         <source></source>
         <extracomment>Reason; with the name</extracomment>
-        <translation>Es gibt eine andere Konfiguration namens „%s“.</translation>
+        <translation>Eine andere Konfiguration heißt bereits „%s“.</translation>
     </message>
     <message id="900312">
         <source></source>
         <extracomment>Reason; with the name</extracomment>
-        <translation>„%s“ gibt es dort bereits.</translation>
+        <translation>„%s“ ist dort bereits vorhanden.</translation>
     </message>
     <message id="900313">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>Die Konfiguration gibt es nicht mehr.</translation>
+        <translation>Die Konfiguration ist nicht mehr vorhanden.</translation>
     </message>
     <message id="900314">
         <source></source>
@@ -681,33 +681,33 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="900331">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Sprache:</translation>
     </message>
     <message id="900332">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Minuten zwischen automatischen Sicherungen (0 = aus):</translation>
     </message>
     <message id="900333">
         <source></source>
-        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <extracomment>Check box in the general settings, with its mnemonic</extracomment>
         <translation>Abf&amp;ragen beim Ablegen ausführen</translation>
     </message>
     <message id="900334">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Farbe der Hervorhebung:</translation>
     </message>
     <message id="900335">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Dezimalstellen gleicher Lagen:</translation>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
+        <translation>&amp;Dezimalstellen für Lagegleichheit:</translation>
     </message>
     <message id="900336">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
-        <translation>&amp;Netzablage (Ordner):</translation>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
+        <translation>&amp;Netzwerkablage (Ordner):</translation>
     </message>
     <message id="900340">
         <source></source>
@@ -717,7 +717,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900341">
         <source></source>
         <extracomment>Button: chooses a colour</extracomment>
-        <translation>&amp;Wahl</translation>
+        <translation>&amp;Wählen</translation>
     </message>
     <message id="900345">
         <source></source>
@@ -782,12 +782,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900409">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Klassengrenzen, durch Leerzeichen getrennt (- für berechnete)</translation>
+        <translation>Klassengrenzen, durch Leerzeichen getrennt (- zum Berechnen)</translation>
     </message>
     <message id="900410">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Farben 1 bis 255, durch Leerzeichen getrennt (- für die Vorgaben)</translation>
+        <translation>Farben 1 bis 255, durch Leerzeichen getrennt (- für Standardfarben)</translation>
     </message>
     <message id="900411">
         <source></source>
@@ -812,12 +812,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900415">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Von Knoten (- für Rückfrage bei jeder Ausführung)</translation>
+        <translation>Von Knoten (- um jedes Mal zu fragen)</translation>
     </message>
     <message id="900416">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Bis Knoten (- für Rückfrage bei jeder Ausführung)</translation>
+        <translation>Bis Knoten (- um jedes Mal zu fragen)</translation>
     </message>
     <message id="900417">
         <source></source>
@@ -827,12 +827,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900418">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Attribut für die Tiefe (- für keines)</translation>
+        <translation>Attribut für die Tiefe (- für keins)</translation>
     </message>
     <message id="900419">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>„%s“ ist nicht unter %s.</translation>
+        <translation>„%s“ ist keine der Möglichkeiten %s.</translation>
     </message>
     <message id="900420">
         <source></source>
@@ -862,7 +862,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900426">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s ist jetzt der Standard und wird bei jedem Öffnen der Zeichnung gezeigt.</translation>
+        <translation>%s ist jetzt der Standard und wird bei jedem Öffnen der Zeichnung angezeigt.</translation>
     </message>
     <message id="900427">
         <source></source>
@@ -872,22 +872,22 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900428">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>%s gibt es dort bereits. Ersetzen?</translation>
+        <translation>%s ist dort bereits vorhanden. Ersetzen?</translation>
     </message>
     <message id="900429">
         <source></source>
         <extracomment>Prompt of the network plug-in</extracomment>
-        <translation>Senden an Platte, Netz oder ein System</translation>
+        <translation>Senden an Lokal, Netzwerk oder ein System</translation>
     </message>
     <message id="900430">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>„%s“ ist weder Platte noch Netz noch ein System der Zeichnung.</translation>
+        <translation>„%s“ ist weder die lokale Ablage noch die Netzwerkablage noch ein System der Zeichnung.</translation>
     </message>
     <message id="900431">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Es ist keine Netzablage eingerichtet. Geben Sie in NET_REPOSITORY deren Ordner an.</translation>
+        <translation>Es ist keine Netzwerkablage eingerichtet. Geben Sie in NET_REPOSITORY deren Ordner an.</translation>
     </message>
     <message id="900432">
         <source></source>
@@ -947,7 +947,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900443">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Das Abgelegte kann hier nicht verwendet werden.</translation>
+        <translation>Das abgelegte Element kann hier nicht verwendet werden.</translation>
     </message>
     <message id="900445">
         <source></source>
@@ -967,7 +967,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900449">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>Die Zeichnung hat kein System „%s“. SYSTEM_LIST zeigt sie.</translation>
+        <translation>Die Zeichnung hat kein System „%s“. SYSTEM_LIST listet die Systeme auf.</translation>
     </message>
     <message id="900450">
         <source></source>
@@ -987,7 +987,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900453">
         <source></source>
         <extracomment>Message of the network plug-in</extracomment>
-        <translation>%s gibt es dort bereits mit demselben Inhalt.</translation>
+        <translation>%s ist dort bereits mit demselben Inhalt vorhanden.</translation>
     </message>
     <message id="900460">
         <source></source>
@@ -1032,12 +1032,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900468">
         <source></source>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
-        <translation>Platte</translation>
+        <translation>Lokal</translation>
     </message>
     <message id="900469">
         <source></source>
         <extracomment>Choice at a prompt of the network plug-in</extracomment>
-        <translation>Netz</translation>
+        <translation>Netzwerk</translation>
     </message>
     <message id="900510">
         <source></source>
@@ -1047,12 +1047,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900511">
         <source></source>
         <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
-        <translation>Plattenablage</translation>
+        <translation>Lokale Ablage</translation>
     </message>
     <message id="900512">
         <source></source>
         <extracomment>Panel; also the name of its tree&#x27;s root</extracomment>
-        <translation>Netzablage</translation>
+        <translation>Netzwerkablage</translation>
     </message>
     <message id="900513">
         <source></source>
@@ -1072,11 +1072,11 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900520">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>Pfad (wie system/NAME/..., disk/..., net/...): </translation>
+        <translation>Pfad (z. B. system/NAME/..., disk/..., net/...): </translation>
     </message>
     <message id="900521">
         <source></source>
-        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <extracomment>Reason; with what was searched for, and where</extracomment>
         <translation>Es gibt kein „%s“ in „%s“.</translation>
     </message>
     <message id="900522">
@@ -1116,17 +1116,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="900541">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>Suche &amp;nach:</translation>
     </message>
     <message id="900542">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>&amp;System:</translation>
     </message>
     <message id="900543">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>&amp;Wo:</translation>
     </message>
     <message id="900544">
@@ -1176,13 +1176,13 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="900554">
         <source></source>
-        <extracomment>Column: the text that was met</extracomment>
+        <extracomment>Column: the text that matched</extracomment>
         <translation>Gefunden in</translation>
     </message>
     <message id="900555">
         <source></source>
         <extracomment>Button of the find dialog</extracomment>
-        <translation>&amp;Zeigen</translation>
+        <translation>An&amp;zeigen</translation>
     </message>
     <message id="900556">
         <source></source>
@@ -1192,7 +1192,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900557">
         <source></source>
         <extracomment>Result</extracomment>
-        <translation>Gibt es nicht mehr</translation>
+        <translation>Nicht mehr vorhanden</translation>
     </message>
     <message id="900558">
         <source></source>
@@ -1232,7 +1232,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900572">
         <source></source>
         <extracomment>Button</extracomment>
-        <translation>&amp;Setzen</translation>
+        <translation>Ü&amp;bernehmen</translation>
     </message>
     <message id="900573">
         <source></source>
@@ -1261,7 +1261,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="900578">
         <source></source>
-        <extracomment>Reason; with what was typed, and the property</extracomment>
+        <extracomment>Reason; with the input and the property</extracomment>
         <translation>„%s“ ist keine Zahl; %s muss eine sein.</translation>
     </message>
     <message id="900579">
@@ -1281,12 +1281,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="900582">
         <source></source>
-        <extracomment>Prompt; with the value now</extracomment>
+        <extracomment>Prompt; with the current value</extracomment>
         <translation>Wert &lt;%s&gt;: </translation>
     </message>
     <message id="900583">
         <source></source>
-        <extracomment>Reason; with what was typed</extracomment>
+        <extracomment>Reason; with the input</extracomment>
         <translation>Es gibt keine Eigenschaft „%s“.</translation>
     </message>
     <message id="900584">
@@ -1297,7 +1297,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900585">
         <source></source>
         <extracomment>Property</extracomment>
-        <translation>Lage</translation>
+        <translation>Position</translation>
     </message>
     <message id="900586">
         <source></source>
@@ -1327,7 +1327,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900591">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>gibt die Vorlagen der Bäume der Systeme, der Platte und des Netzes aus</translation>
+        <translation>gibt die Vorlagen des Systembaums und der Ablagebäume aus</translation>
     </message>
     <message id="900592">
         <source></source>
@@ -1337,7 +1337,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900593">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>gibt das Menü eines Knotens aus, der durch seinen Pfad gegeben ist</translation>
+        <translation>gibt das Menü eines Baumknotens zu einem Pfad aus</translation>
     </message>
     <message id="900594">
         <source></source>
@@ -1347,7 +1347,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="900595">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>gibt aus, was die Bäume der Systeme, der Platte und des Netzes zeigen</translation>
+        <translation>gibt den Inhalt des Systembaums und der Ablagebäume aus</translation>
     </message>
     <message id="900610">
         <source></source>
@@ -1497,7 +1497,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910009">
         <source></source>
         <extracomment>Error of the operating system</extracomment>
-        <translation>Zu viele symbolische Verknüpfungen hintereinander</translation>
+        <translation>Zu viele Ebenen symbolischer Verknüpfungen</translation>
     </message>
     <message id="910010">
         <source></source>
@@ -1547,7 +1547,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910023">
         <source></source>
         <extracomment>Module file, its size, the size needed</extracomment>
-        <translation>%s: abgeschnitten, %u von mindestens %u Bytes</translation>
+        <translation>%s: unvollständig, %u von mindestens %u Bytes</translation>
     </message>
     <message id="910024">
         <source></source>
@@ -1601,7 +1601,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="910037">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>„%s“ ist keine Farbe.</translation>
     </message>
     <message id="910038">
@@ -1667,12 +1667,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910107">
         <source></source>
         <extracomment>Folder</extracomment>
-        <translation>%s: Den Ordner gibt es nicht</translation>
+        <translation>%s: Der Ordner ist nicht vorhanden</translation>
     </message>
     <message id="910108">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>der Name ist keine GUID</translation>
+        <translation>der Dateiname ist keine GUID</translation>
     </message>
     <message id="910109">
         <source></source>
@@ -1717,7 +1717,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910117">
         <source></source>
         <extracomment>File, line, word</extracomment>
-        <translation>%s:%d: ein zweiter Abschnitt „%s“</translation>
+        <translation>%s:%d: Abschnitt „%s“ ist doppelt vorhanden</translation>
     </message>
     <message id="910118">
         <source></source>
@@ -1737,22 +1737,22 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910121">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: eine zweite Funktion %d</translation>
+        <translation>%s:%d: Funktion %d ist doppelt vorhanden</translation>
     </message>
     <message id="910122">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: Es gibt keine Objektart %d</translation>
+        <translation>%s:%d: unbekannte Objektart %d</translation>
     </message>
     <message id="910123">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: eine zweite Objektart %d</translation>
+        <translation>%s:%d: Objektart %d ist doppelt vorhanden</translation>
     </message>
     <message id="910124">
         <source></source>
         <extracomment>File</extracomment>
-        <translation>%s: keine Topologie; die Vorgaben werden verwendet</translation>
+        <translation>%s: keine Topologie; die Standardwerte werden verwendet</translation>
     </message>
     <message id="910125">
         <source></source>
@@ -1767,7 +1767,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910127">
         <source></source>
         <extracomment>File, line, text</extracomment>
-        <translation>%s:%d: kein Name mit einem Platz für eine Nummer wie J%%d oder J%%04d: „%s“</translation>
+        <translation>%s:%d: keine Namensvorlage mit genau einem Platzhalter für die Nummer wie J%%d oder J%%04d: „%s“</translation>
     </message>
     <message id="910128">
         <source></source>
@@ -1782,12 +1782,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910130">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>ein Dokumenttyp ist nicht erlaubt</translation>
+        <translation>Dokumenttyp-Deklarationen sind nicht erlaubt</translation>
     </message>
     <message id="910131">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>die Elemente sind zu tief geschachtelt</translation>
+        <translation>die Elemente sind zu tief verschachtelt</translation>
     </message>
     <message id="910132">
         <source></source>
@@ -1837,7 +1837,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="910200">
         <source></source>
         <extracomment>Why a command cannot run</extracomment>
-        <translation>Kein Modul führt ihn aus</translation>
+        <translation>Kein Modul stellt ihn bereit</translation>
     </message>
     <message id="910201">
         <source></source>
@@ -1864,6 +1864,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <translation>tessaly [--console] [Optionen] [Zeichnung]
   Zeichnung       ein GeoPackage (.gpkg), das beim Start geöffnet wird
   --console       Befehlszeile auf Standardeingabe und -ausgabe
+  --read-only     öffnet nur zum Lesen, was ein anderes Programm geöffnet hat
   --script DATEI  führt die Befehle einer Datei aus, einen je Zeile, und endet mit
                   dem Status des ersten Befehls, der fehlschlägt
   --first DATEI   führt die Befehle einer Datei aus und macht dann an der
@@ -1923,7 +1924,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911015">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>Unbekannter Befehl „%s“. HELP listet die Befehle auf.</translation>
     </message>
     <message id="911020">
@@ -1995,7 +1996,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911035">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>Es gibt keine Zeichnung „%s“. DRAWINGS listet sie auf.</translation>
     </message>
     <message id="911036">
@@ -2061,7 +2062,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911051">
         <source></source>
-        <extracomment>Prompt, a position in the drawing is asked for</extracomment>
+        <extracomment>Prompt for a position in the drawing</extracomment>
         <translation>Objekt wählen: </translation>
     </message>
     <message id="911052">
@@ -2070,7 +2071,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911053">
         <source></source>
-        <translation>Das Objekt hat keine Lage.</translation>
+        <translation>Das Objekt hat keine Position.</translation>
     </message>
     <message id="911054">
         <source></source>
@@ -2089,7 +2090,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911057">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>„%s“ ist weder eine Auswahl noch ein Zoomfaktor.</translation>
     </message>
     <message id="911060">
@@ -2100,7 +2101,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911061">
         <source></source>
         <extracomment>Layer, its coordinate system, the drawing's</extracomment>
-        <translation>%s: Das Koordinatensystem ist %s, das der Zeichnung %s; Lagen werden nicht umgerechnet</translation>
+        <translation>%s: Das Koordinatensystem ist %s, das der Zeichnung %s; Koordinaten werden nicht umgerechnet</translation>
     </message>
     <message id="911062">
         <source></source>
@@ -2221,7 +2222,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911100">
         <source></source>
         <extracomment>Reason, after a file name and a colon</extracomment>
-        <translation>beschädigt: Tabelle orv_meta nennt keine Version</translation>
+        <translation>beschädigt: Tabelle orv_meta enthält keine Version</translation>
     </message>
     <message id="911101">
         <source></source>
@@ -2236,7 +2237,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911103">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>beschädigt: Tabelle orv_meta nennt eine ungültige nächste Nummer</translation>
+        <translation>beschädigt: Tabelle orv_meta enthält eine ungültige nächste Nummer</translation>
     </message>
     <message id="911104">
         <source></source>
@@ -2251,7 +2252,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911106">
         <source></source>
         <extracomment>Reason; object, layer</extracomment>
-        <translation>Objekt %d auf Layer „%s“ hat eine ungültige Lage</translation>
+        <translation>Objekt %d auf Layer „%s“ hat eine ungültige Position</translation>
     </message>
     <message id="911107">
         <source></source>
@@ -2290,7 +2291,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911114">
         <source></source>
-        <extracomment>Reason and what it means</extracomment>
+        <extracomment>Reason and its consequence</extracomment>
         <translation>%s; der übrige Inhalt der Datei wurde nicht kopiert</translation>
     </message>
     <message id="911115">
@@ -2331,7 +2332,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911122">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>sie ist beschädigt oder von unbekannter Art</translation>
+        <translation>sie ist beschädigt oder von unbekanntem Typ</translation>
     </message>
     <message id="911123">
         <source></source>
@@ -2356,7 +2357,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911127">
         <source></source>
         <extracomment>Why rows are skipped, or a file is refused</extracomment>
-        <translation>ungültige Lage</translation>
+        <translation>ungültige Position</translation>
     </message>
     <message id="911128">
         <source></source>
@@ -2371,7 +2372,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911130">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>die Datei gibt es nicht</translation>
+        <translation>die Datei ist nicht vorhanden</translation>
     </message>
     <message id="911131">
         <source></source>
@@ -2391,7 +2392,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911134">
         <source></source>
         <extracomment>Reason; size, size it should have</extracomment>
-        <translation>sie ist abgeschnitten: %d von %d Bytes</translation>
+        <translation>sie ist unvollständig: %d von %d Bytes</translation>
     </message>
     <message id="911135">
         <source></source>
@@ -2401,12 +2402,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911136">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>sie wurde beim Kopieren abgeschnitten</translation>
+        <translation>sie wurde während des Kopierens gekürzt</translation>
     </message>
     <message id="911137">
         <source></source>
         <extracomment>Reason; reason of that</extracomment>
-        <translation>ein unvollendeter Schreibvorgang muss erst zurückgenommen werden, was fehlschlug: %s</translation>
+        <translation>ein unvollendeter Schreibvorgang muss zuerst zurückgesetzt werden, was fehlschlug: %s</translation>
     </message>
     <message id="911138">
         <source></source>
@@ -2421,7 +2422,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911141">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>sie ist abgeschnitten</translation>
+        <translation>sie ist unvollständig</translation>
     </message>
     <message id="911142">
         <source></source>
@@ -2446,7 +2447,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911146">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>sie ist abgeschnitten: Die letzte Zeile ist nicht EOF</translation>
+        <translation>sie ist unvollständig: Die letzte Zeile ist nicht EOF</translation>
     </message>
     <message id="911150">
         <source></source>
@@ -2480,7 +2481,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="911156">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>Es gibt keinen Befehl „%s“. HELP listet die Befehle auf.</translation>
     </message>
     <message id="911157">
@@ -2591,7 +2592,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911318">
         <source></source>
         <extracomment>Menu</extracomment>
-        <translation>Wie das &amp;System</translation>
+        <translation>&amp;Systemeinstellung</translation>
     </message>
     <message id="911319">
         <source></source>
@@ -2711,7 +2712,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911344">
         <source></source>
         <extracomment>In place of an answer</extracomment>
-        <translation>*Dort ist nichts*</translation>
+        <translation>*Kein Objekt*</translation>
     </message>
     <message id="911345">
         <source></source>
@@ -2726,7 +2727,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="911351">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>sie ist abgeschnitten oder von einer anderen Version geschrieben</translation>
+        <translation>sie ist unvollständig oder wurde von einer anderen Version geschrieben</translation>
     </message>
     <message id="911352">
         <source></source>
@@ -2870,7 +2871,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912033">
         <source></source>
         <extracomment>Name</extracomment>
-        <translation>Knoten %s hat keine Koordinaten und wurde weggelassen</translation>
+        <translation>Knoten %s hat keine Koordinaten und wird weggelassen</translation>
     </message>
     <message id="912034">
         <source></source>
@@ -2890,7 +2891,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912037">
         <source></source>
         <extracomment>Name, count</extracomment>
-        <translation>Fläche %s hat nur %u Punkte und wurde weggelassen</translation>
+        <translation>Fläche %s hat nur %u Punkte und wird weggelassen</translation>
     </message>
     <message id="912038">
         <source></source>
@@ -2910,7 +2911,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912041">
         <source></source>
         <extracomment>Count, limit</extracomment>
-        <translation>die Zeile hat %u Zeichen, mehr als %u</translation>
+        <translation>die Zeile hat %u Zeichen; erlaubt sind höchstens %u</translation>
     </message>
     <message id="912042">
         <source></source>
@@ -2918,17 +2919,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="912043">
         <source></source>
-        <translation>Text vor dem ersten Abschnitt wird nicht beachtet</translation>
+        <translation>Text vor dem ersten Abschnitt wird ignoriert</translation>
     </message>
     <message id="912044">
         <source></source>
         <extracomment>Heading</extracomment>
-        <translation>die Überschrift %s ist abgeschnitten</translation>
+        <translation>die Abschnittsüberschrift %s ist unvollständig</translation>
     </message>
     <message id="912045">
         <source></source>
         <extracomment>Heading</extracomment>
-        <translation>der unbekannte Abschnitt %s wird nicht beachtet</translation>
+        <translation>der unbekannte Abschnitt %s wird ignoriert</translation>
     </message>
     <message id="912050">
         <source></source>
@@ -3068,7 +3069,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912087">
         <source></source>
         <extracomment>Kind of findings</extracomment>
-        <translation>Leitungen der Länge null</translation>
+        <translation>Leitungen mit Länge null</translation>
     </message>
     <message id="912088">
         <source></source>
@@ -3088,17 +3089,17 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912095">
         <source></source>
         <extracomment>Finding; node</extracomment>
-        <translation>%s: isolierter Knoten, hier beginnt oder endet keine Leitung</translation>
+        <translation>%s: isolierter Knoten, an dem keine Leitung beginnt oder endet</translation>
     </message>
     <message id="912096">
         <source></source>
         <extracomment>Finding; nodes</extracomment>
-        <translation>%s: deckungsgleicher Knoten, liegt wie %s</translation>
+        <translation>%s: deckungsgleicher Knoten, liegt an derselben Stelle wie %s</translation>
     </message>
     <message id="912097">
         <source></source>
         <extracomment>Finding; section</extracomment>
-        <translation>%s: Leitung der Länge null</translation>
+        <translation>%s: Leitung mit Länge null</translation>
     </message>
     <message id="912098">
         <source></source>
@@ -3133,7 +3134,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912111">
         <source></source>
         <extracomment>Kind of node</extracomment>
-        <translation>Vorratsbehälter</translation>
+        <translation>Reservoir</translation>
     </message>
     <message id="912112">
         <source></source>
@@ -3236,7 +3237,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912145">
         <source></source>
         <extracomment>Prompt</extracomment>
-        <translation>Abstand, innerhalb dessen Leitungsenden einen Knoten teilen</translation>
+        <translation>Abstand, bis zu dem Leitungsenden einen gemeinsamen Knoten erhalten</translation>
     </message>
     <message id="912146">
         <source></source>
@@ -3245,7 +3246,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     </message>
     <message id="912148">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>„%s“ ist kein gültiger Abstand.</translation>
     </message>
     <message id="912149">
@@ -3265,7 +3266,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912152">
         <source></source>
         <extracomment>File</extracomment>
-        <translation>%s: Die Datei gibt es nicht.</translation>
+        <translation>%s: Die Datei ist nicht vorhanden.</translation>
     </message>
     <message id="912153">
         <source></source>
@@ -3283,7 +3284,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912201">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>zu einer Klammer fehlt die zweite</translation>
+        <translation>eine geschweifte Klammer hat kein Gegenstück</translation>
     </message>
     <message id="912202">
         <source></source>
@@ -3318,7 +3319,7 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="912208">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>die Klassengrenzen müssen aufsteigen</translation>
+        <translation>die Klassengrenzen müssen aufsteigend sortiert sein</translation>
     </message>
     <message id="912209">
         <source></source>
@@ -3358,12 +3359,12 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="920001">
         <source></source>
         <extracomment>Report at a start; module, command</extracomment>
-        <translation>%s registriert den Befehl %s, den das Programm selbst hat. Eingetippt läuft der Befehl des Programms.</translation>
+        <translation>%s registriert den Befehl %s, den das Programm bereits hat. Bei Eingabe läuft der Befehl des Programms.</translation>
     </message>
     <message id="920002">
         <source></source>
         <extracomment>Report at a start; module, command, command</extracomment>
-        <translation>%s registriert den Befehl %s, der sich von %s nur in Groß- und Kleinschreibung unterscheidet.</translation>
+        <translation>%s registriert den Befehl %s, der sich von %s nur in der Groß- und Kleinschreibung unterscheidet.</translation>
     </message>
     <message id="920010">
         <source></source>
@@ -3403,32 +3404,32 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
     <message id="930001">
         <source></source>
         <extracomment>Reason; with the id of a command</extracomment>
-        <translation>&quot;%s&quot; ist kein Befehl für Konfigurationen.</translation>
+        <translation>„%s“ ist kein Befehl für Konfigurationen.</translation>
     </message>
     <message id="930002">
         <source></source>
         <extracomment>Reason; with the tag of a family</extracomment>
-        <translation>Kein geladenes Modul stellt Konfigurationen der Familie &quot;%s&quot; bereit.</translation>
+        <translation>Kein geladenes Modul stellt Konfigurationen der Familie „%s“ bereit.</translation>
     </message>
     <message id="930003">
         <source></source>
         <extracomment>Reason; with the tag of a family</extracomment>
-        <translation>Das Modul der Familie &quot;%s&quot; stellt keinen Ort für ihre Konfigurationen bereit.</translation>
+        <translation>Das Modul der Familie „%s“ stellt keinen Speicherort für ihre Konfigurationen bereit.</translation>
     </message>
     <message id="930004">
         <source></source>
         <extracomment>Reason; with the id of a command</extracomment>
-        <translation>&quot;%s&quot; braucht zum Ausführen eine Konfiguration der eigenen Familie.</translation>
+        <translation>„%s“ kann nur Konfigurationen der eigenen Familie ausführen.</translation>
     </message>
     <message id="930005">
         <source></source>
         <extracomment>Message; with the system and the configuration</extracomment>
-        <translation>%s: Der Standard &quot;%s&quot; wird gezeigt.</translation>
+        <translation>%s: Der Standard „%s“ wird angezeigt.</translation>
     </message>
     <message id="930006">
         <source></source>
         <extracomment>Name of a step that can be undone</extracomment>
-        <translation>Standards zeigen</translation>
+        <translation>Standards anzeigen</translation>
     </message>
     <message id="940000">
         <source></source>
@@ -3444,6 +3445,191 @@ Die Systeme sind markiert. Weiter mit Enter: </translation>
         <source></source>
         <extracomment>Reason</extracomment>
         <translation>sie enthält keine Modulliste</translation>
+    </message>
+    <message id="951000">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie wurde seit dem Öffnen von einem anderen Programm gespeichert</translation>
+    </message>
+    <message id="951001">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>an ihrer Stelle liegt jetzt eine andere Zeichnung</translation>
+    </message>
+    <message id="951002">
+        <source></source>
+        <extracomment>Who saved a drawing; user, host, program, time</extracomment>
+        <translation>%s auf %s, %s, %s UTC</translation>
+    </message>
+    <message id="951003">
+        <source></source>
+        <extracomment>Reason; with a reason and who saved last</extracomment>
+        <translation>%s (zuletzt gespeichert: %s)</translation>
+    </message>
+    <message id="951004">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>das Warten auf die Sperre eines anderen Programms wurde abgebrochen</translation>
+    </message>
+    <message id="951005">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>an ihrer Stelle liegt seit eben eine andere Datei; bitte noch einmal versuchen</translation>
+    </message>
+    <message id="951006">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein anderes Programm hat sie eben geändert; bitte noch einmal versuchen</translation>
+    </message>
+    <message id="951007">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ihre symbolischen Verknüpfungen bilden eine Schleife</translation>
+    </message>
+    <message id="951008">
+        <source></source>
+        <extracomment>Reason; with a table</extracomment>
+        <translation>die Tabelle %s fehlt; ihr Inhalt fehlt in der Zeichnung</translation>
+    </message>
+    <message id="951009">
+        <source></source>
+        <extracomment>Reason; with tables</extracomment>
+        <translation>die Tabellen %s fehlen; ihr Inhalt fehlt in der Zeichnung</translation>
+    </message>
+    <message id="951010">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>die Datei verzeichnet nicht, was sich seit dem Öffnen geändert hat</translation>
+    </message>
+    <message id="951011">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>niemand sonst hat sie seit dem Öffnen gespeichert</translation>
+    </message>
+    <message id="951012">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>hinzugefügte Systeme: %s</translation>
+    </message>
+    <message id="951013">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>geänderte Systeme: %s</translation>
+    </message>
+    <message id="951014">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>entfernte Systeme: %s</translation>
+    </message>
+    <message id="951015">
+        <source></source>
+        <extracomment>Report; where, and three counts</extracomment>
+        <translation>%s: %d Objekte hinzugefügt, %d geändert, %d entfernt</translation>
+    </message>
+    <message id="951016">
+        <source></source>
+        <extracomment>Report; count and numbers</extracomment>
+        <translation>Auf beiden Seiten geändert: %d Objekte (%s)</translation>
+    </message>
+    <message id="951017">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>Auf beiden Seiten geändert: %s</translation>
+    </message>
+    <message id="951018">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>In dieser Zeichnung</translation>
+    </message>
+    <message id="951019">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>In der Datei</translation>
+    </message>
+    <message id="951020">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>Übernommen</translation>
+    </message>
+    <message id="951021">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>Der Verlauf für Rückgängig wurde geleert.</translation>
+    </message>
+    <message id="951022">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>Die Zeichnung behält davon Ihre Fassungen. Sie sind noch nicht gespeichert: SAVE überschreibt die anderen.</translation>
+    </message>
+    <message id="951023">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Speichern unter</translation>
+    </message>
+    <message id="951024">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Unterschiede zeigen</translation>
+    </message>
+    <message id="951025">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Fremde Änderungen übernehmen</translation>
+    </message>
+    <message id="951026">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Trotzdem schreiben</translation>
+    </message>
+    <message id="951027">
+        <source></source>
+        <extracomment>Question after a save was refused</extracomment>
+        <translation>Wie möchten Sie fortfahren?</translation>
+    </message>
+    <message id="951028">
+        <source></source>
+        <extracomment>Message; drawing and reason</extracomment>
+        <translation>%s ist nur zum Lesen geöffnet: %s</translation>
+    </message>
+    <message id="951029">
+        <source></source>
+        <extracomment>Question; with the file</extracomment>
+        <translation>%s hat sich seit dem Öffnen geändert; beim Ersetzen geht verloren, was andere darin gespeichert haben. Ersetzen?</translation>
+    </message>
+    <message id="951030">
+        <source></source>
+        <extracomment>Message; drawing, user, host, program, time</extracomment>
+        <translation>%s ist auch anderswo geöffnet: %s auf %s, %s, seit %s UTC</translation>
+    </message>
+    <message id="951031">
+        <source></source>
+        <extracomment>Question</extracomment>
+        <translation>Nur zum Lesen öffnen?</translation>
+    </message>
+    <message id="951032">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>ein anderes Programm hat sie geöffnet</translation>
+    </message>
+    <message id="951033">
+        <source></source>
+        <extracomment>In the list of drawings</extracomment>
+        <translation>, nur zum Lesen</translation>
+    </message>
+    <message id="951034">
+        <source></source>
+        <extracomment>Message; drawing</extracomment>
+        <translation>%s ist nur zum Lesen geöffnet.</translation>
+    </message>
+    <message id="951040">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>sie ist nur zum Lesen geöffnet</translation>
+    </message>
+    <message id="951041">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>keine gewöhnliche Datei</translation>
     </message>
 </context>
 </TS>

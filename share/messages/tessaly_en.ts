@@ -40,7 +40,7 @@
     </message>
     <message id="1216">
         <source></source>
-        <extracomment>Column of the system manager: what a system is for</extracomment>
+        <extracomment>Column of the system manager: the system's function</extracomment>
         <translation>Function</translation>
     </message>
     <message id="1253">
@@ -117,7 +117,7 @@
         <source></source>
         <extracomment>Prompt on the command line</extracomment>
         <translation>
-The systems are marked. Press Enter to go on: </translation>
+The systems are marked. Press Enter to continue: </translation>
     </message>
     <message id="5248">
         <source></source>
@@ -197,26 +197,26 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="7246">
         <source></source>
         <extracomment>Tooltip of a dialog's caption button</extracomment>
-        <translation>Roll up</translation>
+        <translation>Collapse</translation>
     </message>
     <message id="7247">
         <source></source>
         <extracomment>Tooltip of a dialog's caption button</extracomment>
-        <translation>Unroll</translation>
+        <translation>Expand</translation>
     </message>
     <message id="7533">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Errors</translation>
     </message>
     <message id="7534">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Information</translation>
     </message>
     <message id="7535">
         <source></source>
-        <extracomment>Filter button of the log view, with a count behind it</extracomment>
+        <extracomment>Filter button of the log view, followed by a count</extracomment>
         <translation>Warnings</translation>
     </message>
     <message id="7623">
@@ -296,12 +296,12 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="10300">
         <source></source>
-        <extracomment>Memory report, with a number behind it</extracomment>
+        <extracomment>Memory report, followed by a number</extracomment>
         <translation>Available</translation>
     </message>
     <message id="10301">
         <source></source>
-        <extracomment>Memory report, with a number behind it</extracomment>
+        <extracomment>Memory report, followed by a number</extracomment>
         <translation>Used</translation>
     </message>
     <message id="10530">
@@ -681,32 +681,32 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900331">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Language:</translation>
     </message>
     <message id="900332">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Minutes between autosaves (0 = off):</translation>
     </message>
     <message id="900333">
         <source></source>
-        <extracomment>Check box in the general settings, with its letter</extracomment>
+        <extracomment>Check box in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Run queries dropped on a dialog</translation>
     </message>
     <message id="900334">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>C&amp;olour of highlights:</translation>
     </message>
     <message id="900335">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Decimals for equal positions:</translation>
     </message>
     <message id="900336">
         <source></source>
-        <extracomment>Label in the general settings, with its letter</extracomment>
+        <extracomment>Label in the general settings, with its mnemonic</extracomment>
         <translation>&amp;Net repository (folder):</translation>
     </message>
     <message id="900340">
@@ -1076,7 +1076,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900521">
         <source></source>
-        <extracomment>Reason; with what was asked for, and where it was looked for</extracomment>
+        <extracomment>Reason; with what was searched for, and where</extracomment>
         <translation>There is no &quot;%s&quot; in &quot;%s&quot;.</translation>
     </message>
     <message id="900522">
@@ -1116,17 +1116,17 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900541">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>Fi&amp;nd what:</translation>
     </message>
     <message id="900542">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>&amp;System:</translation>
     </message>
     <message id="900543">
         <source></source>
-        <extracomment>Label in the find dialog, with its letter</extracomment>
+        <extracomment>Label in the find dialog, with its mnemonic</extracomment>
         <translation>&amp;Where:</translation>
     </message>
     <message id="900544">
@@ -1176,7 +1176,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900554">
         <source></source>
-        <extracomment>Column: the text that was met</extracomment>
+        <extracomment>Column: the text that matched</extracomment>
         <translation>Found in</translation>
     </message>
     <message id="900555">
@@ -1261,7 +1261,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900578">
         <source></source>
-        <extracomment>Reason; with what was typed, and the property</extracomment>
+        <extracomment>Reason; with the input and the property</extracomment>
         <translation>"%s" is not a number; %s must be one.</translation>
     </message>
     <message id="900579">
@@ -1281,12 +1281,12 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="900582">
         <source></source>
-        <extracomment>Prompt; with the value now</extracomment>
+        <extracomment>Prompt; with the current value</extracomment>
         <translation>Value &lt;%s&gt;: </translation>
     </message>
     <message id="900583">
         <source></source>
-        <extracomment>Reason; with what was typed</extracomment>
+        <extracomment>Reason; with the input</extracomment>
         <translation>There is no property &quot;%s&quot;.</translation>
     </message>
     <message id="900584">
@@ -1337,7 +1337,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="900593">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>prints the menu of a node of a tree, given by its path</translation>
+        <translation>prints the menu of a tree node, given its path</translation>
     </message>
     <message id="900594">
         <source></source>
@@ -1347,7 +1347,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="900595">
         <source></source>
         <extracomment>Command</extracomment>
-        <translation>prints what the system, disk and net trees show</translation>
+        <translation>prints the content of the system, disk and net trees</translation>
     </message>
     <message id="900610">
         <source></source>
@@ -1547,7 +1547,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910023">
         <source></source>
         <extracomment>Module file, its size, the size needed</extracomment>
-        <translation>%s: cut short, %u of at least %u bytes</translation>
+        <translation>%s: truncated, %u of at least %u bytes</translation>
     </message>
     <message id="910024">
         <source></source>
@@ -1601,7 +1601,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="910037">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>"%s" is not a colour.</translation>
     </message>
     <message id="910038">
@@ -1647,7 +1647,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910103">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>the kind of entities it queries is missing</translation>
+        <translation>the entity type to query is missing</translation>
     </message>
     <message id="910104">
         <source></source>
@@ -1672,7 +1672,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910108">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>it is not named after a GUID</translation>
+        <translation>its file name is not a GUID</translation>
     </message>
     <message id="910109">
         <source></source>
@@ -1717,7 +1717,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910117">
         <source></source>
         <extracomment>File, line, word</extracomment>
-        <translation>%s:%d: a second section "%s"</translation>
+        <translation>%s:%d: duplicate section "%s"</translation>
     </message>
     <message id="910118">
         <source></source>
@@ -1732,22 +1732,22 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910120">
         <source></source>
         <extracomment>File, line</extracomment>
-        <translation>%s:%d: the number of a function must be above 0</translation>
+        <translation>%s:%d: the number of a function must be greater than 0</translation>
     </message>
     <message id="910121">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: a second function %d</translation>
+        <translation>%s:%d: duplicate function %d</translation>
     </message>
     <message id="910122">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: there is no entity type %d</translation>
+        <translation>%s:%d: unknown entity type %d</translation>
     </message>
     <message id="910123">
         <source></source>
         <extracomment>File, line, number</extracomment>
-        <translation>%s:%d: a second entity type %d</translation>
+        <translation>%s:%d: duplicate entity type %d</translation>
     </message>
     <message id="910124">
         <source></source>
@@ -1767,7 +1767,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910127">
         <source></source>
         <extracomment>File, line, text</extracomment>
-        <translation>%s:%d: not a name with one place for a number, such as J%%d or J%%04d: "%s"</translation>
+        <translation>%s:%d: not a name pattern with one number placeholder, such as J%%d or J%%04d: "%s"</translation>
     </message>
     <message id="910128">
         <source></source>
@@ -1782,7 +1782,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910130">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>a document type is not allowed</translation>
+        <translation>document type declarations are not allowed</translation>
     </message>
     <message id="910131">
         <source></source>
@@ -1837,7 +1837,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="910200">
         <source></source>
         <extracomment>Why a command cannot run</extracomment>
-        <translation>No module carries it out</translation>
+        <translation>No module implements it</translation>
     </message>
     <message id="910201">
         <source></source>
@@ -1856,7 +1856,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911002">
         <source></source>
         <extracomment>First line of a run</extracomment>
-        <translation>Tessaly. HELP lists the commands, QUIT leaves.</translation>
+        <translation>Tessaly. HELP lists the commands, QUIT exits.</translation>
     </message>
     <message id="911003">
         <source></source>
@@ -1864,6 +1864,7 @@ The systems are marked. Press Enter to go on: </translation>
         <translation>tessaly [--console] [options] [drawing]
   drawing         a GeoPackage (.gpkg) to open at startup
   --console       use the command line on standard input and output
+  --read-only     open drawings that another program has open read-only
   --script FILE   run the commands in a file, one per line, and exit with the
                   status of the first command that fails
   --first FILE    run the commands in a file, then continue at the prompt
@@ -1893,7 +1894,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911007">
         <source></source>
         <extracomment>Value of the option</extracomment>
-        <translation>--theme %s: it can be light or dark</translation>
+        <translation>--theme %s: must be light or dark</translation>
     </message>
     <message id="911010">
         <source></source>
@@ -1922,7 +1923,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911015">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>Unknown command "%s". HELP lists the commands.</translation>
     </message>
     <message id="911020">
@@ -1994,13 +1995,13 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911035">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>There is no drawing "%s". DRAWINGS lists them.</translation>
     </message>
     <message id="911036">
         <source></source>
         <extracomment>Name</extracomment>
-        <translation>Several drawings are called %s. Give the number.</translation>
+        <translation>There are several drawings named %s. Enter the number.</translation>
     </message>
     <message id="911037">
         <source></source>
@@ -2060,7 +2061,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911051">
         <source></source>
-        <extracomment>Prompt, a position in the drawing is asked for</extracomment>
+        <extracomment>Prompt for a position in the drawing</extracomment>
         <translation>Pick an entity: </translation>
     </message>
     <message id="911052">
@@ -2088,7 +2089,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911057">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>"%s" is neither a choice nor a zoom factor.</translation>
     </message>
     <message id="911060">
@@ -2200,7 +2201,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911091">
         <source></source>
         <extracomment>What REDO does</extracomment>
-        <translation>redoes what UNDO undid</translation>
+        <translation>redoes the last undone command</translation>
     </message>
     <message id="911092">
         <source></source>
@@ -2289,7 +2290,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911114">
         <source></source>
-        <extracomment>Reason and what it means</extracomment>
+        <extracomment>Reason and its consequence</extracomment>
         <translation>%s; the file's other contents were not copied</translation>
     </message>
     <message id="911115">
@@ -2390,7 +2391,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911134">
         <source></source>
         <extracomment>Reason; size, size it should have</extracomment>
-        <translation>it is cut short: %d of %d bytes</translation>
+        <translation>it is truncated: %d of %d bytes</translation>
     </message>
     <message id="911135">
         <source></source>
@@ -2400,7 +2401,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911136">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>it was cut short while being copied</translation>
+        <translation>it was truncated while being copied</translation>
     </message>
     <message id="911137">
         <source></source>
@@ -2420,7 +2421,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911141">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>it is cut short</translation>
+        <translation>it is truncated</translation>
     </message>
     <message id="911142">
         <source></source>
@@ -2445,7 +2446,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911146">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>it is cut short: its last line is not EOF</translation>
+        <translation>it is truncated: its last line is not EOF</translation>
     </message>
     <message id="911150">
         <source></source>
@@ -2479,7 +2480,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="911156">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>There is no command "%s". HELP lists the commands.</translation>
     </message>
     <message id="911157">
@@ -2590,7 +2591,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911318">
         <source></source>
         <extracomment>Menu</extracomment>
-        <translation>As the &amp;system</translation>
+        <translation>&amp;System setting</translation>
     </message>
     <message id="911319">
         <source></source>
@@ -2710,7 +2711,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911344">
         <source></source>
         <extracomment>In place of an answer</extracomment>
-        <translation>*Nothing there*</translation>
+        <translation>*No entity*</translation>
     </message>
     <message id="911345">
         <source></source>
@@ -2725,7 +2726,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="911351">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>it is cut short, or was written by another version</translation>
+        <translation>it is truncated, or was written by another version</translation>
     </message>
     <message id="911352">
         <source></source>
@@ -2909,7 +2910,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="912041">
         <source></source>
         <extracomment>Count, limit</extracomment>
-        <translation>the line has %u characters, more than %u</translation>
+        <translation>the line has %u characters; the limit is %u</translation>
     </message>
     <message id="912042">
         <source></source>
@@ -2922,7 +2923,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="912044">
         <source></source>
         <extracomment>Heading</extracomment>
-        <translation>the section heading %s is cut off</translation>
+        <translation>the section heading %s is incomplete</translation>
     </message>
     <message id="912045">
         <source></source>
@@ -3244,7 +3245,7 @@ The systems are marked. Press Enter to go on: </translation>
     </message>
     <message id="912148">
         <source></source>
-        <extracomment>What was typed</extracomment>
+        <extracomment>The input</extracomment>
         <translation>"%s" is not a valid distance.</translation>
     </message>
     <message id="912149">
@@ -3282,7 +3283,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="912201">
         <source></source>
         <extracomment>Reason</extracomment>
-        <translation>a brace is not matched by another one</translation>
+        <translation>unmatched brace</translation>
     </message>
     <message id="912202">
         <source></source>
@@ -3357,12 +3358,12 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="920001">
         <source></source>
         <extracomment>Report at a start; module, command</extracomment>
-        <translation>%s registers the command %s, which the program has itself. Typed, the program&apos;s command runs.</translation>
+        <translation>%s registers the command %s, which is built into the program. Typing it runs the program's command.</translation>
     </message>
     <message id="920002">
         <source></source>
         <extracomment>Report at a start; module, command, command</extracomment>
-        <translation>%s registers the command %s, which differs from %s only in upper and lower case.</translation>
+        <translation>%s registers the command %s, which differs from %s only in case.</translation>
     </message>
     <message id="920010">
         <source></source>
@@ -3402,7 +3403,7 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="930001">
         <source></source>
         <extracomment>Reason; with the id of a command</extracomment>
-        <translation>&quot;%s&quot; is not a command on configurations.</translation>
+        <translation>&quot;%s&quot; is not a command for configurations.</translation>
     </message>
     <message id="930002">
         <source></source>
@@ -3412,12 +3413,12 @@ The systems are marked. Press Enter to go on: </translation>
     <message id="930003">
         <source></source>
         <extracomment>Reason; with the tag of a family</extracomment>
-        <translation>The module of the family &quot;%s&quot; provides no place to keep its configurations.</translation>
+        <translation>The module of the family &quot;%s&quot; provides no storage for its configurations.</translation>
     </message>
     <message id="930004">
         <source></source>
         <extracomment>Reason; with the id of a command</extracomment>
-        <translation>&quot;%s&quot; needs a configuration of its own family to run.</translation>
+        <translation>&quot;%s&quot; can only run configurations of its own family.</translation>
     </message>
     <message id="930005">
         <source></source>
@@ -3443,6 +3444,191 @@ The systems are marked. Press Enter to go on: </translation>
         <source></source>
         <extracomment>Reason</extracomment>
         <translation>it has no list of modules</translation>
+    </message>
+    <message id="951000">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>it has been saved by another program since it was opened here</translation>
+    </message>
+    <message id="951001">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>another drawing has taken its place</translation>
+    </message>
+    <message id="951002">
+        <source></source>
+        <extracomment>Who saved a drawing; user, host, program, time</extracomment>
+        <translation>%s on %s, %s, %s UTC</translation>
+    </message>
+    <message id="951003">
+        <source></source>
+        <extracomment>Reason; with a reason and who saved last</extracomment>
+        <translation>%s (last save: %s)</translation>
+    </message>
+    <message id="951004">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>waiting for another program&apos;s lock was cancelled</translation>
+    </message>
+    <message id="951005">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>another file was put in its place just now; try again</translation>
+    </message>
+    <message id="951006">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>another program has changed it just now; try again</translation>
+    </message>
+    <message id="951007">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>its symbolic links form a loop</translation>
+    </message>
+    <message id="951008">
+        <source></source>
+        <extracomment>Reason; with a table</extracomment>
+        <translation>its table %s is missing; the drawing lacks its contents</translation>
+    </message>
+    <message id="951009">
+        <source></source>
+        <extracomment>Reason; with tables</extracomment>
+        <translation>its tables %s are missing; the drawing lacks their contents</translation>
+    </message>
+    <message id="951010">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>the file does not record what has changed since the drawing was opened</translation>
+    </message>
+    <message id="951011">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>nobody else has saved it since it was opened here</translation>
+    </message>
+    <message id="951012">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>systems added: %s</translation>
+    </message>
+    <message id="951013">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>systems changed: %s</translation>
+    </message>
+    <message id="951014">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>systems removed: %s</translation>
+    </message>
+    <message id="951015">
+        <source></source>
+        <extracomment>Report; where, and three counts</extracomment>
+        <translation>%s: %d entities added, %d changed, %d removed</translation>
+    </message>
+    <message id="951016">
+        <source></source>
+        <extracomment>Report; count and numbers</extracomment>
+        <translation>Changed on both sides: %d entities (%s)</translation>
+    </message>
+    <message id="951017">
+        <source></source>
+        <extracomment>Report; with names</extracomment>
+        <translation>Changed on both sides: %s</translation>
+    </message>
+    <message id="951018">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>In this drawing</translation>
+    </message>
+    <message id="951019">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>In the file</translation>
+    </message>
+    <message id="951020">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>Taken over</translation>
+    </message>
+    <message id="951021">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>The undo history was cleared.</translation>
+    </message>
+    <message id="951022">
+        <source></source>
+        <extracomment>Report</extracomment>
+        <translation>The drawing keeps your versions of these. They are not saved yet: SAVE overwrites the other ones.</translation>
+    </message>
+    <message id="951023">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Save as</translation>
+    </message>
+    <message id="951024">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Show differences</translation>
+    </message>
+    <message id="951025">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Take over their changes</translation>
+    </message>
+    <message id="951026">
+        <source></source>
+        <extracomment>Choice</extracomment>
+        <translation>Write anyway</translation>
+    </message>
+    <message id="951027">
+        <source></source>
+        <extracomment>Question after a save was refused</extracomment>
+        <translation>How do you want to continue?</translation>
+    </message>
+    <message id="951028">
+        <source></source>
+        <extracomment>Message; drawing and reason</extracomment>
+        <translation>%s is open read-only: %s</translation>
+    </message>
+    <message id="951029">
+        <source></source>
+        <extracomment>Question; with the file</extracomment>
+        <translation>%s has changed since it was opened here; replacing it loses what others saved in it. Replace it?</translation>
+    </message>
+    <message id="951030">
+        <source></source>
+        <extracomment>Message; drawing, user, host, program, time</extracomment>
+        <translation>%s is open elsewhere: %s on %s, %s, since %s UTC</translation>
+    </message>
+    <message id="951031">
+        <source></source>
+        <extracomment>Question</extracomment>
+        <translation>Open it read-only?</translation>
+    </message>
+    <message id="951032">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>another program has it open</translation>
+    </message>
+    <message id="951033">
+        <source></source>
+        <extracomment>In the list of drawings</extracomment>
+        <translation>, read-only</translation>
+    </message>
+    <message id="951034">
+        <source></source>
+        <extracomment>Message; drawing</extracomment>
+        <translation>%s is open read-only.</translation>
+    </message>
+    <message id="951040">
+        <source></source>
+        <extracomment>Reason</extracomment>
+        <translation>it is open read-only</translation>
+    </message>
+    <message id="951041">
+        <source></source>
+        <extracomment>Error of the operating system</extracomment>
+        <translation>not a regular file</translation>
     </message>
 </context>
 </TS>

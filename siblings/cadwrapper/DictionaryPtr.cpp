@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kTextRecord = 1;
 
-/// Opens a dictionary of the drawing for the time of a call.
+/// Opens a dictionary of the drawing for the duration of a call.
 template <class Use>
 Acad::ErrorStatus WithDictionary(AcDbDatabase& database, AcDbObjectId id, AcDb::OpenMode mode,
                                  Use use) {
@@ -64,7 +64,7 @@ Acad::ErrorStatus CORVCDictionaryPtr::dctWrite(const wchar_t* dictionary, const 
     return WithDictionary(*m_pDatabase, id, AcDb::kForWrite, [&](AcDbDictionary& target) {
         const CString* const pBefore = target.getAt(record);
         const CString after = bAppend && pBefore ? *pBefore + text : CString(text);
-        // What stands there already is no change of the drawing.
+        // Rewriting identical data must not mark the drawing as changed.
         if (!pBefore || *pBefore != after) {
             target.setAt(record, after);
         }

@@ -1,4 +1,4 @@
-// The drawing's dictionaries, for whoever keeps texts in a drawing.
+// Access to the drawing's dictionaries, for modules that store texts in a drawing.
 #pragma once
 
 #include "platform/arx/AcadStatus.h"
@@ -9,9 +9,9 @@ class AcDbDatabase;
 
 namespace Orvane {
 
-/// The dictionaries of the working database, opened in a mode. Writing through one that was
-/// opened for reading opens what it writes to for that moment. Closed at the end at the
-/// latest.
+/// The dictionaries of the working database, opened in one mode. Writing through an object opened
+/// for reading opens the target for writing during that call only. Closed by the destructor at
+/// the latest.
 class CADWRAPPER_API CORVCDictionaryPtr {
 public:
     explicit CORVCDictionaryPtr(AcDb::OpenMode mode);
@@ -27,17 +27,18 @@ public:
     Acad::ErrorStatus close();
 
     /// Writes a record of a dictionary.
-    /// \param bAppend behind what the record holds, instead of in its place
-    /// \param bCreate makes the dictionary if there is none; otherwise that is eKeyNotFound
-    /// \param nType kind of the record; 1, a text, is the only one
+    /// \param bAppend append to the record instead of replacing its contents
+    /// \param bCreate create a missing dictionary; otherwise a missing one gives eKeyNotFound
+    /// \param nType type of the record; only 1 (text) exists
     Acad::ErrorStatus dctWrite(const wchar_t* dictionary, const wchar_t* record,
                                const wchar_t* text, bool bAppend, bool bCreate, int nType);
-    /// Texts of any length. eKeyNotFound, and the text untouched, if there is no such record.
+    /// Reads a text of any length. Returns eKeyNotFound and leaves the text untouched if there is
+    /// no such record.
     Acad::ErrorStatus dctReadBigString(const wchar_t* dictionary, const wchar_t* record,
                                        CString& text) const;
     Acad::ErrorStatus dctWriteBigString(const wchar_t* dictionary, const wchar_t* record,
                                         const wchar_t* text);
-    /// Erases a dictionary with its records.
+    /// Erases a dictionary and its records.
     Acad::ErrorStatus dctErase(const wchar_t* dictionary);
 
 private:

@@ -1,4 +1,4 @@
-// The lock around work on a drawing.
+// Document lock for work on a drawing.
 #pragma once
 
 #include "siblings/cadwrapper/Api.h"
@@ -7,8 +7,8 @@ class AcApDocument;
 
 namespace Orvane {
 
-/// Keeps the current document from being closed while it lives; locks nest. Without a
-/// document it does nothing.
+/// Prevents the current document from being closed during its lifetime; locks nest. Does nothing
+/// if no document is open.
 class CADWRAPPER_API CORVCDocLock {
 public:
     CORVCDocLock();

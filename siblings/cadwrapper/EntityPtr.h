@@ -1,4 +1,4 @@
-// An entity of the drawing, open for as long as it is looked at.
+// Scoped access to an entity of the drawing.
 #pragma once
 
 #include "platform/arx/DbEntity.h"
@@ -6,8 +6,8 @@
 
 namespace Orvane {
 
-/// Opens an entity of the working database and closes it at the end at the latest. Null if
-/// the object cannot be opened or is no entity.
+/// Opens an entity of the working database and closes it on destruction at the latest. Null if
+/// the object cannot be opened or is not an entity.
 class CADWRAPPER_API CORVCEntityPtr {
 public:
     CORVCEntityPtr(AcDbObjectId id, AcDb::OpenMode mode);

@@ -17,13 +17,13 @@ void CAnsi2UnicodeUtility::ReserveBufferMemory(std::size_t characters) {
 }
 
 void CAnsi2UnicodeUtility::ReleaseBufferMemory() {
-    // Swapped, since clear and shrink_to_fit may keep the memory.
+    // Swap, because clear and shrink_to_fit may keep the memory.
     std::wstring().swap(m_strUnicode);
     std::string().swap(m_strAnsi);
 }
 
 std::size_t CAnsi2UnicodeUtility::GetBufferCapacity() const {
-    // An empty text has a little room inside the object, which nobody reserved.
+    // The small-string buffer inside the object was never reserved by anyone.
     const std::size_t room = std::min(m_strUnicode.capacity(), m_strAnsi.capacity());
     return room > std::string().capacity() ? room : 0;
 }
@@ -37,7 +37,7 @@ const wchar_t* CAnsi2UnicodeUtility::AnsiToUnicode(std::string_view bytes) {
 
 const char* CAnsi2UnicodeUtility::UnicodeToAnsi(std::wstring_view text) {
     m_strAnsi.clear();
-    // In pieces short enough to need no allocation on the way.
+    // In chunks short enough for the small-string buffer.
     constexpr std::size_t kPiece = 15;
     for (std::size_t at = 0; at < text.size(); at += kPiece) {
         m_strAnsi += WideToAnsi(text.substr(at, kPiece));

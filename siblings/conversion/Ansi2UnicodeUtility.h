@@ -1,4 +1,4 @@
-// Conversion between texts of the ANSI code page and wide texts, many of them in a row.
+// Bulk conversion between ANSI code page and wide strings.
 #pragma once
 
 #include <cstddef>
@@ -9,25 +9,25 @@
 
 namespace Orvane {
 
-/// Converts into memory of its own, so that a run of conversions allocates nothing once
-/// the memory is large enough. Main thread only.
+/// Converts into internal buffers, so a series of conversions does not allocate once the buffers
+/// are large enough. Main thread only.
 class CONVERSION_API CAnsi2UnicodeUtility {
 public:
     /// Lives to the end of the process.
     static CAnsi2UnicodeUtility* Instance();
 
-    /// Makes room for texts of so many characters, in both directions. Longer ones are
-    /// converted as well; they only cost an allocation.
+    /// Reserves buffers for texts of this many characters, in both directions. Longer texts still
+    /// work but cost an allocation.
     void ReserveBufferMemory(std::size_t characters);
-    /// Gives the memory back. What the conversions returned is gone with it.
+    /// Frees the buffers and invalidates everything returned so far.
     void ReleaseBufferMemory();
-    /// Characters that fit without an allocation; 0 if nothing is reserved.
+    /// Number of characters that fit without an allocation; 0 if nothing is reserved.
     std::size_t GetBufferCapacity() const;
 
-    /// Ends with a NUL. Valid until the next call of this operation or of
-    /// ReleaseBufferMemory; the argument must not lie in the result of an earlier call.
+    /// NUL-terminated. Valid until the next call of this function or of ReleaseBufferMemory; the
+    /// argument must not point into an earlier result.
     const wchar_t* AnsiToUnicode(std::string_view bytes);
-    /// The same for the other direction; what the code page lacks becomes "?".
+    /// The reverse direction; characters missing from the code page become "?".
     const char* UnicodeToAnsi(std::wstring_view text);
 
 private:

@@ -1,14 +1,14 @@
-// A tool that tells about what the cursor points at.
+// An interactive tool that shows information about the entity under the cursor.
 #pragma once
 
 #include "platform/win/String.h"
 
 namespace Orvane::Utility {
 
-/// Provided by plug-ins. The order of the operations is part of the interface.
+/// Implemented by plug-ins. The order of the virtual functions is part of the interface.
 class IInfoTooltip {
 public:
-    /// As it stands in the menu.
+    /// Name shown in the menu.
     virtual CString GetName() = 0;
     /// Runs the tool until the user ends it.
     virtual void Run() = 0;

@@ -1,4 +1,4 @@
-// The info tools that plug-ins have brought.
+// The info tools registered by plug-ins.
 #pragma once
 
 #include <boost/shared_ptr.hpp>

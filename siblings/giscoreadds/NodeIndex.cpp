@@ -14,7 +14,7 @@ CNodeIndex* CNodeIndex::Instance() {
 
 void CNodeIndex::Changed(int changed) {
     if (changed) {
-        m_pIndex.reset(); // its memory is not needed until somebody asks
+        m_pIndex.reset(); // frees the memory; rebuilt on the next query
     }
 }
 

@@ -33,7 +33,7 @@ double DistanceToEdge(double x, double y, const Point& a, const Point& b) {
     return std::hypot(x - (a.x + t * dx), y - (a.y + t * dy));
 }
 
-/// From a point to the area between rings; 0 inside and on the border.
+/// Distance from a point to the area between the rings; 0 inside and on the border.
 double DistanceToArea(double x, double y, const Rings& rings) {
     double distance = kNothing;
     bool inside = false;
@@ -43,7 +43,7 @@ double DistanceToArea(double x, double y, const Rings& rings) {
             const Point& b = ring.points[(i + 1) % ring.points.size()];
             distance = std::min(distance, DistanceToEdge(x, y, a, b));
             if ((a.y > y) != (b.y > y) && x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) {
-                inside = !inside; // the edge is crossed by the ray to the right
+                inside = !inside; // a ray to the right crosses this edge
             }
         }
     }
@@ -78,7 +78,7 @@ void CPolygonIndex::Build() {
     for (const Topology::CPolygon polygon : topology.GetPolygonVector()) {
         const Box box = BoxOf(polygon.GetExtents());
         m_entries.push_back({polygon.GetObjectId(), polygon.GetSystemId(), box});
-        boxes.push_back({box, polygon.GetObjectId().number()}); // an empty one is left out
+        boxes.push_back({box, polygon.GetObjectId().number()}); // the index skips empty boxes
     }
     m_pIndex = std::make_unique<CSpatialIndex>(boxes);
     m_nBuiltFor = topology.GetChangeStamp(EntityPolygon);
@@ -91,7 +91,7 @@ const std::vector<PolygonIndexEntry>& CPolygonIndex::GetPolygonIndex() {
 
 const PolygonIndexEntry* CPolygonIndex::GetIndexEntry(AcDbObjectId id) {
     Build();
-    // The entries come in the order of their ids.
+    // The entries are sorted by id.
     const auto hit = std::lower_bound(
         m_entries.begin(), m_entries.end(), id,
         [](const PolygonIndexEntry& entry, AcDbObjectId wanted) { return entry.id < wanted; });
@@ -118,8 +118,8 @@ AcDbObjectId CPolygonIndex::GetNearestPolygon(double x, double y, double maxDist
     Build();
     AcDbObjectId nearest;
     double best = maxDistance;
-    // A box is never farther away than what it bounds, so the search may end at the first
-    // box that is farther than the best polygon.
+    // A box is never farther away than its contents, so the search can stop at the first box that
+    // is farther than the best polygon.
     for (std::size_t count = 8;; count *= 2) {
         const auto hits = m_pIndex->Nearest(x, y, maxDistance, count);
         std::size_t looked = 0;

@@ -1,4 +1,4 @@
-// A choice of entities of a drawing.
+// A set of selected entities of a drawing.
 #pragma once
 
 #include <unordered_set>
@@ -10,10 +10,10 @@
 
 namespace Orvane::Selection {
 
-/// Entities by id, each once, in the order in which they were chosen.
+/// Entities by id, without duplicates, in the order of selection.
 class GISCOREADDS_API CSelectionSet {
 public:
-    /// False if it was in the set already.
+    /// False if it was already in the set.
     bool Add(AcDbObjectId id, enmEntityType type);
     bool Remove(AcDbObjectId id);
     void Clear();
@@ -33,7 +33,7 @@ private:
     std::vector<AcDbObjectId> OfType(enmEntityType type) const;
 
     std::vector<Entry> m_entries;
-    std::unordered_set<AcDbObjectId> m_ids; ///< for finding them
+    std::unordered_set<AcDbObjectId> m_ids; ///< for look-up
 };
 
 } // namespace Orvane::Selection

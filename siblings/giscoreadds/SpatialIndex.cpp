@@ -1,6 +1,6 @@
 #include "siblings/giscoreadds/SpatialIndex.h"
 
-// Boost includes headers of its own that it calls outdated, and says so at each build.
+// Boost includes its own deprecated headers, which warn at each build.
 #define BOOST_ALLOW_DEPRECATED_HEADERS
 
 #include <algorithm>
@@ -91,7 +91,7 @@ std::vector<CSpatialIndex::Hit> CSpatialIndex::Nearest(double x, double y, doubl
     for (auto at = m_tree->tree.qbegin(nearest); at != m_tree->tree.qend(); ++at) {
         const Hit hit{at->second, DistanceTo(at->first, x, y)};
         if (hit.distance > maxDistance) {
-            break; // they come nearest first
+            break; // hits are sorted by distance
         }
         hits.push_back(hit);
     }

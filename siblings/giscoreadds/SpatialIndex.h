@@ -1,4 +1,4 @@
-// Search of drawing entities by place.
+// Spatial search over the entities of a drawing.
 #pragma once
 
 #include <cstddef>
@@ -13,8 +13,8 @@
 
 namespace Orvane::Selection {
 
-/// An upright rectangle in drawing units; its border belongs to it. A point is a box
-/// whose two corners coincide.
+/// An axis-aligned rectangle in drawing units, borders included. A box whose corners coincide is
+/// a point.
 struct Box {
     double minX = 0;
     double minY = 0;
@@ -22,16 +22,15 @@ struct Box {
     double maxY = 0;
 };
 
-/// A box and the caller's number for what it bounds. Numbers may repeat: a long entity
-/// is better entered as several short boxes than as one that covers half a drawing.
+/// A box and the caller's number for its contents. Numbers may repeat: it is better to enter a
+/// long entity as several short boxes than as one that covers half the drawing.
 struct BoxEntry {
     Box box;
     std::uint32_t id = 0;
 };
 
-/// Boxes packed into a tree, for search by place. The tree is built once, in n log n,
-/// and never changes; searching it from several threads is safe. It owns copies of the
-/// boxes and nothing else.
+/// An immutable packed tree of boxes, built once in O(n log n). Safe to search from several
+/// threads. Owns copies of the boxes only.
 class GISCOREADDS_API CSpatialIndex {
 public:
     struct Hit {
@@ -40,8 +39,7 @@ public:
     };
 
     CSpatialIndex();
-    /// Entries with a corner that is not a finite number, or whose corners are swapped,
-    /// are left out.
+    /// Skips entries with non-finite or swapped corners.
     explicit CSpatialIndex(std::span<const BoxEntry> entries);
     ~CSpatialIndex();
     CSpatialIndex(CSpatialIndex&& other) noexcept;
@@ -61,8 +59,9 @@ public:
             const_cast<void*>(static_cast<const void*>(std::addressof(visit))));
     }
 
-    /// The entries nearest to a point, nearest first. At most `count`, and none farther
-    /// away than `maxDistance`; which of equally near ones fall off the end is open.
+    /// The entries nearest to a point, nearest first: at most `count`, and none farther away than
+    /// `maxDistance`. If equally near entries exceed `count`, which ones are returned is
+    /// unspecified.
     std::vector<Hit> Nearest(double x, double y, double maxDistance, std::size_t count) const;
     std::optional<Hit> Nearest(double x, double y, double maxDistance) const;
 

@@ -25,7 +25,7 @@ std::string& LogFile() {
 void ReadLoggingSettings() {
     const CString support = WithSeparator(GetHostOption(kHostOptionSupport));
     IniFile settings;
-    settings.Load(support + L"Settings.ini"); // one that is not there leaves the trace off
+    settings.Load(support + L"Settings.ini"); // a missing file leaves the trace off
     const CString* const pOn = settings.Find(L"Logging", L"on");
     const CString* const pFile = settings.Find(L"Logging", L"file");
     const CString asked = GetHostOption(kHostOptionTrace);
@@ -35,7 +35,7 @@ void ReadLoggingSettings() {
                                 ? fs::path(NativePath(support)) /
                                       NativePath(pFile && !pFile->IsEmpty() ? *pFile : L"trace.log")
                                 : fs::path(NativePath(asked));
-    std::error_code unknown; // then the path stays as it was stated
+    std::error_code unknown; // on failure the path is used as configured
     const fs::path absolute = fs::absolute(stated, unknown);
     LogFile() = (unknown ? stated : absolute).string();
     s_nLogging = !asked.IsEmpty() || (pOn && *pOn == L"1") ? 1 : 0;
@@ -62,7 +62,7 @@ int CLogEngine::GetLoggingOnOff() {
 }
 
 std::string CLogEngine::GetLogFileFullPath() {
-    GetLoggingOnOff(); // reads the settings if nobody has yet
+    GetLoggingOnOff(); // reads the settings on first use
     return LogFile();
 }
 

@@ -1,4 +1,4 @@
-// Which members of a set hang together.
+// Union-find: groups members into connected parts.
 #pragma once
 
 #include <algorithm>
@@ -8,8 +8,8 @@
 
 namespace Orvane::Topology {
 
-/// Members are numbers from 0 on; at first each is a part of its own. Joining n of them
-/// takes n operations (nearly).
+/// Members are numbered from 0; initially each is a part of its own. Joining n members takes
+/// almost linear time.
 class Components {
 public:
     explicit Components(std::size_t count) : m_parents(count), m_sizes(count, 1) {
@@ -39,13 +39,13 @@ private:
     std::uint32_t Root(std::size_t member) {
         auto at = static_cast<std::uint32_t>(member);
         while (m_parents[at] != at) {
-            m_parents[at] = m_parents[m_parents[at]]; // shortens the way for the next time
+            m_parents[at] = m_parents[m_parents[at]]; // path halving: shortens later searches
             at = m_parents[at];
         }
         return at;
     }
 
-    std::vector<std::uint32_t> m_parents; ///< each points towards the first of its part
+    std::vector<std::uint32_t> m_parents; ///< each points towards the root of its part
     std::vector<std::uint32_t> m_sizes;
     std::size_t m_count = m_parents.size();
 };

@@ -12,8 +12,8 @@
 #include "siblings/networkcore/Section.h"
 #include "siblings/networkcore/TopologyStorage.h"
 
-// Accessors are asked a million times in a row: every operation is one look-up by number and
-// a walk over a few attributes.
+// Accessors are called millions of times in a row, so every operation is one look-up by number
+// and a scan of a few attributes.
 
 namespace Orvane::Topology {
 
@@ -23,7 +23,7 @@ const EntityAttributes& Names() {
     return EntityAttributes::Get();
 }
 
-/// Calls visit(id) for each number of a text as "3 7".
+/// Calls visit(id) for each number in a text such as "3 7".
 template <class Visit>
 void ForEachNumber(std::string_view text, Visit visit) {
     int number = 0;
@@ -42,7 +42,7 @@ void ForEachNumber(std::string_view text, Visit visit) {
 double SignedArea(std::span<const Point> ring) {
     double twice = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {
-        // Seen from the first point, so that far coordinates cost no digits.
+        // Relative to the first point, so that large coordinates lose no precision.
         const Point& a = ring[i];
         const Point& b = ring[(i + 1) % ring.size()];
         twice += (a.x - ring[0].x) * (b.y - ring[0].y) - (b.x - ring[0].x) * (a.y - ring[0].y);
@@ -162,7 +162,7 @@ std::string_view CSection::GetMissingEnd() const {
 }
 
 std::span<const Point> CSection::GetInnerVertices() const {
-    // The line of the drawing goes from node to node, as far as they have a place.
+    // The drawn line runs from node to node, as far as they have a position.
     const std::span<const Point> all = Get<AcDbPolyline>().vertices();
     const CNode start = GetStartNode();
     const CNode end = GetEndNode();

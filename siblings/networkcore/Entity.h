@@ -1,4 +1,4 @@
-// What all entities of a drawing have in common.
+// Base of the accessors for entities of a drawing.
 #pragma once
 
 #include <optional>
@@ -19,25 +19,24 @@ namespace Orvane::Topology {
 
 class CTopologyStorage;
 
-/// Reads one entity of a system where it is: in the drawing. A small value: it holds nothing
-/// of the entity and may be copied at will. It must not outlive the storage; once its entity
-/// was erased it is false, and nothing else may be asked of it. Views stay valid until the
-/// entity changes.
+/// Reads one entity of a system directly from the drawing. A small copyable value that caches
+/// nothing. It must not outlive the storage. Once its entity is erased it tests false, and no
+/// other member may be called. Views stay valid until the entity changes.
 class NETWORKCORE_API CEntity {
 public:
     CEntity() = default;
     CEntity(const CTopologyStorage* pStorage, AcDbObjectId id) : m_pStorage(pStorage), m_id(id) {}
 
-    /// False for an accessor of no entity, or of one that belongs to no system.
+    /// False for a default-constructed accessor, or if the entity belongs to no system.
     explicit operator bool() const;
     AcDbObjectId GetObjectId() const { return m_id; }
-    /// Unique everywhere, and the same as long as the entity lives: the drawing's GUID with
-    /// the object's number.
+    /// Globally unique and stable for the life of the entity: the drawing's GUID plus the object
+    /// number.
     CString GetGuid() const;
     enmEntityType GetEntityType() const;
 
     int GetSystemId() const;
-    /// Null if the drawing has no such system (any more).
+    /// Null if the drawing does not (or no longer) have such a system.
     System::CGisSystem* GetSystem() const;
 
     CString GetName() const;
@@ -45,20 +44,20 @@ public:
     CString GetKind() const;
     std::string_view GetKindUtf8() const;
 
-    /// The upright box around it; empty if it has no place.
+    /// Axis-aligned bounding box; empty if it has no position.
     AcGeExtents2d GetExtents() const { return Get().extents(); }
 
-    /// In the order in which they were set, without those that make it an entity of a system.
+    /// In the order in which they were set, without the reserved ones (EntityAttributes).
     std::vector<AttributeData> GetAttributes() const;
-    /// One attribute by name; null if the entity has none of that name.
+    /// Null if the entity has no attribute of that name.
     AcDbValue GetAttribute(AcDbNameId name) const;
-    /// Nothing if the attribute is a text, too.
+    /// nullopt if the attribute is missing or a text.
     std::optional<double> GetNumber(AcDbNameId name) const { return GetAttribute(name).asReal(); }
 
 protected:
-    /// Null for no entity of the drawing.
+    /// Null if the drawing has no such entity.
     const AcDbEntity* Find() const;
-    /// Of an accessor that is true.
+    /// Requires an accessor that tests true.
     template <class T = AcDbEntity>
     const T& Get() const {
         return static_cast<const T&>(*Find());

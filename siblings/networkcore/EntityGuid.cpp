@@ -1,4 +1,4 @@
-// GUIDs of entities: the drawing's with the number of the entity behind it.
+// GUIDs of entities: the drawing's GUID followed by the object number.
 #include <cwchar>
 
 #include "siblings/giscore/systems/SystemManager.h"

@@ -10,13 +10,13 @@
 
 namespace Orvane::Topology {
 
-/// Ids of the entities of one kind, ascending; what they are is asked of the drawing.
+/// Ids of the entities of one kind, ascending. Everything else is read from the drawing.
 struct EntityList final : INamedRows {
     std::size_t RowCount() const override { return ids.size(); }
     int SystemOf(std::uint32_t row) const override;
     std::string_view NameOf(std::uint32_t row) const override;
     bool Contains(AcDbObjectId id) const;
-    /// The row of an id that is in the list.
+    /// The row of an id, which must be in the list.
     std::uint32_t RowOf(AcDbObjectId id) const;
     std::vector<AcDbObjectId> OfSystem(int systemId) const;
 
@@ -25,7 +25,7 @@ struct EntityList final : INamedRows {
     NameIndex byName;
 };
 
-/// What the storage knows without asking the drawing. Made anew when it cannot follow.
+/// Everything the storage caches. Rebuilt after changes that it cannot track incrementally.
 struct CTopologyStorage::Lists {
     EntityList& Of(enmEntityType type);
     void Clear();
@@ -36,7 +36,7 @@ struct CTopologyStorage::Lists {
     EntityList texts;
     bool isStale = true;
 
-    /// The systems of the drawing, as of a state of their roster.
+    /// The systems of the drawing, valid for one roster stamp.
     struct System {
         int id;
         enmTopologyType type;

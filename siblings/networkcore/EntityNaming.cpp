@@ -23,7 +23,7 @@ void CTopologyStorage::RefreshNameRules() {
 }
 
 void CTopologyStorage::LoadCountersFromSystem(const System::CGisSystem* pSystem) {
-    // Ids are unique in one drawing only.
+    // Ids are unique within one drawing only.
     const bool isOwn = pSystem && pSystem->GetDatabase() == m_pDatabase;
     m_pNaming->loadedSystem = isOwn ? pSystem->GetSystemId() : 0;
     m_pNaming->counters = isOwn ? pSystem->GetCounters() : System::CGisSystem::Counters();
@@ -53,7 +53,7 @@ std::string CTopologyStorage::NameFor(System::CGisSystem& system, enmEntityType 
     EntityList& list = Current().Of(type);
     std::string name;
     do {
-        // From the start again where it would run over; a counter may come from anywhere.
+        // Wraps around to 1 on overflow; a counter read from a file may hold anything.
         counter = counter < 0 || counter == std::numeric_limits<int>::max() ? 1 : counter + 1;
         name = pattern.Name(counter);
     } while (list.byName.Find(list, systemId, name));

@@ -1,4 +1,4 @@
-// How new entities get their names. Internal to this module.
+// Naming of new entities. Internal to this module.
 #pragma once
 
 #include "siblings/giscore/systems/GisSystem.h"
@@ -11,7 +11,7 @@ namespace Orvane::Topology {
 struct CTopologyStorage::Naming {
     NameRules rules;
     bool rulesAreRead = false;
-    int loadedSystem = 0; ///< whose counters are in use; 0: nobody's
+    int loadedSystem = 0; ///< system whose counters are loaded; 0: none
     System::CGisSystem::Counters counters;
 };
 

@@ -1,4 +1,4 @@
-// A walk over entities of one kind.
+// Iteration over entities of one kind.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,8 @@ namespace Orvane::Topology {
 
 class CTopologyStorage;
 
-/// Entities in the order of their ids, which is that of their creation, handed out as
-/// accessors by value. Valid until entities come or go.
+/// Entities in the order of their ids, i.e. of creation, as accessors by value. Valid until
+/// entities are added or removed.
 template <class Accessor>
 class EntityRange {
 public:

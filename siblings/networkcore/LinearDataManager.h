@@ -1,4 +1,4 @@
-// Data that runs along lines, such as covering or bedding by station.
+// Data along lines by station, such as cover depth or bedding.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ public:
     /// Lives to the end of the process.
     static CLinearDataManager* Instance();
 
-    /// Reads the definitions again from LinearData.ini in the folder "support".
+    /// Reloads the definitions from LinearData.ini in the folder "support".
     void RefreshLinearDataDefinitions();
     const std::vector<CDataDefinition>& GetLinearDataDefinitions() const { return m_definitions; }
 

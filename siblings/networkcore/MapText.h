@@ -1,4 +1,4 @@
-// A text on the map. Its name is the text.
+// A text on the map; its content is its name.
 #pragma once
 
 #include "siblings/networkcore/Entity.h"

@@ -28,12 +28,13 @@ std::optional<std::uint32_t> NameIndex::Find(const INamedRows& rows, int system,
 
 void NameIndex::Renamed(const INamedRows& rows, std::uint32_t row) {
     if (row >= m_nRows) {
-        return; // will be entered under its new name
+        return; // the next search enters it under its new name
     }
     if (m_bHasDuplicates) {
-        Clear(); // another row may now be the first of the old name
+        Clear(); // another row may now be the first one with the old name
     } else {
-        // The slot of the old name stays; it no longer matches and goes when the index grows.
+        // The slot of the old name stays; it no longer matches and is dropped when the index
+        // grows.
         EnterNewRows(rows);
         Enter(rows, row);
     }

@@ -9,7 +9,7 @@
 
 namespace Orvane::Topology {
 
-/// What the index has to know of a table of entities.
+/// The index's view of a table of entities.
 class INamedRows {
 public:
     virtual std::size_t RowCount() const = 0;
@@ -20,18 +20,18 @@ protected:
     ~INamedRows() = default;
 };
 
-/// Holds eight bytes a row, and only from the first search on; rows that were added since
-/// the last search are entered at the next one. The table is handed to each call and must
-/// be the same one every time.
+/// Takes eight bytes per row, and only after the first search; rows added since the last search
+/// are entered by the next one. The table is passed to each call and must be the same one every
+/// time.
 class NameIndex {
 public:
-    /// The first row of the name in a system.
+    /// The first row with the name in a system.
     std::optional<std::uint32_t> Find(const INamedRows& rows, int system, std::string_view name);
-    /// A row has got another name.
+    /// Call after a row was renamed.
     void Renamed(const INamedRows& rows, std::uint32_t row);
 
 private:
-    /// Hash bits stand beside the row, so that most misses never look at a name.
+    /// Hash bits are stored next to the row, so most misses never compare names.
     struct Slot {
         std::uint32_t hash = 0;
         std::uint32_t row = kFree;
@@ -40,15 +40,15 @@ private:
 
     void EnterNewRows(const INamedRows& rows);
     void Enter(const INamedRows& rows, std::uint32_t row);
-    /// The slot of a name, or the free one where it belongs.
+    /// The slot of a name, or the free slot where it would be entered.
     std::size_t SlotOf(const INamedRows& rows, int system, std::string_view name,
                        std::uint32_t hash) const;
     void Clear();
 
-    std::vector<Slot> m_slots; ///< its size is a power of two
-    std::size_t m_nUsed = 0;   ///< slots in use, those of former names included
+    std::vector<Slot> m_slots; ///< always a power of two
+    std::size_t m_nUsed = 0;   ///< slots in use, including those of former names
     std::size_t m_nRows = 0;   ///< rows entered so far
-    /// Some row is not entered, since an earlier one has its name.
+    /// Some row is not entered because an earlier one has the same name.
     bool m_bHasDuplicates = false;
 };
 

@@ -13,7 +13,7 @@ namespace {
 struct EntityWord {
     const wchar_t* word;
     enmEntityType type;
-    NamePattern pattern; ///< where no file says otherwise
+    NamePattern pattern; ///< default if no file overrides it
 };
 
 const EntityWord& WordFor(enmEntityType type) {

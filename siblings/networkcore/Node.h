@@ -8,15 +8,14 @@ namespace Orvane::Topology {
 class NETWORKCORE_API CNode : public CEntity {
 public:
     using CEntity::CEntity;
-    /// Not numbers if it has no place.
+    /// NaN coordinates if it has no position.
     Point GetPosition() const { return Get<AcDbPoint>().position(); }
-    /// False for one whose position is not known.
+    /// False if its position is unknown.
     bool HasPlace() const;
 
-    /// Whether it belongs to more systems than one, as the manhole of a sewer and a storm
-    /// water drain.
+    /// True if it belongs to several systems, e.g. a manhole shared by a sewer and a storm drain.
     bool IsMultiSystem() const;
-    /// Ids of all its systems, the one of GetSystemId first.
+    /// Ids of all its systems, starting with GetSystemId().
     std::vector<int> GetSystems() const;
 };
 

@@ -10,8 +10,7 @@ public:
     using CEntity::CEntity;
     /// Outlines and holes; the first point of a ring is not repeated at its end.
     const std::vector<AcDbMPolygon::Ring>& GetRings() const { return Get<AcDbMPolygon>().rings(); }
-    /// In the plane, without the holes; rings that cross themselves count as their
-    /// directions say.
+    /// In the plane, without holes; self-intersecting rings count by their signed area.
     double GetArea() const;
 };
 

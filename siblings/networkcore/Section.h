@@ -14,13 +14,13 @@ public:
     AcDbObjectId GetEndNodeId() const;
     CNode GetStartNode() const { return {m_pStorage, GetStartNodeId()}; }
     CNode GetEndNode() const { return {m_pStorage, GetEndNodeId()}; }
-    /// What the section states for a node that does not exist; UTF-8, empty if it exists.
+    /// The name given for a start node that does not exist; UTF-8, empty if it exists.
     std::string_view GetMissingStart() const;
     std::string_view GetMissingEnd() const;
 
-    /// Between the nodes, in the direction from start to end.
+    /// Vertices between the nodes, from start to end.
     std::span<const Point> GetInnerVertices() const;
-    /// Length of the drawn line in the plane; a missing node is left out of it.
+    /// Length of the drawn line in the plane; ends whose node is missing do not contribute.
     double GetDrawnLength() const;
 
 private:

@@ -9,8 +9,8 @@
 
 namespace Orvane::Topology {
 
-/// Drops what goes: a drawing's storage once its document is gone (others may still ask
-/// while they are told that it is about to go), and a system's entities.
+/// Drops a drawing's storages once its document is destroyed (not earlier: other reactors may
+/// still use them while it closes), and a system's entities when it is deleted.
 class CTopologyMultiStorage::Watcher final : public AcApDocManagerReactor,
                                              public System::ISystemEvents {
 public:
@@ -19,7 +19,7 @@ public:
         System::CGisEvents::Instance()->Register(this);
     }
     void documentToBeDeactivated(AcApDocument* pDoc) override {
-        // The active system's counters are read again when the drawing is back.
+        // The active system's counters are loaded again when this drawing becomes current.
         SaveCounters(System::CSystemManager::Instance()->GetSystems(pDoc->database()));
     }
     void documentToBeDestroyed(AcApDocument* pDoc) override { m_dying.push_back(pDoc->database()); }
@@ -30,7 +30,8 @@ public:
         m_dying.clear();
     }
     void OnDropSystemContent(System::CGisSystem* pSystem) override {
-        // Even if nobody asked for the storages yet, the drawing may hold entities.
+        // Create the storages if necessary: the drawing may hold entities even if nobody used
+        // them yet.
         for (CTopologyStorage* const pStorage : {m_owner.GetTopology(pSystem->GetDatabase()),
                                                  m_owner.GetAuxTopology(pSystem->GetDatabase())}) {
             pStorage->RemoveSystemEntities(pSystem->GetSystemId());

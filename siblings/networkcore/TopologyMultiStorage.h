@@ -11,17 +11,17 @@ namespace Orvane::Topology {
 
 class TopologyStatistics;
 
-/// Two storages for each drawing, made at its first use and dropped with the document. The
-/// entities of a system go when the system is deleted. Main thread only.
+/// Two storages per drawing, created on first use and dropped with the document. Deleting a
+/// system erases its entities. Main thread only.
 class NETWORKCORE_API CTopologyMultiStorage {
 public:
     /// Lives to the end of the process.
     static CTopologyMultiStorage* Instance();
 
-    /// The main storage of the current drawing. Never null: without a drawing it is an
-    /// empty one, to which nothing can be added since there are no systems.
+    /// The main storage of the current drawing. Never null: without a drawing it is an empty one,
+    /// to which nothing can be added because there are no systems.
     CTopologyStorage* GetTopology();
-    /// The auxiliary storage of the current drawing: its assembly schemes. Never null.
+    /// The auxiliary storage of the current drawing, which holds assembly schemes. Never null.
     CTopologyStorage* GetAuxTopology();
     /// The main storage of any open drawing.
     CTopologyStorage* GetTopology(AcDbDatabase* pDatabase);
@@ -33,7 +33,7 @@ private:
     CTopologyMultiStorage();
     ~CTopologyMultiStorage();
 
-    /// Of one drawing, by the number of CTopologyStorage::Role.
+    /// The storages of one drawing, indexed by CTopologyStorage::Role.
     using Storages = std::array<std::unique_ptr<CTopologyStorage>, 2>;
     CTopologyStorage* Get(AcDbDatabase* pDatabase, CTopologyStorage::Role role);
 

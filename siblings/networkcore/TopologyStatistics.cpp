@@ -10,7 +10,7 @@ namespace Orvane::Topology {
 
 namespace {
 
-/// The sections that end at a node, each end counted.
+/// Number of section ends at a node.
 struct Degrees {
     std::size_t isolated = 0;
     std::size_t ends = 0;
@@ -37,7 +37,7 @@ TopologyStatistics::Figures TopologyStatistics::ComputeNetwork(const CTopologySt
     };
     Components parts(nodes.size());
     std::vector<std::uint32_t> degrees(nodes.size());
-    std::size_t whole = 0; // sections with both nodes
+    std::size_t whole = 0; // sections with both end nodes
     double length = 0;
     for (const AcDbObjectId id : sections) {
         const CSection section(&storage, id);
@@ -103,7 +103,7 @@ std::optional<double> TopologyStatistics::GetStatistic(const System::CGisSystem&
         const bool isPolygons = system.GetTopologyType() == TopologyPolygon;
         m_figures =
             isPolygons ? ComputePolygons(storage, systemId) : ComputeNetwork(storage, systemId);
-        // An alignment is told by figures of its own; those of profiles are not known here.
+        // Alignments have statistics of their own; those for profiles are not available here.
         if (system.GetTopologyType() == TopologyLine &&
             system.GetSystemFunction() == kFunctionAlignment) {
             m_figures[System::StatisticAlignments] = m_figures[System::StatisticParts];

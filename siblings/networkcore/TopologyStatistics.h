@@ -1,4 +1,5 @@
-// The figures of systems, from the entities of their drawings. Internal to this module.
+// Computes the statistics of systems from the entities of their drawings. Internal to this
+// module.
 #pragma once
 
 #include <array>
@@ -10,7 +11,7 @@ namespace Orvane::Topology {
 
 class CTopologyStorage;
 
-/// Keeps the figures of the last system that was asked for, until its drawing changes.
+/// Caches the values of the last system queried until its drawing changes.
 class TopologyStatistics final : public System::ISystemStatistics {
 public:
     std::optional<double> GetStatistic(const System::CGisSystem& system,
@@ -22,7 +23,7 @@ private:
     static Figures ComputeNetwork(const CTopologyStorage& storage, int systemId);
     static Figures ComputePolygons(const CTopologyStorage& storage, int systemId);
 
-    std::uint64_t m_nStamp = 0; ///< the storage's change stamp
+    std::uint64_t m_nStamp = 0; ///< change stamp of the storage
     int m_nSystemId = 0;
     Figures m_figures;
 };

@@ -40,8 +40,8 @@ void SetAttributes(AcDbEntity& entity, std::span<const AttributeData> attributes
     }
 }
 
-/// Heights that only come from the nodes are left out of a line whose vertices have none:
-/// other programs want all heights of a line or no height.
+/// Removes heights that come from the nodes only from a line whose own vertices have none: other
+/// programs expect heights on all vertices of a line or on none.
 void DropPartialHeights(std::vector<Point>& vertices, const SectionData& data) {
     const bool isFlat = std::any_of(vertices.begin(), vertices.end(),
                                     [](const Point& point) { return std::isnan(point.z); });
@@ -57,7 +57,7 @@ void DropPartialHeights(std::vector<Point>& vertices, const SectionData& data) {
 
 } // namespace
 
-/// Nothing moves, comes or goes while it lives, whatever the drawing tells.
+/// Suppresses change tracking while alive: our own edits do not move, add or remove entities.
 class CTopologyStorage::OwnChange {
 public:
     explicit OwnChange(CTopologyStorage& storage) : m_storage(storage) {
@@ -90,7 +90,7 @@ CTopologyStorage::~CTopologyStorage() {
 }
 
 void CTopologyStorage::Changed() {
-    // One count for all storages: an index sees a change of drawing as well.
+    // One counter for all storages, so an index also notices a switch to another drawing.
     static std::uint64_t s_nLast = 0;
     m_nChangeStamp = m_nPointStamp = m_nPolygonStamp = ++s_nLast;
 }
@@ -110,7 +110,7 @@ std::uint64_t CTopologyStorage::GetChangeStamp(enmEntityType type) const {
                                    : m_nChangeStamp;
 }
 
-// What belongs to the topology, and how the lists follow the drawing.
+// Which entities belong to the topology, and how the lists follow the drawing.
 
 void CTopologyStorage::FollowRoster(Lists& lists) const {
     const System::CGisSystems* const pSystems =
@@ -125,7 +125,7 @@ void CTopologyStorage::FollowRoster(Lists& lists) const {
          pSystems ? pSystems->GetSystemList() : std::vector<System::CGisSystem*>()) {
         roster.push_back({pSystem->GetSystemId(), pSystem->GetTopologyType()});
     }
-    // A system that was just made has no entities yet, one that is back after an undo may.
+    // A new system has no entities yet, but one restored by undo may.
     lists.isStale = true;
     lists.roster = std::move(roster);
 }
@@ -167,7 +167,7 @@ CTopologyStorage::Lists& CTopologyStorage::Current() const {
                 lists.Of(EntityTypeOf(entity)).ids.push_back(entity.objectId());
             }
         });
-        // The drawing gives them by their place in it; brought back ones may stand apart.
+        // The drawing iterates in storage order, in which restored entities may be out of place.
         for (const enmEntityType type : {EntityNode, EntitySection, EntityPolygon, EntityNone}) {
             auto& ids = lists.Of(type).ids;
             if (!std::is_sorted(ids.begin(), ids.end())) {
@@ -203,7 +203,7 @@ void CTopologyStorage::objectModified(const AcDbDatabase*, const AcDbObject* pOb
     const bool isTaken = Takes(entity);
     m_pLists->isStale = m_pLists->isStale || isListed != isTaken;
     if (isTaken) {
-        list.byName = {}; // its name, or its system, may be another one
+        list.byName = {}; // its name or its system may have changed
     }
 }
 
@@ -340,7 +340,7 @@ void CTopologyStorage::RemoveSystemEntities(int systemId) {
     if (!m_pDatabase) {
         return;
     }
-    // Over the drawing, not the lists: points of polygons are in none of them.
+    // Over the drawing, not the lists, which lack the points of polygons.
     std::vector<AcDbObjectId> erased;
     std::vector<AcDbObjectId> handedOver;
     m_pDatabase->forEachEntity([&](const AcDbEntity& entity) {

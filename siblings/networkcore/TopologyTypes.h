@@ -1,4 +1,4 @@
-// Plain data of networks: what entities are made from.
+// Plain data from which network entities are created.
 #pragma once
 
 #include <span>
@@ -8,13 +8,13 @@
 
 namespace Orvane::Topology {
 
-/// A place in drawing units.
+/// A position in drawing units.
 using Point = AcGePoint3d;
 
-/// Stands for a height that is not known.
+/// Marks an unknown height.
 inline constexpr double kNoHeight = std::numeric_limits<double>::quiet_NaN();
 
-// What the storage makes entities of. Texts are UTF-8. All of it is copied.
+// Input of CTopologyStorage::Add...; texts are UTF-8 and everything is copied.
 
 /// A named value.
 struct AttributeData {
@@ -23,30 +23,30 @@ struct AttributeData {
 };
 
 struct NodeData {
-    std::string_view name;      ///< empty: named by the name rules
-    Point position;             ///< not numbers: it has no place
-    std::string_view kind = {}; ///< what it is in the network, as "Tank"; may be empty
+    std::string_view name;      ///< empty: chosen by the naming rules
+    Point position;             ///< NaN: no position
+    std::string_view kind = {}; ///< role in the network, such as "Tank"; may be empty
     std::span<const AttributeData> attributes = {};
 };
 
-/// Where a section ends: at a node, or, where there is no such node, at a stated name.
+/// Where a section ends: at a node, or, if that does not exist, at a name.
 struct SectionEnd {
     AcDbObjectId node = {};
-    std::string_view missingName = {}; ///< looked at only without a node
-    double height = kNoHeight;         ///< of the line, where it is not that of the node
+    std::string_view missingName = {}; ///< used only without a node
+    double height = kNoHeight;         ///< of the line, if it differs from the node's
 };
 
 struct SectionData {
-    std::string_view name; ///< empty: named by the name rules
+    std::string_view name; ///< empty: chosen by the naming rules
     SectionEnd start;
     SectionEnd end;
-    std::span<const Point> innerVertices = {}; ///< in the direction from start to end
+    std::span<const Point> innerVertices = {}; ///< from start to end
     std::string_view kind = {};
     std::span<const AttributeData> attributes = {};
 };
 
 struct PolygonData {
-    std::string_view name; ///< empty: named by the name rules
+    std::string_view name; ///< empty: chosen by the naming rules
     std::span<const AcDbMPolygon::Ring> rings;
     std::string_view kind = {};
     std::span<const AttributeData> attributes = {};

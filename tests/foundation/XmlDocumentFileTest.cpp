@@ -43,7 +43,7 @@ TEST_F(XmlDocumentFile, ReportsWhatItHasRead) {
 TEST_F(XmlDocumentFile, ReadsTheSameWhereverThePiecesOfAFileEnd) {
     std::string content = "<a b='";
     while (content.size() < 700000) {
-        // Lengths without a common divisor, so that letters of every size lie across any border.
+        // Coprime lengths, so characters of every size straddle any chunk boundary.
         content += "abc\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\xE2\x82\xFFplain text in between";
     }
     content += "'/>";
@@ -63,7 +63,7 @@ TEST_F(XmlDocumentFile, KeepsItsTextIfThereIsNothingToRead) {
     ASSERT_EQ(mkfifo(m_folder.Native("pipe").c_str(), 0600), 0);
     alarm(30); // opened for reading it would wait for its other end
     EXPECT_FALSE(m_doc.Load(m_folder.Wide("pipe")));
-    EXPECT_EQ(Error(), "Not a regular file");
+    EXPECT_EQ(Error(), "not a regular file");
     EXPECT_EQ(m_doc.GetDoc(), L"<a n='1'><b/></a>");
     EXPECT_EQ(m_doc.GetAttrib(L"n"), L"1");
 }

@@ -11,7 +11,7 @@ std::string Narrow(const CString& strText) {
     return WideToUtf8(strText.View());
 }
 
-/// Every element in the order of a walk, with its level by the number of dots.
+/// All elements in document order, indented by one dot per level.
 std::string Walk(XmlDocument& doc, int nLevel = 0) {
     std::string walked;
     while (doc.FindElem()) {

@@ -17,7 +17,7 @@ TEST(XmlField, EncodesValues) {
         {L"<'&\">", L"&lt;&apos;&amp;&quot;&gt;"},
         {L"&amp; &x", L"&amp; &amp;x"},
         {L"\u00E8", L"=EF=BF=A8"},
-        {L"\u2026", L"=EF=BE=85"}, // 0x85 of the page
+        {L"\u2026", L"=EF=BE=85"}, // byte 0x85 of the code page
         {L"\u20AC\u00FF", L"=EF=BE=80=EF=BF=BF"},
         {L"\u4E2D", L"?"},
     };
@@ -33,7 +33,7 @@ TEST(XmlField, DecodesPairsAndSequences) {
         {nullptr, L""},
         {L"&lt;=3D&amp;", L"<=&"},
         {L"=EF=BF=A8=EF=BE=85", L"\u00E8\u2026"},
-        {L"\u00E8", L"\u00E8"}, // a letter of the page that stands as it is
+        {L"\u00E8", L"\u00E8"}, // a letter of the code page, not encoded
         {L"=C3=A8", L"\u00E8"},
         {L"=C2=A9", L"\u00A9"},
         {L"=F0=9F=98=80", L"\0"sv},
@@ -41,16 +41,16 @@ TEST(XmlField, DecodesPairsAndSequences) {
         {L"=FC=80=80=80=83=A8x", L"\u00E8x"},
         {L"=41=7E", L"A~"},
         {L"=3d=zz", L"0\0"sv}, // lower case digits count as 0
-        // What starts no sequence loses its sign only.
+        // A byte that cannot start a sequence only loses its "=".
         {L"=7F=80=BF", L"7F80BF"},
         {L"=FE=FF", L"FEFF"},
-        // The text ends where a sequence does not fit.
+        // Decoding stops at an incomplete sequence.
         {L"a=", L"a"},
         {L"a=3", L"a"},
         {L"a=EF=BF", L"a"},
         {L"a=EF=BF=A", L"a"},
         {L"a=FC=80=80=80=83=A", L"a"},
-        {L"=EF=BFxA8", L"\u00E8"}, // only the places of the digits count
+        {L"=EF=BFxA8", L"\u00E8"}, // only the positions of the digits matter
     };
     for (const auto& [field, value] : cases) {
         EXPECT_EQ(DecodeXmlField(field).View(), value) << WideToUtf8(field ? field : L"");

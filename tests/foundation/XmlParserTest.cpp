@@ -8,7 +8,7 @@
 namespace Orvane {
 namespace {
 
-/// A text and the index that the parser makes of it.
+/// A text and its parsed index.
 class Parsed {
 public:
     explicit Parsed(std::wstring text, bool bIgnoreCase = false) : m_text(std::move(text)) {
@@ -22,8 +22,8 @@ public:
     std::string Error() const { return WideToUtf8(m_strError.View()); }
     bool IllFormed() const { return (m_index[0].flags & XML_FLAG_ILL_FORMED) != 0; }
 
-    /// The elements as "r(a/ b(c) d!~)": "/" one tag, "!" without an end tag, "~" with an
-    /// error in its content.
+    /// The elements as "r(a/ b(c) d!~)": "/" a single tag, "!" no end tag, "~" an error in the
+    /// content.
     std::string Shape(int nParent = 0) const {
         std::string shape;
         for (int nRecord = m_index[nParent].child; nRecord != 0; nRecord = m_index[nRecord].next) {
@@ -65,7 +65,7 @@ TEST(XmlParser, KeepsWhatAnIllFormedTextHolds) {
     const ShapeCase cases[] = {
         {L"<r><a><b/></a><c></c></r>", "r(a(b/) c)", ""},
         {L"<r>text<a/> <!-- <no/> --><![CDATA[<no/>]]><?no <no/>?></r>", "r(a/)", ""},
-        // Tags that were never ended lose their children to their parent, in order.
+        // Unclosed tags pass their children on to their parent, in order.
         {L"<r><a><b></r>", "r(a! b!)",
          "End tag 'r' at offset 10 does not match start tag 'b' at offset 6"},
         {L"<r><a><b/><c>x<d><e/></d><f></r>", "r(a! b/ c! d(e/) f!)",
@@ -76,7 +76,7 @@ TEST(XmlParser, KeepsWhatAnIllFormedTextHolds) {
          "End tag 'a' at offset 10 does not match start tag 'b' at offset 6"},
         {L"<r><a>", "r! a!", "Element 'a' at offset 3 not ended"},
         {L"<a b=c/>", "a!", "Element 'a' at offset 0 not ended"},
-        // An end tag too many leaves its mark on the element it stands in.
+        // An unmatched end tag marks the enclosing element.
         {L"<r><a></b></a><c></r>", "r(a~ c!)", "No start tag for end tag 'b' at offset 6"},
         {L"<r><a></x><b></r>", "r~(a!~ b!)", "No start tag for end tag 'x' at offset 6"},
         {L"<r></x>", "r!~", "No start tag for end tag 'x' at offset 3"},
@@ -160,7 +160,7 @@ TEST(XmlParser, NamesTheTokenInError) {
     }
     for (const wchar_t c : L";=?@[\\]^`-.09\x01") {
         const Parsed parsed(std::wstring(L"<") + c + L"x /><a/>");
-        // A question mark opens an instruction; it and the end of the list are not in error.
+        // A question mark opens an instruction; neither it nor the end of the list is an error.
         EXPECT_EQ(parsed.Error(), c == L'?' ? "Processing instruction at offset 0 unterminated"
                                             : "Incorrect tag name character at offset 0")
             << static_cast<int>(c);
@@ -221,7 +221,7 @@ struct HostileCase {
     int elements;
 };
 
-/// In a quadratic time each of these would take minutes.
+/// In quadratic time each of these would take minutes.
 TEST(XmlParser, TakesItsTimeFromTheLengthOfTheText) {
     constexpr int kMany = 200000;
     const HostileCase cases[] = {

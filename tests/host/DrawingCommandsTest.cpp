@@ -1,4 +1,4 @@
-// Drawings at the command line, through the program itself.
+// Drawing commands at the command line, run in the real program.
 #include "tests/host/ProgramTest.h"
 #include "tests/support/Rows.h"
 
@@ -17,7 +17,7 @@ constexpr const char* kMetres =
 "crs":{"type":"name","properties":{"name":"urn:ogc:def:crs:EPSG::25832"}},"features":[
 {"type":"Feature","properties":{},"geometry":{"type":"Point","coordinates":[500000,5000000]}}]})";
 
-/// In lines of a script, "@" stands for the test's folder.
+/// In script lines, "@" is replaced by the test's folder.
 class DrawingCommandsTest : public ProgramTest {
 protected:
     DrawingCommandsTest() {
@@ -126,10 +126,10 @@ TEST_F(DrawingCommandsTest, AnEmptyDrawingTakesTheCoordinateSystemOfAnImport) {
     EXPECT_EQ(Script("IMPORT\n@town.geojson\nIMPORT\n@town.geojson\nSAVE\n@plan\n"), 0);
     EXPECT_FALSE(Printed("coordinate system")) << m_output;
     EXPECT_EQ(Script("OPEN\n@plan\nIMPORT\n@town.geojson\nIMPORT\n@metres.geojson\n"), 0);
-    EXPECT_EQ(Count("coordinate system"), 1) << "what comes from a file is the same: " << m_output;
+    EXPECT_EQ(Count("coordinate system"), 1) << "no warning for the same system: " << m_output;
     EXPECT_TRUE(Printed(kWarning)) << m_output;
     EXPECT_EQ(Script("IMPORT\n@town.geojson\nUNDO\nIMPORT\n@metres.geojson\n"), 0);
-    EXPECT_FALSE(Printed("coordinate system")) << "it is undone with the import: " << m_output;
+    EXPECT_FALSE(Printed("coordinate system")) << "undone together with the import: " << m_output;
 }
 
 TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
@@ -138,9 +138,9 @@ TEST_F(DrawingCommandsTest, ReplacingAFileIsAskedFor) {
     EXPECT_EQ(Run("", InFolder("SAVE\n@plan\nno\nSAVE\n@plan\nperhaps\nOPEN\n@plan\nSAVEAS\n@plan\n"
                                "NEW\nSAVE\n@other\ny\nDRAWINGS\n")),
               0);
-    EXPECT_EQ(Count("exists. Replace it?"), 3) << "not for its own file: " << m_output;
+    EXPECT_EQ(Count("exists. Replace it?"), 3) << "not asked for its own file: " << m_output;
     EXPECT_TRUE(Printed("\"perhaps\" is not one of Yes/No.\n")) << m_output;
-    EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << "as it was: " << m_output;
+    EXPECT_TRUE(Printed("plan.gpkg: 5 entities.\n")) << "unchanged: " << m_output;
     EXPECT_TRUE(Printed(InFolder("*  3  @other.gpkg\n"))) << m_output;
 }
 
@@ -177,17 +177,17 @@ TEST_F(DrawingCommandsTest, LeavingAsksAboutEachDrawing) {
     const std::string twoChanged = "IMPORT\n@town.geojson\nNEW\nNEW\nIMPORT\n@town.geojson\n";
     EXPECT_EQ(Script(twoChanged + "QUIT\ny\n@first\nn\nHELP\n"), 0) << m_output;
     EXPECT_EQ(Count("Save the changes to "), 2) << m_output;
-    EXPECT_FALSE(Printed("APPLOAD")) << "it has ended: " << m_output;
+    EXPECT_FALSE(Printed("APPLOAD")) << "the program has exited: " << m_output;
     EXPECT_FALSE(Printed("not saved")) << m_output;
     EXPECT_TRUE(m_folder.Has("first.gpkg"));
 
     EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\nn\nc\nHELP\n")), 0);
-    EXPECT_TRUE(Printed("APPLOAD")) << "it stays: " << m_output;
+    EXPECT_TRUE(Printed("APPLOAD")) << "the program stays open: " << m_output;
     EXPECT_TRUE(Printed("Drawing1 has unsaved changes.\n"
                         "Drawing3 has unsaved changes.\n"))
         << m_output;
     EXPECT_EQ(Run("", InFolder(twoChanged + "QUIT\ny\n@no-folder/x\nHELP\n")), 0);
-    EXPECT_TRUE(Printed("APPLOAD")) << "what cannot be saved is not thrown away: " << m_output;
+    EXPECT_TRUE(Printed("APPLOAD")) << "a failed save does not discard changes: " << m_output;
 }
 
 TEST_F(DrawingCommandsTest, DrawingsAreFoundByNumberNameAndFile) {

@@ -1,4 +1,4 @@
-// The program as a user runs it, for tests of its commands.
+// Runs the program as a user does, for tests of its commands.
 #pragma once
 
 #include <cstdio>
@@ -8,13 +8,13 @@
 
 namespace Tessaly {
 
-/// Runs the program itself, as a user does, and gives what it printed.
+/// Runs the real program and captures its output.
 class ProgramTest : public testing::Test {
 protected:
     int Run(const std::string& arguments, const std::string& input = "") {
         return RunIn("", "--console " + arguments, input);
     }
-    /// \param environment as in front of a command of the shell
+    /// \param environment assignments in shell syntax, placed before the command
     int RunIn(const std::string& environment, const std::string& arguments,
               const std::string& input = "") {
         m_folder.Write("input", input);
@@ -30,10 +30,11 @@ protected:
         m_folder.Write("script.scr", lines);
         return Run("--script " + m_folder.Native("script.scr"));
     }
-    /// An installation whose only plug-in is one of the tests'; run with "--install" and this.
+    /// Creates an installation whose only plug-in is a test plug-in; pass the result to
+    /// "--install".
     std::string InstallOnly(const std::string& fixture) {
-        Run("", "QUIT\n"); // makes the settings
-        // The registry's names are relative to the modules' folder, so that one becomes "/".
+        Run("", "QUIT\n"); // creates the settings
+        // Registry names are relative to the modules' folder, so replace that by "/".
         m_folder.Write("support/ModuleRegistry.xml",
                        "<moduleRegistry ><module on=\"1\" fileName=\"" TESSALY_FIXTURES_DIR "/" +
                            fixture + "\" ></module></moduleRegistry>");

@@ -1,4 +1,4 @@
-// Long work at the console, and what stops it.
+// Progress of long operations in the console, and stopping them.
 #include <csignal>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -75,11 +75,11 @@ protected:
 TEST_F(ConsoleWorkTest, InterruptsCountOnlyWhileItGoesOn) {
     ASSERT_TRUE(IsDefault(SIGINT));
     for (int round = 0; round < 2; ++round) {
-        EXPECT_TRUE(m_port.ShowProgress(L"a", 0)) << "the last one's end is forgotten";
+        EXPECT_TRUE(m_port.ShowProgress(L"a", 0)) << "an earlier stop has no effect";
         EXPECT_FALSE(IsDefault(SIGINT));
         std::raise(SIGINT);
         EXPECT_FALSE(m_port.ShowProgress(L"a", 1));
-        EXPECT_FALSE(m_port.ShowProgress(L"b", 0)) << "all of it is to stop";
+        EXPECT_FALSE(m_port.ShowProgress(L"b", 0)) << "the whole operation stops";
         m_port.EndProgress();
         EXPECT_TRUE(IsDefault(SIGINT));
     }
@@ -88,7 +88,7 @@ TEST_F(ConsoleWorkTest, InterruptsCountOnlyWhileItGoesOn) {
     std::signal(SIGINT, SIG_IGN);
     m_port.ShowProgress(L"a", 0);
     std::raise(SIGINT);
-    EXPECT_TRUE(m_port.ShowProgress(L"a", 1)) << "a program in the background is left alone";
+    EXPECT_TRUE(m_port.ShowProgress(L"a", 1)) << "an ignored signal stays ignored";
     m_port.EndProgress();
     std::signal(SIGINT, SIG_DFL);
 }
@@ -105,7 +105,7 @@ TEST_F(ConsoleWorkTest, IsToldInLinesOfTheirOwn) {
     EXPECT_EQ(Output(), "File: \nReading a: 30 %\na note\nReading a: 50 %\n");
 }
 
-/// A long import of which the user gets tired.
+/// A long import that the user stops.
 class TiredImporter final : public IDbImporter {
 public:
     AcDbImportResult Import(const wchar_t* path, const AcDbProgress& progress) override {
@@ -147,7 +147,7 @@ TEST_F(ConsoleWorkTest, AnImportThatIsStoppedFailsAndChangesNothing) {
     acdbSetImporter(nullptr);
 }
 
-/// Breaks at the entity of a number.
+/// Stops at the entity with this number.
 class BreakingReactor final : public AcDbDatabaseReactor {
 public:
     void objectAppended(const AcDbDatabase* pDatabase, const AcDbObject*) override {

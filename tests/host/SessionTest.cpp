@@ -40,7 +40,7 @@ TEST_F(ProgramTest, ImportsLinesOfAnyFileAsANetwork) {
     EXPECT_TRUE(Printed("share a node <1e-06>: ")) << m_output;
     EXPECT_EQ(RunScript(import + "\n\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
     EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
-    // In the text console each command is a step of its own.
+    // In the text console each command is an undo step of its own.
     EXPECT_EQ(RunScript("test\n" + import + "\n\nexit\nUNDO\nSYSTEM_LIST\n"), 0) << m_output;
     EXPECT_TRUE(Printed("Undone: NETWORK_IMPORT\n")) << m_output;
     EXPECT_TRUE(Printed("The drawing has no systems.")) << m_output;
@@ -62,7 +62,7 @@ TEST_F(ProgramTest, AFailedImportLeavesTheDrawingAsItWas) {
     const std::string twice = std::string(kImportTown) + kImportTown + "SYSTEM_LIST\n";
     EXPECT_EQ(Run("", twice), 0);
     EXPECT_EQ(m_output.find("Town (Water supply)"), m_output.rfind("Town (Water supply)"))
-        << "a name that is taken adds nothing";
+        << "a duplicate name adds nothing";
 }
 
 TEST_F(ProgramTest, TheConsoleRunsInsideTheHost) {
@@ -73,7 +73,7 @@ TEST_F(ProgramTest, TheConsoleRunsInsideTheHost) {
                              "The drawing has no systems.", "Unknown command!"}) {
         EXPECT_TRUE(Printed(text)) << text << " in " << m_output;
     }
-    EXPECT_FALSE(Printed("APPLOAD")) << "nothing runs behind QUIT";
+    EXPECT_FALSE(Printed("APPLOAD")) << "nothing runs after QUIT";
 }
 
 TEST_F(ProgramTest, TheEndOfTheInputEndsEveryPrompt) {
@@ -147,7 +147,7 @@ TEST_F(ProgramTest, WhatAPluginThrowsCostsNoWork) {
              "Throws.arx: OnAcadDocumentToBeDestroyed failed: drawing goes",
              "Throws.arx: OnAcadDocumentDestroyed failed: drawing gone",
              "*  1  Drawing",
-             "Throws.arx registers the command SAVE, which the program has itself.",
+             "Throws.arx registers the command SAVE, which is built into the program.",
              "Throws.arx registers the command Throw_Number, which differs from THROW_NUMBER only",
          }) {
         EXPECT_TRUE(Printed(line)) << line << " in " << m_output;
@@ -248,7 +248,7 @@ TEST_F(ProgramTest, SpeaksTheLanguageOfTheSettingsFromItsFirstLineOn) {
                 "\nN\nSYSTEM_ADD\nS\n1\n1\nSAVE\n" + plan + "\nSAVEAS\n" + plan +
                 "\nSYSTEM_DEL\nS\nj\nCLOSE\n_n\nUNDO\nNO_SUCH\n");
     for (const char* const text :
-         {"Tessaly. HELP listet", "die Datei gibt es nicht", "Es wurde nichts geöffnet.",
+         {"Tessaly. HELP listet", "die Datei ist nicht vorhanden", "Es wurde nichts geöffnet.",
           ":3: Höhe \"x\" ist keine Zahl", "S löschen? [Ja/Nein] <Nein>: j", "S wurde gelöscht.",
           "Änderungen an plan.gpkg speichern? [Ja/Nein/Abbrechen] <Abbrechen>: _n",
           "plan.gpkg ist geschlossen.", "Unbekannter Befehl „NO_SUCH“"}) {
@@ -270,7 +270,7 @@ TEST(Options, AreReadOrRefused) {
         {{"plan.gpkg", "b.gpkg"}, L"b.gpkg: only one drawing can be given"},
         {{""}, L": unknown option"},
         {{"--theme", "dark"}, L""},
-        {{"--theme", "pink"}, L"--theme pink: it can be light or dark"},
+        {{"--theme", "pink"}, L"--theme pink: must be light or dark"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(ReadOptions(row.arguments).Error(), row.error);

@@ -1,4 +1,4 @@
-// Small controls, and what windows share with the desktop.
+// Small controls, and interaction with the desktop: clipboard, drops.
 #include "tests/mfc/WindowTest.h"
 
 #include <QAbstractButton>
@@ -30,11 +30,11 @@ class ControlsTest : public DialogOnScreenTest {
 protected:
 };
 
-TEST_F(ControlsTest, AComboTellsOnlyWhatTheUserChose) {
+TEST_F(ControlsTest, AComboReportsOnlySelectionsByTheUser) {
     auto& combo = m_pDialog->Item<CComboBox>(kCombo);
     EXPECT_EQ(combo.SetCurSel(0), CB_ERR);
     EXPECT_EQ(combo.AddString(L"b"), 0);
-    EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "nobody selected anything";
+    EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "nothing was selected yet";
     EXPECT_EQ(combo.AddString(L"c"), 1);
     EXPECT_EQ(combo.InsertString(0, L"a"), 0);
     EXPECT_EQ(combo.InsertString(9, L"x"), CB_ERR);
@@ -45,9 +45,9 @@ TEST_F(ControlsTest, AComboTellsOnlyWhatTheUserChose) {
     EXPECT_EQ(combo.GetWindowText(), L"b");
     EXPECT_EQ(combo.FindStringExact(-1, L"C"), 2);
     combo.InsertString(0, L"0");
-    EXPECT_EQ(combo.GetCurSel(), 2) << "the entry stays selected, at its new place";
+    EXPECT_EQ(combo.GetCurSel(), 2) << "the entry stays selected at its new index";
     EXPECT_EQ(combo.DeleteString(2), 3);
-    EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "no neighbour takes over";
+    EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "no neighbour gets selected";
     EXPECT_EQ(combo.SetCurSel(0), 0);
     EXPECT_EQ(combo.SetCurSel(-3), CB_ERR);
     EXPECT_EQ(m_pDialog->TakeLog(), Log());
@@ -78,7 +78,7 @@ TEST_F(ControlsTest, KeysOfAnOpenListDoNotReachTheDialog) {
     }
 }
 
-TEST_F(ControlsTest, ChecksChangeByThemselvesOnlyIfTheyShall) {
+TEST_F(ControlsTest, OnlyAutomaticChecksChangeByThemselves) {
     const Rows<UINT, int> cases = {{BS_AUTOCHECKBOX, 1},
                                    {BS_AUTOCHECKBOX | BS_PUSHLIKE, 1},
                                    {BS_CHECKBOX, 0},
@@ -93,14 +93,14 @@ TEST_F(ControlsTest, ChecksChangeByThemselvesOnlyIfTheyShall) {
         EXPECT_EQ(button.GetCheck(), afterClick) << style;
         EXPECT_EQ(m_pDialog->log, Log{std::to_string(id) + ":0"}) << style;
         button.SetCheck(1);
-        EXPECT_EQ(m_pDialog->log.size(), 1U) << "told of the program's own change";
+        EXPECT_EQ(m_pDialog->log.size(), 1U) << "the program's own change was reported";
         button.EnableWindow(false);
         QTest::mouseClick(WidgetOf(button), Qt::LeftButton, {}, {5, 10});
         EXPECT_EQ(m_pDialog->log.size(), 1U);
     }
 }
 
-TEST_F(ControlsTest, IconsAndHintsDressAButton) {
+TEST_F(ControlsTest, AButtonShowsAnIconAndAToolTip) {
     class Source : public IIconSource {
     public:
         CImage GetImage(HICON, CSize size) override {
@@ -125,11 +125,11 @@ TEST_F(ControlsTest, IconsAndHintsDressAButton) {
     tips.UpdateTipText(L"Collapse", &button);
     EXPECT_EQ(tips.GetText(&button), L"Collapse");
     EXPECT_FALSE(tips.AddTool(nullptr, L""));
-    EXPECT_TRUE(CImage(4, 4, std::vector<std::uint32_t>(15)).IsNull()) << "a pixel short";
+    EXPECT_TRUE(CImage(4, 4, std::vector<std::uint32_t>(15)).IsNull()) << "one pixel too few";
     EXPECT_TRUE(CImage::FromFile(L"/nowhere/picture.png").IsNull());
 }
 
-TEST_F(ControlsTest, AFlatButtonShowsItsEdgeWhileCheckedAndAGapMakesThePictureSmaller) {
+TEST_F(ControlsTest, AFlatButtonShowsItsEdgeWhileCheckedAndAGapShrinksThePicture) {
     CXTButton button;
     ASSERT_TRUE(button.Create(L"", BS_AUTOCHECKBOX | BS_PUSHLIKE | WS_VISIBLE, {10, 10, 40, 40},
                               m_pDialog.get(), 500));
@@ -155,7 +155,7 @@ TEST_F(ControlsTest, AFlatButtonShowsItsEdgeWhileCheckedAndAGapMakesThePictureSm
     EXPECT_EQ(count(Qt::red), 14 * 14);
 }
 
-TEST_F(ControlsTest, AColourIsChosenInATableOrAtThePrompt) {
+TEST_F(ControlsTest, AColourIsChosenFromATableOrAtThePrompt) {
     int color = 20;
     const auto press = [](QList<Qt::Key> keys) {
         Later([keys] {
@@ -183,8 +183,8 @@ TEST_F(ControlsTest, AColourIsChosenInATableOrAtThePrompt) {
     EXPECT_EQ(color, 255);
 }
 
-/// A parent that answers for the colours of what stands on it.
-TEST_F(ControlsTest, ColoursComeFromTheParentBeforeTheControlsOwn) {
+/// The parent provides the colours of its controls.
+TEST_F(ControlsTest, ColoursOfTheParentTakePrecedence) {
     class Colored : public TestDialog {
     public:
         const CBrush blue{RGB(0, 0, 255)};
@@ -214,7 +214,7 @@ TEST_F(ControlsTest, ColoursComeFromTheParentBeforeTheControlsOwn) {
     const auto colorOf = [](const CWnd& wnd) {
         return FrameOf(wnd)->grab().toImage().pixelColor(20, 10);
     };
-    EXPECT_EQ(colorOf(bar), QColor(0, 255, 0)) << "its own";
+    EXPECT_EQ(colorOf(bar), QColor(0, 255, 0)) << "the control's own";
     EXPECT_EQ(parent.type, CTLCOLOR_STATIC);
     parent.answer = &parent.blue;
     EXPECT_EQ(colorOf(bar), QColor(0, 0, 255)) << "the parent's";
@@ -228,7 +228,7 @@ TEST_F(ControlsTest, ColoursComeFromTheParentBeforeTheControlsOwn) {
     EXPECT_EQ(parent.type, CTLCOLOR_BTN);
 }
 
-TEST_F(ControlsTest, ListBoxesSortAndSelectAsTheirStyleSays) {
+TEST_F(ControlsTest, ListBoxesSortAndSelectAccordingToStyle) {
     auto& lines = m_pDialog->Item<CListBox>(kLines);
     EXPECT_EQ(lines.AddString(L"pipes"), 0);
     EXPECT_EQ(lines.AddString(L"Valves"), 1);
@@ -240,7 +240,7 @@ TEST_F(ControlsTest, ListBoxesSortAndSelectAsTheirStyleSays) {
     EXPECT_FALSE(lines.SetSel(9));
     EXPECT_EQ(lines.GetSelItems(), (std::vector<int>{0, 2}));
     EXPECT_EQ(lines.AddString(L"A"), 0);
-    EXPECT_EQ(lines.GetSelItems(), (std::vector<int>{1, 3})) << "selection goes with its line";
+    EXPECT_EQ(lines.GetSelItems(), (std::vector<int>{1, 3})) << "the selection moves with its line";
     EXPECT_EQ(lines.SetCurSel(2), 2);
     EXPECT_EQ(lines.GetSelItems(), std::vector<int>{2});
     lines.ResetContent();
@@ -256,7 +256,7 @@ TEST_F(ControlsTest, TheClipboardHoldsSeveralFormats) {
     CClipboardContent content;
     content.SetText(L"Náme\tÜ\r\n");
     content.SetData(own, data);
-    content.SetData(12345, data); // nobody registered it
+    content.SetData(12345, data); // not registered
     content.Put();
     EXPECT_EQ(GetClipboardText(), L"Náme\tÜ\r\n");
     EXPECT_EQ(GetClipboardData(own), data);
@@ -265,7 +265,7 @@ TEST_F(ControlsTest, TheClipboardHoldsSeveralFormats) {
     CClipboardContent text;
     text.SetText(L"only text");
     text.Put();
-    EXPECT_FALSE(IsClipboardFormatAvailable(own)) << "the content before is gone";
+    EXPECT_FALSE(IsClipboardFormatAvailable(own)) << "the previous content was replaced";
     EXPECT_TRUE(GetClipboardData(own).empty());
     QApplication::clipboard()->clear();
 }

@@ -1,4 +1,4 @@
-// Dialogs: their layout, their keys, modal loops, prompts, and life without a desktop.
+// Dialogs: layout, keys, modal loops, prompts, and behaviour without a desktop.
 #include "tests/mfc/WindowTest.h"
 
 #include <clocale>
@@ -33,7 +33,7 @@ TEST_F(DialogTest, DialogUnitsAreQuartersAndEighthsOfALetter) {
     }
 }
 
-TEST_F(DialogTest, ControlsStandWhereTheTemplateSays) {
+TEST_F(DialogTest, ControlsArePositionedByTheTemplate) {
     TestDialog dialog;
     ASSERT_TRUE(dialog.Create());
     EXPECT_FALSE(dialog.Create()) << "a second window";
@@ -50,7 +50,7 @@ TEST_F(DialogTest, ControlsStandWhereTheTemplateSays) {
         EXPECT_EQ(place.TopLeft(), wanted.TopLeft()) << item.id;
         EXPECT_EQ(place.Width(), wanted.Width()) << item.id;
         if (item.kind == enmControlKind::ComboBox) {
-            EXPECT_LT(place.Height(), wanted.Height()) << "the list counts as open";
+            EXPECT_LT(place.Height(), wanted.Height()) << "the height of the open list was used";
         } else {
             EXPECT_EQ(place.Height(), wanted.Height()) << item.id;
         }
@@ -61,7 +61,7 @@ TEST_F(DialogTest, ControlsStandWhereTheTemplateSays) {
     EXPECT_FALSE(TestDialog(nullptr, 12345).Create()) << "no such template";
 }
 
-TEST_F(DialogTest, DataGoesBothWays) {
+TEST_F(DialogTest, DataIsExchangedInBothDirections) {
     class Exchanging : public TestDialog {
     public:
         int check = 1;
@@ -81,7 +81,7 @@ TEST_F(DialogTest, DataGoesBothWays) {
     } dialog;
     EXPECT_FALSE(dialog.UpdateData(false)) << "without a window";
     dialog.Create();
-    EXPECT_EQ(dialog.GetDlgItem(kList), &dialog.list) << "the object stands for the control";
+    EXPECT_EQ(dialog.GetDlgItem(kList), &dialog.list) << "the object is attached to the control";
     EXPECT_EQ(dialog.Item<CButton>(kCheck).GetCheck(), 1);
     EXPECT_EQ(dialog.GetDlgItem(kEdit)->GetWindowText(), L"first");
     dialog.Item<CButton>(kCheck).Click();
@@ -179,14 +179,14 @@ TEST_F(DialogTest, EndingBeforeTheLoopAndClosing) {
     stays.ShowWindow(SW_SHOW);
     stays.onCommand = [](UINT) {};
     FrameOf(stays)->close();
-    EXPECT_TRUE(stays.IsWindowVisible()) << "whether it closes is for its handler";
+    EXPECT_TRUE(stays.IsWindowVisible()) << "its handler decides whether it closes";
     stays.onCommand = nullptr;
     FrameOf(stays)->close();
     EXPECT_FALSE(stays.IsWindowVisible());
     EXPECT_TRUE(stays.GetSafeHwnd()) << "a modeless dialog is hidden";
 }
 
-TEST_F(DialogTest, AModalDialogGivesWayToTheDrawing) {
+TEST_F(DialogTest, AModalDialogHidesWhileTheUserPicks) {
     TestDialog dialog;
     dialog.onInit = [&] {
         Later([&] {
@@ -238,7 +238,7 @@ TEST_F(DialogTest, MessageBoxesAskAndNestInDialogs) {
         };
         dialog.DoModal();
         EXPECT_EQ(answer, c.answer) << c.type;
-        EXPECT_EQ(dialog.log, Log()) << "the key went on to the dialog";
+        EXPECT_EQ(dialog.log, Log()) << "the key was passed on to the dialog";
     }
 }
 
@@ -278,7 +278,7 @@ TEST_F(DialogTest, WithoutADesktopDialogsPrintAndQuestionsAskAtThePrompt) {
     EXPECT_EQ(host.Alerts(), std::vector<std::wstring>{L"Done."});
 }
 
-TEST_F(DialogTest, NumbersKeepTheirPoint) {
+TEST_F(DialogTest, NumbersKeepTheDecimalPoint) {
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
 }
 

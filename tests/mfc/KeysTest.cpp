@@ -1,4 +1,4 @@
-// Keys and mouse buttons that are looked at before they reach their window.
+// Keys and mouse buttons in PreTranslateMessage.
 #include "tests/mfc/WindowTest.h"
 
 #include <QLineEdit>
@@ -31,7 +31,7 @@ protected:
     std::unique_ptr<TestDialog> m_pDialog;
 };
 
-TEST_F(KeysTest, AKeyIsSeenOnceAndGoesOnUnlessItIsEaten) {
+TEST_F(KeysTest, AKeyIsSeenOnceAndPassedOnUnlessEaten) {
     int seen = 0;
     bool eat = false;
     m_pDialog->onPreTranslate = [&](MSG* pMsg) {
@@ -50,7 +50,7 @@ TEST_F(KeysTest, AKeyIsSeenOnceAndGoesOnUnlessItIsEaten) {
     EXPECT_EQ(Edit().GetWindowText(), L"a");
 }
 
-TEST_F(KeysTest, AnEatenKeyIsNoShortcutEither) {
+TEST_F(KeysTest, AnEatenKeyDoesNotTriggerAShortcut) {
     QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_C), FrameOf(*m_pDialog));
     int fired = 0;
     QObject::connect(&shortcut, &QShortcut::activated, [&] { ++fired; });
@@ -73,7 +73,7 @@ TEST_F(KeysTest, AnEatenKeyIsNoShortcutEither) {
     EXPECT_EQ(seen, 1);
 }
 
-TEST_F(KeysTest, AKeyCanBeBroughtToItsWindowAtOnce) {
+TEST_F(KeysTest, AKeyCanBeDispatchedImmediately) {
     m_pDialog->onPreTranslate = [&](MSG* pMsg) {
         if (pMsg->wParam != VK_RETURN && pMsg->wParam != VK_ESCAPE) {
             return false;
@@ -105,7 +105,7 @@ TEST_F(KeysTest, AHandlerCanTakeKeysFromItsControl) {
     EXPECT_EQ(digits.GetWindowText(), L"12");
 }
 
-TEST_F(KeysTest, AWindowMayGoWhileItsKeyIsLookedAt) {
+TEST_F(KeysTest, AWindowMayBeDestroyedWhileItsKeyIsPreTranslated) {
     m_pDialog->onPreTranslate = [&](MSG*) {
         m_pDialog->DestroyWindow();
         return false;
@@ -126,7 +126,7 @@ TEST_F(KeysTest, NestedLoopsInAKeyDoNotRepeatIt) {
     EXPECT_EQ(nested.log, std::vector<std::string>{"1:0"});
 }
 
-TEST_F(KeysTest, ReleasesOfTheRightButtonAreEatenButClicksOfAListAreNot) {
+TEST_F(KeysTest, RightButtonReleasesAreEatenExceptForClicksOfAList) {
     auto& list = m_pDialog->Item<CListCtrl>(kList);
     list.InsertColumn(0, L"Name", LVCFMT_LEFT, 80);
     list.InsertItem(0, L"row");
@@ -142,7 +142,7 @@ TEST_F(KeysTest, ReleasesOfTheRightButtonAreEatenButClicksOfAListAreNot) {
     EXPECT_EQ(m_pDialog->log.back(), "202:-5");
 }
 
-TEST_F(KeysTest, AnOpenPopupHasTheKeysToItself) {
+TEST_F(KeysTest, AnOpenPopupGetsAllKeys) {
     CMenu menu;
     menu.AppendMenu(MF_STRING, 0, L"First");
     menu.AppendMenu(MF_SEPARATOR);
@@ -159,15 +159,15 @@ TEST_F(KeysTest, AnOpenPopupHasTheKeysToItself) {
         std::vector<Qt::Key> keys;
         std::optional<UINT> chosen;
     } cases[] = {
-        {"id 0 is a choice", {Qt::Key_Down, Qt::Key_Return}, 0U},
-        {"grey is passed over", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, 9U},
+        {"id 0 can be chosen", {Qt::Key_Down, Qt::Key_Return}, 0U},
+        {"disabled items are skipped", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, 9U},
         {"dismissed", {Qt::Key_Down, Qt::Key_Escape}, {}},
         {"from below", {Qt::Key_Up, Qt::Key_Right, Qt::Key_Return}, 77U},
     };
     for (const auto& c : cases) {
         std::function<void()> step;
         std::size_t next = 0;
-        // The menu of a menu opens in its own time, so each key waits for the one before.
+        // Submenus open with a delay, so each key is sent after the previous one was processed.
         step = [&] {
             if (next < c.keys.size()) {
                 QWidget* const pPopup = QApplication::activePopupWidget();

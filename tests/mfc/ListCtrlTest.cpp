@@ -1,4 +1,4 @@
-// Reports: rows and cells, selection, clicks, stages of painting, speed.
+// Report lists: rows and cells, selection, clicks, stages of painting, speed.
 #include "tests/mfc/WindowTest.h"
 
 #include <chrono>
@@ -90,12 +90,12 @@ TEST_F(ListCtrlTest, RowsAndColumnsKeepTheirCells) {
     item.mask = LVIF_PARAM;
     item.lParam = 8;
     EXPECT_TRUE(list.SetItem(item));
-    EXPECT_EQ(list.GetItemText(1, 0), L"m") << "a field outside the mask";
+    EXPECT_EQ(list.GetItemText(1, 0), L"m") << "a field that is not in the mask";
     EXPECT_EQ(list.GetItemData(1), 8U);
     EXPECT_EQ(list.GetItemData(99), 0U);
 }
 
-TEST_F(ListCtrlTest, SelectionTellsOfEachRowThatChanges) {
+TEST_F(ListCtrlTest, EachSelectionChangeIsReported) {
     Fill(5);
     List().SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
     List().SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
@@ -109,10 +109,10 @@ TEST_F(ListCtrlTest, SelectionTellsOfEachRowThatChanges) {
     EXPECT_EQ(List().GetSelectedCount(), 2);
     m_changes.clear();
     List().InsertItem(0, L"new");
-    EXPECT_EQ(Selected(), (std::vector<int>{3, 5})) << "selection goes with its rows";
+    EXPECT_EQ(Selected(), (std::vector<int>{3, 5})) << "the selection moves with its rows";
     List().DeleteItem(3);
     List().DeleteAllItems();
-    EXPECT_EQ(m_changes, Log()) << "rows that go tell nothing";
+    EXPECT_EQ(m_changes, Log()) << "deleted rows send no notification";
     EXPECT_EQ(Selected(), std::vector<int>());
     Fill(3);
     m_changes.clear();
@@ -122,7 +122,7 @@ TEST_F(ListCtrlTest, SelectionTellsOfEachRowThatChanges) {
     EXPECT_EQ(List().GetSelectedCount(), 0);
 }
 
-TEST_F(ListCtrlTest, ClicksComeAfterTheSelectionAndAlsoBesideTheRows) {
+TEST_F(ListCtrlTest, ClicksAreReportedAfterTheSelectionAndAlsoOutsideRows) {
     Fill(2);
     Log order;
     m_pDialog->onNotify = [&](NMHDR* pHeader) -> LRESULT {
@@ -144,14 +144,14 @@ TEST_F(ListCtrlTest, ClicksComeAfterTheSelectionAndAlsoBesideTheRows) {
     m_clicks.clear();
     QTest::mousePress(WidgetOf(List()), Qt::LeftButton, {}, {Middle(1).x, Middle(1).y});
     QTest::mouseRelease(WidgetOf(List()), Qt::LeftButton, {}, {-50, -50});
-    EXPECT_EQ(m_clicks, Log()) << "released elsewhere";
+    EXPECT_EQ(m_clicks, Log()) << "the button was released elsewhere";
     List().SetFocus();
     List().SetItemState(1, LVIS_FOCUSED, LVIS_FOCUSED);
     QTest::keyClick(FrameOf(List()), Qt::Key_Return);
     EXPECT_EQ(m_clicks, Log{"-114@1"});
 }
 
-TEST_F(ListCtrlTest, SortingKeepsEqualRowsAndTheSelection) {
+TEST_F(ListCtrlTest, SortingIsStableAndKeepsTheSelection) {
     Fill(4);
     List().SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
     m_changes.clear();
@@ -163,7 +163,7 @@ TEST_F(ListCtrlTest, SortingKeepsEqualRowsAndTheSelection) {
     EXPECT_EQ(m_changes, Log());
 }
 
-TEST_F(ListCtrlTest, ColumnsFitTheirContentOrTheirHeader) {
+TEST_F(ListCtrlTest, ColumnsFitTheirContentOrHeader) {
     Fill(2);
     List().SetItemText(1, 0, L"a rather long text of a cell");
     List().SetColumnWidth(0, LVSCW_AUTOSIZE);
@@ -177,11 +177,11 @@ TEST_F(ListCtrlTest, ColumnsFitTheirContentOrTheirHeader) {
     EXPECT_GT(List().GetColumnWidth(0), narrow) << "the header is wider";
     List().SetColumnWidth(1, LVSCW_AUTOSIZE_USEHEADER);
     EXPECT_EQ(List().GetColumnWidth(0) + List().GetColumnWidth(1), WidgetOf(List())->width())
-        << "the last one takes what is left";
+        << "the last column takes the remaining space";
     EXPECT_FALSE(List().SetColumnWidth(2, 50));
 }
 
-/// Answers the stages of painting as a list with styles of its own would.
+/// Handles the stages of painting like a list with custom styles.
 class StagesList : public CListCtrl {
 public:
     Log stages;
@@ -234,14 +234,14 @@ private:
     const CFont* m_pFontBefore = nullptr;
 };
 
-TEST_F(ListCtrlTest, PaintingComesInStagesAndTakesTheirColours) {
+TEST_F(ListCtrlTest, PaintingCallsAllStagesAndUsesTheirColours) {
     StagesList list;
     ASSERT_TRUE(list.SubclassDlgItem(kList, m_pDialog.get()));
     list.InsertColumn(0, L"Name", LVCFMT_LEFT, 60);
     list.InsertColumn(1, L"Colour", LVCFMT_LEFT, 60);
     list.InsertItem(0, L"");
     list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
-    QTest::qWait(50); // what is painted anyway
+    QTest::qWait(50); // let pending paints finish
     m_changes.clear();
     list.stages.clear();
     QWidget* const pView = WidgetOf(list);
@@ -252,14 +252,14 @@ TEST_F(ListCtrlTest, PaintingComesInStagesAndTakesTheirColours) {
     const CPoint color = list.GetSubItemRect(0, 1).CenterPoint();
     EXPECT_EQ(picture.pixelColor(name.x, name.y), QColor(255, 255, 0)) << "not the highlight";
     EXPECT_EQ(picture.pixelColor(color.x, color.y), QColor(0, 0, 255));
-    EXPECT_EQ(list.GetItemState(0, LVIS_SELECTED), LVIS_SELECTED) << "back after the paint";
-    EXPECT_EQ(m_changes, Log()) << "the state of the moment is nobody's business";
+    EXPECT_EQ(list.GetItemState(0, LVIS_SELECTED), LVIS_SELECTED) << "restored after painting";
+    EXPECT_EQ(m_changes, Log()) << "temporary state changes are not reported";
     list.stages.clear();
     QTest::qWait(50);
-    EXPECT_EQ(list.stages, Log()) << "painting asked for painting";
+    EXPECT_EQ(list.stages, Log()) << "painting triggered a repaint";
 }
 
-TEST_F(ListCtrlTest, AHundredThousandRowsFillFastAtBothEnds) {
+TEST_F(ListCtrlTest, AddsAHundredThousandRowsFastAtBothEnds) {
     const auto begin = std::chrono::steady_clock::now();
     Fill(100000);
     for (int i = 0; i < 100000; ++i) {
@@ -270,7 +270,7 @@ TEST_F(ListCtrlTest, AHundredThousandRowsFillFastAtBothEnds) {
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     EXPECT_EQ(List().GetItemCount(), 200000);
     EXPECT_EQ(List().GetItemText(199999, 0), L"99999");
-    // Far from what it takes, and from what work that grows with the rows there would take.
+    // Much more than it takes, but much less than quadratic time.
     EXPECT_LT(took.count(), 8.0);
 }
 

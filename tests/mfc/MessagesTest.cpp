@@ -1,4 +1,4 @@
-// Messages on their way to handlers and back to the toolkit.
+// Delivery of messages to handlers and to the toolkit's defaults.
 #include "tests/mfc/WindowTest.h"
 
 #include <functional>
@@ -16,7 +16,7 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-/// Tells what it got, when its own handler runs and when it is done.
+/// Logs its messages and its destruction.
 class LoggingWnd : public CWnd {
 public:
     LoggingWnd(std::string name, Log& log) : m_name(std::move(name)), m_log(log) {}
@@ -85,7 +85,7 @@ protected:
     Log m_log;
 };
 
-TEST_F(MessagesTest, WhatAHandlerThrowsEndsThereWithALineForTheUser) {
+TEST_F(MessagesTest, ExceptionsOfHandlersAreCaughtAndReported) {
     struct Thrower final : CWnd {
         const MessageMap* GetMessageMap() const override {
             static constexpr MessageEntry kEntries[] = {
@@ -111,14 +111,14 @@ TEST_F(MessagesTest, WhatAHandlerThrowsEndsThereWithALineForTheUser) {
     window.DestroyWindow();
 }
 
-TEST_F(MessagesTest, SentMessagesAnswerAndPostedOnesWait) {
+TEST_F(MessagesTest, SentMessagesReturnResultsAndPostedOnesWait) {
     LoggingWnd wnd("w", m_log);
     EXPECT_EQ(wnd.SendMessage(WM_USER + 2, 9, 4), 0) << "without a window";
     EXPECT_FALSE(wnd.PostMessage(WM_USER + 2));
     ASSERT_TRUE(wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr));
     m_log.clear();
     EXPECT_EQ(wnd.SendMessage(WM_USER + 2, 9, -4), 13);
-    EXPECT_EQ(wnd.SendMessage(WM_USER + 3, 9, 4), 0) << "nobody handles it";
+    EXPECT_EQ(wnd.SendMessage(WM_USER + 3, 9, 4), 0) << "there is no handler";
     EXPECT_TRUE(wnd.PostMessage(WM_USER + 2));
     EXPECT_EQ(m_log, Log{"w private"});
     AfxPumpMessages();
@@ -135,7 +135,7 @@ TEST_F(MessagesTest, SentMessagesAnswerAndPostedOnesWait) {
     EXPECT_EQ(CWnd::FromHandle(handle), nullptr);
 }
 
-TEST_F(MessagesTest, CommandsGoByCodeAndRange) {
+TEST_F(MessagesTest, CommandsAreMappedByCodeAndRange) {
     LoggingWnd wnd("w", m_log);
     wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
     m_log.clear();
@@ -148,7 +148,7 @@ TEST_F(MessagesTest, CommandsGoByCodeAndRange) {
     }
 }
 
-TEST_F(MessagesTest, WindowsGoOuterFirstAndAreGoneInnerFirst) {
+TEST_F(MessagesTest, WindowsAreNotifiedOuterFirstAndDestroyedInnerFirst) {
     LoggingWnd outer("outer", m_log);
     LoggingWnd inner("inner", m_log);
     LoggingWnd innermost("innermost", m_log);
@@ -164,10 +164,10 @@ TEST_F(MessagesTest, WindowsGoOuterFirstAndAreGoneInnerFirst) {
                           "innermost gone", "inner gone", "outer gone"}));
     EXPECT_EQ(inner.GetSafeHwnd(), nullptr);
     EXPECT_FALSE(outer.DestroyWindow());
-    EXPECT_TRUE(outer.Create(WS_POPUP, {0, 0, 30, 30}, nullptr)) << "the object can go on";
+    EXPECT_TRUE(outer.Create(WS_POPUP, {0, 0, 30, 30}, nullptr)) << "the object can be reused";
 }
 
-TEST_F(MessagesTest, SizeComesAtOnceAlsoToHiddenWindows) {
+TEST_F(MessagesTest, HiddenWindowsGetSizeMessagesAtOnce) {
     LoggingWnd wnd("w", m_log);
     wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
     EXPECT_EQ(m_log, Log{"w size 50x40"});
@@ -177,10 +177,10 @@ TEST_F(MessagesTest, SizeComesAtOnceAlsoToHiddenWindows) {
     const std::size_t before = m_log.size();
     wnd.ShowWindow(SW_SHOW);
     AfxPumpMessages();
-    EXPECT_EQ(m_log.size(), before) << "told twice";
+    EXPECT_EQ(m_log.size(), before) << "notified twice";
 }
 
-TEST_F(MessagesTest, TimersComeUntilTheyAreKilled) {
+TEST_F(MessagesTest, TimersRepeatUntilKilled) {
     LoggingWnd wnd("w", m_log);
     wnd.Create(WS_POPUP, {0, 0, 50, 40}, nullptr);
     m_log.clear();
@@ -191,13 +191,13 @@ TEST_F(MessagesTest, TimersComeUntilTheyAreKilled) {
         }
     };
     EXPECT_EQ(wnd.SetTimer(4096, 100000), 4096U);
-    wnd.SetTimer(4096, 1); // anew
+    wnd.SetTimer(4096, 1); // restarts it
     QTest::qWait(50);
     EXPECT_EQ(m_log, (Log{"w timer 4096", "w timer 4096", "w timer 4096"}));
     EXPECT_FALSE(wnd.KillTimer(4096));
 }
 
-TEST_F(MessagesTest, AWindowMayGoInItsOwnHandlers) {
+TEST_F(MessagesTest, AWindowMayBeDestroyedInItsOwnHandlers) {
     const auto make = [this] {
         auto* const pWnd = new LoggingWnd("w", m_log);
         pWnd->deleteSelf = true;
@@ -221,7 +221,7 @@ TEST_F(MessagesTest, AWindowMayGoInItsOwnHandlers) {
     EXPECT_EQ(m_log, (Log{"w destroy 50", "w gone"})) << "by its close box";
 }
 
-/// Pushes a button that takes the whole window away.
+/// Clicks a button whose handler destroys the window.
 TEST_F(MessagesTest, AButtonMayDestroyItsParent) {
     class Parent : public LoggingWnd {
     public:
@@ -240,7 +240,7 @@ TEST_F(MessagesTest, AButtonMayDestroyItsParent) {
     EXPECT_EQ(parent.GetSafeHwnd(), nullptr);
 }
 
-/// The base handler does what the toolkit does by itself, when it is called and once.
+/// A base handler runs the toolkit's default at the point where it is called, and only once.
 TEST_F(MessagesTest, BaseHandlersRunWhereTheyAreCalled) {
     enum class Call { Never, First, Last, Twice };
     class Check : public CButton {
@@ -283,7 +283,7 @@ TEST_F(MessagesTest, BaseHandlersRunWhereTheyAreCalled) {
     }
 }
 
-TEST_F(MessagesTest, TheMouseStopsAtTheWindowItIsAimedAt) {
+TEST_F(MessagesTest, MouseEventsAreNotPassedToParents) {
     LoggingWnd outer("outer", m_log);
     LoggingWnd inner("inner", m_log);
     outer.Create(WS_POPUP | WS_VISIBLE, {0, 0, 100, 50}, nullptr);

@@ -1,4 +1,4 @@
-// Where windows go: proposed places, captions, placement, screens, stacking.
+// Positions of windows: proposed positions, captions, placement, screens, stacking.
 #include "tests/mfc/WindowTest.h"
 
 #include <QFile>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Keeps to a grid of ten pixels.
+/// Snaps to a grid of ten pixels.
 class GridDialog : public TestDialog {
 public:
     int asked = 0;
@@ -39,7 +39,7 @@ protected:
 
 class MovingTest : public WindowTest {};
 
-TEST_F(MovingTest, AHandlerChangesEachProposedPlace) {
+TEST_F(MovingTest, AHandlerCanChangeEachProposedPosition) {
     GridDialog dialog;
     dialog.Create();
     const CSize size = dialog.GetWindowRect().Size();
@@ -79,10 +79,10 @@ TEST_F(MovingTest, EveryStepOfADragIsProposed) {
     EXPECT_EQ(dialog.asked, 22);
     EXPECT_EQ(dialog.GetWindowRect().Size(), before.Size());
     send(QEvent::MouseMove, grip + QPoint(50, 50));
-    EXPECT_EQ(dialog.asked, 22) << "the button is up";
+    EXPECT_EQ(dialog.asked, 22) << "the button was released";
 }
 
-TEST_F(MovingTest, EdgesSizeOnlyWhatCanBeSized) {
+TEST_F(MovingTest, EdgesResizeOnlySizableWindows) {
     for (const bool sizable : {false, true}) {
         CWnd wnd;
         wnd.Create(WS_POPUP | WS_CAPTION | WS_VISIBLE | (sizable ? WS_THICKFRAME : 0),
@@ -120,10 +120,10 @@ TEST_F(MovingTest, PlacementCoversAnotherWindowExactly) {
     owner.GetWindowPlacement(&place);
     EXPECT_EQ(place.showCmd, SW_SHOWMINIMIZED);
     owner.DestroyWindow();
-    EXPECT_FALSE(target.GetSafeHwnd()) << "a window goes with its owner";
+    EXPECT_FALSE(target.GetSafeHwnd()) << "a window is destroyed with its owner";
 }
 
-TEST_F(MovingTest, WindowsAreCountedFromTheFront) {
+TEST_F(MovingTest, WindowsAreListedFrontToBack) {
     CWnd a;
     CWnd b;
     CWnd hidden;
@@ -142,12 +142,12 @@ TEST_F(MovingTest, WindowsAreCountedFromTheFront) {
     EXPECT_EQ(Screens().Stacking(), Order{b.GetSafeHwnd()});
 }
 
-TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
+TEST_F(MovingTest, CaptionButtonsNotifyTheirDialog) {
     TestDialog dialog;
     dialog.Create();
     dialog.ShowWindow(SW_SHOW);
     CCustomBitmapButton strip;
-    EXPECT_FALSE(strip.AddButton(1)) << "nothing to put it on";
+    EXPECT_FALSE(strip.AddButton(1)) << "not attached to a window";
     ASSERT_TRUE(strip.Attach(&dialog));
     EXPECT_TRUE(strip.AddButton(1));
     EXPECT_TRUE(strip.AddButton(2));
@@ -162,7 +162,7 @@ TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
         }
     }
     EXPECT_EQ(dialog.log, std::vector<std::string>{"2:-2"});
-    EXPECT_EQ(seen, 0) << "the caption is not the dialog's to look at";
+    EXPECT_EQ(seen, 0) << "PreTranslateMessage does not see the caption";
     dialog.DestroyWindow();
     EXPECT_FALSE(strip.HasButton(1));
     TestDialog child(nullptr, 901);
@@ -170,7 +170,7 @@ TEST_F(MovingTest, CaptionButtonsTellTheirDialog) {
     EXPECT_FALSE(strip.Attach(&child)) << "no caption";
 }
 
-TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
+TEST_F(MovingTest, TheTaskBarIsTheAreaOutsideTheWorkArea) {
     const CRect full(0, 0, 1920, 1080);
     const Rows<CRect, CRect> cases = {
         {full, {}},
@@ -187,7 +187,7 @@ TEST_F(MovingTest, TheTaskBarIsWhatTheWorkAreaLeavesOut) {
     EXPECT_TRUE(TaskBarOf(left).IsRectEmpty());
 }
 
-TEST_F(MovingTest, TheNearestMonitorHoldsThePointOrLiesClosest) {
+TEST_F(MovingTest, FindsTheMonitorThatContainsOrIsNearestToAPoint) {
     const ScriptedScreens desktop(
         {{{0, 0, 1920, 1080}, {}}, {{-1280, 0, 0, 1024}, {}}, {{1920, 100, 3200, 900}, {}}});
     const Rows<CPoint, int> cases = {{{0, 0}, 0},         {{-1, 500}, -1280}, {{1919, 1079}, 0},
@@ -199,7 +199,7 @@ TEST_F(MovingTest, TheNearestMonitorHoldsThePointOrLiesClosest) {
     }
 }
 
-TEST_F(MovingTest, APanelTakesRoomFromTheMonitorAtWhoseEdgeItStands) {
+TEST_F(MovingTest, APanelReducesTheWorkAreaOfItsMonitor) {
     const CRect all(0, 0, 1600, 900);
     const CRect left(0, 0, 800, 800);
     const CRect right(800, 0, 1600, 900);
@@ -207,7 +207,7 @@ TEST_F(MovingTest, APanelTakesRoomFromTheMonitorAtWhoseEdgeItStands) {
         {"below the right one", {enmEdge::Bottom, 40, 800, 1599}, left, {800, 0, 1600, 860}},
         {"below the lower left one", {enmEdge::Bottom, 140, 0, 799}, {0, 0, 800, 760}, right},
         {"above both", {enmEdge::Top, 30, 0, 1599}, {0, 30, 800, 800}, {800, 30, 1600, 900}},
-        {"between them, of the right one", {enmEdge::Left, 860, 0, 899}, left, {860, 0, 1600, 900}},
+        {"between them, on the right one", {enmEdge::Left, 860, 0, 899}, left, {860, 0, 1600, 900}},
         {"none", {enmEdge::Right, 0, 0, 0}, left, right},
     };
     for (const auto& [what, strut, leftWork, rightWork] : cases) {
@@ -232,7 +232,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(PrimaryOnTheRightTest, PlacesCountFromItsCorner) {
+TEST_F(PrimaryOnTheRightTest, PositionsAreRelativeToItsCorner) {
     const std::vector<Monitor> monitors = Screens().Monitors();
     ASSERT_EQ(monitors.size(), 2U);
     EXPECT_EQ(monitors[0].full, CRect(0, 0, 1920, 1080));
@@ -243,13 +243,13 @@ TEST_F(PrimaryOnTheRightTest, PlacesCountFromItsCorner) {
     dialog.ShowWindow(SW_SHOW);
     AfxPumpMessages();
     EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(-200, 50));
-    EXPECT_EQ(FrameOf(dialog)->pos(), QPoint(1080, 150)) << "as the toolkit counts";
+    EXPECT_EQ(FrameOf(dialog)->pos(), QPoint(1080, 150)) << "in toolkit coordinates";
     EXPECT_EQ(dialog.ScreenToClient(dialog.ClientToScreen({3, 4})), CPoint(3, 4));
     EXPECT_EQ(dialog.ClientToScreen({0, 0}).x, -200 + GetSystemMetrics(SM_CXFIXEDFRAME));
     WINDOWPLACEMENT placement;
     dialog.GetWindowPlacement(&placement);
     EXPECT_EQ(placement.rcNormalPosition.TopLeft(), CPoint(-200, 50));
-    // A drag begins at the place where the window is.
+    // A drag starts at the window's current position.
     QTest::mousePress(FrameOf(dialog), Qt::LeftButton, {}, {60, 8});
     QTest::mouseMove(FrameOf(dialog), {100, 8});
     EXPECT_EQ(dialog.GetWindowRect().TopLeft(), CPoint(-160, 50));
@@ -263,7 +263,7 @@ TEST_F(PrimaryOnTheRightTest, PlacesCountFromItsCorner) {
     EXPECT_EQ(clicked, dialog.ClientToScreen({10, 10}));
 }
 
-TEST_F(PrimaryOnTheRightTest, AModalDialogComesInItsMiddle) {
+TEST_F(PrimaryOnTheRightTest, AModalDialogIsCentredOnIt) {
     TestDialog dialog;
     CRect place;
     Later([&] {

@@ -1,4 +1,4 @@
-// Icons on a screen with two pixels to the unit.
+// Icons on a screen with a scale factor of two.
 #include "tests/mfc/WindowTest.h"
 
 #include <QImage>
@@ -15,7 +15,7 @@ namespace {
 
 const CString kFile(L"" TESSALY_SOURCE_DIR "/share/icons/IDI_REFRESH.svg");
 
-/// Each handle is the one icon.
+/// Returns the same icon for every handle.
 class OneIcon final : public IIconSource {
 public:
     OneIcon() : m_pBefore(SetIconSource(this)) {}
@@ -34,7 +34,7 @@ QImage ViewOf(const CImage& image) {
         .copy();
 }
 
-/// Whether a picture is somewhere on a surface, pixel by pixel where it is opaque.
+/// True if a surface contains the opaque pixels of a picture anywhere.
 bool Shows(const QImage& surface, const QImage& picture) {
     for (int y = 0; y + picture.height() <= surface.height(); ++y) {
         for (int x = 0; x + picture.width() <= surface.width(); ++x) {
@@ -56,7 +56,7 @@ class SharpIconsTest : public WindowTest {
 protected:
     void SetUp() override {
         if (qApp) {
-            GTEST_SKIP() << "the toolkit was there before";
+            GTEST_SKIP() << "the toolkit is already running";
         }
         qputenv("QT_SCALE_FACTOR", "2");
         WindowTest::SetUp();
@@ -78,7 +78,7 @@ protected:
     int m_handle = 0;
 };
 
-TEST_F(SharpIconsTest, EveryControlShowsThePixelsOfTheDenseScreen) {
+TEST_F(SharpIconsTest, EveryControlUsesTheFullResolutionOfTheScreen) {
     CImageList images;
     images.Add(&m_handle);
     auto& button = m_pDialog->Item<CButton>(kPush);

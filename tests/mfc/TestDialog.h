@@ -1,4 +1,4 @@
-// A dialog of a table of controls, which tells what its handlers got.
+// A dialog with a table of controls that logs its messages.
 #pragma once
 
 #include <functional>
@@ -43,7 +43,7 @@ public:
         }();
     }
 
-    /// Texts as "id:code" of commands and "id:code" of notifications, in the order they came.
+    /// Received commands and notifications as "id:code", in order.
     std::vector<std::string> log;
     std::function<bool()> onInit = [] { return true; };
     std::function<void(UINT)> onCommand;
@@ -88,7 +88,7 @@ protected:
     }
 };
 
-/// A test with a dialog on the screen, whose commands nobody wants unless the test says so.
+/// A test with a visible dialog, which ignores commands unless the test sets a handler.
 class DialogOnScreenTest : public WindowTest {
 protected:
     void SetUp() override {

@@ -80,7 +80,7 @@ protected:
     bool m_refuseLabel = false;
 };
 
-TEST_F(TreeCtrlTest, NodesStandWhereTheyWereInserted) {
+TEST_F(TreeCtrlTest, NodesAreInsertedAtTheGivenPositions) {
     EXPECT_EQ(Tree().GetRootItem(), nullptr);
     const HTREEITEM b = Add(L"b");
     const HTREEITEM d = Add(L"d");
@@ -107,17 +107,17 @@ TEST_F(TreeCtrlTest, NodesStandWhereTheyWereInserted) {
     EXPECT_EQ(Shape(), "");
 }
 
-TEST_F(TreeCtrlTest, SelectionIsToldWithTheNodesBeforeAndNow) {
+TEST_F(TreeCtrlTest, SelectionChangesReportTheOldAndTheNewNode) {
     const HTREEITEM a = Add(L"a");
     const HTREEITEM b = Add(L"b", a);
     const HTREEITEM c = Add(L"c");
-    EXPECT_EQ(Tree().GetSelectedItem(), nullptr) << "nobody selected anything";
+    EXPECT_EQ(Tree().GetSelectedItem(), nullptr) << "nothing was selected yet";
     Tree().SelectItem(b);
-    EXPECT_TRUE(Tree().IsExpanded(a)) << "it can be seen";
+    EXPECT_TRUE(Tree().IsExpanded(a)) << "it must be visible";
     Tree().SelectItem(b);
     QTest::mouseClick(WidgetOf(Tree()), Qt::LeftButton, {}, On(c));
     QTest::mouseClick(WidgetOf(Tree()), Qt::RightButton, {}, On(a));
-    EXPECT_EQ(Tree().GetSelectedItem(), c) << "the right button selects nothing";
+    EXPECT_EQ(Tree().GetSelectedItem(), c) << "the right button does not select";
     Tree().SelectItem(nullptr);
     EXPECT_EQ(m_log,
               (Log{"open a", "select ->b", "select b>c", "click -2", "click -5", "select c>-"}));
@@ -125,7 +125,7 @@ TEST_F(TreeCtrlTest, SelectionIsToldWithTheNodesBeforeAndNow) {
     Tree().SelectItem(b);
     Tree().DeleteItem(a);
     EXPECT_EQ(Tree().GetSelectedItem(), nullptr) << "no neighbour takes over";
-    EXPECT_EQ(m_log.back(), "select b>-") << "told while the node was there";
+    EXPECT_EQ(m_log.back(), "select b>-") << "reported before the node was deleted";
     Tree().SelectItem(c);
     m_log.clear();
     Tree().DeleteAllItems();
@@ -133,7 +133,7 @@ TEST_F(TreeCtrlTest, SelectionIsToldWithTheNodesBeforeAndNow) {
     EXPECT_EQ(m_log, Log());
 }
 
-TEST_F(TreeCtrlTest, BranchesOpenAndShut) {
+TEST_F(TreeCtrlTest, BranchesExpandAndCollapse) {
     const HTREEITEM a = Add(L"a");
     EXPECT_FALSE(Tree().Expand(a, TVE_EXPAND)) << "nothing below";
     const HTREEITEM b = Add(L"b", a);
@@ -152,7 +152,7 @@ TEST_F(TreeCtrlTest, BranchesOpenAndShut) {
     EXPECT_EQ(m_log, (Log{"select ->a", "click -2", "shut a", "click -3"}));
 }
 
-TEST_F(TreeCtrlTest, APointHitsANodeAlsoBesideItsLabel) {
+TEST_F(TreeCtrlTest, APointBesideALabelHitsItsNode) {
     const HTREEITEM a = Add(L"a");
     const HTREEITEM b = Add(L"b", a);
     Tree().Expand(a, TVE_EXPAND);
@@ -166,11 +166,11 @@ TEST_F(TreeCtrlTest, APointHitsANodeAlsoBesideItsLabel) {
     EXPECT_EQ(flags, TVHT_NOWHERE);
 }
 
-TEST_F(TreeCtrlTest, LabelsAreAskedForAndCanBeRefused) {
+TEST_F(TreeCtrlTest, LabelEditsCanBeRefused) {
     const Rows<const char*, bool, bool, Qt::Key, std::string, Log> cases = {
-        {"written", false, false, Qt::Key_Return, "new", {"edit old", "label old=new"}},
+        {"edited", false, false, Qt::Key_Return, "new", {"edit old", "label old=new"}},
         {"refused at the end", false, true, Qt::Key_Return, "old", {"edit old", "label old=new"}},
-        {"given up", false, false, Qt::Key_Escape, "old", {"edit old", "label old=nothing"}},
+        {"cancelled", false, false, Qt::Key_Escape, "old", {"edit old", "label old=nothing"}},
         {"refused at once", true, false, Qt::Key_Return, "old", {"edit old"}},
     };
     for (const auto& [what, refuseEdit, refuseLabel, end, label, log] : cases) {
@@ -191,7 +191,7 @@ TEST_F(TreeCtrlTest, LabelsAreAskedForAndCanBeRefused) {
     }
 }
 
-TEST_F(TreeCtrlTest, AClickOnASelectedLabelThatIsRefusedEndsQuietly) {
+TEST_F(TreeCtrlTest, ARefusedClickOnASelectedLabelGivesNoWarning) {
     const HTREEITEM item = Add(L"fixed");
     Tree().SelectItem(item);
     m_refuseEdit = true;
@@ -199,12 +199,12 @@ TEST_F(TreeCtrlTest, AClickOnASelectedLabelThatIsRefusedEndsQuietly) {
     const CRect label = Tree().GetItemRect(item, true);
     QTest::mouseClick(WidgetOf(Tree()), Qt::LeftButton, {}, QPoint(label.left + 4, label.top + 4));
     m_log.clear();
-    // The toolkit waits whether it becomes a double click.
+    // The toolkit waits for a possible double click.
     QTest::qWait(2 * QApplication::doubleClickInterval());
     EXPECT_EQ(m_log, std::vector<std::string>{"edit fixed"});
 }
 
-TEST_F(TreeCtrlTest, ADragBeginsOnceTheMouseHasGoneFarEnough) {
+TEST_F(TreeCtrlTest, ADragStartsAfterTheMinimumDistance) {
     const HTREEITEM a = Add(L"a");
     Add(L"b");
     QWidget* const pView = WidgetOf(Tree());
@@ -221,10 +221,10 @@ TEST_F(TreeCtrlTest, ADragBeginsOnceTheMouseHasGoneFarEnough) {
     move(from + QPoint(41, 0));
     EXPECT_EQ(m_log, (Log{"select ->a", "drag a"}));
     QTest::mouseRelease(pView, Qt::LeftButton, {}, from + QPoint(41, 0));
-    EXPECT_EQ(m_log, (Log{"select ->a", "drag a"})) << "a drag is no click";
+    EXPECT_EQ(m_log, (Log{"select ->a", "drag a"})) << "a drag is not a click";
 }
 
-TEST_F(TreeCtrlTest, ChildrenSortByTextOrData) {
+TEST_F(TreeCtrlTest, ChildrenAreSortedByTextOrData) {
     const HTREEITEM top = Add(L"top");
     const wchar_t* const names[] = {L"b", L"C", L"a", L"B"};
     DWORD_PTR data = 4;

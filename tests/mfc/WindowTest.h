@@ -1,5 +1,5 @@
-// What tests of windows have in common: a desktop in memory, no window left over, no
-// warning of the toolkit.
+// Base of window tests: uses an in-memory desktop, and fails if windows are left over or the
+// toolkit warns.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ protected:
     void SetUp() override {
         qputenv("QT_QPA_PLATFORM", Platform());
         AfxSetDesktopMode(true);
-        AfxStartToolkit(); // may warn of the folders that this machine lacks
+        AfxStartToolkit(); // may warn about missing folders
         Warnings().clear();
         qInstallMessageHandler(&NoteWarning);
     }
@@ -34,7 +34,7 @@ protected:
             left.emplace_back(pWidget->metaObject()->className());
         }
         EXPECT_EQ(left, std::vector<std::string>()) << "windows left over";
-        EXPECT_EQ(Warnings(), std::vector<std::string>()) << "warnings of the toolkit";
+        EXPECT_EQ(Warnings(), std::vector<std::string>()) << "toolkit warnings";
         qInstallMessageHandler(nullptr);
     }
 
@@ -45,8 +45,8 @@ protected:
 
 private:
     static void NoteWarning(QtMsgType type, const QMessageLogContext&, const QString& text) {
-        // What the memory display has not got (a window manager, a keyboard to grab for a
-        // menu) is no fault of ours.
+        // Ignore warnings about features missing in the in-memory display (a window manager, a
+        // keyboard to grab for a menu).
         if (type != QtDebugMsg && type != QtInfoMsg &&
             !text.startsWith(QLatin1String("This plugin does not support"))) {
             Warnings().push_back(text.toStdString());
@@ -54,16 +54,16 @@ private:
     }
 };
 
-/// What the user's mouse and keys reach.
+/// The widget that receives mouse and key events.
 inline QWidget* WidgetOf(const CWnd& wnd) {
     return static_cast<QWidget*>(NativeClient(wnd));
 }
-/// The window with its caption and edges.
+/// The outermost widget, with caption and edges.
 inline QWidget* FrameOf(const CWnd& wnd) {
     return static_cast<QWidget*>(NativeWidget(wnd));
 }
 
-/// Runs a step once a nested loop waits for the user.
+/// Runs a step from within the next nested event loop.
 template <class Step>
 void Later(Step step) {
     QTimer::singleShot(0, qApp, step);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Notes its name with each event.
+/// Logs its name with each event.
 class Reactor final : public AcApDocManagerReactor {
 public:
     Reactor(AcApDocManager& manager, EventLog& log, const char* name)
@@ -38,7 +38,7 @@ AcDbDatabase* WorkingDatabase() {
 
 } // namespace
 
-TEST(Documents, EveryReactorHearsWhatAnotherOneThrowsAt) {
+TEST(Documents, AReactorThatThrowsDoesNotHideEventsFromOthers) {
     struct Thrower final : AcApDocManagerReactor {
         void documentToBeDestroyed(AcApDocument*) override { throw std::runtime_error("going"); }
         void documentDestroyed(const wchar_t*) override { throw 42; }
@@ -55,7 +55,7 @@ TEST(Documents, EveryReactorHearsWhatAnotherOneThrowsAt) {
     EXPECT_NE(host.Output().find("document event failed: going"), std::string::npos);
 }
 
-TEST(Documents, ReactorsHearEverythingInTheirOrder) {
+TEST(Documents, ReactorsAreCalledInOrderOfRegistration) {
     AcApDocManager manager;
     EventLog log;
     const Reactor first(manager, log, "1");
@@ -74,7 +74,7 @@ TEST(Documents, ReactorsHearEverythingInTheirOrder) {
     EXPECT_EQ(WorkingDatabase(), pA->database());
 }
 
-TEST(Documents, WithTheLastDocumentGoesTheDatabase) {
+TEST(Documents, ClosingTheLastDocumentClearsTheWorkingDatabase) {
     AcApDocManager manager;
     EventLog log;
     AcApDocument* const pA = manager.newDocument(L"a");
@@ -83,11 +83,11 @@ TEST(Documents, WithTheLastDocumentGoesTheDatabase) {
     EXPECT_EQ(log.Take(), "1left a;1dying a;1gone a;1current none;");
     EXPECT_EQ(WorkingDatabase(), nullptr);
     EXPECT_EQ(manager.documentCount(), 0);
-    manager.closeDocument(pA); // not one of its documents any more
+    manager.closeDocument(pA); // no longer open
     EXPECT_EQ(log.Take(), "");
 }
 
-TEST(Documents, ADocumentInTheBackgroundGoesQuietly) {
+TEST(Documents, ClosingABackgroundDocumentKeepsTheCurrentOne) {
     AcApDocManager manager;
     AcApDocument* const pA = manager.newDocument(L"a");
     AcApDocument* const pB = manager.newDocument(L"b");
@@ -98,7 +98,7 @@ TEST(Documents, ADocumentInTheBackgroundGoesQuietly) {
     EXPECT_EQ(manager.curDocument(), pB);
 }
 
-TEST(Documents, AReactorThatGoesWhileOthersAreToldIsNotCalled) {
+TEST(Documents, AReactorRemovedDuringACallIsSkipped) {
     AcApDocManager manager;
     EventLog log;
     const Reactor first(manager, log, "1");
@@ -112,7 +112,7 @@ TEST(Documents, AReactorThatGoesWhileOthersAreToldIsNotCalled) {
     EXPECT_EQ(log.Take(), "1current a;");
 }
 
-TEST(Documents, NewDrawingsGetNamesThatNoneHas) {
+TEST(Documents, NewDrawingsGetUnusedNames) {
     AcApDocManager manager;
     manager.newDocument(L"Drawing2");
     EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing1");
@@ -121,5 +121,5 @@ TEST(Documents, NewDrawingsGetNamesThatNoneHas) {
     EXPECT_FALSE(pThird->hasFile());
     EXPECT_TRUE(pThird->path().IsEmpty());
     manager.closeDocument(pThird);
-    EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing4") << "no name comes twice";
+    EXPECT_STREQ(manager.newDocument()->fileName(), L"Drawing4") << "names are not reused";
 }

@@ -25,20 +25,20 @@ TEST(AciColors, FollowTheTable) {
     }
 }
 
-TEST(AciColors, ContrastWithTheBackgroundWhereNoneIsSaid) {
+TEST(AciColors, ContrastWithTheBackgroundWithoutAnIndex) {
     for (const int index : {7, 0, -1, 256, 100000}) {
         EXPECT_EQ(AciColor(index, Background::Dark), 0xffffffff) << index;
         EXPECT_EQ(AciColor(index, Background::Light), 0xff000000) << index;
     }
 }
 
-TEST(AciColors, AreOpaqueAndOfManyKinds) {
+TEST(AciColors, AreOpaqueAndMostlyDifferent) {
     std::set<Rgb> colors;
     for (int index = 1; index <= 255; ++index) {
         colors.insert(AciColor(index, Background::Dark));
         EXPECT_EQ(AciColor(index, Background::Dark) >> 24U, 0xffU) << index;
     }
-    // Six of the hues, white twice and one grey stand twice in the table.
+    // The table has a few duplicates: six hues, white (twice) and one grey.
     EXPECT_GT(colors.size(), 240U);
 }
 

@@ -63,14 +63,14 @@ protected:
     CommandRunner m_runner{m_stack};
 };
 
-TEST_F(CommandsTest, SayWhetherTheyWereCarriedOut) {
+TEST_F(CommandsTest, ReportWhetherTheyFailed) {
     s_work = [] {};
     EXPECT_EQ(Run(L"work"), CommandOutcome::Done);
     EXPECT_EQ(Run(L"fail"), CommandOutcome::Failed);
-    EXPECT_EQ(Run(L"work"), CommandOutcome::Done) << "the failure was the other's";
+    EXPECT_EQ(Run(L"work"), CommandOutcome::Done) << "the other command failed";
     EXPECT_EQ(Run(L"nothing"), CommandOutcome::Unknown);
     s_work = [this] { EXPECT_EQ(Run(L"fail"), CommandOutcome::Failed); };
-    EXPECT_EQ(Run(L"work"), CommandOutcome::Done) << "of a command inside as well";
+    EXPECT_EQ(Run(L"work"), CommandOutcome::Done) << "only the nested command failed";
     s_work = [] { acedSetCommandFailed(); };
     EXPECT_EQ(Run(L"elsewhere"), CommandOutcome::Failed);
 }
@@ -85,7 +85,7 @@ TEST_F(CommandsTest, AreOneUndoStepEach) {
         const wchar_t* command;
         std::function<void()> work;
         const wchar_t* step;
-        std::size_t left; ///< points, of two, once the step is taken back
+        std::size_t left; ///< points, of two, after undoing the step
     } cases[] = {
         {L"work", work, L"WORK", 0},
         {L"Elsewhere", work, L"ELSEWHERE", 0},
@@ -123,7 +123,7 @@ TEST_F(CommandsTest, AreOneUndoStepEach) {
     }
 }
 
-TEST_F(CommandsTest, MayCloseTheDrawingThatTheyBeganIn) {
+TEST_F(CommandsTest, MayCloseTheDrawingTheyStartedIn) {
     for (const int drawings : {1, 2}) {
         for (int i = 0; i < drawings; ++i) {
             acDocManagerPtr()->newDocument();
@@ -138,7 +138,7 @@ TEST_F(CommandsTest, MayCloseTheDrawingThatTheyBeganIn) {
     }
 }
 
-TEST_F(CommandsTest, WhateverTheyThrowEndsAtTheRunnerWithOneLine) {
+TEST_F(CommandsTest, TheRunnerReportsAnythingTheyThrowInOneLine) {
     const struct {
         std::function<void()> work;
         const char* reason;
@@ -154,10 +154,10 @@ TEST_F(CommandsTest, WhateverTheyThrowEndsAtTheRunnerWithOneLine) {
     }
 }
 
-TEST_F(CommandsTest, WhoFailedIsStillKnownWhenOthersWereCalledOnTheWayOut) {
+TEST_F(CommandsTest, TheFailingModuleIsKnownAfterCallsDuringUnwinding) {
     struct Watcher final : ICommandWatcher {
         void CommandEnded(const CommandOrder&, bool) override {
-            Guarded(L"watcher", [] {}); // as the toolkit does for each event
+            Guarded(L"watcher", [] {}); // as the toolkit does for every event
         }
     } watcher;
     m_runner.AddWatcher(&watcher);
@@ -175,7 +175,7 @@ TEST_F(CommandsTest, WhoFailedIsStillKnownWhenOthersWereCalledOnTheWayOut) {
     m_runner.RemoveWatcher(&watcher);
 }
 
-TEST_F(CommandsTest, APartPassesOnWhatItThrowsAndIsNamedFirst) {
+TEST_F(CommandsTest, ExceptionsOfANestedCommandPropagateAndEndItFirst) {
     struct Watcher final : ICommandWatcher {
         void CommandEnded(const CommandOrder& order, bool hasThrown) override {
             m_ended += order.id + (hasThrown ? L" threw;" : L" ended;");
@@ -199,7 +199,7 @@ TEST_F(CommandsTest, APartPassesOnWhatItThrowsAndIsNamedFirst) {
     m_runner.RemoveWatcher(&watcher);
 }
 
-TEST_F(CommandsTest, WhatIsAskedForMeanwhileWaitsAndCancelsPrompts) {
+TEST_F(CommandsTest, OrdersGivenMeanwhileWaitAndCancelPrompts) {
     CString log;
     const auto order = [&](
                            const wchar_t* id, std::function<void()> inside = [] {}) {
@@ -219,7 +219,7 @@ TEST_F(CommandsTest, WhatIsAskedForMeanwhileWaitsAndCancelsPrompts) {
     EXPECT_EQ(log.Str(), L"A(part())");
     m_host.m_isPrompting = true;
     m_runner.RunWaiting();
-    EXPECT_EQ(log.Str(), L"A(part())") << "something else waits for the user";
+    EXPECT_EQ(log.Str(), L"A(part())") << "a prompt is open";
     m_host.m_isPrompting = false;
     m_runner.RunWaiting();
     EXPECT_EQ(log.Str(), L"A(part())B()C()");
@@ -230,7 +230,7 @@ TEST_F(CommandsTest, WhatIsAskedForMeanwhileWaitsAndCancelsPrompts) {
     EXPECT_EQ(log.Str(), L"A(part())B()C()");
 }
 
-TEST_F(CommandsTest, AreShownAndRememberedByWhereTheyComeFrom) {
+TEST_F(CommandsTest, AreEchoedAndRememberedDependingOnOrigin) {
     const struct {
         OrderOrigin origin;
         bool isEchoed;
@@ -255,7 +255,7 @@ TEST_F(CommandsTest, AreShownAndRememberedByWhereTheyComeFrom) {
 
 CString s_text;
 
-TEST_F(CommandsTest, WordsBehindANameAreForThoseThatTakeThem) {
+TEST_F(CommandsTest, TextAfterTheNameRequiresTheFlag) {
     const auto read = [] { s_text = acedCommandText(); };
     m_stack.addCommand(L"G", L"TELL", L"TELL", ACRX_CMD_TAKES_TEXT, read);
     EXPECT_EQ(Run(L"tell  me more "), CommandOutcome::Done);
@@ -288,7 +288,7 @@ private:
     IHostPort* m_pBefore;
 };
 
-TEST(Progress, IsShownUntilTheOuterWorkEnds) {
+TEST(Progress, IsShownUntilTheOutermostOperationEnds) {
     ProgressPort port;
     {
         const AcDbProgress outer = acedProgress(L"a");

@@ -10,7 +10,7 @@ namespace {
 
 using Kind = AcDbValue::Kind;
 
-/// A value with all that can be told of it, for comparing and for messages.
+/// Kind and content of a value, for comparisons and messages.
 std::string Describe(const AcDbValue& value) {
     switch (value.kind()) {
     case Kind::Null:
@@ -38,7 +38,7 @@ const AcDbNameId kB = AcDbIntern("b");
 
 } // namespace
 
-TEST(AttributeNames, AreTheSameNumberForTheSameTextOnly) {
+TEST(AttributeNames, HaveTheSameNumberOnlyForTheSameText) {
     EXPECT_EQ(AcDbIntern(std::string("pipe")), AcDbIntern("pipe"));
     EXPECT_NE(AcDbIntern("Pipe"), AcDbIntern("pipe"));
     EXPECT_EQ(AcDbNameOf(AcDbIntern("Gefälle")), "Gefälle");
@@ -46,7 +46,7 @@ TEST(AttributeNames, AreTheSameNumberForTheSameTextOnly) {
     EXPECT_EQ(AcDbNameOf(AcDbNameId{0xFFFFFFFF}), "");
 }
 
-TEST(AttributeNames, StayWhereTheyAreWhileOthersCome) {
+TEST(AttributeNames, StayValidWhileOthersAreAdded) {
     const std::string_view name = AcDbNameOf(AcDbIntern("stays"));
     for (int i = 0; i < 5000; ++i) {
         AcDbIntern("another" + std::to_string(i));
@@ -54,7 +54,7 @@ TEST(AttributeNames, StayWhereTheyAreWhileOthersCome) {
     EXPECT_EQ(name.data(), AcDbNameOf(AcDbIntern("stays")).data());
 }
 
-TEST(AttributeValues, NumbersAreConvertedWhenNothingIsLost) {
+TEST(AttributeValues, NumbersAreConvertedIfLossless) {
     const double infinity = std::numeric_limits<double>::infinity();
     const Rows<AcDbValue, std::optional<double>, std::optional<std::int64_t>> cases = {
         {AcDbValue(), {}, {}},
@@ -76,10 +76,10 @@ TEST(AttributeValues, NumbersAreConvertedWhenNothingIsLost) {
 }
 
 TEST(Attributes, TakeTheirOwnTextsAsValues) {
-    for (const char* const text : {"short", "a text that is not kept in place"}) {
+    for (const char* const text : {"short", "a text that is too long to be stored inline"}) {
         AcDbAttributes attributes;
         attributes.set(kA, text);
-        for (int i = 0; i < 20; ++i) { // through several growths
+        for (int i = 0; i < 20; ++i) { // reallocates several times
             attributes.set(AcDbIntern("copy" + std::to_string(i)), attributes.get(kA));
         }
         attributes.set(kA, attributes.get(kA));

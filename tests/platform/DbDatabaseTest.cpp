@@ -19,7 +19,7 @@ Ids EntitiesOf(const AcDbDatabase& database, AcDbObjectId block) {
     return Ids(ids.begin(), ids.end());
 }
 
-/// Writes down what it hears, as "+3 ~3 -3 ^3 *": appended, modified, erased, back, replaced.
+/// Records its calls, as "+3 ~3 -3 ^3 *": appended, modified, erased, restored, replaced.
 class Witness : public AcDbDatabaseReactor {
 public:
     void objectAppended(const AcDbDatabase*, const AcDbObject* pObject) override {
@@ -57,7 +57,7 @@ TEST(Database, StartsWithLayerZeroAndTheModelSpace) {
     EXPECT_FALSE(database.isModified());
 }
 
-TEST(Database, FindsLayersAndBlocksWithoutRegardToCaseAndDictionariesByCase) {
+TEST(Database, FindsLayersAndBlocksIgnoringCaseButNotDictionaries) {
     AcDbDatabase database;
     const AcDbObjectId layer = database.layer(L"Straße Ä");
     EXPECT_EQ(database.layer(L"STRAßE ä"), layer);
@@ -71,7 +71,7 @@ TEST(Database, FindsLayersAndBlocksWithoutRegardToCaseAndDictionariesByCase) {
     EXPECT_TRUE(database.findDictionary(L"RECORDS").isNull());
 }
 
-TEST(Database, ADictionaryThatComesBackIsEmpty) {
+TEST(Database, ARestoredDictionaryIsEmpty) {
     AcDbDatabase database;
     const AcDbObjectId id = database.dictionary(L"d");
     SetRecord(database, id, L"r", L"text");
@@ -83,7 +83,7 @@ TEST(Database, ADictionaryThatComesBackIsEmpty) {
     EXPECT_EQ(PartsOf(database)[std::to_string(id.number()) + " record r"], "text");
 }
 
-TEST(Database, RefusesPlacesThatItDoesNotHave) {
+TEST(Database, RefusesUnknownLayersAndBlocks) {
     AcDbDatabase database;
     const AcDbObjectId gone = database.layer(L"gone");
     const AcDbObjectId goneBlock = database.block(L"gone");
@@ -105,7 +105,7 @@ TEST(Database, RefusesPlacesThatItDoesNotHave) {
     EXPECT_EQ(EntitiesOf(database, database.modelSpace()), Ids{point});
 }
 
-TEST(Database, KeepsWhatOthersStandOn) {
+TEST(Database, RefusesToEraseWhatOthersDependOn) {
     AcDbDatabase database;
     const AcDbObjectId layer = database.layer(L"Sewer");
     const AcDbObjectId block = database.block(L"Valve");
@@ -119,14 +119,14 @@ TEST(Database, KeepsWhatOthersStandOn) {
     EXPECT_EQ(Erase(database, point), Acad::eOk);
     EXPECT_EQ(Erase(database, layer), Acad::eOk);
     EXPECT_EQ(Erase(database, block), Acad::eOk);
-    EXPECT_EQ(Erase(database, point, false), Acad::eInvalidInput); // it has no place
+    EXPECT_EQ(Erase(database, point, false), Acad::eInvalidInput); // its layer or block is erased
     Erase(database, layer, false);
     EXPECT_EQ(Erase(database, point, false), Acad::eInvalidInput);
     Erase(database, block, false);
     EXPECT_EQ(Erase(database, point, false), Acad::eOk);
 }
 
-TEST(Database, VisitsNoEntityThatIsAddedMeanwhile) {
+TEST(Database, DoesNotVisitEntitiesAddedMeanwhile) {
     AcDbDatabase database;
     AddPoint(database, 1);
     AddPoint(database, 2);
@@ -149,7 +149,7 @@ TEST(UnsavedObjects, AreListedOnceInTheOrderOfTheirFirstChange) {
     database.markSaved();
     EXPECT_FALSE(database.isModified());
 
-    Change<AcDbObject>(database, b, [](AcDbObject&) {}); // opened, not changed
+    Change<AcDbObject>(database, b, [](AcDbObject&) {}); // opened but not changed
     EXPECT_FALSE(database.isModified());
     MovePoint(database, b, 3);
     SetAttribute(database, a, "a", 1);
@@ -161,7 +161,7 @@ TEST(UnsavedObjects, AreListedOnceInTheOrderOfTheirFirstChange) {
     EXPECT_EQ(Unsaved(database), Ids{b});
 }
 
-TEST(UnsavedObjects, TheHeaderIsApart) {
+TEST(UnsavedObjects, DoNotIncludeTheHeader) {
     AcDbDatabase database;
     database.setCoordinateSystem(L"");
     EXPECT_FALSE(database.isModified());
@@ -213,7 +213,49 @@ TEST(Loading, KeepsIdsAndLeavesNothingUnsavedOrUndoable) {
     EXPECT_EQ(AddPoint(database, 1), AcDbObjectId(22));
 }
 
-TEST(Loading, GivesAPlaceToEntitiesWithoutOne) {
+TEST(TakingContent, MovesIdsAndUnsavedStatesAndNotifiesOnce) {
+    AcDbDatabase other;
+    const AcDbObjectId saved = AddPoint(other, 1);
+    AddPoint(other, 2);
+    other.markSaved();
+    const AcDbObjectId added = AddPoint(other, 3);
+    AcDbDatabase database;
+    AddPoint(database, 100);
+    Witness witness;
+    database.addReactor(&witness);
+    AcDbPoint* pOpen = nullptr;
+    ASSERT_EQ(acdbOpenObject(pOpen, saved, AcDb::kForRead, false, &other), Acad::eOk);
+    EXPECT_THROW(database.takeContent(other), std::logic_error);
+    pOpen->close();
+    EXPECT_EQ(witness.Take(), "");
+    database.takeContent(other);
+    EXPECT_EQ(witness.Take(), "* ");
+    EXPECT_EQ(Unsaved(database), Ids{added});
+    EXPECT_EQ(database.undo().undoName(), nullptr);
+    EXPECT_EQ(database.peek(saved)->database(), &database);
+    EXPECT_EQ(other.entityCount(), 0U);
+    EXPECT_NE(AddPoint(other, 4), AcDbObjectId()) << "it is empty but usable";
+}
+
+TEST(TakingContent, AnEntityIsRestoredOnlyWithAnUnusedNumber) {
+    AcDbDatabase database;
+    database.beginLoading(20);
+    database.load(AcDbObjectId(9), std::make_unique<AcDbPoint>());
+    database.endLoading();
+    const auto restore = [&database](std::uint32_t number) {
+        auto point = std::make_unique<AcDbPoint>(AcGePoint3d{1, 0, 0});
+        point->setLayer(database.findLayer(L"0"));
+        database.restoreEntity(AcDbObjectId(number), std::move(point), database.modelSpace());
+    };
+    EXPECT_THROW(restore(9), std::logic_error) << "in use";
+    EXPECT_THROW(restore(database.nextId()), std::logic_error) << "never assigned";
+    EXPECT_THROW(restore(0), std::logic_error);
+    restore(5);
+    EXPECT_EQ(Unsaved(database), Ids{AcDbObjectId(5)});
+    EXPECT_EQ(EntitiesOf(database, database.modelSpace()), (Ids{AcDbObjectId(5), AcDbObjectId(9)}));
+}
+
+TEST(Loading, PutsStrayEntitiesOnLayerZeroInTheModelSpace) {
     AcDbDatabase database;
     const AcDbObjectId strays[] = {{}, AcDbObjectId(99), AcDbObjectId(3)}; // 3 is an entity
     database.beginLoading(10);
@@ -229,10 +271,10 @@ TEST(Loading, GivesAPlaceToEntitiesWithoutOne) {
         EXPECT_EQ(entity.layerId(), database.findLayer(L"0"));
         EXPECT_EQ(entity.blockId(), database.modelSpace());
     });
-    EXPECT_GE(database.findLayer(L"0").number(), 10U); // made, with a number nobody had
+    EXPECT_GE(database.findLayer(L"0").number(), 10U); // created with an unused number
 }
 
-TEST(Loading, RefusesWhatCannotBeRight) {
+TEST(Loading, RefusesInvalidIdsAndDuplicates) {
     AcDbDatabase database;
     EXPECT_THROW(database.load(AcDbObjectId(3), std::make_unique<AcDbPoint>()), std::logic_error);
     database.beginLoading(5);
@@ -251,7 +293,7 @@ TEST(Loading, RefusesWhatCannotBeRight) {
     EXPECT_EQ(database.layers().size(), 2U);
 }
 
-TEST(Loading, WaitsForEverythingToBeClosed) {
+TEST(Loading, RequiresAllObjectsToBeClosed) {
     AcDbDatabase database;
     AcDbObject* pPoint = nullptr;
     acdbOpenAcDbObject(pPoint, AddPoint(database, 1), AcDb::kForRead, false, &database);
@@ -261,7 +303,7 @@ TEST(Loading, WaitsForEverythingToBeClosed) {
     EXPECT_NO_THROW(database.beginLoading(1));
 }
 
-TEST(DatabaseReactors, HearOfAnObjectWhenItIsClosed) {
+TEST(DatabaseReactors, AreNotifiedWhenAnObjectIsClosed) {
     AcDbDatabase database;
     Witness witness;
     database.addReactor(&witness);
@@ -300,7 +342,7 @@ TEST(DatabaseReactors, HearOfAnObjectWhenItIsClosed) {
     EXPECT_EQ(witness.Take(), "");
 }
 
-TEST(DatabaseReactors, HearTheOutcomeOfUndoAndRedo) {
+TEST(DatabaseReactors, AreNotifiedOfTheResultOfUndoAndRedo) {
     AcDbDatabase database;
     Witness witness;
     const AcDbObjectId old = AddPoint(database, 1); // 3
@@ -314,12 +356,12 @@ TEST(DatabaseReactors, HearTheOutcomeOfUndoAndRedo) {
     database.undo().endGroup();
     witness.Take();
     database.undo().undo();
-    EXPECT_EQ(witness.Take(), "~3 -4 "); // 5 was gone before and after
+    EXPECT_EQ(witness.Take(), "~3 -4 "); // 5 was erased before and after
     database.undo().redo();
     EXPECT_EQ(witness.Take(), "~3 ^4 ~4 ");
 }
 
-TEST(DatabaseReactors, MayComeAndGoDuringACall) {
+TEST(DatabaseReactors, MayBeAddedAndRemovedDuringACall) {
     AcDbDatabase database;
     Witness witnesses[4];
     for (Witness* const pWitness : {&witnesses[0], &witnesses[1], &witnesses[2]}) {
@@ -343,7 +385,7 @@ TEST(DatabaseReactors, MayComeAndGoDuringACall) {
     EXPECT_EQ(heard(), "||+4 |+4 |");
 }
 
-TEST(DatabaseReactors, MayChangeTheDrawingWhileUndoIsTold) {
+TEST(DatabaseReactors, MayChangeTheDrawingInNotificationsOfUndo) {
     AcDbDatabase database;
     Witness witness;
     const AcDbObjectId counter = AddPoint(database, 0);
@@ -357,7 +399,7 @@ TEST(DatabaseReactors, MayChangeTheDrawingWhileUndoIsTold) {
         if (changes < 2) {
             SetAttribute(database, counter, "changes", ++changes);
         }
-        EXPECT_TRUE(database.peek(a)->isErased()); // all is done before it is told
+        EXPECT_TRUE(database.peek(a)->isErased()); // undo is complete before reactors are notified
     };
     EXPECT_TRUE(database.undo().undo());
     EXPECT_EQ(witness.Take(), "-5 ~3 ~3 -4 ");

@@ -1,4 +1,4 @@
-// A database with short ways to change it and to see what is in it (DrawingText.h).
+// Shortcuts for changing a database and inspecting its content (DrawingText.h).
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 #include "platform/arx/DbUndo.h"
 #include "tests/support/DrawingText.h"
 
-/// Opens an object for writing, changes it, and closes it.
+/// Opens an object for writing, changes and closes it.
 template <class T, class Edit>
 void Change(AcDbDatabase& database, AcDbObjectId id, Edit edit) {
     T* pObject = nullptr;

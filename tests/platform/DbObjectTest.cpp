@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Carries out steps on one object and returns their results: r and w open for reading and
-/// writing, c closes, u and d change the mode, e and b erase and bring back.
+/// Performs steps on one object and returns their results: r and w open for reading and writing,
+/// c closes, u and d upgrade and downgrade, e and b erase and restore.
 std::vector<int> Play(AcDbDatabase& database, AcDbObjectId id, std::string_view steps) {
     auto* const pObject = const_cast<AcDbObject*>(database.peek(id));
     AcDbObject* pOpened = nullptr;
@@ -40,7 +40,7 @@ std::vector<int> Play(AcDbDatabase& database, AcDbObjectId id, std::string_view 
 
 } // namespace
 
-TEST(OpeningObjects, IsForManyReadersOrOneWriter) {
+TEST(OpeningObjects, AllowsManyReadersOrOneWriter) {
     using namespace Acad;
     const Rows<std::string_view, std::vector<int>> cases = {
         {"rrrccc", {0, 0, 0, 0, 0, 0}},
@@ -73,12 +73,12 @@ TEST(OpeningObjects, IsForManyReadersOrOneWriter) {
     }
 }
 
-TEST(OpeningObjects, TellsWhyItCannot) {
+TEST(OpeningObjects, ReportsWhyItFails) {
     AcDbDatabase database;
     AcDbDatabase other;
     const AcDbObjectId id = AddPoint(database, 1);
     const Rows<AcDbObjectId, AcDb::OpenMode, AcDbDatabase*, int> cases = {
-        {id, AcDb::kForRead, nullptr, Acad::eNoDatabase}, // none is current
+        {id, AcDb::kForRead, nullptr, Acad::eNoDatabase}, // no current database
         {{}, AcDb::kForRead, &database, Acad::eNullObjectId},
         {AcDbObjectId(4000000000U), AcDb::kForRead, &database, Acad::eUnknownObject},
         {id, AcDb::kForRead, &other, Acad::eUnknownObject},
@@ -93,7 +93,7 @@ TEST(OpeningObjects, TellsWhyItCannot) {
     }
 }
 
-TEST(OpeningObjects, AnotherClassIsLeftClosed) {
+TEST(OpeningObjects, DoesNotOpenAnObjectOfAnotherClass) {
     AcDbDatabase database;
     const AcDbObjectId id = AddPoint(database, 1);
     AcDbPolyline* pLine = nullptr;
@@ -147,7 +147,7 @@ TEST(ChangingObjects, NeedsAnOpeningForWriting) {
     EXPECT_FALSE(database.isModified());
 }
 
-TEST(ChangingObjects, TakesTheObjectsOwnContent) {
+TEST(ChangingObjects, AcceptsTheObjectsOwnContent) {
     AcDbDatabase database;
     const AcGePoint3d points[] = {{1, 1, 0}, {2, 2, 0}, {3, 3, 0}};
     const AcDbObjectId line = database.appendEntity(std::make_unique<AcDbPolyline>(points));
@@ -161,12 +161,12 @@ TEST(ChangingObjects, TakesTheObjectsOwnContent) {
         o.setAt(L"r", *o.getAt(L"r"));
         EXPECT_EQ(*o.getAt(L"copy"), L"a long enough text of a record");
         EXPECT_EQ(*o.getAt(L"r"), L"a long enough text of a record");
-        EXPECT_EQ(o.remove(L"R"), Acad::eKeyNotFound); // told apart by case
+        EXPECT_EQ(o.remove(L"R"), Acad::eKeyNotFound); // case-sensitive
         EXPECT_EQ(o.getAt(nullptr), nullptr);
     });
 }
 
-TEST(ChangingObjects, ColoursOutsideTheTableAreTheDefault) {
+TEST(ChangingObjects, ReplacesColoursOutsideTheTableByTheDefault) {
     AcDbPoint point;
     AcDbLayerTableRecord layer(L"l");
     for (const int index : {-1, 257, 70000, 65536 + 3}) {
@@ -199,7 +199,7 @@ TEST(Objects, KnowTheirClassAndItsBases) {
     }
 }
 
-TEST(Objects, AreClonedWithTheirContentAlone) {
+TEST(Objects, AreClonedWithTheirContentOnly) {
     AcDbDatabase database;
     auto made = std::make_unique<AcDbText>(AcGePoint3d{1, 2, 3}, "manhole");
     made->setHeight(2.5);
@@ -230,7 +230,7 @@ TEST(Objects, AreClonedWithTheirContentAlone) {
     EXPECT_EQ(copy->erase(), Acad::eNoDatabase);
 }
 
-TEST(Entities, HaveTheBoxAroundAllTheirPoints) {
+TEST(Entities, HaveExtentsAroundAllTheirPoints) {
     const double nan = std::nan("");
     const AcGePoint3d points[] = {{3, 1, nan}, {-2, 5, 0}, {nan, nan, nan}};
     AcDbMPolygon area({{{{0, 0, 0}, {1, 1, 0}}, false}, {{{9, -9, 0}}, true}});

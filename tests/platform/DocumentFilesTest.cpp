@@ -1,4 +1,4 @@
-// Documents and their files, over a storage that keeps points.
+// Documents and their files, with a fake storage for points.
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file is the number of its entities.
+/// A fake storage whose files contain only the number of entities.
 class PointStorage final : public IDbStorage {
 public:
     CString Extension() const override { return L".gpkg"; }
@@ -97,7 +97,7 @@ protected:
     CString m_reason;
 };
 
-/// Calls what the test wants as a save begins, and notes what it is told.
+/// Runs a function of the test at the beginning of a save, and records its calls.
 class SaveReactor final : public AcEditorReactor {
 public:
     explicit SaveReactor(std::vector<CString>& log) : m_log(log) { acedEditor()->addReactor(this); }
@@ -122,7 +122,20 @@ private:
 
 using Log = std::vector<CString>;
 
-TEST_F(DocumentFilesTest, ADrawingIsReadWholeBeforeAnybodyHearsOfIt) {
+TEST_F(DocumentFilesTest, AReadOnlyDrawingCanOnlyBeSavedElsewhere) {
+    AcApDocument* const pDoc = Open(File("a"));
+    pDoc->setReadOnly(L"another program has it open");
+    AddPoint(*pDoc);
+    EXPECT_FALSE(m_manager.saveDocument(pDoc, {}).ok());
+    EXPECT_FALSE(m_manager.saveDocumentAs(pDoc, File("a.gpkg"), {}).ok());
+    EXPECT_TRUE(m_storage.m_log.empty());
+    EXPECT_TRUE(pDoc->isModified());
+    EXPECT_TRUE(m_manager.saveDocumentAs(pDoc, File("c.gpkg"), {}).ok());
+    EXPECT_FALSE(pDoc->isReadOnly());
+    EXPECT_TRUE(m_manager.saveDocument(pDoc, {}).ok());
+}
+
+TEST_F(DocumentFilesTest, ReactorsAreCalledAfterADrawingIsReadCompletely) {
     const AcApDocument* const pDoc = Open(File("a"));
     ASSERT_NE(pDoc, nullptr) << m_reason.GetString();
     EXPECT_EQ(m_current, (Log{L"a.gpkg with 2"}));
@@ -133,7 +146,7 @@ TEST_F(DocumentFilesTest, ADrawingIsReadWholeBeforeAnybodyHearsOfIt) {
     EXPECT_TRUE(pDoc->isModified());
 }
 
-TEST_F(DocumentFilesTest, OfAFileThatCannotBeReadNobodyHears) {
+TEST_F(DocumentFilesTest, ReactorsAreNotCalledForAnUnreadableFile) {
     m_manager.newDocument();
     m_current.clear();
     EXPECT_EQ(Open(File("missing")), nullptr);
@@ -147,7 +160,7 @@ TEST_F(DocumentFilesTest, OfAFileThatCannotBeReadNobodyHears) {
     EXPECT_FALSE(m_reason.IsEmpty());
 }
 
-TEST_F(DocumentFilesTest, AFileIsOpenedOnceUnderAllItsNames) {
+TEST_F(DocumentFilesTest, AFileIsOpenedOnceUnderAllItsPaths) {
     fs::create_symlink(m_folder / "a.gpkg", m_folder / "link.gpkg");
     fs::create_directory_symlink(m_folder / "", m_folder / "here");
     AcApDocument* const pDoc = Open(File("a.gpkg"));
@@ -158,11 +171,11 @@ TEST_F(DocumentFilesTest, AFileIsOpenedOnceUnderAllItsNames) {
     }
     EXPECT_EQ(Open(File("link")), pDoc);
     EXPECT_EQ(Open(File("a")), pDoc);
-    EXPECT_EQ(m_current, (Log{L"a.gpkg with 2"})) << "told once, as it was current then";
+    EXPECT_EQ(m_current, (Log{L"a.gpkg with 2"})) << "already current the second time";
     EXPECT_EQ(m_manager.documentCount(), 2);
 }
 
-TEST_F(DocumentFilesTest, WhatReactorsPutInBeforeASaveIsSavedAndNotUndone) {
+TEST_F(DocumentFilesTest, ChangesOfReactorsBeforeASaveAreSavedAndNotUndoable) {
     AcApDocument* const pDoc = Open(File("a"));
     AddPoint(*pDoc);
     SaveReactor reactor(m_storage.m_log);
@@ -184,11 +197,11 @@ TEST_F(DocumentFilesTest, WhatReactorsPutInBeforeASaveIsSavedAndNotUndone) {
     AcDbDatabase& database = *pDoc->database();
     EXPECT_TRUE(database.undo().undo());
     EXPECT_FALSE(database.undo().undo());
-    EXPECT_EQ(database.entityCount(), 4U) << "the user's own point is gone";
+    EXPECT_EQ(database.entityCount(), 4U) << "the user's own point is undone";
     EXPECT_FALSE(database.isUndoRecordingDisabled());
 }
 
-TEST_F(DocumentFilesTest, ADrawingInTheBackgroundIsTheWorkingOneWhileItIsSaved) {
+TEST_F(DocumentFilesTest, ABackgroundDrawingIsTheWorkingOneDuringItsSave) {
     AcApDocument* const pDoc = Open(File("a"));
     const AcApDocument* const pCurrent = Open(File("b"));
     const auto* const services = acdbHostApplicationServices();
@@ -200,17 +213,18 @@ TEST_F(DocumentFilesTest, ADrawingInTheBackgroundIsTheWorkingOneWhileItIsSaved) 
     };
     EXPECT_TRUE(m_manager.saveDocument(pDoc, {}).ok());
     EXPECT_EQ(services->workingDatabase(), pCurrent->database());
-    EXPECT_FALSE(closed) << "what is being saved stays open";
+    EXPECT_FALSE(closed) << "a drawing being saved stays open";
     EXPECT_TRUE(m_manager.closeDocument(pDoc));
     EXPECT_EQ(m_storage.m_log.back().Str(), L"forgotten");
 }
 
-TEST_F(DocumentFilesTest, SavedUnderANameItIsTheDrawingsOwnFile) {
+TEST_F(DocumentFilesTest, SavingUnderANameChangesTheDrawingsFile) {
     AcApDocument* const pDoc = m_manager.newDocument(L"Drawing1");
     Open(File("b"));
     EXPECT_FALSE(m_manager.saveDocument(pDoc, {}).ok()) << "no file yet";
     EXPECT_FALSE(m_manager.saveDocumentAs(pDoc, L"", {}).ok());
-    EXPECT_FALSE(m_manager.saveDocumentAs(pDoc, File("b.gpkg"), {}).ok()) << "another one's file";
+    EXPECT_FALSE(m_manager.saveDocumentAs(pDoc, File("b.gpkg"), {}).ok())
+        << "open in another document";
     m_storage.m_bFails = true;
     EXPECT_FALSE(m_manager.saveDocumentAs(pDoc, File("new"), {}).ok());
     EXPECT_STREQ(pDoc->fileName(), L"Drawing1");
@@ -228,7 +242,7 @@ TEST_F(DocumentFilesTest, SavedUnderANameItIsTheDrawingsOwnFile) {
                    L"save as, from " + File("newer.v2.gpkg"), L"complete newer.v2.gpkg"}));
 }
 
-TEST_F(DocumentFilesTest, TheVariablesAreThoseOfTheCurrentDrawing) {
+TEST_F(DocumentFilesTest, TheVariablesDescribeTheCurrentDrawing) {
     AcApDocManager& manager = *acDocManagerPtr();
     manager.setStorage(&m_storage);
     const auto values = [] {
@@ -256,7 +270,7 @@ TEST_F(DocumentFilesTest, TheVariablesAreThoseOfTheCurrentDrawing) {
     manager.setStorage(nullptr);
 }
 
-TEST(DrawingNames, EndInFourCharactersThatModulesCut) {
+TEST(DrawingNames, EndInFourCharactersForModulesToCutOff) {
     const Rows<const wchar_t*, const wchar_t*> cases = {
         {L"plan.gpkg", L"plan.dwg"},        {L"/data/a.b.gpkg", L"a.b.dwg"},
         {L"Drawing1", L"Drawing1.dwg"},     {L"/data.old/noext", L"noext.dwg"},

@@ -5,7 +5,7 @@
 #include "platform/arx/Activity.h"
 #include "tests/support/TestHost.h"
 
-TEST(Prompt, AnAnswerIsCutToTheBufferAndEnded) {
+TEST(Prompt, AnAnswerIsTruncatedToTheBufferAndTerminated) {
     TestHost host;
     wchar_t buffer[4] = L"###";
     host.Answer({L"abcdef", L"", L"\x1B"});
@@ -17,8 +17,18 @@ TEST(Prompt, AnAnswerIsCutToTheBufferAndEnded) {
     EXPECT_EQ(host.Output(), "? ? ? ");
 }
 
-TEST(Prompt, WithoutABufferNobodyIsAsked) {
-    TestHost host; // throws at a prompt without an answer
+TEST(Prompt, AHugeValueDoesNotHideTheQuestion) {
+    TestHost host;
+    host.Answer({L"x"});
+    CString answer;
+    const CString prompt = L"Name <" + CString(std::wstring(1'000'000, L'v')) + L">: ";
+    EXPECT_EQ(acedGetString(0, prompt, answer), RTNORM);
+    EXPECT_LT(host.Output().size(), 3000U);
+    EXPECT_TRUE(host.Output().ends_with("v>: "));
+}
+
+TEST(Prompt, DoesNotAskWithoutABuffer) {
+    TestHost host; // throws at an unexpected prompt
     wchar_t one = L'x';
     EXPECT_EQ(acedGetString(0, L"?", nullptr, 5), RTERROR);
     EXPECT_EQ(acedGetString(0, L"?", &one, 0), RTERROR);
@@ -34,7 +44,7 @@ TEST(Prompt, PrintedTextsAreFormatted) {
     EXPECT_EQ(host.Output(), "\nLänge: 3%d");
 }
 
-TEST(Prompt, AChoiceIsFoundByKeywordTextOrWhatOnlyOneBeginsWith) {
+TEST(Prompt, AChoiceIsFoundByKeywordTextOrUniquePrefix) {
     const ChoicePrompt prompt{
         L"Match", {{L"All", L"Alle"}, {L"Any", L"Eine"}, {L"No", L"Nein"}, {L"Even", L"A"}}, 1};
     EXPECT_EQ(PromptText(prompt).Str(), L"Match [Alle/Eine/Nein/A] <Eine>: ");

@@ -32,7 +32,7 @@ TEST(File, WithSeparatorAddsOneAtMost) {
     EXPECT_EQ(WithSeparator(L"/").Str(), L"/");
 }
 
-TEST(File, AFailedReadSaysWhy) {
+TEST(File, AFailedReadSetsAReason) {
     const TempFolder folder;
     EXPECT_FALSE(ReadFileBytes(folder.Wide("none")));
     EXPECT_EQ(LastErrorText().Str(), L"No such file or directory");
@@ -45,7 +45,7 @@ TEST(File, OnlyRegularFilesAreRead) {
     const TempFolder folder;
     ASSERT_EQ(mkfifo(folder.Native("pipe").c_str(), 0600), 0);
     std::filesystem::create_symlink("/dev/zero", folder / "device");
-    alarm(30); // whoever opens the pipe waits for its other end
+    alarm(30); // opening the pipe would block
     for (const char* const name : {"pipe", "device"}) {
         const CString path = folder.Wide(name);
         const std::pair<const char*, std::function<bool()>> readers[] = {
@@ -56,15 +56,16 @@ TEST(File, OnlyRegularFilesAreRead) {
         for (const auto& [what, read] : readers) {
             SetLastErrorText(L"");
             EXPECT_FALSE(read()) << what << " of a " << name;
-            EXPECT_EQ(LastErrorText(), L"Not a regular file") << what << " of a " << name;
+            EXPECT_EQ(LastErrorText(), L"not a regular file") << what << " of a " << name;
         }
     }
 }
 
-TEST(File, AFailureAtTheVeryEndOfTheProcessIsNone) {
+TEST(File, ErrorsAtTheVeryEndOfTheProcessAreHarmless) {
     EXPECT_EXIT(
         {
-            // Modules save what they keep when they go, after the main thread's own objects.
+            // Modules save their data when unloaded, after the main thread's objects were
+            // destroyed.
             SetLastErrorText(CString(L'x', 5000));
             std::atexit([] {
                 ReadFileBytes(L"/none");
@@ -75,13 +76,13 @@ TEST(File, AFailureAtTheVeryEndOfTheProcessIsNone) {
         testing::ExitedWithCode(7), "");
 }
 
-TEST(File, AnEmptyFileIsNoFailure) {
+TEST(File, ReadingAnEmptyFileSucceeds) {
     const TempFolder folder;
     folder.Write("empty", "");
     EXPECT_EQ(ReadFileBytes(folder.Wide("empty")), "");
 }
 
-TEST(IniFile, ReadsSectionsInTheirOrder) {
+TEST(IniFile, ReadsSectionsInOrder) {
     IniFile file;
     file.Parse("\xEF\xBB\xBF; comment\r\n[ One ]\r\n key = a=b \r\nKEY=second\r\n# c\n"
                "[two]\nempty=\nlast=Straße",
@@ -98,7 +99,7 @@ TEST(IniFile, ReadsSectionsInTheirOrder) {
     EXPECT_EQ(file.Find(L"three", L"key"), nullptr);
 }
 
-TEST(IniFile, NamesEachLineThatItPassesOver) {
+TEST(IniFile, ReportsEachSkippedLine) {
     IniFile file;
     file.Parse("early=1\n[a]\nno equals\n=no key\n[unclosed\nk=v\n", L"f.ini");
     ASSERT_EQ(file.GetProblems().size(), 4U);
@@ -109,7 +110,7 @@ TEST(IniFile, NamesEachLineThatItPassesOver) {
     EXPECT_EQ(file.Find(L"a", L"k")->Str(), L"v");
 }
 
-TEST(IniFile, ANewReadForgetsTheOldOne) {
+TEST(IniFile, LoadingAgainReplacesTheContent) {
     const TempFolder folder;
     folder.Write("a.ini", "[s]\nk=1\nbad\n");
     IniFile file;
@@ -120,7 +121,7 @@ TEST(IniFile, ANewReadForgetsTheOldOne) {
     EXPECT_FALSE(file.Load(folder.Wide("none.ini")));
 }
 
-TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
+TEST(File, SetsAFileAsideUnderTheFirstFreeName) {
     const TempFolder folder;
     folder.Write("a.damaged-1", "earlier");
     std::filesystem::create_directory(folder / "a.damaged-2");
@@ -137,19 +138,19 @@ TEST(File, AFileIsSetAsideUnderTheFirstFreeName) {
     EXPECT_TRUE(folder.Has("a.damaged-2"));
 }
 
-TEST(IniFile, AChangedValueLeavesEverythingElseAsItWas) {
+TEST(IniFile, ChangingAValuePreservesEverythingElse) {
     const Rows<const char*, const char*, const char*> cases = {
         {"a value", "; a\n[General]\nx = 1\n Key=old \ny=2\n",
          "; a\n[General]\nx = 1\nKey=ä=b\ny=2\n"},
         {"case of the names", "[GENERAL]\nKEY=1", "[GENERAL]\nKEY=ä=b\n"},
         {"the first of two", "[General]\nkey=1\nkey=2\n", "[General]\nkey=ä=b\nkey=2\n"},
         {"another section's", "[A]\nkey=1\n[General]\n", "[A]\nkey=1\n[General]\nkey=ä=b\n"},
-        {"a new one, before the comment behind", "[General]\nx=1\n; end\n[B]\n",
+        {"a new key, before the comment that follows", "[General]\nx=1\n; end\n[B]\n",
          "[General]\nx=1\nkey=ä=b\n; end\n[B]\n"},
         {"no section", "[A]\nx=1", "[A]\nx=1\n[General]\nkey=ä=b\n"},
         {"no file", "", "[General]\nkey=ä=b\n"},
         {"other line ends", "[General]\r\nkey=1\r\nx=1\r\n", "[General]\r\nkey=ä=b\r\nx=1\r\n"},
-        {"what makes no sense", "[General]\n???\nkey=1\n", "[General]\n???\nkey=ä=b\n"},
+        {"a malformed line", "[General]\n???\nkey=1\n", "[General]\n???\nkey=ä=b\n"},
         {"a byte order mark", "\xEF\xBB\xBF[General]\nkey=1\n", "\xEF\xBB\xBF[General]\nkey=ä=b\n"},
     };
     for (const auto& [what, before, after] : cases) {

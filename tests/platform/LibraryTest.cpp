@@ -19,7 +19,7 @@ std::string ModuleBytes() {
     return bytes.str();
 }
 
-/// Where the last part that is mapped ends; what lies behind it need not be there.
+/// End of the last mapped segment; the rest of the file is not needed for loading.
 std::size_t LoadedEnd(const std::string& module) {
     Elf64_Ehdr header{};
     std::memcpy(&header, module.data(), sizeof header);
@@ -34,17 +34,17 @@ std::size_t LoadedEnd(const std::string& module) {
 
 } // namespace
 
-TEST(FileVersion, OfAModuleThatIsNotLoaded) {
+TEST(FileVersion, IsReadWithoutLoadingTheModule) {
     const auto version = ReadFileVersion(Utf8ToWide(kModule).c_str());
     ASSERT_TRUE(version);
     EXPECT_EQ(version->major, 8);
     EXPECT_EQ(ReadFileVersionText(Utf8ToWide(kModule).c_str()).Str(), L"8.0.0.0");
 }
 
-TEST(FileVersion, OfFilesWithoutOne) {
+TEST(FileVersion, IsEmptyForOtherFiles) {
     const TempFolder folder;
     folder.Write("empty", "");
-    folder.Write("text", "no module at all, but long enough for the header of one ..........");
+    folder.Write("text", "not a module at all, but long enough for the header of one ..........");
     folder.Write("header", ModuleBytes().substr(0, 64));
     for (const char* name : {"none", "empty", "text", "header"}) {
         EXPECT_FALSE(ReadFileVersion(folder.Wide(name))) << name;
@@ -52,7 +52,7 @@ TEST(FileVersion, OfFilesWithoutOne) {
     EXPECT_EQ(ReadFileVersionText(folder.Wide("text")).Str(), L"");
 }
 
-TEST(Library, AFileCutAnywhereIsRefusedAndNotLoaded) {
+TEST(Library, ATruncatedFileIsNotLoaded) {
     const std::string whole = ModuleBytes();
     const TempFolder folder;
     const std::size_t end = LoadedEnd(whole);
@@ -67,7 +67,7 @@ TEST(Library, AFileCutAnywhereIsRefusedAndNotLoaded) {
     EXPECT_EQ(LastErrorText().Str(), L"No such file or directory");
 }
 
-TEST(Library, OwnEntriesAreFoundAndThoseOfOthersAreNot) {
+TEST(Library, FindsOwnEntriesButNotThoseOfDependencies) {
     HINSTANCE library = LoadLibrary(Utf8ToWide(kModule).c_str());
     ASSERT_NE(library, nullptr);
     EXPECT_NE(GetProcAddress(library, "_ZN6Orvane20CAnsi2UnicodeUtility8InstanceEv"), nullptr);

@@ -31,7 +31,7 @@ TEST(Number, TextToInt) {
     }
 }
 
-TEST(Number, TextToDoubleReadsAsFarAsItCan) {
+TEST(Number, TextToDoubleStopsAtTheFirstInvalidCharacter) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const std::pair<const wchar_t*, double> cases[] = {
         {L"", 0},

@@ -19,7 +19,7 @@ public:
 
 TEST(RuntimeClasses, TheHierarchyIsBuiltByNameInAnyOrder) {
     AcRxClass* const pThing = newAcRxClass(L"Thing", L"Base");
-    EXPECT_FALSE(acrxBuildClassHierarchy()); // the parent is not there yet
+    EXPECT_FALSE(acrxBuildClassHierarchy()); // the parent is not registered yet
     EXPECT_FALSE(Thing().isKindOf(AcRxObject::desc()));
     AcRxClass* const pBase = newAcRxClass(L"Base", L"AcRxObject");
     EXPECT_TRUE(acrxBuildClassHierarchy());
@@ -60,7 +60,7 @@ protected:
     }
 };
 
-/// Answers for one name, and remembers what it was asked.
+/// Provides one command, and records the names it is asked for.
 class Source final : public IEdCommandSource {
 public:
     CommandOutcome Run(const wchar_t* name) override {
@@ -73,7 +73,7 @@ public:
 
 } // namespace
 
-TEST(ArxApp, CommandsComeAndGoWithTheModule) {
+TEST(ArxApp, CommandsExistWhileTheModuleIsLoaded) {
     TestApp app;
     EXPECT_EQ(app.Dispatch(AcRx::kInitAppMsg, nullptr), AcRx::kRetOK);
     EXPECT_EQ(acedRunner().Run({L"global"}), CommandOutcome::Done);
@@ -94,7 +94,7 @@ TEST(ArxApp, CommandsComeAndGoWithTheModule) {
     EXPECT_EQ(acedRunner().Run({L"Global"}), CommandOutcome::Unknown);
 }
 
-TEST(CommandStack, SourcesAreAskedAfterTheCommandsAndInTheirOrder) {
+TEST(CommandStack, SourcesAreTriedAfterCommandsInOrderOfAdding) {
     Source first;
     Source second;
     AcEdCommandStack stack;
@@ -109,7 +109,7 @@ TEST(CommandStack, SourcesAreAskedAfterTheCommandsAndInTheirOrder) {
     EXPECT_EQ(second.m_asked, (std::vector<CString>{L"other"}));
 }
 
-TEST(DynamicLinker, AFileThatIsNoModuleIsRefusedWithAReason) {
+TEST(DynamicLinker, RefusesAFileThatIsNotAModuleWithAReason) {
     const TempFolder folder;
     folder.Write("text.arx", "no module");
     EXPECT_FALSE(acrxDynamicLinker()->loadModule(folder.Wide("text.arx")));

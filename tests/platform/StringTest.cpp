@@ -13,11 +13,11 @@ TEST(CString, PositionsOutsideTheTextAreClamped) {
         {"Right", text.Right(2), L"ef"},
         {"Right, negative", text.Right(-3), L""},
         {"Right, too many", text.Right(7), L"abcdef"},
-        {"Mid, behind the end", text.Mid(6), L""},
+        {"Mid, after the end", text.Mid(6), L""},
         {"Mid, negative", text.Mid(-2, 2), L"ab"},
         {"Mid, too many", text.Mid(4, 99), L"ef"},
         {"Mid, negative count", text.Mid(2, -1), L""},
-        {"a repeated character, negative", CString(L'x', -1), L""},
+        {"a repeated character, negative count", CString(L'x', -1), L""},
     };
     for (const auto& [what, part, expected] : cases) {
         EXPECT_EQ(part.Str(), expected) << what;
@@ -36,7 +36,7 @@ TEST(CString, NullIsAnEmptyText) {
     EXPECT_EQ(CString().CompareNoCase(null), 0);
 }
 
-TEST(CString, CompareNoCaseGoesLetterByLetter) {
+TEST(CString, CompareNoCaseComparesByCharacter) {
     const Rows<const wchar_t*, const wchar_t*, int> cases = {
         {L"Straße", L"STRAßE", 0}, {L"ÄÖÜ", L"äöü", 0},     {L"Žižka", L"žIŽKA", 0},
         {L"Ωμέγα", L"ωΜέγΑ", 0},   {L"Труба", L"ТРУБА", 0}, {L"abc", L"abd", -1},
@@ -48,7 +48,7 @@ TEST(CString, CompareNoCaseGoesLetterByLetter) {
     }
 }
 
-TEST(CString, UpperAndLowerCaseUndoEachOther) {
+TEST(CString, UpperAndLowerCaseAreInverse) {
     for (wchar_t c = 1; c < 0x500; ++c) {
         if (ToLower(c) != c) {
             EXPECT_EQ(ToUpper(ToLower(c)), c) << static_cast<int>(c);
@@ -60,12 +60,12 @@ TEST(CString, UpperAndLowerCaseUndoEachOther) {
     }
 }
 
-TEST(CString, TrimTakesBlanksAtBothEndsOnly) {
+TEST(CString, TrimRemovesWhiteSpaceAtBothEndsOnly) {
     EXPECT_EQ(CString(L" \t\r\n a b \v").Trim().Str(), L"a b");
     EXPECT_EQ(CString(L" \n ").Trim().Str(), L"");
 }
 
-TEST(CString, ReplaceDoesNotLookIntoWhatItPutIn) {
+TEST(CString, ReplaceDoesNotMatchInsertedText) {
     CString text = L"aaa";
     EXPECT_EQ(text.Replace(L"a", L"aa"), 3);
     EXPECT_EQ(text.Str(), L"aaaaaa");

@@ -69,7 +69,7 @@ TEST(FormatText, RealNumbers) {
     });
 }
 
-TEST(FormatText, WhatDoesNotFitShows) {
+TEST(FormatText, MismatchedArgumentsAreVisible) {
     Check({
         {FormatText(L"%s"), L"<?>"},
         {FormatText(L"%d %s", L"text", 5), L"<?> <?>"},
@@ -79,7 +79,7 @@ TEST(FormatText, WhatDoesNotFitShows) {
     });
 }
 
-TEST(FormatText, AHugeWidthEatsNoMemory) {
+TEST(FormatText, LimitsTheWidth) {
     EXPECT_LE(FormatText(L"%999999999d", 1).size(), 200000U);
     EXPECT_LE(FormatText(L"%*d", std::numeric_limits<int>::max(), 1).size(), 200000U);
     EXPECT_LE(FormatText(L"%*d", std::numeric_limits<int>::min(), 1).size(), 200000U);
@@ -87,7 +87,7 @@ TEST(FormatText, AHugeWidthEatsNoMemory) {
 }
 
 TEST(FormatText, DoesNotDependOnTheLocale) {
-    // The locale may be missing on the machine; then this shows nothing, but is not wrong.
+    // If the locale is not installed, this tests nothing but does not fail.
     const std::string before = std::setlocale(LC_ALL, nullptr);
     std::setlocale(LC_ALL, "de_DE.UTF-8");
     EXPECT_EQ(FormatText(L"%.2f %s", 1.25, L"Ä"), L"1.25 Ä");

@@ -11,7 +11,7 @@ TEST(Ansi2Unicode, ConvertsBothWays) {
     EXPECT_STREQ(utility.AnsiToUnicode("gr\xFC\xDF \x80"), L"grüß €");
     EXPECT_STREQ(utility.UnicodeToAnsi(L"grüß € Ж"), "gr\xFC\xDF \x80 ?");
     EXPECT_STREQ(utility.AnsiToUnicode(""), L"");
-    std::wstring text; // longer than the pieces it is converted in
+    std::wstring text; // longer than one conversion chunk
     for (wchar_t c = 1; c < 1000; ++c) {
         text += c;
     }
@@ -31,5 +31,5 @@ TEST(Ansi2Unicode, WorksInTheReservedMemory) {
     EXPECT_EQ(ansi, longest);
     utility.ReleaseBufferMemory();
     EXPECT_EQ(utility.GetBufferCapacity(), 0U);
-    EXPECT_EQ(utility.UnicodeToAnsi(AnsiToWide(longest)), longest); // without a reserve too
+    EXPECT_EQ(utility.UnicodeToAnsi(AnsiToWide(longest)), longest); // also without reserved buffers
 }

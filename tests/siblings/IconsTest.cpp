@@ -1,4 +1,4 @@
-// The pictures of the installation: what modules ask for by name is there and can be seen.
+// The icons of the installation: all names that modules use exist and are visible.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,7 +13,7 @@ using namespace Orvane;
 
 namespace {
 
-/// All names that modules and plug-ins ask for.
+/// All icon names that modules and plug-ins use.
 constexpr const wchar_t* kNames[] = {
     // entities, topologies, systems
     L"IDI_NODE", L"IDI_SECTION", L"ORV_IDI_POLYGON_16X16", L"ORV_IDI_POLYGONNODE_16X16",
@@ -46,7 +46,7 @@ double Luminance(const std::array<double, 3>& color) {
     return 0.2126 * linear(color[0]) + 0.7152 * linear(color[1]) + 0.0722 * linear(color[2]);
 }
 
-/// How far a pixel over a ground stands out from it: 1 for not at all, 21 at most.
+/// Contrast ratio of a pixel to a background: from 1 (invisible) to 21.
 double Contrast(std::uint32_t pixel, const std::array<int, 3>& ground) {
     const double through = 1 - (pixel >> 24) / 255.0;
     std::array<double, 3> shown{};
@@ -59,7 +59,7 @@ double Contrast(std::uint32_t pixel, const std::array<int, 3>& ground) {
     return (high + 0.05) / (low + 0.05);
 }
 
-/// How many pixels of a picture stand out clearly.
+/// Number of clearly visible pixels.
 long Visible(const CImage& image, const std::array<int, 3>& ground) {
     return std::count_if(image.Pixels().begin(), image.Pixels().end(),
                          [&ground](std::uint32_t pixel) { return Contrast(pixel, ground) >= 2.5; });
@@ -76,7 +76,7 @@ protected:
 };
 
 TEST_F(IconsTest, EveryNameHasAPictureThatCanBeSeenOnLightAndDarkGround) {
-    constexpr long kEnough = 10; // the smallest, an angle on a caption, has some more
+    constexpr long kEnough = 10; // the smallest, a caption arrow, has a few more
     for (const wchar_t* name : kNames) {
         const CImage image = Picture(name);
         ASSERT_FALSE(image.IsNull()) << WideToUtf8(name);
@@ -130,7 +130,7 @@ TEST_F(IconsTest, WhatNobodyKnowsHasNoPicture) {
 }
 
 TEST_F(IconsTest, ADenseScreenGetsMorePixelsOfTheSameSize) {
-    setenv("QT_SCALE_FACTOR", "2", 1); // read when the first picture brings the toolkit to life
+    setenv("QT_SCALE_FACTOR", "2", 1); // read when the first icon initialises the toolkit
     const CImage image = Picture(L"IDI_NODE");
     unsetenv("QT_SCALE_FACTOR");
     if (image.Density() == 1) {

@@ -1,4 +1,4 @@
-// Search by place, over the current drawing.
+// Spatial indexes of the current drawing.
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
@@ -71,7 +71,7 @@ TEST_F(IndexTest, PolygonsAreFoundByPoint) {
     for (const auto& [what, x, y, expected] : cases) {
         EXPECT_EQ(Polygons().GetPolygonsAt(x, y), expected) << what;
     }
-    EXPECT_EQ(Polygons().GetPolygonsInBox({2.5, 2.5, 3, 3}), (Ids{l, square})); // by their boxes
+    EXPECT_EQ(Polygons().GetPolygonsInBox({2.5, 2.5, 3, 3}), (Ids{l, square})); // by bounding box
     const PolygonIndexEntry* const pEntry = Polygons().GetIndexEntry(square);
     ASSERT_NE(pEntry, nullptr);
     EXPECT_EQ(pEntry->systemId, parcels.GetSystemId());
@@ -82,7 +82,7 @@ TEST_F(IndexTest, PolygonsAreFoundByPoint) {
 
 TEST_F(IndexTest, TheNearestPolygonIsTheOneAPlainSearchFinds) {
     System::CGisSystem& parcels = MakeSystem(L"1", TopologyPolygon, 0);
-    // Thin diagonal strips: their boxes say little about where they are.
+    // Thin diagonal strips: their bounding boxes are a poor approximation.
     std::mt19937 random(3);
     std::uniform_real_distribution<double> place(0, 100);
     std::vector<std::pair<Point, AcDbObjectId>> strips;

@@ -15,7 +15,7 @@ TEST(LogEngine, WithoutSettingsNothingIsTraced) {
 TEST(LogEngine, TheSettingsSwitchAndNameTheFile) {
     const TestHost host;
     host.Support().Write("Settings.ini", "[Logging]\non=1\nfile=sub\\own.log\n");
-    // The path alone reads the settings as well.
+    // Asking for the path reads the settings, too.
     EXPECT_EQ(CLogEngine::GetLogFileFullPath(), (host.Support() / "sub/own.log").string());
     EXPECT_EQ(CLogEngine::GetLoggingOnOff(), 1);
 }

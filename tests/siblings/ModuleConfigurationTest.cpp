@@ -16,8 +16,8 @@ CModuleConfiguration& Configuration() {
     return *CModuleConfiguration::Instance();
 }
 
-/// What stands behind `begin` up to `end`, from a place on, which moves behind it; empty if
-/// there is no more.
+/// The text between `begin` and `end`, searched from `at`, which is moved past it; empty if there
+/// is no more.
 std::string Between(const std::string& text, std::size_t& at, const std::string& begin,
                     const std::string& end) {
     const std::size_t from = text.find(begin, at);
@@ -40,7 +40,7 @@ std::map<int, std::string> Messages(const std::string& language) {
     return messages;
 }
 
-/// The letters behind the percent signs, in their order.
+/// The conversion letters of all placeholders, in order.
 std::string Placeholders(const std::string& text) {
     std::string all;
     for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -72,7 +72,7 @@ TEST(Messages, FollowTheLanguage) {
 }
 
 TEST(Messages, FallBackToEnglishOneByOne) {
-    // An installation whose German file lacks everything: the English one under its name.
+    // An installation whose German file is empty: English texts under its name.
     const TestHost host;
     const TempFolder install;
     std::filesystem::create_directories(install / "share/messages");
@@ -170,7 +170,7 @@ TEST(Icons, AreFoundByNameAndKeptOnceFound) {
     EXPECT_EQ(Configuration().GetIcon(L"IDI_NODE"), nullptr);
     install.Write("share/icons/IDI_NODE.svg", "<svg/>");
     install.Write("share/outside.svg", "<svg/>");
-    const HICON icon = Configuration().GetIcon(L"IDI_NODE"); // not there before is not for ever
+    const HICON icon = Configuration().GetIcon(L"IDI_NODE"); // a missing icon is looked for again
     ASSERT_NE(icon, nullptr);
     EXPECT_EQ(static_cast<CIcon*>(icon)->m_strPath, install.Wide("share/icons/IDI_NODE.svg"));
     EXPECT_EQ(Configuration().GetIcon(L"IDI_NODE"), icon);

@@ -92,10 +92,10 @@ TEST_F(NameRulesTest, CountersGoWithTheSystem) {
     System::CGisSystem& sewer = MakeSystem(L"2");
     Storage().LoadCountersFromSystem(&water);
     EXPECT_EQ(NewNode(water), "N1");
-    EXPECT_EQ(NewNode(sewer), "N1"); // counts by itself while it is not the one loaded
+    EXPECT_EQ(NewNode(sewer), "N1"); // has its own counter while another system's is loaded
     EXPECT_EQ(NewNode(water), "N2");
     EXPECT_TRUE(water.GetCounters().empty());
-    Storage().SaveCountersToSystem(&sewer); // has its own
+    Storage().SaveCountersToSystem(&sewer); // not loaded, so it keeps its own
     EXPECT_EQ(sewer.GetCounters().at(L"node"), 1);
     Storage().SaveCountersToSystem(&water);
     EXPECT_EQ(water.GetCounters().at(L"node"), 2);

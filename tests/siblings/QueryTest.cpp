@@ -1,4 +1,4 @@
-// Queries: how conditions are written, and which values fulfil them.
+// Queries: syntax of conditions, and matching values.
 #include <gtest/gtest.h>
 #include <map>
 
@@ -10,7 +10,7 @@ using namespace Orvane::Query;
 
 namespace {
 
-/// The value of attribute A of an entity that also has B = "pipe".
+/// Whether a condition holds for an entity with this value of A and with B = "pipe".
 bool Fulfils(const wchar_t* condition, const AcDbValue& value, const wchar_t* also = nullptr,
              bool any = false) {
     CQueryDefinition query(L"1", L"query");
@@ -84,7 +84,7 @@ TEST(QueryMatcher, AllOrAnyOfTheConditions) {
 TEST(QueryCondition, IsReadAsPeopleWriteIt) {
     struct {
         const wchar_t* text;
-        const wchar_t* again; ///< null: no condition
+        const wchar_t* again; ///< null: not a condition
     } const cases[] = {
         {L"DIAMETER>=300", L"DIAMETER >= 300"},
         {L" Pipe type  =  cast iron ", L"Pipe type = cast iron"},

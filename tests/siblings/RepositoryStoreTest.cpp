@@ -1,5 +1,4 @@
-// Where configurations are kept: folders, with all that can be wrong with files, and systems
-// of a drawing.
+// Storage of configurations: in folders, including damaged files, and in systems of a drawing.
 #include <boost/make_shared.hpp>
 #include <functional>
 
@@ -27,7 +26,7 @@ class QueryItems final : public CRepositoryItemFactory {
     }
 };
 
-/// Notes the events of configurations.
+/// Records the events of configurations.
 class Events final : public System::ISystemEvents {
 public:
     Events() { System::CGisEvents::Instance()->Register(this); }
@@ -105,7 +104,7 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
     struct {
         const char* file;
         std::string content;
-        const char* problem; ///< empty: it is read
+        const char* problem; ///< empty: it can be read
     } const cases[] = {
         {"A1.xml", QueryText("A1", "good"), ""},
         {"b2.xml", QueryText("B2", "also good"), ""},
@@ -120,12 +119,12 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
         {"OP.xml", QueryText("OP", "x", R"(of="2" match="all"><condition attribute="A"/></item>)"),
          "OP.xml: it has an invalid condition"},
         {"OF.xml", QueryText("OF", "x", R"(of="9999999999" match="all"/>)"),
-         "OF.xml: the kind of entities it queries is missing"},
+         "OF.xml: the entity type to query is missing"},
         {"DTD.xml", "<!DOCTYPE item [<!ENTITY a \"b\">]>" + QueryText("DTD", "&a;"),
-         "a document type is not allowed"},
-        {"notes.txt", "x", "notes.txt: it is not named after a GUID"},
-        {"A1.xml.new-77", "x", "A1.xml.new-77: it is not named after a GUID"},
-        {"not a guid.xml", QueryText("x", "x"), "not a guid.xml: it is not named after a GUID"},
+         "document type declarations are not allowed"},
+        {"notes.txt", "x", "notes.txt: its file name is not a GUID"},
+        {"A1.xml.new-77", "x", "A1.xml.new-77: its file name is not a GUID"},
+        {"not a guid.xml", QueryText("x", "x"), "not a guid.xml: its file name is not a GUID"},
     };
     for (const auto& test : cases) {
         m_folder.Write(std::string("QUERY/") + test.file, test.content);
@@ -304,7 +303,7 @@ TEST_F(RepositoryStore, RecordsThatOthersSpoiltAreSkipped) {
     const CRepositoryRecords store(L"QUERY", system);
     EXPECT_EQ(Names(store.GetItems()), "good");
     EXPECT_NE(Problems().find("Town: ITEM.QUERY.A2: line 1: "), std::string::npos) << Problems();
-    EXPECT_NE(Problems().find("Town: ITEM.QUERY.a b: it is not"), std::string::npos);
+    EXPECT_NE(Problems().find("Town: ITEM.QUERY.a b: its file name is not"), std::string::npos);
     EXPECT_FALSE(store.GetItem(store.GetDefault(EntityNone)));
 
     AcDbDictionary* pOpen = nullptr;

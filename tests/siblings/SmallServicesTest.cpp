@@ -44,7 +44,7 @@ TEST(SplitString, MaySplitAPieceOfTheArrayItself) {
 
 namespace {
 
-/// Writes down its reloads; may bring another factory with it.
+/// Records its reloads; may register another factory.
 struct Factory final : CRepositoryFactory {
     explicit Factory(std::string& l, char n) : log(l), name(n) {}
     void ReloadRepository(int mode) override {
@@ -71,7 +71,7 @@ TEST(Repositories, AreReloadedInTheOrderOfRegistration) {
     manager.RegisterRepositoryFactory(L"QUERY", &a);
     manager.RegisterRepositoryFactory(L"LABEL", &b);
     manager.RegisterRepositoryFactory(L"LABEL", nullptr);
-    manager.RegisterRepositoryFactory(L"query", &c); // takes the place of the first one
+    manager.RegisterRepositoryFactory(L"query", &c); // replaces the first one
     manager.ReloadRepositories(2);
     EXPECT_EQ(log, "c2b2n2");
     EXPECT_EQ(manager.GetRepositoryfactory(L"Query"), &c);

@@ -141,7 +141,7 @@ TEST_F(SystemManagerTest, EachDrawingHasItsOwnSystems) {
     CGisSystem* const pOwn = Create(L"a");
     ASSERT_NE(pOwn, nullptr);
     EXPECT_EQ(pOwn->GetSystemId(), pA->GetSystemId());
-    // One of another drawing becomes active there.
+    // Each drawing keeps its own active system.
     Manager().SetSystemActive(pOwn);
     acDocManagerPtr()->setCurDocument(m_pDoc);
     Manager().SetSystemActive(nullptr);
@@ -162,7 +162,7 @@ TEST_F(SystemManagerTest, SystemsLiveUntilTheirDocumentIsGone) {
         int count = -1;
     };
     Create(L"a");
-    const Reactor reactor; // behind the manager's own
+    const Reactor reactor; // called after the manager's own
     acDocManagerPtr()->closeDocument(m_pDoc);
     EXPECT_EQ(reactor.count, 1);
 }

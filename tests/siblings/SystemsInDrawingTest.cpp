@@ -1,4 +1,4 @@
-// Systems and their entities as parts of the drawing: saved, undone, shared.
+// Systems and their entities in the drawing: saved, undone, shared.
 #include <gtest/gtest.h>
 
 #include "platform/arx/DbUndoScopes.h"
@@ -128,7 +128,7 @@ TEST_F(SystemsInDrawingTest, UndoAndRedoTakeSystemsAndTheirEntitiesAlong) {
 }
 
 TEST_F(SystemsInDrawingTest, LayersFollowTheSystem) {
-    Database().layer(L"Town sections"); // somebody else's
+    Database().layer(L"Town sections"); // somebody else's layer
     CGisSystem& system = MakeSystem(L"Town");
     const System::CGisSystemLayer* const pLayer = system.GetLayerByReference(L"DIONICA");
     ASSERT_NE(pLayer, nullptr);
@@ -258,7 +258,7 @@ TEST_F(SystemsInDrawingTest, WhatOtherCodeDoesToEntitiesCountsAtOnce) {
     EXPECT_EQ(Storage().GetNodeVector().size(), 1U);
 
     auto stranger = std::make_unique<AcDbPoint>(AcGePoint3d{1, 1});
-    stranger->setAttribute(AcDbIntern("SYSTEMID"), 99); // of no system here
+    stranger->setAttribute(AcDbIntern("SYSTEMID"), 99); // a system that does not exist here
     const AcDbObjectId free = Database().appendEntity(std::move(stranger));
     EXPECT_FALSE(Storage().GetNodeById(free));
     EXPECT_NE(Selection::CNodeIndex::Instance()->GetNodeById(free), nullptr);
@@ -283,7 +283,7 @@ TEST_F(SystemsInDrawingTest, SectionsWithNodesThatAreNowhereKeepTheirVertices) {
 TEST_F(SystemsInDrawingTest, StatisticsAreThoseOfTheKindOfSystem) {
     using namespace System;
     CGisSystem& net = MakeSystem(L"Net");
-    // A triangle with a tail of 5, and a node alone.
+    // A triangle with a tail of 5, and an isolated node.
     const AcDbObjectId ids[] = {Node(net, "a"), Node(net, "b", 3, 0), Node(net, "c", 3, 4),
                                 Node(net, "d", 3, 9), Node(net, "e", 50, 50)};
     for (const auto& [from, to] : {std::pair(0, 1), {1, 2}, {2, 0}, {2, 3}}) {

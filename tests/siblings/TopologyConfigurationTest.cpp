@@ -15,7 +15,7 @@ CString Number(int id) {
     return text;
 }
 
-/// The whole configuration as one text, to compare.
+/// The whole configuration as a text, for comparison.
 std::string Describe(const CTopologyConfiguration& configuration) {
     CString text;
     for (const CTopology& topology : configuration.GetTopologyVector()) {
@@ -52,15 +52,15 @@ TEST(TopologyConfiguration, ReadsAFile) {
 TEST(TopologyConfiguration, ABadLineIsLeftOutAndNamed) {
     const std::pair<const char*, const wchar_t*> cases[] = {
         {"[circle]\n", L":1: unknown topology \"circle\""},
-        {"[line]\n[LINE]\n", L":2: a second section \"LINE\""},
+        {"[line]\n[LINE]\n", L":2: duplicate section \"LINE\""},
         {"[line]\nfunction.x=A\n", L":2: unknown key \"function.x\""},
         {"[line]\nfunction.=A\n", L":2: unknown key \"function.\""},
-        {"[line]\nfunction.0=A\n", L":2: the number of a function must be above 0"},
-        {"[line]\nfunction.-1=A\n", L":2: the number of a function must be above 0"},
+        {"[line]\nfunction.0=A\n", L":2: the number of a function must be greater than 0"},
+        {"[line]\nfunction.-1=A\n", L":2: the number of a function must be greater than 0"},
         {"[line]\nfunction.99999999999=A\n", L":2: unknown key"},
-        {"[line]\nfunction.1=A\nfunction.1=B\n", L":3: a second function 1"},
-        {"[line]\nentity.3=A\n", L":2: there is no entity type 3"},
-        {"[line]\nentity.1=A\nentity.1=A\n", L":3: a second entity type 1"},
+        {"[line]\nfunction.1=A\nfunction.1=B\n", L":3: duplicate function 1"},
+        {"[line]\nentity.3=A\n", L":2: unknown entity type 3"},
+        {"[line]\nentity.1=A\nentity.1=A\n", L":3: duplicate entity type 1"},
         {"[line]\non=yes\n", L":2: \"yes\" is neither 0 nor 1"},
         {"[line]\nname=\n", L":2: \"name\" has no value"},
         {"[line]\nfoo=1\n", L":2: unknown key \"foo\""},
@@ -68,7 +68,7 @@ TEST(TopologyConfiguration, ABadLineIsLeftOutAndNamed) {
     };
     const TempFolder folder;
     for (const auto& [content, problem] : cases) {
-        // A good topology in front, so that the file as a whole counts.
+        // Add a valid topology, so that the file is not replaced by the default.
         folder.Write("t.ini", content + std::string("[scheme]\nname=Good\n"));
         const CTopologyConfiguration configuration(folder.Wide("t.ini"), Number);
         ASSERT_EQ(configuration.GetProblems().size(), 1U) << content;

@@ -55,7 +55,7 @@ TEST_F(TopologyStorageTest, AMissingNodeIsKnownByItsStatedName) {
     const AcDbObjectId other = Storage().AddSection(system, {"T", {node, "not looked at"}, {node}});
     const CSection section =
         Storage().GetSectionById(Storage().AddSection(system, {"S", {node}, {other, "B"}, vertex}));
-    EXPECT_EQ(section.GetEndNodeId(), AcDbObjectId()); // a section is no node
+    EXPECT_EQ(section.GetEndNodeId(), AcDbObjectId()); // a section is not a node
     EXPECT_FALSE(section.GetEndNode());
     EXPECT_EQ(section.GetMissingStart(), "");
     EXPECT_EQ(section.GetMissingEnd(), "B");
@@ -69,7 +69,7 @@ TEST_F(TopologyStorageTest, AttributesAreSetAddedAndRemoved) {
     const AcDbObjectId first = Storage().AddNode(system, {"A", {}, "", twice});
     const AcDbObjectId second = Node(system, "B");
     for (const char* name : {"x", "y", "z"}) {
-        // In turns, so that the attributes of both have to move.
+        // Alternating, so that the attributes of both have to move.
         EXPECT_EQ(Storage().SetAttribute(first, {name, name}), 1);
         EXPECT_EQ(Storage().SetAttribute(second, {name, 1.0}), 1);
     }
@@ -95,7 +95,7 @@ TEST_F(TopologyStorageTest, NamesAreFoundAsAPlainSearchFindsThem) {
     System::CGisSystem& sewer = MakeSystem(L"Sewer");
     std::mt19937 random(7);
     const auto anyName = [&] { return "n" + std::to_string(random() % 400); };
-    std::vector<std::pair<int, std::string>> names; // by node in the order of creation
+    std::vector<std::pair<int, std::string>> names; // by node, in order of creation
     std::vector<AcDbObjectId> ids;
     for (int step = 0; step < 6000; ++step) {
         if (step % 3 == 0 || ids.empty()) {
@@ -152,7 +152,7 @@ TEST_F(TopologyStorageTest, ASystemGoesAndTheOthersStay) {
     EXPECT_EQ(Storage().GetTextById(text).GetName().Str(), L"label");
     EXPECT_EQ(Storage().GetTextById(text).GetPosition().x, 5);
     EXPECT_EQ(Storage().FindNodeByName(sewer.GetSystemId(), "S1").GetObjectId(), s1);
-    EXPECT_GT(Node(sewer, "new"), text); // ids are not used again
+    EXPECT_GT(Node(sewer, "new"), text); // ids are not reused
 
     const std::uint64_t after = Storage().GetChangeStamp();
     Storage().RemoveSystemEntities(water.GetSystemId());

@@ -1,4 +1,4 @@
-// Everything that a drawing holds, as text, so that two can be compared.
+// The content of a drawing as text, for comparisons.
 #pragma once
 
 #include <map>
@@ -9,7 +9,7 @@
 #include "platform/arx/DbDatabase.h"
 #include "platform/win/CodePage.h"
 
-/// What objects are made of, part by part: a text each.
+/// Content of objects: part name -> text.
 using Parts = std::map<std::string, std::string>;
 
 inline std::string NumberText(double value) {
@@ -69,14 +69,14 @@ inline std::string BodyText(const AcDbObject& object) {
     return pDictionary ? WideToUtf8(pDictionary->name().View()) : std::string();
 }
 
-/// Adds the parts of one object, under its number.
+/// Adds the parts of an object; their names start with its number.
 inline void AddParts(const AcDbObject& object, Parts& parts, bool withOrder) {
     const std::string id = std::to_string(object.objectId().number());
     parts[id + " exists"] = object.isErased() ? "no" : "yes";
     parts[id + " body"] = BodyText(object);
     if (const auto* const pDictionary = dynamic_cast<const AcDbDictionary*>(&object)) {
         for (const auto& [name, text] : pDictionary->records()) {
-            // A long text would hide what a failed comparison has to show.
+            // A long text would clutter the message of a failed comparison.
             parts[id + " record " + WideToUtf8(name.View())] =
                 text.GetLength() > 1000 ? std::to_string(std::hash<std::wstring>()(text.Str()))
                                         : WideToUtf8(text.View());
@@ -100,7 +100,7 @@ inline void AddParts(const AcDbObject& object, Parts& parts, bool withOrder) {
     }
 }
 
-/// Everything in the database, on demand with erased objects.
+/// The parts of all objects in the database, optionally including erased ones.
 inline Parts PartsOf(const AcDbDatabase& database, bool withOrder = true, bool withErased = true) {
     Parts parts;
     parts["coordinate system"] = WideToUtf8(database.coordinateSystem().View());

@@ -1,4 +1,4 @@
-// What observers hear, as one text.
+// Records the calls of observers as one text.
 #pragma once
 
 #include <functional>
@@ -10,8 +10,8 @@
 #include "platform/win/CodePage.h"
 #include "platform/win/String.h"
 
-/// Notes events as "name argument argument;" in the order in which they come. Observers of one
-/// test may share a log; what `on` has for an event runs after it is noted.
+/// Records events as "name argument argument;" in order. Observers may share a log. A function in
+/// `on` is called after its event was recorded.
 class EventLog {
 public:
     template <class... Arguments>
@@ -20,7 +20,7 @@ public:
         ((m_text += " " + Text(arguments)), ...);
         m_text += ";";
         if (const auto hit = on.find(event); hit != on.end() && hit->second) {
-            // A copy: the event may forget itself.
+            // Copied, as the function may remove itself.
             const std::function<void()> call = hit->second;
             call();
         }

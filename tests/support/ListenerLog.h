@@ -1,11 +1,11 @@
-// What listeners of the workspace hear.
+// Records the events of workspace listeners.
 #pragma once
 
 #include "siblings/giscore/systems/GisSystem.h"
 #include "tests/support/EventLog.h"
 #include "workspacecore/events/IWsListener.h"
 
-/// Notes every event, with its own name in front, in a log that several may share.
+/// Records every event, prefixed with its own name, in a log that several listeners may share.
 class ListenerLog final : public Orvane::Workspace::IWsListener {
     using CGisSystem = Orvane::System::CGisSystem;
 

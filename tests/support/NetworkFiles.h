@@ -1,4 +1,4 @@
-// Networks with known faults for tests: generated ones, and real ones that are no part of the
+// Networks with known faults for tests: generated ones, and real ones that are not in the
 // repository.
 #pragma once
 
@@ -10,8 +10,8 @@
 
 class NetworkFiles {
 public:
-    /// "generated-water.inp" and "generated-sewer.inp" are made on demand, with 25 faults, five
-    /// of each kind; other names are those of real networks.
+    /// "generated-water.inp" and "generated-sewer.inp" are generated on demand, with 25 faults,
+    /// five of each kind; other names refer to real networks.
     std::filesystem::path Path(const std::string& name) const {
         if (!name.starts_with("generated-")) {
             return RealFolder() / name;

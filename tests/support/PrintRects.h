@@ -1,4 +1,4 @@
-// How failed expectations show points and rectangles.
+// Prints points and rectangles in messages of failed expectations.
 #pragma once
 
 #include <ostream>

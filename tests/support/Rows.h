@@ -1,9 +1,9 @@
-// Tables of cases.
+// Tables of test cases.
 #pragma once
 
 #include <tuple>
 #include <vector>
 
-/// The rows of a table, whose columns a loop names: for (const auto& [text, number] : rows).
+/// Rows of a table; a loop names the columns: for (const auto& [text, number] : rows).
 template <class... Columns>
 using Rows = std::vector<std::tuple<Columns...>>;

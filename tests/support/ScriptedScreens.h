@@ -1,11 +1,11 @@
-// A desktop of a script: monitors, cursor and the order of windows as a test sets them.
+// A fake desktop whose monitors, cursor and stacking order are set by the test.
 #pragma once
 
 #include <utility>
 
 #include "platform/win/Screens.h"
 
-/// In force while it lives.
+/// The desktop in use during its lifetime.
 class ScriptedScreens final : public IScreens {
 public:
     explicit ScriptedScreens(std::vector<Monitor> all) : monitors(std::move(all)) {

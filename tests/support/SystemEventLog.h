@@ -1,11 +1,11 @@
-// What observers of systems hear.
+// Records the events of systems.
 #pragma once
 
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/systems/SystemManager.h"
 #include "tests/support/EventLog.h"
 
-/// Registered as long as it lives.
+/// Registered during its lifetime.
 class SystemEventLog final : public Orvane::System::ISystemEvents, public EventLog {
     using CGisSystem = Orvane::System::CGisSystem;
 
@@ -26,7 +26,7 @@ public:
     void OnDropSystemContent(CGisSystem* p) override { Note("drop", p, Active()); }
 
 private:
-    /// Of the drawing, at the moment.
+    /// The active system of the current drawing.
     static const CGisSystem* Active() {
         return Orvane::System::CSystemManager::Instance()->GetActiveSystem();
     }

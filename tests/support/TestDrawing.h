@@ -1,4 +1,4 @@
-// A drawing for tests of what is kept in one.
+// A test fixture with an open drawing.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ protected:
     const TestHost& Host() const { return m_host; }
     TestHost& Host() { return m_host; }
     AcApDocument* Document() const { return m_pDoc; }
-    /// Of the current drawing.
+    /// The topology of the current drawing.
     static Orvane::Topology::CTopologyStorage& Storage() {
         return *Orvane::Topology::CTopologyMultiStorage::Instance()->GetTopology();
     }

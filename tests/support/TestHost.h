@@ -1,4 +1,4 @@
-// A host for tests: scripted answers, captured output, and folders of its own.
+// A host for tests with scripted answers, captured output and a temporary support folder.
 #pragma once
 
 #include <cstdlib>
@@ -16,13 +16,13 @@
 #include "platform/arx/HostPort.h"
 #include "platform/win/CodePage.h"
 
-/// A folder that goes with the test.
+/// A temporary folder, deleted at the end of its lifetime.
 class TempFolder {
 public:
     TempFolder() {
         std::string name = (std::filesystem::temp_directory_path() / "tessaly-XXXXXX").string();
         if (!mkdtemp(name.data())) {
-            throw std::runtime_error("no temporary folder");
+            throw std::runtime_error("cannot create a temporary folder");
         }
         m_path = name;
     }
@@ -66,7 +66,7 @@ public:
     std::string TakeOutput() { return WideToUtf8(std::exchange(m_output, {})); }
     const std::vector<std::wstring>& Alerts() const { return m_alerts; }
     int Escapes() const { return m_nEscapes; }
-    /// L"\x1B" answers with Escape.
+    /// Adds answers to prompts; L"\x1B" stands for Escape.
     void Answer(std::initializer_list<const wchar_t*> answers) {
         m_answers.insert(m_answers.end(), answers.begin(), answers.end());
     }
@@ -76,7 +76,7 @@ public:
     PromptEnd GetString(bool, std::wstring_view prompt, CString& answer) override {
         m_output += prompt;
         if (m_answers.empty()) {
-            throw std::runtime_error("a prompt that the test did not expect");
+            throw std::runtime_error("unexpected prompt");
         }
         answer = m_answers.front();
         m_answers.pop_front();
@@ -87,7 +87,7 @@ public:
     bool IsPrompting() const override { return m_isPrompting; }
     void CancelPrompts() override { ++m_nCancelled; }
 
-    /// A prompt that waits outside of any command.
+    /// Simulates a prompt waiting outside any command.
     bool m_isPrompting = false;
     int m_nCancelled = 0;
 

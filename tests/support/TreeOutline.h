@@ -1,4 +1,4 @@
-// Definitions, commands and templates as texts, so that a test reads like the tree it means.
+// Text form of tree templates, so that a test looks like the tree it expects.
 #pragma once
 
 #include <boost/make_shared.hpp>
@@ -13,8 +13,8 @@ inline std::string Narrow(const CString& text) {
     return WideToUtf8(text.Str());
 }
 
-/// "id" at its depth; then "+" for a place to add, with the kind of configuration, and "e"
-/// with the entity type where it belongs to one; "?" where the way up is not the way down.
+/// The id, indented by depth; then "+" and the kind of configuration for a place to add one, and
+/// "e" with the entity type of an entity-specific one; "?" marks a wrong parent link.
 inline std::string Outline(const CWsTreeTemplate& node, int depth = 0) {
     std::string line(static_cast<std::size_t>(depth) * 2, ' ');
     line += node.GetItemDefinition() ? Narrow(node.GetItemDefinition()->GetId()) : "(none)";
@@ -38,7 +38,7 @@ inline std::string Outline(const CWsTreeTemplate::Ptr& node) {
     return node ? Outline(*node) : "null";
 }
 
-/// Templates hold themselves alive, which is fine for a process and none of a test's.
+/// Breaks the reference cycles of a template, which would be leaks in a test.
 inline void TakeApart(const CWsTreeTemplate::Ptr& node) {
     if (node) {
         const CWsTreeTemplate::Children children = std::move(*node->GetChildren());

@@ -1,4 +1,4 @@
-// Access of modules to the objects of the current drawing.
+// Access to the objects of the current drawing for modules.
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"

@@ -1,4 +1,4 @@
-// Where dialogs go, as numbers alone.
+// Placement of dialogs, without windows.
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -88,7 +88,7 @@ TEST(DialogPlaces, TheReachIsOneAcrossAndOneDown) {
 }
 
 TEST(DialogPlaces, AnEdgeStartsFromWhatTheOneBeforeMade) {
-    // As wide and high as the screen, or nearly: left and top first, then right and bottom.
+    // Nearly as large as the screen: left and top apply first, then right and bottom.
     EXPECT_EQ(AtScreen({10, 10}, {1920, 1080}, {}), CPoint(0, 0));
     EXPECT_EQ(AtScreen({10, 10}, {1900, 1060}, {}), CPoint(20, 20));
     EXPECT_EQ(AtScreen({45, 45}, {1900, 1060}, {}), CPoint(20, 20));
@@ -134,7 +134,7 @@ TEST(DialogPlaces, FourPlacesAtAnotherDialog) {
 }
 
 TEST(DialogPlaces, ALowOneIsDrawnOnFromTopToBottomAndAside) {
-    // Each test works on what the one before has made of the place.
+    // Each check starts from the result of the previous one.
     constexpr CRect low(600, 400, 900, 420);
     EXPECT_EQ(AtDialogs({610, 395}, {200, 10}, {low}), CPoint(600, 420))
         << "above it first, and from there below";
@@ -149,7 +149,7 @@ TEST(DialogPlaces, ALaterDialogOverrulesAnEarlierOne) {
     EXPECT_EQ(AtDialogs({610, 660}, size, {first}), CPoint(600, 650));
     EXPECT_EQ(AtDialogs({610, 660}, size, {first, second}), CPoint(590, 670));
     EXPECT_EQ(AtDialogs({610, 660}, size, {second, first}), CPoint(600, 650));
-    // The first one brings it into the reach of another that it was too far away from.
+    // The first one moves it into the reach of another that was too far away before.
     constexpr CRect third(575, 770, 800, 900);
     EXPECT_EQ(AtDialogs({610, 660}, size, {third}), CPoint(610, 660));
     EXPECT_EQ(AtDialogs({610, 660}, size, {first, third}), CPoint(575, 670));

@@ -15,7 +15,7 @@ const std::string kBanner = kStars +
                             "type 'config' to show plugin dialog\n" +
                             kStars;
 
-/// Notes what it was asked to run, and how the command line looked meanwhile.
+/// Records the commands it runs and the command line colours at that time.
 class Recorder final : public IWsCommandExecutor {
 public:
     boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* id, Query::CQueryDefinition*,
@@ -33,7 +33,7 @@ public:
 
 class ConsoleTest : public testing::Test {
 protected:
-    /// What the console printed behind its banner.
+    /// Output of the console after its banner.
     std::string Run(std::initializer_list<const wchar_t*> answers) {
         CWsManager* const pManager = CWsManager::Instance();
         m_host.TakeOutput();

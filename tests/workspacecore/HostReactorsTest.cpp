@@ -54,7 +54,7 @@ TEST_F(HostReactorsTest, ADrawingBehindOneThatAListenerThrewAtIsSetUp) {
         void OnAcadDocumentDestroyed(const wchar_t*) override { throw 42; }
     } thrower;
     CWsManager::Instance()->RegisterWsListener(&thrower);
-    for (int i = 0; i < 20; ++i) { // the next one comes to lie at the same address
+    for (int i = 0; i < 20; ++i) { // until one is created at the same address
         AcApDocument* const pDoc = Documents().newDocument(L"a");
         EXPECT_EQ(Heard(), "Current a;Active none;");
         EXPECT_TRUE(Documents().closeDocument(pDoc));

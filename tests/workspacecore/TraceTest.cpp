@@ -7,7 +7,7 @@
 
 namespace Orvane::Workspace {
 
-// Outside the unnamed namespace: their qualified names are what is tested.
+// Not in the unnamed namespace: the test is about qualified names.
 class CTraceSample {
 public:
     template <class T>
@@ -44,7 +44,7 @@ protected:
         }
         return lines;
     }
-    /// Texts behind the prefixes.
+    /// Trace texts without their prefixes.
     std::vector<std::string> Texts() const {
         std::vector<std::string> texts;
         for (const std::string& line : Lines()) {

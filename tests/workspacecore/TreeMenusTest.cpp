@@ -1,4 +1,4 @@
-// What menus contain, and finding a command by what was chosen.
+// Contents of menus, and commands by menu id.
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 constexpr auto kOtherGroup = static_cast<enmCommandGroup>(3);
 constexpr auto kFarGroup = static_cast<enmCommandGroup>(23);
 
-/// A command, of a tree item of the kind WsItemSystem unless it says otherwise.
+/// A command; for items of the type WsItemSystem by default.
 struct Entry {
     const wchar_t* id;
     enmCommandGroup group;

@@ -1,4 +1,4 @@
-// Templates: what stands where.
+// Structure of the tree templates.
 #include <gtest/gtest.h>
 
 #include "platform/arx/ApDocManager.h"
@@ -19,7 +19,8 @@ const CWsTopologyData kParcels(TopologyPolygon, 0);
 class TreeTemplate : public testing::Test {
 protected:
     void SetUp() override {
-        // The point topology has the same kind of entity as the lines, and one is off.
+        // The point topology has the same kind of entity as the line topology; one topology is
+        // off.
         m_host.Support().Write("TopologyConfiguration.ini",
                                "[line]\nentity.1=Node\nentity.2=Pipe\nfunction.10=W\n"
                                "function.11=S\n[polygon]\nentity.16=Area\n"
@@ -84,7 +85,7 @@ TEST_F(TreeTemplate, AFunctionIsOfNoAccountWhereThereAreNone) {
 TEST_F(TreeTemplate, ToolGroupsStandInTheirOwnOrderThenFoldersAsRegistered) {
     AddSystem();
     Add(L"FOLDER", WsItemSystemRepository, L"F", EntityNone, 0, {kWater, kParcels});
-    // In the order of registration, which is none of the tree's.
+    // In order of registration, which differs from the order in the tree.
     Add(L"fast", WsItemSystemToolFastCommand, L"", EntityNone, 1, {kWater});
     Add(L"tool", WsItemSystemTool, L"", EntityNone, 1, {kWater, {TopologyLine, 99}});
     Add(L"manager", WsItemSystemToolManager, L"", EntityNone, 1, {kWater});
@@ -148,7 +149,7 @@ TEST_F(TreeTemplate, RepositoryTreesKnowNoTopologiesAndRepeatWhatTwoHave) {
     Add(L"cl", WsItemRepositoryConfiguration, L"l", EntitySection, 0);
     m_list.InitializeDiskTreeTemplate();
     m_list.InitializeNetTreeTemplate();
-    // Nodes are in the line and in the point topology; the scheme is switched off.
+    // Nodes are in the line and the point topology; the scheme is disabled.
     const std::string expected = "ROOT\n  T\n    tn +256/1 e1\n    all +- e16\n    tn +256/1 e1\n"
                                  "  L +256/2\n";
     EXPECT_EQ(Outline(m_list.GetDiskTreeTemplate()), expected);

@@ -35,7 +35,7 @@ CUiStates OneDialog(const wchar_t* id) {
     return states;
 }
 
-/// Ids and lefts of the dialogs with the ids, types and values of their attributes.
+/// Ids and left edges of the dialogs, with ids, types and values of their attributes.
 std::string Content(const CUiStates& states) {
     std::wstring text;
     for (const auto& dialog : *states.GetDialogStateVector()) {
@@ -58,7 +58,7 @@ constexpr const char* kTwoDialogs =
 class UiStatesFile : public testing::Test {
 protected:
     int Load(CUiStates& states) const { return states.Load(m_folder.Wide("s.xml")); }
-    /// What happens to a record of one dialog when a file of this content is loaded.
+    /// The record of one dialog after loading a file with this content.
     std::string AfterLoading(const std::string& bytes) const {
         m_folder.Write("s.xml", bytes);
         CUiStates states = OneDialog(L"old");
@@ -96,7 +96,7 @@ TEST(UiStates, ValuesComeBackThroughTheText) {
     const Rows<CDataBox, int, const wchar_t*> cases = {
         {L"a = b;c", 5005, L"a = b;c"},
         {L"Stra\u00DFe \u20AC <'\">&", 5005, L"Stra\u00DFe \u20AC <'\">&"},
-        // References are resolved by the reader, whoever wrote them.
+        // Entity references are decoded on reading, whoever wrote them.
         {L"a&amp;b", 5005, L"a&b"},
         {L"\u4E2D\u00E4", 5005, L"?\u00E4"},
         {std::numeric_limits<int>::min(), 5003, L"-2147483648"},
@@ -155,7 +155,7 @@ TEST(UiStates, OfTwoWithOneIdTheFirstIsFound) {
     EXPECT_EQ(again.GetDialogStateById(L"d")->GetLeft(), 1);
     EXPECT_EQ(first->GetStateAttributeById(L"k")->GetValue(), L"1");
 
-    // The id goes from the look-up, whichever of them is taken off.
+    // The id is removed from the look-up, whichever of the two is removed.
     states.RemoveDialogState((*states.GetDialogStateVector())[1]);
     EXPECT_EQ(Content(states), "d@1(k:5003=1,k:5003=2,)");
     EXPECT_EQ(states.GetDialogStateById(L"d"), nullptr);
@@ -225,7 +225,7 @@ TEST_F(UiStatesFile, CutAnywhereItIsNotTakenAndKept) {
 TEST_F(UiStatesFile, ADamagedOneIsReportedAndNoneIsLost) {
     CLogEngine::SetLogging(1, m_folder.Native("trace.log"));
     EXPECT_EQ(AfterLoading("<uiStates><a></uiStates>"), "0 old@0()");
-    // Well formed, but nothing of ours: the record is emptied, and the file is kept as well.
+    // Well formed, but not ours: the record is cleared, and a copy of the file is kept.
     EXPECT_EQ(AfterLoading("<other/>"), "0 ");
     EXPECT_EQ(m_folder.Read("s.xml.damaged-1"), "<uiStates><a></uiStates>");
     EXPECT_EQ(m_folder.Read("s.xml.damaged-2"), "<other/>");

@@ -113,7 +113,7 @@ TEST(WsCommandRegistry, RemovedCommandsStillAnswerByMenuIdAndGroup) {
     registry.AddWsCommand(command);
     registry.RemoveWsCommand(Command(L"B"));
     EXPECT_EQ(registry.GetWsCommandVector()->size(), 1U);
-    // By reference into the very vector that shrinks.
+    // By reference into the vector that shrinks.
     registry.RemoveWsCommand(registry.GetWsCommandVector()->front());
     EXPECT_TRUE(registry.GetWsCommandVector()->empty());
     EXPECT_FALSE(registry.GetWsCommandById(L"A"));

@@ -85,7 +85,7 @@ protected:
         raise(*CWsManager::Instance());
         return m_log.Take();
     }
-    /// Texts of the trace since the last call, with pointers as "@".
+    /// Trace texts since the last call, with pointers as "@".
     std::string Traced() {
         std::istringstream lines(m_host.Support().Read("trace.log").substr(m_nTraceSeen));
         m_nTraceSeen = m_host.Support().Read("trace.log").size();

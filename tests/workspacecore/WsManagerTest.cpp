@@ -82,7 +82,7 @@ TEST(WsManager, TheFirstCallBehindTheEndGivesABareObject) {
     host.Support().Write("ModuleRegistry.xml",
                          "<moduleRegistry ><module on=\"1\" fileName=\"x.arx\" ></module>"
                          "</moduleRegistry>");
-    // Torn down and made again: the flag of the end survives the manager.
+    // The flag survives destroying and recreating the manager.
     CWsManager::Instance()->Raise_OnBeforeAcadWillClose();
     delete CWsManager::Instance();
     EXPECT_EQ(CWsManager::IsWSInitialized(), 0);

@@ -37,7 +37,7 @@ protected:
         }
         return ids;
     }
-    /// How each record stands: "on,loaded,handle " runs, "off " is off or was dropped.
+    /// State of each record: "on,loaded,handle " if it runs, "off " if it is off or was unloaded.
     static std::string States() {
         std::string states;
         for (const auto& module : *Plugins().GetModuleRegistry()->GetWsModuleVector()) {
@@ -123,7 +123,7 @@ TEST_F(PluginManagerTest, OneModuleThatFailsStopsNothing) {
     std::istringstream lines(m_host.Support().Read("trace.log"));
     for (std::string line; std::getline(lines, line);) {
         const std::string text = line.substr(line.find("], ", line.find("): [")) + 3);
-        // The loader's own reasons name paths of this machine.
+        // The loader's own messages contain paths of the machine.
         trace += text.find("/") == std::string::npos ? text + "\n" : "(reason)\n";
     }
     EXPECT_EQ(trace, "CWsManager - 1\nCWsManager - 2\n"

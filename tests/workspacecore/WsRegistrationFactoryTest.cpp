@@ -79,7 +79,7 @@ protected:
     }
     static const auto& Definitions() { return *List().GetWsTreeItemDefinitionVector(); }
     static const auto& Commands() { return *Registry().GetWsCommandVector(); }
-    /// For the next row of a table.
+    /// Resets the registrations for the next row of a table.
     static void Forget() {
         List().Clear();
         Registry().Clear();
@@ -108,7 +108,7 @@ protected:
         return lines;
     }
     /// "query item drag rename edit: double click, query drop, rename, item drop" of each
-    /// definition: what it accepts and allows, and the commands that answer.
+    /// definition: what it accepts and allows, and its command ids.
     static std::vector<std::string> AnswerLines() {
         std::vector<std::string> lines;
         for (const auto& definition : Definitions()) {
@@ -210,7 +210,7 @@ TEST_F(WsRegistrationFactory, ASystemOfEveryTopologyWithoutCommands) {
     EXPECT_EQ(Definitions().size(), 19U);
     EXPECT_EQ(AnswerLines()[0], "01000: ,,,");
     EXPECT_TRUE(Commands().empty());
-    // A second module finds the ids of the first one's commands taken.
+    // The ids of a second module's commands are already taken.
     Factory::RegisterSystemItem(&m_executor, nullptr, 1, 0);
     Factory::RegisterSystemItem(&m_base, nullptr, 1, 0);
     EXPECT_EQ(Commands().size(), 7U);

@@ -1,4 +1,4 @@
-// Definitions: their copies, their text, their list.
+// Definitions: copies, XML form, list.
 #include <gtest/gtest.h>
 
 #include "tests/support/Rows.h"
@@ -10,7 +10,7 @@ namespace {
 
 using DefinitionPtr = CWsTreeItemDefinitionList::DefinitionPtr;
 
-/// Of which the text has the lower half.
+/// Only the lower half is written.
 const HICON kIcon = reinterpret_cast<HICON>(0x50000002AULL); // NOLINT(performance-no-int-to-ptr)
 
 DefinitionPtr FullDefinition() {
@@ -39,7 +39,7 @@ DefinitionPtr FullDefinition() {
     return definition;
 }
 
-/// All that copies do not carry.
+/// Everything that is not copied.
 std::string Answers(const CWsTreeItemDefinition& definition) {
     return std::to_string(definition.GetAcceptRepositoryItemDrop()) +
            std::to_string(definition.GetAllowDragBegin()) +
@@ -49,7 +49,7 @@ std::string Answers(const CWsTreeItemDefinition& definition) {
                   definition.GetCmdIdRename());
 }
 
-/// All that they do, topologies apart.
+/// Everything that is copied, except topologies.
 std::string Values(const CWsTreeItemDefinition& definition) {
     std::string numbers;
     for (const auto number :
@@ -125,7 +125,7 @@ TEST(WsTreeItemDefinitionList, WhatIsReadStandsInTheVectorAlone) {
     EXPECT_EQ(Answers(back), "000 DBLCLICK_THEME_1 QRYDROP_THEME_1  ");
     EXPECT_EQ(back.GetWsTopologyDataVector()->size(), 1U);
     EXPECT_FALSE(back.DoesTopologyDataExist(definition->GetWsTopologyDataVector()->front().get()));
-    // The system item is found where it stands, in the vector; nothing hangs below it.
+    // The system item is found in the vector, although no template contains it.
     const TestHost host;
     read.InitializeSystemTreeTemplate();
     EXPECT_EQ(Outline(read.GetSystemTreeTemplate(TopologyPolygon, 0)), "THEME\n");

@@ -1,6 +1,6 @@
-// Draws all icons of a folder on one sheet, to be looked at:
+// Draws all icons of a folder on one sheet for visual inspection:
 //   iconsheet FOLDER OUT.png [dark]
-// Each one at 16, 24 and 32 as a usual screen shows it, then as one of double density does.
+// Each icon at 16, 24 and 32 as on a standard screen, then as on one of double density.
 #include <cstdio>
 #include <string_view>
 

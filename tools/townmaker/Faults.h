@@ -1,4 +1,4 @@
-// Faults that checks are to find, planted on purpose in the fields south of a town.
+// Deliberate faults, placed in the fields south of a town, that checks must find.
 #pragma once
 
 #include <cstdint>
@@ -26,9 +26,9 @@ struct Fault {
     std::vector<FaultSection> sections;
 };
 
-/// The fault of a number. In turn: a node without sections; two nodes at one place, with a
-/// section of no length between them; a section that names a missing node; two sections
-/// between the same nodes; two sections that cross without a node.
+/// Creates a fault; its number selects the kind, cyclically: a node without sections; two nodes at
+/// the same position, with a section of zero length between them; a section that names a missing
+/// node; two sections between the same nodes; two sections that cross without a node.
 Fault PlantFault(const Town& town, std::uint64_t number);
 
 } // namespace TownMaker

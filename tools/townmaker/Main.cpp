@@ -1,5 +1,5 @@
-// townmaker: writes the water or sewer network of an invented town to a file. The same
-// seed and size give the same town on every machine.
+// townmaker: writes the water or sewer network of a fictional town to a file. The same seed and
+// size give the same town on every machine.
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -12,10 +12,10 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: townmaker --seed N --sections N [--format epanet|swmm] [--faults N] FILE\n"
-    "  --seed N      which town; the same number gives the same town\n"
-    "  --sections N  how many sections, at least 30\n"
+    "  --seed N      selects the town; the same number gives the same town\n"
+    "  --sections N  number of sections, at least 30\n"
     "  --format F    epanet (water supply, the default) or swmm (sewers and parcels)\n"
-    "  --faults N    plants N faults beside the town, in turn of five kinds\n";
+    "  --faults N    adds N faults beside the town, alternating between five kinds\n";
 
 struct Wishes {
     std::optional<std::uint64_t> seed;
@@ -38,7 +38,7 @@ std::optional<std::uint64_t> ToNumber(std::string_view text) {
     return isWhole ? std::optional(value) : std::nullopt;
 }
 
-/// Whether the option is known; its value may still be unsound.
+/// True if the option is known; its value may still be invalid.
 bool TakeOption(Wishes& wishes, std::string_view option, const char* value) {
     if (option == "--format") {
         wishes.format = value;

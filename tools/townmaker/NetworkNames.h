@@ -1,5 +1,5 @@
-// Names of the entities along a street: the number of its first corner, E or N for the
-// street to the east or north, and a number from there on, as "J17E3".
+// Names of the entities along a street: the number of its first corner, E or N for a street to the
+// east or north, and a running number, such as "J17E3".
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace TownMaker {
 
-/// Which letters begin the names of a kind of network.
+/// Prefixes of the names in a kind of network.
 struct NameStyle {
     const char* node = "";
     const char* house = "";

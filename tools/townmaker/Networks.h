@@ -1,4 +1,4 @@
-// The networks of a town as files.
+// Writes the networks of a town to files.
 #pragma once
 
 #include <cstdint>
@@ -9,14 +9,14 @@
 
 namespace TownMaker {
 
-/// Sections of the water network besides those of the streets: intake, pump, two mains to
-/// the streets, a pressure valve, and the way to the tank.
+/// Sections of the water network in addition to those of the streets: intake, pump, two mains to
+/// the streets, a pressure valve, and the connection to the tank.
 inline constexpr std::uint64_t kWaterExtra = 6;
 /// The sewer's outfall pipe.
 inline constexpr std::uint64_t kSewerExtra = 1;
 
-/// `origin` tells in the title how the file came about. `faults` so many faults lie beside
-/// the town, in turn of each kind; they come with nodes and sections of their own.
+/// `origin` is written to the title and documents how the file was generated. `faults` is the
+/// number of faults beside the town, of alternating kinds, with their own nodes and sections.
 void WriteWater(const Town& town, const std::string& origin, std::uint64_t faults, TextFile& file);
 void WriteSewer(const Town& town, const std::string& origin, std::uint64_t faults, TextFile& file);
 

@@ -6,7 +6,7 @@ namespace TownMaker {
 
 namespace {
 
-/// A long piece of a bent street follows it through a point in its middle.
+/// A long piece of a bent street follows it through a vertex in its middle.
 constexpr double kLongPart = 0.12;
 
 void Measure(const Town& town, const Street& street, Piece& piece) {

@@ -16,7 +16,7 @@ struct Piece {
     std::string to;
     double fromPart = 0; ///< along the street
     double toPart = 1;
-    std::vector<Place> vertices; ///< where the street is bent
+    std::vector<Place> vertices; ///< vertices on bent streets
     double length = 0;           ///< along the drawn line, metres
 };
 

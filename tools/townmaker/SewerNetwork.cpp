@@ -1,6 +1,6 @@
-// A sewer network in SWMM's format: metres, litres a second. All pipes run downhill, that
-// is along the streets to the west or south: from the local streets to the next arterial,
-// there to the southern edge of the town, and along that edge to the outfall.
+// A sewer network in SWMM's format: metres, litres per second. All pipes run downhill, that is,
+// along the streets to the west or south: from the local streets to the next arterial, along it to
+// the southern edge of the town, and along that edge to the outfall.
 #include <algorithm>
 
 #include "Faults.h"
@@ -12,7 +12,7 @@ namespace TownMaker {
 namespace {
 
 constexpr NameStyle kStyle{"MH", "H", "C", "L"};
-constexpr double kTopDepth = 1.6; ///< of a pipe at the upper end of a street
+constexpr double kTopDepth = 1.6; ///< depth of a pipe at the upper end of a street
 constexpr double kLateralFall = 0.02;
 
 class SewerWriter {
@@ -41,8 +41,8 @@ private:
         return {corner.x - 150, corner.y - 80};
     }
 
-    /// The level of the pipes falls evenly along every way that water takes. It lies below
-    /// the ground everywhere, since the ground falls the same way.
+    /// Level of the pipes, which falls evenly along every flow path. It is below the ground
+    /// everywhere, since the ground falls in the same direction.
     double Invert(Place place) const {
         const double slope = place.x - m_outfall.x + place.y - m_outfall.y;
         return m_outfallLevel + 0.004 * slope;
@@ -51,8 +51,8 @@ private:
         return std::max(1.0, m_town.Ground(place) - Invert(place));
     }
 
-    /// Whether a corner's water leaves through this street; otherwise the street's pipe
-    /// begins near its upper corner, in a manhole of its own.
+    /// True if a corner drains through this street; otherwise the street's pipe starts at a
+    /// separate manhole near its upper corner.
     static bool IsDrainOf(const Street& street) {
         const bool leavesWest = !Town::IsArterial(street.to.column) || street.to.row == 0;
         return street.isEast == leavesWest;
@@ -65,7 +65,7 @@ private:
         }
     }
 
-    /// The pieces of a street, the last one cut short if it does not drain its corner.
+    /// The pieces of a street; the last one is shortened if the street does not drain its corner.
     std::vector<Piece> PiecesOf(const Street& street) const {
         std::vector<Piece> pieces = CutIntoPieces(m_town, kStyle, street);
         if (!IsDrainOf(street)) {
@@ -77,7 +77,7 @@ private:
         }
         return pieces;
     }
-    /// Behind the last house, and short of the corner.
+    /// After the last house and before the corner.
     static double HeadPart(const Street& street) {
         const double last = street.houses.empty() ? 0.7 : street.houses.back().part;
         return last + (1 - last) * 0.5;
@@ -178,8 +178,8 @@ private:
         m_file.Line();
     }
 
-    /// Calls take(name, from, to, length, diameter) for each conduit, in the direction of
-    /// the flow, which is against that of the streets.
+    /// Calls take(name, from, to, length, diameter) for each conduit, in flow direction, which is
+    /// opposite to the direction of the streets.
     template <class Take>
     void ForEachConduit(Take&& take) {
         m_town.ForEachStreet([&](const Street& street) {

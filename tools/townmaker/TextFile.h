@@ -1,4 +1,4 @@
-// Fast writing of a text file in columns.
+// Fast writing of text files in columns.
 #pragma once
 
 #include <charconv>
@@ -12,18 +12,18 @@
 
 namespace TownMaker {
 
-/// A number to be written with so many decimals.
+/// A number and its number of decimals.
 struct Fixed {
     double value = 0;
     int decimals = 2;
 };
 
-/// Gathers lines and writes them in large pieces. The file is the caller's.
+/// Buffers lines and writes them in large blocks. The caller owns the file.
 class TextFile {
 public:
     explicit TextFile(std::FILE* file) : m_file(file) { m_text.reserve(kPiece + 4096); }
 
-    /// Writes the parts with a blank between two of them, and a line end.
+    /// Writes the parts separated by spaces, and a line end.
     template <class... Parts>
     void Line(const Parts&... parts) {
         const std::size_t begin = m_text.size();
@@ -37,7 +37,7 @@ public:
         }
     }
 
-    /// Whether everything reached the file.
+    /// True if everything was written to the file.
     bool Finish() {
         Flush();
         return m_isGood && std::fflush(m_file) == 0;

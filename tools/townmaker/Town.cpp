@@ -9,8 +9,8 @@ namespace TownMaker {
 
 namespace {
 
-// Metres. Streets to the east are longer than those to the north, as blocks are mostly
-// deep in one direction only; houses keep so far from corners that parcels never overlap.
+// Metres. Streets to the east are longer than those to the north, as blocks are usually deep in one
+// direction only; houses keep their distance from corners so that parcels never overlap.
 constexpr double kBlockWidth = 120;
 constexpr double kBlockDepth = 80;
 constexpr double kIrregularity = 6;
@@ -37,7 +37,7 @@ double Smooth(double part) {
 
 Town::Town(std::uint64_t seed, std::uint64_t sections, std::uint64_t extra) : m_seed(seed) {
     const std::uint64_t wanted = sections - std::min(sections, extra);
-    // About 13 sections come with a corner; start below that and widen until they suffice.
+    // Each corner adds about 13 sections; start with fewer corners and add more as needed.
     const double side = std::sqrt(static_cast<double>(wanted) / 13.0) * 0.9;
     m_columns = m_rows = std::max(2U, static_cast<std::uint32_t>(side));
     std::uint64_t count = CountSections();
@@ -71,7 +71,7 @@ bool Town::Exists(Corner from, bool isEast) const {
     if (from.row + 1 >= m_rows) {
         return false;
     }
-    // Some blocks have grown together; the arterials keep all rows joined.
+    // Some local streets are missing, which joins blocks; the arterials connect all rows.
     return ClassOf(from, false) != StreetClass::Local ||
            Chance(m_seed, kStreetPlan, from.column, from.row).Happens(0.85);
 }
@@ -122,7 +122,7 @@ void Town::AddHouses(Street& street) const {
     for (int slot = 0; slot < slots; ++slot) {
         const double begin = kFreeAtCorner + slot * kParcelWidth;
         for (const double side : {1.0, -1.0}) {
-            // The two sides of a street never meet it in the same point.
+            // The connections of the two sides never meet the street at the same point.
             const double along = begin + kParcelWidth / 2 - side * chance.Between(1.5, 5);
             if (!chance.Happens(0.85)) {
                 continue;
@@ -157,7 +157,7 @@ double Town::Noise(double x, double y, std::uint64_t layer) const {
 
 double Town::Ground(Place place) const {
     const double slope = 0.004 * (place.x - kOriginX + place.y - kOriginY);
-    // Far enough from 0 that places outside of the town have whole numbers of cells, too.
+    // The origin is far enough from 0 that cell numbers are positive outside the town, too.
     const double hills =
         0.8 * Noise(place.x / 600, place.y / 600, 1) + 0.3 * Noise(place.x / 170, place.y / 170, 2);
     return 200 + slope + hills;

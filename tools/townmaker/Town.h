@@ -1,4 +1,4 @@
-// The plan of a town: streets laid as slightly irregular blocks, and houses along them.
+// The plan of a town: streets around slightly irregular blocks, and houses along them.
 #pragma once
 
 #include <cstddef>
@@ -7,13 +7,13 @@
 
 namespace TownMaker {
 
-/// A place in metres, rounded to centimetres.
+/// A position in metres, rounded to centimetres.
 struct Place {
     double x = 0;
     double y = 0;
 };
 
-/// Where two streets meet: column from the west, row from the south.
+/// A street crossing: column from the west, row from the south.
 struct Corner {
     std::uint32_t column = 0;
     std::uint32_t row = 0;
@@ -23,11 +23,11 @@ enum class StreetClass : std::uint8_t { Local, Arterial, Ring };
 
 /// A house with its connection to the street.
 struct House {
-    Place tee;           ///< in the street's axis
+    Place tee;           ///< on the street's axis
     Place house;         ///< at the wall
-    Place parcel[4];     ///< neighbours share two of them
-    double part = 0;     ///< how far along the street the tee lies, from 0 to 1
-    bool isBuilt = true; ///< false: the tee is there and leads nowhere yet
+    Place parcel[4];     ///< two are shared with the neighbours
+    double part = 0;     ///< position of the tee along the street, from 0 to 1
+    bool isBuilt = true; ///< false: the tee exists but leads nowhere yet
 };
 
 /// The stretch of a street from one corner to its eastern or northern neighbour.
@@ -40,12 +40,12 @@ struct Street {
     std::vector<House> houses; ///< in the order of their tees
 };
 
-/// A town of a seed and a size. Every part of it is worked out anew when it is asked for,
-/// so even a large town takes no memory.
+/// A town, determined by seed and size. Every part is computed on demand, so even a large town
+/// takes no memory.
 class Town {
 public:
-    /// A town with exactly so many sections, counted as pieces of street between tees and
-    /// corners, house connections, and `extra` ones. At least kFewestSections.
+    /// A town with exactly the given number of sections, which include the pieces of street between
+    /// tees and corners, the house connections, and `extra` further ones. At least kFewestSections.
     Town(std::uint64_t seed, std::uint64_t sections, std::uint64_t extra);
     static constexpr std::uint64_t kFewestSections = 30;
 
@@ -54,15 +54,15 @@ public:
     std::uint32_t Rows() const { return m_rows; }
 
     Place PlaceOf(Corner corner) const;
-    /// A number from 1 that tells corners apart.
+    /// A unique number of the corner, from 1.
     std::uint64_t NumberOf(Corner corner) const {
         return std::uint64_t{corner.row} * m_columns + corner.column + 1;
     }
-    /// The axis of a street, a little bent for some. `part` runs from 0 to 1.
+    /// A point on the axis of a street, which may be slightly bent. `part` is from 0 to 1.
     Place Along(const Street& street, double part) const;
     /// Height of the ground in metres: a gentle slope down to the south-west, with hills.
     double Ground(Place place) const;
-    /// Streets with a number of five in the plan lead through the whole town.
+    /// Streets whose number is divisible by five run through the whole town.
     static bool IsArterial(std::uint32_t number) { return number % 5 == 0; }
 
     /// Calls take(street) for each street, always in the same order.
@@ -82,7 +82,8 @@ private:
     std::uint64_t m_seed;
     std::uint32_t m_columns = 2;
     std::uint32_t m_rows = 2;
-    /// Houses cut off at the end of the plan, in halves: an odd one keeps its tee.
+    /// Number of half-houses to keep from the start of the plan; an odd one is a tee without a
+    /// house.
     std::uint64_t m_halfHouses = kAllHouses;
 };
 

@@ -1,4 +1,4 @@
-// A water supply network in EPANET's format: metres, millimetres, litres a second.
+// A water supply network in EPANET's format: metres, millimetres, litres per second.
 #include "Faults.h"
 #include "Networks.h"
 #include "Pieces.h"
@@ -8,7 +8,7 @@ namespace TownMaker {
 namespace {
 
 constexpr NameStyle kStyle{"J", "H", "P", "S"};
-constexpr double kCover = 1.3; ///< of earth over the pipes
+constexpr double kCover = 1.3; ///< earth above the pipes, in metres
 
 struct Material {
     const char* name = "";
@@ -24,7 +24,7 @@ struct MainPipe {
     Material material;
 };
 
-/// The middle of the town is older than its edge.
+/// The centre of the town is older than its edge.
 MainPipe MainOf(const Town& town, const Street& street) {
     if (street.street == StreetClass::Ring) {
         return {400, kDuctileIron};
@@ -40,7 +40,7 @@ MainPipe MainOf(const Town& town, const Street& street) {
     return isOld ? MainPipe{100, kCastIron} : MainPipe{125, kPlastic};
 }
 
-/// The works outside of the town, from the reservoir in the west to the tank in the east.
+/// The works outside the town, from the reservoir in the west to the tank in the east.
 struct Works {
     explicit Works(const Town& town)
         : inlet{0, town.Rows() / 2}, outlet{town.Columns() - 1, town.Rows() / 2},
@@ -86,7 +86,7 @@ private:
         }
     }
 
-    /// Calls take(name, place, demand) for each junction; places are only rounded.
+    /// Calls take(name, place, demand) for each junction; positions are rounded.
     template <class Take>
     void ForEachJunction(Take&& take) {
         ForEachCorner([&](const std::string& name, Place place) { take(name, place, 0.0); });

@@ -12,7 +12,7 @@ namespace {
 
 ICommandEvents* s_pEvents = nullptr;
 
-/// Commands that have had their first event, the inner ones last.
+/// Commands whose "before" event was raised, innermost last.
 std::vector<CString>& OpenScopes() {
     static auto& scopes = *new std::vector<CString>;
     return scopes;
@@ -49,7 +49,7 @@ void CommandScope::Run(const wchar_t* commandId, const std::function<void()>& wo
             s_pEvents->RaiseAfter(commandId);
         }
     } catch (...) {
-        // Why the command failed matters more than who could not bear it.
+        // The command's own exception takes precedence over a listener's.
         thrown = thrown ? thrown : std::current_exception();
     }
     if (thrown) {

@@ -1,4 +1,4 @@
-// What stands around the work of a command, for executors of all modules.
+// Events and document lock around a command, for executors of all modules.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,7 @@
 
 namespace Orvane::Workspace {
 
-/// Whom the events of commands go to.
+/// Receives the events of commands.
 class WORKSPACE_API ICommandEvents {
 public:
     virtual void RaiseBefore(const wchar_t* commandId) = 0;
@@ -19,13 +19,13 @@ protected:
 
 class WORKSPACE_API CommandScope {
 public:
-    /// Runs a command's work: the listeners hear before it, and after it however it ends, and
-    /// in between the current drawing stays open. Inside of a scope of the same command, as an
-    /// executor is that was given the command as an order, it only runs the work: a command
-    /// has its events once. What the work or a listener throws passes on.
+    /// Runs a command's work between its before and after events, with the current document
+    /// locked; the after event is raised even if the work throws. Inside a scope of the same
+    /// command, for instance in an executor called by an order, it only runs the work, so each
+    /// command raises its events once. Exceptions of the work or a listener propagate.
     static void Run(const wchar_t* commandId, const std::function<void()>& work);
 
-    /// Not owned; null until the workspace is there.
+    /// Not owned; null before the workspace exists.
     static void SetEvents(ICommandEvents* pEvents);
 };
 

@@ -1,19 +1,19 @@
-// Numbers of the commands. They are persisted and compared, so the values stand.
+// Enumerations of commands. They are persisted and compared, so the values must not change.
 #pragma once
 
 namespace Orvane::Workspace {
 
-/// Section of a menu in which a command stands.
+/// Section of a menu in which a command appears.
 enum enmCommandGroup : int {
     CommandGroupAdd = 1,
     CommandGroupEdit = 2, ///< edit, rename and copy
     CommandGroupDelete = 4,
-    CommandGroupRun = 5,    ///< run and set as default; the group of a fresh record
-    CommandGroupHidden = 7, ///< in no menu: double click, drops, send to, toggles
-    CommandGroupLast = 8,   ///< behind everything else, after a separator
+    CommandGroupRun = 5,    ///< run and set as default; the default group
+    CommandGroupHidden = 7, ///< not in menus: double click, drops, send to, toggles
+    CommandGroupLast = 8,   ///< at the end, after a separator
 };
 
-/// What a command does to the tree once it has run.
+/// How a command changes the tree.
 enum enmTreeCommandBehavior : int {
     TreeBehaviorNone = 0,
     TreeBehaviorAdd = 1, ///< add, send to and item drop

@@ -1,4 +1,4 @@
-// What a plug-in implements so that its commands run, and what comes back from a run.
+// Interface through which plug-ins run their commands, and the result type.
 #pragma once
 
 #include <boost/shared_ptr.hpp>
@@ -21,9 +21,9 @@ namespace Orvane::Workspace {
 
 class CWsTreeItemData;
 
-/// The result of a command. What the texts and numbers hold is agreed between an executor
-/// and its callers; the order of the members is part of the interface. By custom a status
-/// other than 0 says that the command was carried out.
+/// The result of a command. The meaning of the texts and numbers is agreed between an executor
+/// and its callers; the order of the members is part of the interface. By convention a non-zero
+/// status means that the command was executed.
 struct CExecutorReturnValue {
     CExecutorReturnValue() = default;
     CExecutorReturnValue(int status, const wchar_t* text1, const wchar_t* text2,
@@ -43,14 +43,14 @@ struct CExecutorReturnValue {
     enmEntityType m_enmEntityType = EntityNone;
 };
 
-/// The result that stands for a command that was not carried out.
+/// The result for a command that was not executed.
 inline boost::shared_ptr<CExecutorReturnValue> NeutralReturnValue() {
     return boost::shared_ptr<CExecutorReturnValue>(
         new CExecutorReturnValue(0, L"", L"", L"", L"", -1, L"", EntityNone));
 }
 
-/// Runs commands. Registered with the commands by pointer and not owned: it has to live
-/// as long as they do. Called on the main thread; may be called again from inside a call.
+/// Runs commands. Registered with the commands by pointer and not owned; it must live as long as
+/// they do. Called on the main thread; calls may nest.
 class IWsCommandExecutor {
 public:
     /// Any argument may be null. Must not return null.
@@ -58,8 +58,8 @@ public:
                                                             Query::CQueryDefinition* pQuery,
                                                             CWsTreeItemData* pItemData) = 0;
 
-    /// A run on given objects instead of what the user has chosen. (The spelling is the
-    /// interface's.)
+    /// Runs on the given objects instead of the user's selection. (The spelling is part of the
+    /// interface.)
     virtual boost::shared_ptr<CExecutorReturnValue>
     ExecuteExplicite(const wchar_t* /*lpszCommandId*/, CRepositoryItem* /*pRepositoryItem*/,
                      Selection::CSelectionSet* /*pSelectionSet*/, void* /*pData*/) {

@@ -10,7 +10,7 @@ CWsCommand::CWsCommand(const CWsCommand& other) {
     *this = other;
 }
 
-// Field by field, which bears assignment to itself.
+// Member by member, so self-assignment is safe.
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
 CWsCommand& CWsCommand::operator=(const CWsCommand& other) {
     m_strId = other.m_strId;

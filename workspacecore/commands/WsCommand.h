@@ -1,4 +1,4 @@
-// The record of one workspace command: what a tree item offers.
+// The record of one workspace command.
 #pragma once
 
 #include "platform/win/Types.h"
@@ -10,8 +10,8 @@ namespace Orvane::Workspace {
 
 class IWsCommandExecutor;
 
-/// Made by whoever registers the command and shared with the registry. The executor is
-/// not owned and has to outlive every execution.
+/// Created by the registering code and shared with the registry. The executor is not owned and
+/// must outlive every execution.
 class WORKSPACE_API CWsCommand {
 public:
     using TopologyDataPtr = CWsTopologyDataSet::Ptr;
@@ -19,8 +19,8 @@ public:
     using TopologyDataMap = CWsTopologyDataSet::Map;
 
     CWsCommand() = default;
-    /// Copies carry everything but the topology data: a copy starts without any, and the
-    /// target of an assignment keeps its own.
+    /// Copies everything except the topology data: the copy starts without any, and the target of
+    /// an assignment keeps its own.
     CWsCommand(const CWsCommand& other);
     CWsCommand& operator=(const CWsCommand& other);
     virtual ~CWsCommand() = default;
@@ -36,7 +36,7 @@ public:
     enmTreeCommandBehavior GetTreeCmdBehavior() const { return m_treeCmdBehavior; }
     void SetTreeCmdBehavior(enmTreeCommandBehavior behavior) { m_treeCmdBehavior = behavior; }
     enmCommandGroup GetCmdGroup() const { return m_cmdGroup; }
-    /// Has no effect on the group under which the registry already lists the command.
+    /// Does not move the command between the groups of the registry.
     void SetCmdGroup(enmCommandGroup group) { m_cmdGroup = group; }
     /// Tag of the repository family: empty for none, "0" for every family.
     CString GetRepositoryTag() const { return m_strRepositoryTag; }
@@ -50,16 +50,16 @@ public:
     void SetIsSetDataCommand(int isSetDataCommand) { m_bIsSetDataCommand = isSetDataCommand; }
     enmEntityType GetEntityType() const { return m_entityType; }
     void SetEntityType(enmEntityType entityType) { m_entityType = entityType; }
-    /// Given by the registry; 0 before that.
+    /// Assigned by the registry; 0 before.
     unsigned int GetMenuCmdId() const { return m_nMenuCmdId; }
 
-    /// Non-zero if the command applies to one of the kinds.
+    /// Non-zero if the command applies to any of the types.
     unsigned long TestWsItemType(enmWSTreeItemType types) const { return types & m_nWsItemTypes; }
 
-    /// A second record of the same topology and function stands in the vector again, while
-    /// the map keeps the first.
+    /// A duplicate topology and function is appended to the vector, while the map keeps the first
+    /// record.
     void AddWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Add(data); }
-    /// Takes the record out of the vector, by pointer, and its key out of the map.
+    /// Removes the record from the vector, by pointer, and its key from the map.
     void RemoveWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Remove(data); }
     int DoesTopologyDataExist(const CWsTopologyData* data) const {
         return data && m_wsTopologyData.Contains(data->GetMapKey()) ? 1 : 0;

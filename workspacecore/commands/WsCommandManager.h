@@ -1,4 +1,4 @@
-// The way from a command id to the plug-in that carries it out.
+// Dispatches a command id to the executor of the plug-in.
 #pragma once
 
 #include "workspacecore/commands/IWsCommandExecutor.h"
@@ -10,8 +10,8 @@ class CGisSystem;
 
 namespace Orvane::Workspace {
 
-/// Finds the executor of a command and hands the call on. What a command does, and what
-/// stands around it (events, locks), is the executor's. Copies share the registry.
+/// Finds the executor of a command and forwards the call. Events and locks are up to the
+/// executor. Copies share the registry.
 class WORKSPACE_API CWsCommandManager {
 public:
     CWsCommandManager();
@@ -19,9 +19,9 @@ public:
     CWsCommandManager& operator=(const CWsCommandManager&) = default;
     ~CWsCommandManager();
 
-    /// Runs a command. The id becomes the last command even if nobody knows it. An unknown
-    /// command and one without executor give the neutral result; an exception of the
-    /// executor passes through. Never null where the executor keeps its contract.
+    /// Runs a command. Any id, even an unknown one, becomes the last command. An unknown command
+    /// or one without an executor gives the neutral result; exceptions of the executor propagate.
+    /// Not null unless the executor breaks its contract.
     boost::shared_ptr<CExecutorReturnValue> Execute(const wchar_t* lpszCommandId,
                                                     Query::CQueryDefinition* pQuery,
                                                     CWsTreeItemData* pItemData);
@@ -31,15 +31,15 @@ public:
 
     CString GetLastCommand() const { return m_strLastCommand; }
     void SetLastCommand(const wchar_t* lpszCommandId) { m_strLastCommand = lpszCommandId; }
-    /// Tells plug-ins whether a running command may be stopped.
+    /// Whether a running command may be cancelled, for plug-ins to check.
     int GetAllowStopCommand() const { return m_bAllowStopCommand; }
     void SetAllowStopCommand(int bAllow) { m_bAllowStopCommand = bAllow; }
 
-    /// Null until one was registered. Not owned.
+    /// Null until registered. Not owned.
     IWsCommandExecutor* GetBaseExecutor() const { return m_pBaseExecutor; }
     CWsCommandRegistry* GetCommandRegistry() const { return m_pCommandRegistry.get(); }
-    /// Set-data commands of a system's topology and function, in order of adding. The
-    /// vector is emptied first; a null system leaves it empty.
+    /// Collects the set-data commands for a system's topology and function, in order of
+    /// registration. Clears the vector first; a null system leaves it empty.
     void GetSetDataCommands(CWsCommandRegistry::CommandVector& commands,
                             System::CGisSystem* pSystem) const;
 

@@ -9,8 +9,7 @@ namespace {
 constexpr std::wstring_view kWildcardTag = L"0";
 constexpr int kAnyTopology = -1;
 
-/// An empty tag means different things on the two sides: asked for, no filter; on a
-/// command, no family.
+/// An empty tag means "no filter" in a search, but "no family" on a command.
 bool DoesTagMatch(std::wstring_view ofCommand, std::wstring_view asked) {
     if (asked.empty() || ofCommand == kWildcardTag) {
         return true;
@@ -49,7 +48,7 @@ void CWsCommandRegistry::RemoveWsCommand(const CommandPtr& command) {
     if (!command) {
         return;
     }
-    // A copy: the argument may be the very element that is erased.
+    // Copy: the argument may be the element being erased.
     const CString id = command->GetId();
     const auto hit = std::find(m_wsCommandVector.begin(), m_wsCommandVector.end(), command);
     if (hit != m_wsCommandVector.end()) {
@@ -88,7 +87,7 @@ CWsCommandRegistry::GetWsCommandByGroup(enmCommandGroup group, enmTopologyType t
     CommandVector found;
     for (auto entry = first; entry != last; ++entry) {
         const CommandPtr& command = entry->second;
-        // In the order of what the tests cost.
+        // Cheapest test first.
         if (command->TestWsItemType(itemType) &&
             DoesTagMatch(command->m_strRepositoryTag.View(), tag) &&
             (topologyType == kAnyTopology || command->m_wsTopologyData.Contains(key))) {

@@ -1,4 +1,4 @@
-// The command registry as a text, and as a file.
+// XML form of the command registry.
 #include <cstdint>
 
 #include "workspacecore/commands/WsCommandRegistry.h"
@@ -8,8 +8,8 @@ namespace Orvane::Workspace {
 
 namespace {
 
-/// What a text says of a command. Executor, icon and the set-data mark mean nothing once
-/// they were written, and stay as a fresh record has them.
+/// Parses one command. Executor, icon and the set-data flag are written but have no meaning when
+/// read, so they keep their defaults.
 boost::shared_ptr<CWsCommand> ReadCommand(const XmlDocument& document) {
     boost::shared_ptr<CWsCommand> command(new CWsCommand);
     command->SetId(ReadXmlText(document, L"id"));
@@ -36,7 +36,7 @@ CString CWsCommandRegistry::GetXML() const {
 int CWsCommandRegistry::ParseXML(const wchar_t* xml) {
     Clear();
     XmlDocument document;
-    // An ill-formed text is read as far as its index goes.
+    // Reads as much of an ill-formed text as has been indexed.
     document.SetDoc(xml);
     if (!document.FindElem(L"wsCommandRegistry")) {
         return 0;

@@ -1,4 +1,4 @@
-// A topology and one of its functions, as commands and tree items name them.
+// A topology and one of its functions, to which a command or tree item applies.
 #pragma once
 
 #include "platform/win/String.h"
@@ -22,7 +22,7 @@ public:
     int GetTopologyFunction() const { return m_nTopologyFunction; }
     void SetTopologyFunction(int topologyFunction) { m_nTopologyFunction = topologyFunction; }
 
-    /// "type:function", the key of every map of topology data.
+    /// "type:function", the key of all maps of topology data.
     CString GetMapKey() const;
     CString GetXML() const;
     void MakeDeepCopy(CWsTopologyData& target) const { target = *this; }

@@ -16,7 +16,7 @@ void CWsTopologyDataSet::Remove(const Ptr& data) {
         return;
     }
     const auto hit = std::find(vector.begin(), vector.end(), data);
-    // Before the record goes, which may live in the vector alone.
+    // Before erasing, since the vector may hold the only reference.
     const CString key = data->GetMapKey();
     if (hit != vector.end()) {
         vector.erase(hit);

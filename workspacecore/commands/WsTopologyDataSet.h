@@ -1,4 +1,4 @@
-// The topologies that a command or a tree item belongs to.
+// The topologies to which a command or a tree item applies.
 #pragma once
 
 #include <boost/shared_ptr.hpp>
@@ -9,17 +9,17 @@
 
 namespace Orvane::Workspace {
 
-/// Records in order of adding, and the first one of each topology and function by its key.
-/// The two are filled and emptied together here, but both are handed out, and readers of
-/// files fill the first one alone.
+/// Records in order of insertion, and a map with the first record of each topology and function.
+/// Add and Remove keep both in sync, but both are public, and code that reads files fills only
+/// the vector.
 struct WORKSPACE_API CWsTopologyDataSet {
     using Ptr = boost::shared_ptr<CWsTopologyData>;
     using Vector = std::vector<Ptr>;
     using Map = std::map<CString, Ptr, CStringLess>;
 
-    /// Null is passed over.
+    /// Null is ignored.
     void Add(const Ptr& data);
-    /// Takes the record out of the vector, by pointer, and its key out of the map.
+    /// Removes the record from the vector, by pointer, and its key from the map.
     void Remove(const Ptr& data);
     bool Contains(const CString& key) const { return map.contains(key); }
 

@@ -26,7 +26,7 @@ void Report(int message, const CWsCommand& command, const CString& other) {
     acutPrintf(L"\n%s\n", text);
 }
 
-/// The id that was registered first of those that are the same in upper case.
+/// The first registered id of those that are equal ignoring case.
 std::unordered_map<std::wstring, CString>& FirstIds() {
     static auto& ids = *new std::unordered_map<std::wstring, CString>;
     return ids;

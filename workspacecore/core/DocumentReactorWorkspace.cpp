@@ -16,7 +16,7 @@ AcApDocument* CWsDocumentReactor::s_pLastCurrentDocument = nullptr;
 
 namespace {
 
-/// Without a drawing there is nothing that panels and dialogs could show.
+/// Without a drawing, panels and dialogs have nothing to show.
 void CloseAllWindows() {
     CWsManager& manager = *CWsManager::Instance();
     static_cast<CXTPDockingPaneManager*>(manager.PDlgMgr()->GetPanelManager())->CloseAll();
@@ -37,7 +37,7 @@ void CWsDocumentReactor::MarkIndexesChanged() {
 void CWsDocumentReactor::documentBecameCurrent(AcApDocument* pDoc) {
     WS_TRACE_SCOPE();
     if (pDoc) {
-        // The workspace panel is started here, once there is one.
+        // The workspace panel will be started here, once it exists.
         WS_TRACE_TEXT(pDoc->fileName());
     }
     AcDbDatabase* const currentDB = acdbHostApplicationServices()->workingDatabase();
@@ -54,7 +54,7 @@ void CWsDocumentReactor::documentBecameCurrent(AcApDocument* pDoc) {
 void CWsDocumentReactor::SetUp(AcApDocument* pDoc) {
     CWsManager& manager = *CWsManager::Instance();
     manager.Raise_OnAcadDocumentBecomeCurrent(pDoc);
-    // The log view is emptied here, once there is one.
+    // The log view will be cleared here, once it exists.
     s_pLastCurrentDocument = pDoc;
     MarkIndexesChanged();
     manager.GetRefreshAllPbl()->Notify(nullptr, nullptr);
@@ -78,7 +78,7 @@ void CWsDocumentReactor::documentDestroyed(const wchar_t* lpszFileName) {
     WS_TRACE_SCOPE();
     WS_TRACE_TEXT(lpszFileName);
     MarkIndexesChanged();
-    // Whatever listeners do: another document may come to lie at the same address.
+    // Even if a listener throws: another document may be created at the same address.
     const auto forget = [] {
         if (acDocManagerPtr()->documentCount() < 2) {
             CloseAllWindows();

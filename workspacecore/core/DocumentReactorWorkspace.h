@@ -1,4 +1,4 @@
-// Follows the host's documents and turns what happens to them into workspace events.
+// Turns document events of the host into workspace events.
 #pragma once
 
 #include "platform/arx/ApDocManager.h"
@@ -11,14 +11,14 @@ class CPolygonIndex;
 
 namespace Orvane::Workspace {
 
-/// Made and attached by CWsManager, which owns it.
+/// Created, attached and owned by CWsManager.
 class WORKSPACE_API CWsDocumentReactor final : public AcApDocManagerReactor {
 public:
     CWsDocumentReactor();
 
     void documentToBeDestroyed(AcApDocument* pDoc) override;
     void documentDestroyed(const wchar_t* lpszFileName) override;
-    /// Sets the workspace up for a document, once for each change of document.
+    /// Sets up the workspace for a document, once per change of document.
     void documentBecameCurrent(AcApDocument* pDoc) override;
     void documentToBeDeactivated(AcApDocument* pDoc) override;
 
@@ -28,7 +28,7 @@ private:
 
     Selection::CPolygonIndex* m_pPolygonIndex;
     Selection::CNodeIndex* m_pNodeIndex;
-    /// Which document the workspace was last set up for.
+    /// The document for which the workspace was last set up.
     static AcApDocument* s_pLastCurrentDocument;
 };
 

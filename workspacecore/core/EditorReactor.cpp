@@ -18,7 +18,7 @@ struct VersionRecord {
     std::string (*value)();
 };
 
-/// With what a drawing was last saved.
+/// The versions recorded in a saved drawing.
 constexpr VersionRecord kVersionRecords[] = {
     {L"ACVER", Orvane::CLogEngine::GetAcadVersion},
     {L"APPVER", Orvane::CLogEngine::GetTessalyVersion},
@@ -30,7 +30,7 @@ constexpr VersionRecord kVersionRecords[] = {
 void WriteVersionStamp() {
     const Orvane::CORVCDocLock lock;
     Orvane::CORVCDictionaryPtr dictionary(AcDb::kForRead);
-    // Whether it can be upgraded is the dictionary's business; writing goes on either way.
+    // The result does not matter: dctWrite opens what it writes to.
     dictionary.upgradeOpen();
     for (const VersionRecord& record : kVersionRecords) {
         dictionary.dctWrite(kVersionDictionary, record.key, Utf8ToWide(record.value()).c_str(),

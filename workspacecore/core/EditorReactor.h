@@ -1,15 +1,14 @@
-// Follows the host's saves.
+// Reacts to the host's saves.
 #pragma once
 
 #include "platform/arx/EdEditor.h"
 #include "workspacecore/Api.h"
 
-/// Made by CWsManager and left in place to the end. Registered with the host's classes
-/// under its own name.
+/// Created by CWsManager and never removed. Registered as a runtime class under its own name.
 // NOLINTNEXTLINE(readability-identifier-naming): the name under which it is registered
 class WORKSPACE_API ORVZWorkspaceCore_EditorReactor final : public AcEditorReactor {
 public:
-    /// \param bAutoInitAndRelease attaches it to the editor at once
+    /// \param bAutoInitAndRelease attach to the editor at once
     explicit ORVZWorkspaceCore_EditorReactor(bool bAutoInitAndRelease = true);
     ~ORVZWorkspaceCore_EditorReactor() override;
 
@@ -18,7 +17,7 @@ public:
     static void rxInit();
     static void rxForget();
 
-    /// Puts into the drawing with what it is being saved, then tells the listeners.
+    /// Records the program versions in the drawing, then notifies the listeners.
     void beginSave(AcDbDatabase* pDb, const wchar_t* lpszFileName) override;
     void saveComplete(AcDbDatabase* pDb, const wchar_t* lpszFileName) override;
 

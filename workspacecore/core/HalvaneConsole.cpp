@@ -17,7 +17,7 @@ constexpr const wchar_t* kWelcome = L"Halvane Command processor.\n"
 constexpr const wchar_t* kEscape = L"\x1B";
 constexpr std::size_t kAnswerSize = 133;
 
-/// The console's own look of the command line.
+/// Command line colours while the console is active.
 AcColorSettings ConsoleColors(AcColorSettings colors) {
     constexpr std::uint32_t kGround = 250;
     constexpr std::uint32_t kText = 0x19AFE1;
@@ -36,7 +36,7 @@ void PrintCommands(const CWsCommandRegistry& registry) {
     }
 }
 
-/// What the plug-in dialog lists, for a command line.
+/// Lists the modules in text form.
 void PrintModules(const CWsModuleRegistry& registry) {
     for (const auto& module : *registry.GetWsModuleVector()) {
         acutPrintf(L"%s (%s): %s, %s\n", module->GetFileName(), module->GetName(),
@@ -45,7 +45,7 @@ void PrintModules(const CWsModuleRegistry& registry) {
     }
 }
 
-/// What the command throws passes on and ends the console.
+/// Exceptions of the command propagate and end the console.
 void RunCommand(const CWsCommandManager& commands, CString id) {
     id.MakeUpper();
     if (commands.GetCommandRegistry()->GetWsCommandById(id)) {
@@ -55,7 +55,7 @@ void RunCommand(const CWsCommandManager& commands, CString id) {
     }
 }
 
-/// False once the user wants to leave.
+/// Returns false if the user wants to leave.
 bool Obey(CWsManager& manager, const CString& answer) {
     if (answer.CompareNoCase(L"exit") == 0 || answer.CompareNoCase(L"_quit") == 0) {
         return false;
@@ -84,7 +84,7 @@ void CWsManager::StartHalvaneConsole() {
     working = ConsoleColors(working);
     acedSetCurrentColors(&working);
 
-    // Escape does not leave the console: it only brings the prompt again.
+    // Escape does not leave the console but shows the prompt again.
     std::array<wchar_t, kAnswerSize> buffer{};
     bool stay = true;
     while (stay) {

@@ -1,4 +1,4 @@
-// What folders below the manager need of it, handed in when the module is loaded.
+// Implements the interfaces through which lower folders reach the manager.
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/dialogs/DialogHome.h"
 #include "workspacecore/tree/RegistrationTarget.h"
@@ -7,7 +7,7 @@ namespace Orvane::Workspace {
 
 namespace {
 
-// Each call asks for the manager, since the first one may be what starts the workspace.
+// Instance is called each time, since the first call may start the workspace.
 
 class ManagerAsRegistrationTarget final : public IRegistrationTarget {
 public:

@@ -1,9 +1,9 @@
-// The flag that narrows event delivery once the host's end is settled.
+// Flag that suppresses some events once the host is certain to close.
 #pragma once
 
 namespace Orvane::Workspace {
 
-/// Set when no listener vetoed the end of the host, and never cleared.
+/// Set when no listener vetoed closing the host; never cleared.
 extern int s_bHostWillClose;
 
 } // namespace Orvane::Workspace

@@ -1,4 +1,4 @@
-// What the host calls when it loads the module.
+// Entry points that the host calls on loading the module.
 #include "platform/arx/RxArxApp.h"
 #include "workspacecore/Api.h"
 #include "workspacecore/core/EditorReactor.h"
@@ -20,8 +20,8 @@ constexpr AcRxClassEntry kClasses[] = {
     {ORVZWorkspaceCore_EditorReactor::rxInit, ORVZWorkspaceCore_EditorReactor::desc},
 };
 
-/// Loading the module registers its command and its class and nothing else: the workspace comes
-/// with the first CWsManager::Instance.
+/// Loading the module only registers its command and its class; the workspace starts with the
+/// first call of CWsManager::Instance.
 class CWorkspaceCoreApp final : public AcRxArxApp {
 protected:
     std::span<const AcRxCommandEntry> CommandTable() const override { return kCommands; }
@@ -30,8 +30,8 @@ protected:
 
 CWorkspaceCoreApp theApp;
 
-/// Nothing tears the workspace down; what dialogs remember is written when the module goes,
-/// with the process.
+/// The workspace is never torn down; dialog states are saved when the module is unloaded at
+/// process exit.
 __attribute__((destructor)) void SaveAtUnload() {
     if (CWsManager::IsWSInitialized()) {
         CWsManager::m_pInstance->DlgMgr()->ReleaseDialogs();

@@ -22,7 +22,7 @@ int s_bHostWillClose = 0;
 
 namespace {
 
-/// Characters that conversions may take without allocating while modules are loaded.
+/// Length of texts converted without an allocation while modules load.
 constexpr int kConversionBuffer = 1024;
 
 class CommandEvents final : public ICommandEvents {
@@ -46,7 +46,7 @@ CWsManager* CWsManager::Instance() {
     if (m_pInstance) {
         return m_pInstance;
     }
-    // Stored before anything else happens: hooks call Instance while it is still starting.
+    // Set first: hooks call Instance during start-up.
     m_pInstance = new CWsManager;
     CommandScope::SetEvents(&s_commandEvents);
     if (s_bHostWillClose) {
@@ -60,13 +60,13 @@ CWsManager* CWsManager::Instance() {
     m_pInstance->m_PluginMgr.LoadModules();
     CAnsi2UnicodeUtility::Instance()->ReleaseBufferMemory();
     WS_TRACE_TEXT("CWsManager - 3");
-    // They need the definitions of every plug-in.
+    // Build templates only now: they need every plug-in's definitions.
     CWsTreeItemDefinitionList& definitions = *m_pInstance->m_TreeMgr.GetTreeItemDefinitionList();
     definitions.InitializeSystemTreeTemplate();
     definitions.InitializeDiskTreeTemplate();
     definitions.InitializeNetTreeTemplate();
     WS_TRACE_TEXT("CWsManager - 4");
-    // The log viewer is made here with its docking pane, once there are panes.
+    // The log viewer and its docking pane will be created here, once there are panes.
     WS_TRACE_TEXT("CWsManager - 5");
     m_pInstance->m_pEditorReactor = new ORVZWorkspaceCore_EditorReactor(true);
     CModuleConfiguration::Instance()->SetApplicationIsLoaded(1);
@@ -86,8 +86,7 @@ CWsManager::CWsManager()
 }
 
 CWsManager::~CWsManager() {
-    // The pointer is cleared first, so that the teardown runs once, and so that nothing
-    // below reaches a manager that is going.
+    // Cleared first, so the teardown runs only once and nothing below reaches a dying manager.
     CWsManager* const pLive = std::exchange(m_pInstance, nullptr);
     if (pLive) {
         acDocManagerPtr()->removeReactor(pLive->m_pDocumentReactor);

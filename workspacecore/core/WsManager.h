@@ -1,4 +1,4 @@
-// The one object through which the whole workspace is reached.
+// Root object of the workspace.
 #pragma once
 
 #include <boost/shared_ptr.hpp>
@@ -30,31 +30,31 @@ namespace Orvane::Workspace {
 
 class CWsDocumentReactor;
 
-/// Holds the sub-managers and the listeners, and starts the workspace: the first call of
-/// Instance makes the object, loads the plug-ins and builds everything on top of them.
-/// It lives to the end of the process. Main thread only.
+/// Owns the sub-managers, holds the listeners and starts the workspace: the first call of
+/// Instance creates the object, loads the plug-ins and builds the templates. Lives until the
+/// process ends. Main thread only.
 class WORKSPACE_API CWsManager {
 public:
-    /// The manager. While the first call is still starting the workspace, further calls,
-    /// from plug-in hooks for instance, get the same, partly started object.
+    /// The manager. Calls made while the first one is still starting the workspace, for instance
+    /// from plug-in hooks, return the same, partly initialised object.
     static CWsManager* Instance();
-    /// Non-zero from the moment the object exists, which is before any plug-in is loaded.
+    /// Non-zero once the object exists, which is before any plug-in is loaded.
     static int IsWSInitialized() { return m_pInstance != nullptr; }
 
-    /// Copies are member by member; registries are then shared.
+    /// Memberwise; the registries are shared.
     CWsManager(const CWsManager&) = default;
     CWsManager& operator=(const CWsManager&) = default;
-    /// Tears the live manager down, with every plug-in. Nobody does so in normal life.
+    /// Destroys the live manager with every plug-in. Not called in normal operation.
     ~CWsManager();
 
-    // The parts. Never null.
+    // Sub-managers; never null.
     CWsPluginManager* PluginMgr() { return &m_PluginMgr; }
     CWsTreeManager* TreeMgr() { return &m_TreeMgr; }
     CWsCommandManager* CmdMgr() { return &m_CmdMgr; }
     CWsDialogManager* DlgMgr() { return &m_DlgMgr; }
     CWsPanelDialogManager* PDlgMgr() { return &m_PanelDlgMgr; }
 
-    // Publishers, shared with every module that asks for the same names.
+    // Publishers, shared by all modules that use the same names.
     Notification::CPublisher* GetRefreshAllPbl() const { return m_pRefreshAllPbl; }
     Notification::CPublisher* GetRefreshTreePbl() const { return m_pRefreshTreePbl; }
     Notification::CPublisher* GetSelectionInProgressPbl() const {
@@ -62,36 +62,36 @@ public:
     }
     Notification::CPublisher* GetSelectionCompletedPbl() const { return m_pSelectionCompletedPbl; }
 
-    // Registration, for plug-ins in their hooks. No argument is checked.
-    /// 0 if there is a command of that id already.
+    // Registration, for plug-ins in their hooks. Arguments are not checked.
+    // Returns 0 if the id is already taken.
     int RegisterWsCommand(boost::shared_ptr<CWsCommand> command);
     void RegisterWsTreeItem(boost::shared_ptr<CWsTreeItemDefinition> definition);
     void RegisterWsDialogFactory(boost::shared_ptr<IWsDialogFactory> factory);
     void RegisterWsPanelDialog(boost::shared_ptr<CWsPanelDialogMetadata> metadata);
-    /// The first executor stays; later ones are passed over. Not owned.
+    /// The first executor wins; later ones are ignored. Not owned.
     void RegisterBaseExecutor(IWsCommandExecutor* pExecutor);
     void RegisterInfoTooltip(boost::shared_ptr<Utility::IInfoTooltip> tooltip);
     void RegisterRepositoryFactory(const wchar_t* tag, CRepositoryFactory* pFactory);
     void RegisterRepositoryItemFactory(const wchar_t* tag, CRepositoryItemFactory* pFactory);
-    // The view of a tree, null included; the last one stands. Not owned.
+    // The view of a tree; may be null. The last one registered wins. Not owned.
     void RegisterTreeControl(CTreeCtrl* pTree);
     void RegisterDiskTreeControl(CTreeCtrl* pTree);
     void RegisterNetTreeControl(CTreeCtrl* pTree);
-    /// A listener that is registered already keeps its place. Not owned.
+    /// Not owned. Registering again has no effect.
     void RegisterWsListener(IWsListener* pListener);
     void UnregisterWsListener(IWsListener* pListener);
 
-    /// CWsDialogManager::GetDlgById.
+    /// Same as CWsDialogManager::GetDlgById.
     CWsBaseDialog* GetDlgById(const wchar_t* dialogId);
     /// Non-zero if the general setting "RUN_AFTER_DROP" is 1.
     int StartCommandAfterDragAndDrop() const;
     /// Runs the text console on the host's command line until the user leaves it.
     void StartHalvaneConsole();
 
-    // Events (IWsListener.h). Each does its own housekeeping, then tells every listener in
-    // the order of registration. Once no listener vetoed the end of the host, the events
-    // of documents becoming current or going, of activation, of temporary data and of
-    // commands fall silent. An exception of a listener passes out.
+    // Events (IWsListener.h). Each does its own housekeeping and then notifies every listener in
+    // the order of registration. Once the host is certain to close, the events of documents
+    // becoming current or being destroyed, of activation, of temporary data and of commands are
+    // no longer raised. Exceptions of listeners propagate.
     int Raise_OnBeforeAcadWillClose();
     void Raise_OnBeginSaveAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName);
     void Raise_OnSaveCompletedAcadDocument(AcDbDatabase* pDb, const wchar_t* lpszFileName);
@@ -100,10 +100,10 @@ public:
     void Raise_OnAcadDocumentToBeDestroyed(AcApDocument* pDocToDestroy);
     void Raise_OnAcadDocumentDestroyed(const wchar_t* lpszFileName);
     void Raise_OnSystemChanged(System::CGisSystem* pSystem);
-    /// Refreshes linear data and name rules and loads the system's counters first; the
-    /// system may be null.
+    /// First reloads linear data and name rules and loads the system's counters. The system may
+    /// be null.
     void Raise_OnSystemBecomeActive(System::CGisSystem* pSysToBecomeActive);
-    /// Saves the topology's counters to the system first.
+    /// First saves the topology's counters to the system.
     void Raise_OnSystemBecomeInactive(System::CGisSystem* pSystem);
     void Raise_OnSystemBecomeHidden(System::CGisSystem* pSystem);
     void Raise_OnSystemBecomeShown(System::CGisSystem* pSystem);

@@ -1,4 +1,4 @@
-// The events: what each does besides telling the listeners.
+// Events: housekeeping and delivery to the listeners.
 #include "platform/arx/Guard.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/data/DataConfiguration.h"
@@ -10,7 +10,7 @@
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/trace/Trace.h"
 
-// The name of a system, where there is one.
+// Traces the name of a system, if there is one.
 #define WS_TRACE_SYSTEM_NAME(pSystem)                                                              \
     do {                                                                                           \
         if (pSystem) {                                                                             \
@@ -30,11 +30,12 @@ Topology::CTopologyStorage* MainTopology() {
 
 template <auto Event, class... Args>
 void CWsManager::Deliver(const wchar_t* event, Args... args) const {
-    // The end is fixed in advance.
+    // Listeners added during the event are not called.
     const std::size_t count = m_Listeners.size();
     const unsigned int changes = m_nListenerChanges;
     IWsListener* const* const pFirst = m_Listeners.data();
-    const void* owner = nullptr; // whose listener is called; it may be gone once it has thrown
+    // Identifies the listener's module; the listener itself may be destroyed once it has thrown.
+    const void* owner = nullptr;
     const auto call = [&](IWsListener* pListener) {
         owner = ClassAddress(*pListener);
         (pListener->*Event)(args...);
@@ -43,8 +44,8 @@ void CWsManager::Deliver(const wchar_t* event, Args... args) const {
         for (IWsListener* const* pNext = pFirst; pNext != pFirst + count;) {
             call(*pNext++);
             if (changes != m_nListenerChanges) [[unlikely]] {
-                // A listener broke its contract and registered or unregistered somebody: go on
-                // by index, so that it leads nobody into freed memory.
+                // A listener broke its contract and registered or unregistered another one:
+                // continue by index, so no dangling pointer is used.
                 for (auto i = static_cast<std::size_t>(pNext - pFirst);
                      i < count && i < m_Listeners.size(); ++i) {
                     call(m_Listeners[i]);

@@ -8,7 +8,7 @@ namespace Orvane::Workspace {
 
 namespace {
 
-/// As long as it lives, the item carries the argument.
+/// Attaches the argument to the item for the duration of a call.
 class ArgumentOnItem {
 public:
     explicit ArgumentOnItem(const CWsOrder& order)
@@ -52,7 +52,7 @@ CommandOutcome CarryOut(const CWsOrder& order) {
         CWsManager::Instance()->CmdMgr()->GetCommandRegistry()->GetWsCommandById(order.commandId);
     const ArgumentOnItem argument(order);
     boost::shared_ptr<CExecutorReturnValue> result;
-    // The registry also finds commands by ids with one letter too many.
+    // The registry also finds commands by ids with one extra character.
     CommandScope::Run(command ? command->GetId() : order.commandId,
                       [&] { result = Execute(order); });
     return result && result->m_nStatus ? CommandOutcome::Done : CommandOutcome::Failed;

@@ -1,4 +1,4 @@
-// A workspace command that somebody asks for, and its way to the host's command runner.
+// A request to run a workspace command, and its conversion for the host's command runner.
 #pragma once
 
 #include <memory>
@@ -13,19 +13,19 @@ namespace Orvane::Workspace {
 struct WORKSPACE_API CWsOrder {
     CString commandId;
     OrderOrigin origin = OrderOrigin::Tree;
-    /// Of a menu, which also runs commands that are not found by their ids any more; null: the
-    /// one of the id.
+    /// Given by menus, which also run commands that can no longer be found by id; null: the
+    /// executor registered with the command.
     IWsCommandExecutor* pExecutor = nullptr;
     boost::shared_ptr<Query::CQueryDefinition> query = {};
     std::shared_ptr<CWsTreeItemData> item = {};
-    ItemArgument argument = {}; ///< only with an item
+    ItemArgument argument = {}; ///< only used with an item
 };
 
-/// What the runner takes. It holds all that the order holds.
+/// Converts an order for the runner. The result owns everything the order contains.
 WORKSPACE_API CommandOrder MakeCommandOrder(const CWsOrder& order);
 
-/// Carries an order out, for whoever is called by the runner already: raises the events of the
-/// command and executes it.
+/// Carries out an order for code that already runs inside the runner: raises the command's events
+/// and executes it.
 WORKSPACE_API CommandOutcome CarryOut(const CWsOrder& order);
 
 } // namespace Orvane::Workspace

@@ -1,4 +1,4 @@
-// What a dialog needs of the workspace it lives in.
+// A dialog's view of its workspace.
 #pragma once
 
 namespace Orvane::Notification {
@@ -10,12 +10,12 @@ namespace Orvane::Workspace {
 class CWsDialogManager;
 class IWsListener;
 
-/// Dialogs are made by plug-ins, which hand them nothing of the workspace; so they find it
-/// here. The folder above implements it.
+/// Plug-ins construct dialogs without passing them the workspace, so dialogs find it here.
+/// Implemented in workspacecore/core.
 class IDialogHome {
 public:
     virtual CWsDialogManager& Dialogs() = 0;
-    /// "REFRESH_CHILDREN"; may be null.
+    /// The publisher "REFRESH_CHILDREN"; may be null.
     virtual Notification::CPublisher* RefreshPublisher() = 0;
     virtual void RegisterWsListener(IWsListener* pListener) = 0;
 
@@ -23,7 +23,7 @@ protected:
     ~IDialogHome() = default;
 };
 
-/// Handed in once, when the module is loaded; not owned, and lives as long as the module.
+/// Set once when the module is loaded; not owned, and lives as long as the module.
 void SetDialogHome(IDialogHome* pHome);
 IDialogHome& DialogHome();
 

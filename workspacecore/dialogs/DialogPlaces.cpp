@@ -7,7 +7,7 @@ namespace Orvane::Workspace {
 namespace {
 
 constexpr int kRollStep = 45;
-/// What the cascade leaves free below.
+/// Space that the cascade leaves free at the bottom.
 constexpr int kCascadeMargin = 100;
 
 constexpr bool IsNear(int value, int edge, int reach) {
@@ -22,7 +22,7 @@ ScreenInsets InsetsOfTaskBar(const CRect& taskBar, int screenWidth) {
         return insets;
     }
     if (taskBar.left > 0) {
-        // With a top of its own it counts as a bar on the left.
+        // Unless its top is 0, the bar counts as one on the left.
         (taskBar.top > 0 ? insets.left : insets.right) = taskBar.Width();
     } else if (taskBar.top > 0) {
         insets.bottom = taskBar.Height();
@@ -38,7 +38,7 @@ void SnapStep::ToScreen(CSize screen, const ScreenInsets& insets) {
     if (IsNear(m_place.x, insets.left, m_reach.cx)) {
         m_place.x = insets.left;
     }
-    // The reach above the screen does not depend on a bar there.
+    // Above the screen the reach is the same with or without a bar there.
     if (m_place.y >= -m_reach.cy && m_place.y <= insets.top + m_reach.cy) {
         m_place.y = insets.top;
     }

@@ -1,5 +1,5 @@
-// Where dialogs go: sticking to edges and to each other, places from an earlier run, the
-// cascade of new ones, rolling up. All in pixels of the screen.
+// Placement of dialogs: snapping to edges and to each other, restoring positions, cascading new
+// dialogs, collapsing. All in screen pixels.
 #pragma once
 
 #include <vector>
@@ -12,7 +12,7 @@ namespace Orvane::Workspace {
 
 class CDialogState;
 
-/// How much of each side of the primary screen the task bar takes.
+/// The space that the task bar takes on each side of the primary screen.
 struct ScreenInsets {
     int left = 0;
     int top = 0;
@@ -21,21 +21,21 @@ struct ScreenInsets {
     bool operator==(const ScreenInsets&) const = default;
 };
 
-/// Told from where the bar's corner lies alone. All zero for an empty rectangle, which means
-/// that there is no bar.
+/// Derived from the position of the task bar. All zero for an empty rectangle, which means that
+/// there is no task bar.
 WORKSPACE_API ScreenInsets InsetsOfTaskBar(const CRect& taskBar, int screenWidth);
 
-/// One step of a dialog's way under the user's hand. The edges of the primary screen come
-/// first, then the other dialogs one by one; each works on what those before have made of
-/// the place, so a later one may overrule an earlier one.
+/// One step of a dialog being moved by the user. Snaps to the edges of the primary screen first,
+/// then to the other dialogs one by one. Each uses the position left by the previous one, so a
+/// later one can override an earlier one.
 class WORKSPACE_API SnapStep {
 public:
-    /// \param reach how near an edge has to be, across and down; a border counts as near
+    /// \param reach snapping distance, horizontally and vertically, inclusive
     SnapStep(CPoint proposed, CSize size, CSize reach)
         : m_place(proposed), m_size(size), m_reach(reach) {}
 
     void ToScreen(CSize screen, const ScreenInsets& insets);
-    /// Above, below, left or right of another dialog, flush with its left or top edge.
+    /// Snaps above, below, left or right of another dialog, flush with its left or top edge.
     void ToDialog(const CRect& other);
 
     CPoint Place() const { return m_place; }
@@ -46,14 +46,13 @@ private:
     CSize m_reach;
 };
 
-/// Whether other dialogs stick to one of this type, and new ones of it cascade.
+/// Whether other dialogs snap to dialogs of this type, and new ones of it cascade.
 constexpr bool IsCascaded(enmDialogType type) {
     return type == enmDialogFixedCascaded || type == enmDialogSizableCascaded;
 }
 
-/// Whether a dialog goes back to where it stood.
-/// \param monitor the size of the monitor under the cursor; the place is compared with the
-///     size alone, wherever the monitor lies
+/// Whether a dialog returns to its saved position.
+/// \param monitor size of the monitor under the cursor; its offset is ignored in the comparison
 WORKSPACE_API bool IsRestorable(const CDialogState& state, enmDialogType type, CSize monitor);
 
 /// Columns of new dialogs, from the right edge of the primary screen to the left.
@@ -61,14 +60,14 @@ struct WORKSPACE_API DialogCascade {
     int top = 0;
     int left = 0;
 
-    /// How far the next dialog goes from where it is; the cascade moves on.
+    /// Offset of the next dialog from its current position; advances the cascade.
     /// \param monitor width of the monitor under the cursor
     CPoint Next(CSize dialog, CSize screen, int monitor);
 };
 
-/// Heights of a dialog on its way up to its caption, and down again from there.
+/// Successive window heights while a dialog collapses to its caption or expands again.
 WORKSPACE_API std::vector<int> CollapseHeights(int height, int caption);
-/// \param top of the window on the screen, which counts into the first height
+/// \param top of the window on the screen; it is part of the first height
 WORKSPACE_API std::vector<int> ExpandHeights(int caption, int top, int height);
 
 } // namespace Orvane::Workspace

@@ -16,7 +16,7 @@ void CDialogState::AddStateAttribute(AttributePtr attribute) {
 }
 
 void CDialogState::RemoveStateAttribute(const AttributePtr& attribute) {
-    // A copy: the argument may be the very element that is erased.
+    // Copy: the argument may be the element being erased.
     const CString id = attribute->GetId();
     const auto hit =
         std::find(m_stateAttributeVector.begin(), m_stateAttributeVector.end(), attribute);

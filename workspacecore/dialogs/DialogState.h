@@ -1,4 +1,4 @@
-// Where a dialog stood, and the values that it keeps between runs.
+// The position and values of a dialog that persist between runs.
 #pragma once
 
 #include <boost/shared_ptr.hpp>
@@ -9,8 +9,8 @@
 
 namespace Orvane::Workspace {
 
-/// Places and sizes are in pixels of the screen; all zero is a dialog that was never placed.
-/// A copy shares the attributes; MakeDeepCopy gives separate ones.
+/// In screen pixels; all zero for a dialog that was never placed. Copies share the attributes;
+/// MakeDeepCopy creates separate ones.
 class WORKSPACE_API CDialogState {
 public:
     using AttributePtr = boost::shared_ptr<CStateAttribute>;
@@ -32,7 +32,7 @@ public:
     void SetWidth(int width) { m_nWidth = width; }
     int GetHeight() const { return m_nHeight; }
     void SetHeight(int height) { m_nHeight = height; }
-    /// Non-zero if the size is to be restored as well.
+    /// Non-zero if the size is restored, too.
     int GetResizable() const { return m_nResizable; }
     void SetResizable(int resizable) { m_nResizable = resizable; }
     int GetDocked() const { return m_nDocked; }
@@ -40,11 +40,11 @@ public:
     int GetSide() const { return m_nSide; }
     void SetSide(int side) { m_nSide = side; }
 
-    /// A second attribute of the same id is kept and written, but the first one is found.
+    /// A second attribute with the same id is kept and written, but look-up finds the first.
     void AddStateAttribute(AttributePtr attribute);
-    /// Takes the attribute off the list, and its id out of the look-up whoever stands there.
+    /// Removes the attribute from the list, and whichever attribute has its id from the look-up.
     void RemoveStateAttribute(const AttributePtr& attribute);
-    /// Null if there is none; case counts.
+    /// Null if there is none; case-sensitive.
     AttributePtr GetStateAttributeById(const wchar_t* id) const;
     AttributeVector* GetStateAttributeVector() { return &m_stateAttributeVector; }
     const AttributeVector* GetStateAttributeVector() const { return &m_stateAttributeVector; }

@@ -1,19 +1,20 @@
-// Numbers of the dialogs. They are compared and travel through interfaces, so the values stand.
+// Enumerations of dialogs. They are compared and part of the interface, so the values must not
+// change.
 #pragma once
 
 namespace Orvane::Workspace {
 
-/// What the framework does with a dialog's place. Single bits, of which a dialog has one.
+/// How the framework handles a dialog's position. Single bits; a dialog has exactly one.
 enum enmDialogType : int {
-    enmDialogFixed = 1,         ///< place restored
-    enmDialogSizable = 2,       ///< place and size restored
-    enmDialogFixedCascaded = 4, ///< the same; new ones cascade, others stick to them
+    enmDialogFixed = 1,         ///< restores the position
+    enmDialogSizable = 2,       ///< restores position and size
+    enmDialogFixedCascaded = 4, ///< as enmDialogFixed; new ones cascade, others snap to them
     enmDialogSizableCascaded = 8,
-    enmDialogFixedHosted = 16, ///< lives in something that owns its place
+    enmDialogFixedHosted = 16, ///< embedded in a window that controls the position
     enmDialogSizableHosted = 32,
 };
 
-/// Places of the main panel's buttons, from the top of the column down: 0 to 7.
+/// Positions of the main panel's buttons from top to bottom: 0 to 7.
 enum enmPanelDialogPosition : int {};
 inline constexpr int kPanelDialogPositions = 8;
 

@@ -1,4 +1,4 @@
-// What a plug-in implements to bring dialogs.
+// Interface through which plug-ins provide dialogs.
 #pragma once
 
 #include <vector>
@@ -13,8 +13,7 @@ namespace Orvane::Workspace {
 class CWsBaseDialog;
 class CWsPanelDialog;
 
-/// Makes dialogs on demand and owns what it has made. Registered with
-/// CWsManager::RegisterWsDialogFactory.
+/// Creates dialogs on demand and owns them. Registered with CWsManager::RegisterWsDialogFactory.
 class WORKSPACE_API IWsDialogFactory {
 public:
     IWsDialogFactory() = default;
@@ -22,16 +21,16 @@ public:
     IWsDialogFactory& operator=(const IWsDialogFactory&) = default;
     virtual ~IWsDialogFactory() = default;
 
-    /// Null if the id is none of this factory's. It keeps one dialog for each id.
+    /// Null if this factory does not know the id. Keeps one dialog per id.
     virtual CWsBaseDialog* CreateWsDialog(const wchar_t* /*dialogId*/) { return nullptr; }
     /// Non-zero if this factory deleted the dialog.
     virtual int DeleteWsDialog(const wchar_t* /*dialogId*/) { return 0; }
-    /// The same for dialogs in the main panel, as children of `parent`.
+    /// Creates a dialog of the main panel as a child of `parent`.
     virtual CWsPanelDialog* CreateWsPanelDialog(CWnd* /*parent*/, const wchar_t* /*dialogId*/) {
         return nullptr;
     }
     virtual int DeleteWsPanelDialog(const wchar_t* /*dialogId*/) { return 0; }
-    /// Appends the ids of all dialogs that this factory can make.
+    /// Appends the ids of all dialogs that this factory can create.
     virtual void GetAllDialogIds(std::vector<CString>& ids) = 0;
 };
 

@@ -1,4 +1,4 @@
-// One named value that a dialog keeps between runs.
+// A named value of a dialog that persists between runs.
 #pragma once
 
 #include "siblings/giscore/data/DataBox.h"
@@ -6,7 +6,7 @@
 
 namespace Orvane::Workspace {
 
-/// A plain record: the value as a text, beside the kind that it was given as.
+/// A plain record: the value as a text, and its type.
 class WORKSPACE_API CStateAttribute {
 public:
     CStateAttribute() = default;
@@ -19,12 +19,12 @@ public:
 
     CString GetId() const { return m_strId; }
     void SetId(const wchar_t* id) { m_strId = id; }
-    /// A Data::enmDataType, or whatever number a file has brought.
+    /// A Data::enmDataType, or any number read from a file.
     int GetType() const { return m_nType; }
     void SetType(int type) { m_nType = type; }
     CString GetValue() const { return m_strValue; }
     void SetValue(const wchar_t* value) { m_strValue = value; }
-    /// The value as its type tells; an empty box if the type is none that is known.
+    /// The value converted to its type; an empty box for an unknown type.
     Data::CDataBox GetDataBox() const;
 
     CString GetXML() const;

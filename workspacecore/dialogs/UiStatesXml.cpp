@@ -5,10 +5,10 @@
 #include "platform/win/File.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/cadwrapper/DocLock.h"
-#include "workspacecore/core/DamagedFile.h"
 #include "workspacecore/dialogs/UiStates.h"
 #include "workspacecore/foundation/XmlDocument.h"
 #include "workspacecore/foundation/XmlField.h"
+#include "workspacecore/trace/DamagedFile.h"
 #include "workspacecore/trace/Trace.h"
 
 namespace Orvane::Workspace {

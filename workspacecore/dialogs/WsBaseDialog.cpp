@@ -71,7 +71,7 @@ void CWsBaseDialog::DoDataExchange(CDataExchange* pExchange) {
 
 bool CWsBaseDialog::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_RETURN || pMsg->wParam == VK_ESCAPE)) {
-        // To the control that has the focus, and never to the default or cancel button.
+        // To the focused control, never to the default or cancel button.
         DispatchMessage(pMsg);
         return true;
     }
@@ -153,7 +153,7 @@ bool CWsBaseDialog::SetHeight(int height) {
 }
 
 void CWsBaseDialog::ExpandCollapse() {
-    // A width, but the caption's edge is as thick above as it is beside.
+    // A horizontal metric, but the frame is equally thick at the top and at the sides.
     const int caption = GetSystemMetrics(SM_CYSIZE) + GetSystemMetrics(SM_CXFIXEDFRAME);
     const CRect place = GetWindowRect();
     if (!m_isCollapsed) {

@@ -1,4 +1,4 @@
-// Where a dialog stands: remembered between runs, sticking to edges while it is moved.
+// Position of a dialog: saved between runs, snapping while it is moved.
 #include "platform/win/Screens.h"
 #include "workspacecore/dialogs/DialogHome.h"
 #include "workspacecore/dialogs/DialogPlaces.h"
@@ -13,7 +13,7 @@ CUiStates& States() {
     return *DialogHome().Dialogs().GetDialogStates();
 }
 
-/// A minimised window counts as a visible one, but there is nothing at its place.
+/// A minimised window counts as visible, but nothing is displayed at its position.
 bool IsInSight(const CWnd& window) {
     WINDOWPLACEMENT placement;
     return window.IsWindowVisible() && window.GetWindowPlacement(&placement) &&
@@ -47,7 +47,7 @@ void CWsBaseDialog::SaveWindowPosition() {
 }
 
 void CWsBaseDialog::OnWindowPosChanging(tagWINDOWPOS* pPlace) {
-    // What the program sets stands as it is.
+    // Snap only when the user moves the window, not the program.
     if (pPlace->flags & SWP_USERMOVE) {
         const Monitor primary = Screens().Primary();
         SnapStep step({pPlace->x, pPlace->y}, GetWindowRect().Size(), {m_xOffset, m_yOffset});

@@ -1,4 +1,4 @@
-// The named values of a dialog that survive the run.
+// Named values of a dialog that persist between runs.
 #include "platform/mfc/ComboBox.h"
 #include "workspacecore/dialogs/DialogHome.h"
 #include "workspacecore/dialogs/WsBaseDialog.h"

@@ -15,13 +15,13 @@ namespace Orvane::Workspace {
 
 namespace {
 
-/// Dialogs that outlive DeleteAllModelessDialogs.
+/// Dialogs that DeleteAllModelessDialogs keeps.
 constexpr const wchar_t* kKept[] = {
     L"DLG_ORV_TOOLBAR",    L"WS_SYSMAN_PANELPLUGIN", L"DLG_ORV_UNDO",      L"DLG_PANELSEARCH",
     L"DLG_SINGLE_PREVIEW", L"DLG_LOGVIEWER",         L"DLG_PREVIEW_PANEL", L"SINGLE_INPUT",
     L"DLG_ORVUTIL",        L"DLG_SMALLDATAWRITER"};
 
-/// What other modules of the family keep of places in a drawing.
+/// Dictionaries in which other modules store positions in a drawing.
 constexpr const wchar_t* kPlacesInDrawing[] = {L"ORVZ_AG_SETTINGS", L"ORVZ_LSD_IA"};
 
 void ForgetPlacesInDrawing() {
@@ -57,7 +57,7 @@ CWsBaseDialog* CWsDialogManager::GetDlgById(const wchar_t* dialogId) {
     if (known != m_dialogRegistry.end() && known->second) {
         return known->second;
     }
-    // A copy: making a dialog may bring another factory.
+    // Copy: creating a dialog may register another factory.
     const FactoryVector factories = m_dlgFactories;
     for (const auto& factory : factories) {
         CWsBaseDialog* const pDialog = factory ? factory->CreateWsDialog(dialogId) : nullptr;
@@ -74,7 +74,7 @@ int CWsDialogManager::IsDialogCreated(const wchar_t* dialogId) const {
 }
 
 int CWsDialogManager::DeleteDlgById(const wchar_t* dialogId) {
-    // Copies: the id may be the dialog's own, and dialogs may bring or take factories.
+    // Copies: the id may belong to the dialog, and dialogs may register or unregister factories.
     const CString id(dialogId);
     const FactoryVector factories = m_dlgFactories;
     int deleted = 0;
@@ -108,7 +108,7 @@ void CWsDialogManager::ForEachDialog(Action action) {
         if (next->second) {
             action(*next->second);
         }
-        // Handlers of the dialog may have deleted it, or others.
+        // Handlers of the dialog may have deleted it or others.
         next = m_dialogRegistry.upper_bound(id);
     }
 }

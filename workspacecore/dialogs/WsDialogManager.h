@@ -1,4 +1,4 @@
-// All living dialogs, the factories that make them, and what dialogs remember.
+// All living dialogs, their factories and their persistent states.
 #pragma once
 
 #include <map>
@@ -12,8 +12,8 @@ class CDialog;
 
 namespace Orvane::Workspace {
 
-/// One is held by CWsManager. Copies share the factories and the states. Nothing reports an
-/// error. Main thread only.
+/// Owned by CWsManager. Copies share the factories and the states. Errors are not reported. Main
+/// thread only.
 class WORKSPACE_API CWsDialogManager {
 public:
     using DialogMap = std::map<CString, CWsBaseDialog*, CStringLess>;
@@ -25,35 +25,35 @@ public:
     /// Saves the states.
     ~CWsDialogManager();
 
-    /// The living dialog of an id, or the one that the first factory which knows the id
-    /// makes; else null. Case counts.
+    /// The living dialog with this id, or else one created by the first factory that knows the
+    /// id; otherwise null. Case-sensitive.
     CWsBaseDialog* GetDlgById(const wchar_t* dialogId);
-    /// Non-zero for a living dialog, shown or hidden.
+    /// Non-zero if the dialog exists, shown or hidden.
     int IsDialogCreated(const wchar_t* dialogId) const;
-    /// Asks every factory to delete its dialog of the id.
-    /// \return the answer of the last factory, whichever it was that deleted; not a sign of
-    ///     success
+    /// Asks every factory to delete its dialog with this id.
+    /// \return the last factory's answer, regardless of which one deleted the dialog; not an
+    /// indication of success
     int DeleteDlgById(const wchar_t* dialogId);
-    /// Deletes all dialogs but a few that the family cannot do without. The last resort:
-    /// notifications stay blocked from then on.
+    /// Deletes all dialogs except a few that are always needed. A last resort: notifications stay
+    /// blocked afterwards.
     void DeleteAllModelessDialogs();
     void HideAll();
-    /// Minimises; the dialogs live on.
+    /// Minimises the dialogs without destroying them.
     void CloseAll();
-    /// Moves every dialog to the corner of the screen and lets the drawing forget the places
-    /// that are kept there.
+    /// Moves every dialog to the corner of the screen and erases the positions stored in the
+    /// drawing.
     void ResetDialogPositions();
-    /// Places a dialog of a cascaded type on the primary monitor: where it was remembered, or
-    /// else next in the cascade. Does nothing while the cursor is on another monitor.
+    /// Places a dialog of a cascaded type on the primary monitor, at its saved position or else
+    /// at the next position of the cascade. Does nothing while the cursor is on another monitor.
     void SetNewWindowPosition(CWsBaseDialog* pDialog);
-    /// Appends what each factory can make; an id that two can make is there twice.
+    /// Appends the ids from all factories; an id that two factories know appears twice.
     void GetAllDialogs(std::vector<CString>& ids) const;
 
-    /// Reads "uiStates.xml" of the user's folder the first time.
+    /// Reads "uiStates.xml" from the user's folder on first use.
     boost::shared_ptr<CUiStates> GetDialogStates();
-    /// Writes it, if anything has asked for the states.
+    /// Writes the file, if the states were ever used.
     void SaveDialogStates();
-    /// For modules that keep dialogs of their own; there is nothing to release here.
+    /// For modules with dialogs of their own; nothing to release here.
     void ReleaseDialogs() {}
 
     DialogMap* GetDialogRegistryMap() { return &m_dialogRegistry; }
@@ -61,9 +61,9 @@ public:
 
 private:
     friend class CWsBaseDialog;
-    /// Never replaces an entry. Non-zero if the dialog was entered.
+    /// Never replaces an entry. Returns non-zero if the dialog was added.
     int RegisterWsDialog(CWsBaseDialog* pDialog);
-    /// Takes the entry of the dialog's id out, whoever stands there.
+    /// Removes the entry with the dialog's id, whichever dialog it holds.
     void UnregisterWsDialog(CWsBaseDialog* pDialog);
 
     template <class Action>
@@ -71,7 +71,7 @@ private:
 
     DialogMap m_dialogRegistry; ///< not owned
     FactoryVector m_dlgFactories;
-    std::optional<DialogCascade> m_cascade; ///< starts with the first dialog, never anew
+    std::optional<DialogCascade> m_cascade; ///< created with the first dialog, never reset
     boost::shared_ptr<CUiStates> m_uiStates;
     CString m_uiStatesPath;
 };

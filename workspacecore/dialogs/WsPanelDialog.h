@@ -1,4 +1,4 @@
-// The base of dialogs that plug-ins show in the main panel.
+// Base class of plug-in dialogs in the main panel.
 #pragma once
 
 #include "platform/mfc/AdUiBaseDialog.h"
@@ -8,8 +8,8 @@
 
 namespace Orvane::Workspace {
 
-/// A child dialog with an id. Unlike CWsBaseDialog it is registered nowhere: what it wants to
-/// hear it subscribes to and listens to itself. Owned by the factory that made it.
+/// A child dialog with an id. Unlike CWsBaseDialog it is not registered anywhere and has to
+/// subscribe to publishers and events itself. Owned by the factory that created it.
 class WORKSPACE_API CWsPanelDialog : public CAdUiBaseDialog,
                                      public Notification::CSubscriber,
                                      public IWsListener {

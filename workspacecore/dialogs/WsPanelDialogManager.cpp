@@ -67,7 +67,7 @@ CWsPanelDialog* CWsPanelDialogManager::GetWsPanelDialogByPosition(enmPanelDialog
     if (!metadata || metadata->m_panelDialog) {
         return metadata ? metadata->m_panelDialog : nullptr;
     }
-    // A copy: making a dialog may bring another factory.
+    // Copy: creating a dialog may register another factory.
     const CWsDialogManager::FactoryVector factories = *m_pDialogs->GetDlgFactories();
     for (const auto& factory : factories) {
         CWsPanelDialog* const pDialog =

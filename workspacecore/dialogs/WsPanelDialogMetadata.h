@@ -1,4 +1,4 @@
-// What a plug-in says of a panel dialog before it is made.
+// Description of a panel dialog, registered by a plug-in before the dialog exists.
 #pragma once
 
 #include "platform/win/String.h"
@@ -9,12 +9,12 @@ namespace Orvane::Workspace {
 
 class CWsPanelDialog;
 
-/// A plain value; a copy knows the same dialog.
+/// A plain value; copies refer to the same dialog.
 class WORKSPACE_API CWsPanelDialogMetadata {
 public:
     CString GetDialogId() const { return m_dialogId; }
     void SetDialogId(const wchar_t* id) { m_dialogId = id; }
-    /// The place that is asked for; it stays as it is when the buttons close up.
+    /// The requested position; unaffected when gaps are closed.
     enmPanelDialogPosition GetPanelPosition() const { return m_panelPosition; }
     void SetPanelPosition(enmPanelDialogPosition position) { m_panelPosition = position; }
     /// Name of the icon on the button.
@@ -25,7 +25,7 @@ public:
     /// Shown as the button's tooltip.
     CString GetButtonText() const { return m_buttonText; }
     void SetButtonText(const wchar_t* text) { m_buttonText = text; }
-    /// Non-zero: while the panel is shown, the main panel's system controls are off.
+    /// Non-zero disables the main panel's system controls while the panel is shown.
     int GetDisableSystemControls() const { return m_disableSystemControls; }
     void SetDisableSystemControls(int disable) { m_disableSystemControls = disable; }
 
@@ -38,7 +38,7 @@ private:
     CString m_tooltipText;
     CString m_buttonText;
     int m_disableSystemControls = 0;
-    CWsPanelDialog* m_panelDialog = nullptr; ///< once it was made; not owned
+    CWsPanelDialog* m_panelDialog = nullptr; ///< once created; not owned
 };
 
 } // namespace Orvane::Workspace

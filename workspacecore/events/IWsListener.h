@@ -1,4 +1,4 @@
-// What happens in the host and in the workspace, as told to whoever listens.
+// Events of the host and the workspace.
 #pragma once
 
 #include "platform/win/String.h"
@@ -12,22 +12,22 @@ class CGisSystem;
 
 namespace Orvane::Workspace {
 
-/// Override what matters; everything else does nothing. Registered with CWsManager by
-/// pointer and not owned: a listener that dies before the process has to unregister
-/// itself. It is called on the main thread, in the order of registration. While it is
-/// being called it must not register or unregister anybody.
+/// Override the events of interest; the others do nothing. Registered with CWsManager by pointer
+/// and not owned: a listener destroyed before the process ends must unregister itself. Called on
+/// the main thread, in the order of registration. A listener must not register or unregister
+/// listeners from within a call.
 ///
-/// A system or document may be null where there is none; texts may be null.
+/// Systems and documents may be null if there is none; texts may be null.
 class IWsListener {
 public:
-    /// Non-zero is a veto: the host stays open, and listeners behind are not asked.
+    /// Non-zero vetoes closing: the host stays open, and later listeners are not asked.
     virtual int OnBeforeAcadWillClose() { return 0; }
     virtual void OnBeginSaveAcadDocument(AcDbDatabase* /*pDb*/, const wchar_t* /*fileName*/) {}
     virtual void OnSaveCompletedAcadDocument(AcDbDatabase* /*pDb*/, const wchar_t* /*fileName*/) {}
     virtual void OnAcadDocumentBecomeCurrent(AcApDocument* /*pDoc*/) {}
     virtual void OnAcadDocumentToBeDeactivated(AcApDocument* /*pDoc*/) {}
     virtual void OnAcadDocumentToBeDestroyed(AcApDocument* /*pDoc*/) {}
-    /// The document is gone; only its file name is left.
+    /// The document is already destroyed; only its file name is available.
     virtual void OnAcadDocumentDestroyed(const wchar_t* /*fileName*/) {}
     virtual void OnSystemChanged(System::CGisSystem* /*pSystem*/) {}
     virtual void OnSystemBecomeActive(System::CGisSystem* /*pSystem*/) {}

@@ -1,9 +1,9 @@
-// Numbers of the tree model. They are persisted and compared, so the values stand.
+// Enumerations of the tree model. They are persisted and compared, so the values must not change.
 #pragma once
 
 namespace Orvane::Workspace {
 
-/// Kinds of tree items; a bit set where a command or a folder serves several.
+/// Types of tree items; combined as a bit set where a command or a folder serves several.
 enum enmWSTreeItemType : unsigned long {
     WsItemNone = 0,
     WsItemSystemManager = 1,

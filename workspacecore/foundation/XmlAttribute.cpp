@@ -8,14 +8,14 @@ namespace Orvane {
 
 namespace {
 
-/// Walks the tokens of a tag. In the place of a name and in the place of a value a token
-/// ends at different characters: "c/" is a value, but not a name.
+/// Iterates over the tokens of a tag. Names and values end at different characters: "c/" is a
+/// value, but not a name.
 class TagTokens {
 public:
     explicit TagTokens(std::wstring_view tag)
         : m_pAt(tag.data()), m_pEnd(tag.data() + tag.size()) {}
 
-    /// The next character that is not blank; ">" at the end of the text.
+    /// The next non-space character; ">" at the end of the text.
     wchar_t Peek() {
         while (m_pAt < m_pEnd && IsXmlBlank(*m_pAt)) {
             ++m_pAt;
@@ -62,7 +62,7 @@ private:
 void FindXmlAttributes(std::wstring_view tag, std::span<const std::wstring_view> names,
                        bool bIgnoreCase, std::span<std::optional<std::wstring_view>> values) {
     TagTokens tokens(tag);
-    tokens.Name(); // the element's own
+    tokens.Name(); // the element's own name
     for (std::size_t nMissing = names.size(); nMissing > 0;) {
         const wchar_t cFirst = tokens.Peek();
         if (cFirst == L'>' || cFirst == L'/' || cFirst == L'?') {

@@ -1,4 +1,4 @@
-// Cuts attributes out of a start tag.
+// Finds attributes in a start tag.
 #pragma once
 
 #include <optional>
@@ -7,9 +7,9 @@
 
 namespace Orvane {
 
-/// The values of the first attributes of these names as they stand in the text, without their
-/// quotes; in the order of the names. `tag` starts with the name of the element and may go on
-/// beyond the tag's end. What is not there stays as it was in `values`.
+/// The raw values of the first attributes with these names, without quotes, in the order of the
+/// names. `tag` starts with the element's name and may extend beyond the end of the tag. Entries
+/// of `values` for missing attributes are left unchanged.
 void FindXmlAttributes(std::wstring_view tag, std::span<const std::wstring_view> names,
                        bool bIgnoreCase, std::span<std::optional<std::wstring_view>> values);
 

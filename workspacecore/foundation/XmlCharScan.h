@@ -1,4 +1,4 @@
-// Searches for the few characters that shape a tag, many characters a step.
+// Vectorised search for the characters that delimit tags.
 #pragma once
 
 #include <cstdint>
@@ -11,8 +11,8 @@ namespace Orvane {
 
 #ifdef __SSE2__
 
-/// Sixteen characters narrowed to a byte each. All beyond ASCII become 0x7F or 0x80, so only
-/// characters below may be looked for.
+/// Sixteen characters narrowed to one byte each. Everything beyond ASCII becomes 0x7F or 0x80, so
+/// only smaller characters can be searched for.
 class XmlCharBlock {
 public:
     static constexpr int kSize = 16;
@@ -24,7 +24,7 @@ public:
             _mm_packs_epi32(_mm_loadu_si128(pLanes + 2), _mm_loadu_si128(pLanes + 3));
         m_bytes = _mm_packs_epi16(low, high);
     }
-    /// Bit i tells whether character i is that one.
+    /// Bit i is set if character i equals c.
     std::uint32_t Where(char c) const {
         return static_cast<std::uint32_t>(
             _mm_movemask_epi8(_mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(c))));

@@ -30,8 +30,8 @@ CString TooLarge(long long nSize, const wchar_t* pszUnit) {
     return strText;
 }
 
-/// Reads a file piece by piece, so that each piece is still in the processor's cache when
-/// it is converted, and no second copy of the document is ever held.
+/// Reads a file in chunks, so that each chunk is converted while it is in the processor's cache,
+/// and no second copy of the document is needed.
 class TextFile {
 public:
     bool Open(const wchar_t* pszPath) {
@@ -50,10 +50,10 @@ public:
         return m_nSize == 0 || ReadPiece(std::min<long long>(m_nSize, kPiece));
     }
     long long Size() const { return m_nSize; }
-    /// Bytes taken so far.
+    /// Bytes read so far.
     long long Taken() const { return m_nTaken; }
 
-    /// The whole text; nothing after a read error. Ends early with a file that was cut since.
+    /// The whole text; nullopt after a read error. Ends early if the file was truncated since.
     std::optional<WideBuffer> ReadText() {
         WideBuffer text(static_cast<std::size_t>(m_nSize));
         std::size_t nLength = 0;
@@ -98,7 +98,7 @@ private:
     long long m_nTaken = 0;
 };
 
-/// Writes and closes; the file system may only tell at the end that it is full.
+/// Writes and closes; a full disk may only be reported on closing.
 bool WriteAll(FileHandle file, std::string_view bytes) {
     errno = 0;
     const bool bWritten = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
@@ -157,8 +157,8 @@ void XmlDocument::Swap(XmlDocument& other) noexcept {
     m_index.Swap(other.m_index);
 }
 
-// The old text goes before the new one comes: there need never be room for two. What is left
-// in between is a valid empty document, in case memory runs out.
+// Frees the old text before the new one is built, to avoid holding both. The intermediate state
+// is a valid empty document, in case memory runs out.
 void XmlDocument::Clear() {
     m_docText = WideBuffer();
     m_strErrorText.Empty();
@@ -292,7 +292,7 @@ std::wstring_view XmlDocument::ElementName(int nRecord) const {
     const wchar_t* pName = m_docText.Data() + m_index[nRecord].start + 1;
     const wchar_t* pEnd = pName;
     while (!EndsElementName(*pEnd)) {
-        ++pEnd; // a start tag always has its ">"
+        ++pEnd; // a start tag always ends in ">"
     }
     return {pName, static_cast<std::size_t>(pEnd - pName)};
 }

@@ -1,4 +1,4 @@
-// The markup class on which every persisted text rests.
+// The XML class behind all persisted texts.
 #pragma once
 
 #include <array>
@@ -16,19 +16,19 @@
 
 namespace Orvane {
 
-/// Places of a document that were given a name, in buckets by the name's characters.
+/// Named positions of a document, in hash buckets by name.
 struct XmlSavedPosition {
     CString strName;
     int nPos = 0;
 };
 using XmlSavedPositions = std::array<std::vector<XmlSavedPosition>, 7>;
 
-/// A whole document as one text, a flat index of its elements beside it, and a cursor
-/// that walks the index. Attribute values are cut out of the text when they are asked for.
+/// A whole document as one text, with a flat index of its elements and a cursor that walks the
+/// index. Attribute values are extracted on demand.
 ///
-/// An ill-formed document can be walked as far as its index goes. A fresh object has no
-/// index: it answers false or an empty text to everything until SetDoc or Load. Used by
-/// one thread at a time.
+/// An ill-formed document can be walked as far as it was indexed. A new object has no index: it
+/// returns false or an empty text for everything until SetDoc or Load. To be used by one thread
+/// at a time.
 class WORKSPACE_API XmlDocument {
 public:
     XmlDocument() = default;
@@ -38,29 +38,28 @@ public:
     XmlDocument& operator=(XmlDocument&& other) noexcept;
     ~XmlDocument() = default;
 
-    /// Takes a text (null: an empty one) and tells whether it is well formed.
+    /// Sets the text (null: an empty one) and returns whether it is well formed.
     bool SetDoc(const wchar_t* pszText);
-    /// The same for a text in UTF-8, which may hold anything.
+    /// The same for UTF-8, which may contain invalid bytes.
     bool SetDocUtf8(std::string_view text);
-    /// Reads a UTF-8 file. GetError holds a report after a good load, too.
+    /// Reads a UTF-8 file. GetError returns a report even after success.
     bool Load(const wchar_t* pszPath);
-    /// Writes the text as UTF-8, as it stands. GetError holds a report afterwards.
+    /// Writes the text unchanged, as UTF-8. GetError returns a report afterwards.
     bool Save(const wchar_t* pszPath);
     CString GetDoc() const;
     CString GetError() const { return m_strErrorText; }
 
-    /// Moves to the next sibling of that name, or to the first child of the parent if
-    /// there is no current element. No name takes the next one whatever it is called.
+    /// Moves to the next sibling with that name, or to the first child of the parent if there is
+    /// no current element. Without a name any element matches.
     bool FindElem(const wchar_t* pszName = nullptr);
-    /// Makes the current element the parent; its children are found next.
+    /// Makes the current element the parent, so its children are found next.
     bool IntoElem();
-    /// Makes the parent the current element; its next sibling is found next.
+    /// Makes the parent the current element, so its next sibling is found next.
     bool OutOfElem();
-    /// The value of an attribute of the current element with its entities decoded, or
-    /// an empty text.
+    /// The decoded value of an attribute of the current element, or an empty text.
     CString GetAttrib(const wchar_t* pszName) const;
-    /// Several attributes in one walk over the tag, as they stand in the text, entities and
-    /// all: parts of it that hold until the next document. No value where there is none.
+    /// Several attributes in one pass over the tag, raw, i.e. with entities not decoded. The
+    /// views stay valid until the next document; nullopt for missing attributes.
     template <std::size_t N>
     std::array<std::optional<std::wstring_view>, N>
     GetRawAttribs(const std::array<std::wstring_view, N>& names) const {
@@ -71,21 +70,22 @@ public:
 
     static constexpr int kIgnoreCase = 8; ///< names compare ignoring case
     int GetDocFlags() const { return m_nDocFlags; }
-    /// End tags are compared during a parse, so the flags count from the next one on there.
+    /// Parsing compares end tags, so a change of the flags affects them from the next parse on.
     void SetDocFlags(int nDocFlags) { m_nDocFlags = nDocFlags; }
 
-    static constexpr int kEscapeQuotes = 1;         ///< apostrophes and double quotes as well
-    static constexpr int kEscapeKeepReferences = 2; ///< leaves "&name;" and "&#1;" as they stand
+    static constexpr int kEscapeQuotes = 1;         ///< also escapes apostrophes and double quotes
+    static constexpr int kEscapeKeepReferences = 2; ///< keeps existing "&name;" and "&#1;"
     static CString EscapeEntities(std::wstring_view text, int nFlags = 0);
     static CString UnescapeEntities(std::wstring_view text);
-    /// The text as CDATA, in several sections where it holds the end mark of a section.
+    /// The text as CDATA, split into several sections if it contains the end mark.
     static CString WrapCData(std::wstring_view text);
 
 private:
     std::wstring_view Text() const { return {m_docText.Data(), m_docText.Length()}; }
     bool IgnoresCase() const { return (m_nDocFlags & kIgnoreCase) != 0; }
     void Clear();
-    /// Expects the new text in a cleared document, and in the error text what it should open with.
+    /// Expects the new text in a cleared document, and in the error text the prefix of its
+    /// message.
     bool Parse();
     CString BuildIndex();
     std::wstring_view ElementName(int nRecord) const;

@@ -1,4 +1,4 @@
-// Escaping of texts that go into markup.
+// Escaping and decoding of entities.
 #include "workspacecore/foundation/XmlDocument.h"
 
 #include <algorithm>
@@ -10,10 +10,10 @@ namespace {
 
 struct Entity {
     wchar_t character;
-    std::wstring_view name; ///< as it stands behind the "&"
+    std::wstring_view name; ///< without "&" and including ";"
 };
 
-/// Without the flag for quotes only the first three are escaped.
+/// Without kEscapeQuotes only the first three are escaped.
 constexpr std::array<Entity, 5> kEntities = {
     {{L'<', L"lt;"}, {L'&', L"amp;"}, {L'>', L"gt;"}, {L'\'', L"apos;"}, {L'"', L"quot;"}}};
 constexpr std::size_t kEntitiesWithoutQuotes = 3;
@@ -27,7 +27,7 @@ bool IsReferencePart(wchar_t c) {
     return (c != L'#' && IsReferenceStart(c)) || c == L'-' || c == L'.' || (c >= L'0' && c <= L'9');
 }
 
-/// Length of the reference that opens with the "&" at the front of the text; 0 if there is none.
+/// Length of the reference at the start of the text; 0 if there is none.
 std::size_t ReferenceLength(std::wstring_view text) {
     if (text.size() < 2 || !IsReferenceStart(text[1])) {
         return 0;
@@ -36,8 +36,8 @@ std::size_t ReferenceLength(std::wstring_view text) {
     return end != text.end() && *end == L';' ? static_cast<std::size_t>(end - text.begin()) + 1 : 0;
 }
 
-/// Decodes the numeric reference at the front of the text and returns its length; 0 if it
-/// has no end within reach.
+/// Decodes the numeric reference at the start of the text and returns its length; 0 if its end is
+/// not within reach.
 std::size_t DecodeNumber(std::wstring_view text, std::wstring& result) {
     constexpr std::size_t kMostDigits = 7;
     const bool bHex = text.size() > 2 && text[2] == L'x';
@@ -50,14 +50,14 @@ std::size_t DecodeNumber(std::wstring_view text, std::wstring& result) {
     const long nNumber = std::wcstol(strDigits.c_str(), nullptr, bHex ? 16 : 10);
     result += static_cast<wchar_t>(nNumber);
     if (nNumber == 0) {
-        // What cannot be read as a number stays visible behind the NUL.
+        // The unparsable text stays visible after the NUL.
         result += L'&';
         return 1;
     }
     return nEnd + 1;
 }
 
-/// Decodes the reference at the front of the text and returns its length; 0 if it is none.
+/// Decodes the reference at the start of the text and returns its length; 0 if there is none.
 std::size_t DecodeReference(std::wstring_view text, std::wstring& result) {
     if (text.size() > 1 && text[1] == L'#') {
         return DecodeNumber(text, result);

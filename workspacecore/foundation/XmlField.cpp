@@ -24,7 +24,7 @@ void AppendPair(std::string& text, unsigned nValue) {
     text += kDigits[nValue & 0xF];
 }
 
-/// Other characters than the ones that are written count as 0.
+/// Characters other than the digits we write count as 0.
 unsigned Digit(char c) {
     if (c >= '0' && c <= '9') {
         return static_cast<unsigned>(c - '0');
@@ -32,12 +32,12 @@ unsigned Digit(char c) {
     return c >= 'A' && c <= 'F' ? static_cast<unsigned>(c - 'A' + 10) : 0;
 }
 
-/// The value of the pair whose "=" stands at the front of the bytes.
+/// The value of the pair at the start of the bytes, which is a "=".
 unsigned Pair(std::string_view bytes) {
     return Digit(bytes[1]) << 4 | Digit(bytes[2]);
 }
 
-/// Pairs in a sequence that starts with this one; 0 if none does.
+/// Number of pairs in a sequence starting with this byte; 0 if it cannot start one.
 std::size_t SequencePairs(unsigned nFirst) {
     constexpr std::array<std::pair<unsigned, std::size_t>, 5> kLastOfLength = {
         {{0xDF, 2}, {0xEF, 3}, {0xF7, 4}, {0xFB, 5}, {0xFD, 6}}};
@@ -52,13 +52,13 @@ std::size_t SequencePairs(unsigned nFirst) {
     return 0;
 }
 
-/// ASCII is the same on every page.
+/// ASCII is the same in all code pages.
 wchar_t Wide(unsigned char byte) {
     return byte < 0x80 ? static_cast<wchar_t>(byte) : AnsiToWide(byte);
 }
 
-/// Decodes what stands at the "=" at the front of the bytes and returns how many of them
-/// were used; 0 if the text ends within it.
+/// Decodes the sequence at the start of the bytes and returns the number of bytes used; 0 if the
+/// text ends within it.
 std::size_t DecodeOne(std::string_view bytes, std::wstring& result) {
     constexpr unsigned kLastPlain = 126;
     if (bytes.size() < kPairLength) {
@@ -83,7 +83,7 @@ std::size_t DecodeOne(std::string_view bytes, std::wstring& result) {
     return nLength;
 }
 
-/// How many characters at the front of a text stand for themselves in an attribute.
+/// Number of leading characters that need no escaping in an attribute.
 std::size_t PlainLength(std::wstring_view text) {
     static constexpr auto kPlain = [] {
         std::array<bool, 0x80> plain{};
@@ -108,8 +108,8 @@ void AppendEqualsHex(std::string& result, std::wstring_view text) {
         } else if (nByte < 0x80) {
             result += c;
         } else {
-            // The byte counts as negative and is widened to 0xFF80 and above before it is
-            // brought to UTF-8. Files in use are written so.
+            // The byte is sign-extended to 0xFF80 and above before it is converted to UTF-8, as
+            // in existing files.
             const unsigned nWidened = 0xFF00U | nByte;
             AppendPair(result, 0xE0 | nWidened >> 12);
             AppendPair(result, 0x80 | (nWidened >> 6 & 0x3F));
@@ -136,14 +136,14 @@ void AppendXmlField(std::string& text, const CString& strValue) {
                    text.begin() + static_cast<std::ptrdiff_t>(nBefore),
                    [](wchar_t c) { return static_cast<char>(c); });
     if (nPlain < value.size()) {
-        // As far as a text without its length goes.
+        // Up to the first NUL.
         const std::wstring_view rest(strValue.GetString() + nPlain);
         AppendEqualsHex(text, XmlDocument::EscapeEntities(rest, kFlags).View());
     }
 }
 
 void AppendXmlInt(std::string& text, int nValue) {
-    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{}; // with a sign
+    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{}; // including a sign
     text.append(digits.data(),
                 std::to_chars(digits.data(), digits.data() + digits.size(), nValue).ptr);
 }

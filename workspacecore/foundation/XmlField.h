@@ -1,7 +1,7 @@
-// The layer between a value and its attribute in a persisted text.
+// Encoding of values in attributes of persisted texts.
 //
-// A value is entity-escaped, then brought to bytes of the ANSI code page, of which only
-// ASCII stays as it is. Characters outside the page are lost on writing.
+// A value is entity-escaped, then converted to the ANSI code page, and bytes beyond ASCII are
+// escaped. Characters missing from the code page are lost.
 #pragma once
 
 #include <optional>
@@ -13,17 +13,17 @@
 
 namespace Orvane {
 
-/// The form of a value that is put between the quotes of an attribute. References that
-/// the value already holds ("&amp;") stay as they are.
+/// Encodes a value to be put between the quotes of an attribute. References already in the value
+/// ("&amp;") are kept.
 WORKSPACE_API CString EncodeXmlField(const wchar_t* pszValue);
-/// The same at the end of a text that grows. What is written is ASCII.
+/// Appends an encoded value to a text. The output is ASCII.
 WORKSPACE_API void AppendXmlField(std::string& text, const CString& strValue);
 WORKSPACE_API void AppendXmlInt(std::string& text, int nValue);
-/// The value of what XmlDocument::GetAttrib has returned.
+/// Decodes a value returned by XmlDocument::GetAttrib.
 WORKSPACE_API CString DecodeXmlField(const wchar_t* pszRaw);
 
-/// The value of an attribute as XmlDocument::GetRawAttribs has returned it; an empty text or 0
-/// if there is none.
+/// Decodes an attribute returned by XmlDocument::GetRawAttribs; an empty text or 0 if it is
+/// missing.
 WORKSPACE_API CString XmlFieldText(std::optional<std::wstring_view> raw);
 WORKSPACE_API int XmlFieldInt(std::optional<std::wstring_view> raw);
 

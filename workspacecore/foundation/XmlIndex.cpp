@@ -18,8 +18,8 @@ void XmlIndex::ReserveSegments(int nSegments) {
 }
 
 void XmlIndex::ResizeSegment(int nSegment, int nOldRecords, int nNewRecords) {
-    // Not filled: a record is written whole when it is taken, and most of a first estimate is
-    // never touched.
+    // Not initialised: a record is fully written when allocated, and most of the first estimate
+    // is never touched.
     Segment pNew(new XmlNodePos[static_cast<std::size_t>(nNewRecords)]);
     std::copy_n(m_apElemSegments[nSegment].get(), nOldRecords, pNew.get());
     m_apElemSegments[nSegment] = std::move(pNew);
@@ -42,7 +42,7 @@ void XmlIndex::Reserve(int nRecords) {
 
 void XmlIndex::Grow(int nUsed) {
     const int nMost = (SegmentsFor(m_nElemCapacity) + 1) << kSegmentShift;
-    // The least step matters for an index of a few records only.
+    // The minimum step only matters for an index of a few records.
     Reserve(std::min(std::max(nUsed + nUsed / 2, nUsed + 1), nMost));
 }
 

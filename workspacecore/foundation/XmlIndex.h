@@ -1,5 +1,5 @@
-// The element index of an XmlDocument: records in segments, so that a growing index
-// never moves more than its last, partial segment.
+// The element index of an XmlDocument. Records are stored in segments, so growing never moves
+// more than the last, partial segment.
 #pragma once
 
 #include <memory>
@@ -21,14 +21,14 @@ public:
         return m_apElemSegments[nRecord >> kSegmentShift][nRecord & (kSegmentRecords - 1)];
     }
 
-    /// Records there is room for; 0 until Reserve was called.
+    /// Number of records for which memory is reserved; 0 before Reserve.
     int Capacity() const { return m_nElemCapacity; }
-    /// Makes room for at least so many records. The records there are keep their content.
+    /// Reserves memory for at least this many records. Existing records are kept.
     void Reserve(int nRecords);
-    /// Makes room behind the `nUsed` records there are: for half as many again, but for no
-    /// more than one further segment.
+    /// Grows the capacity beyond `nUsed` records by half, but by at most one segment.
     void Grow(int nUsed);
-    /// Takes over the first `nUsed` records of another index. Without room there, none here.
+    /// Copies the first `nUsed` records of another index. Does nothing if that has no memory
+    /// reserved.
     void CopyFrom(const XmlIndex& other, int nUsed);
     void Swap(XmlIndex& other) noexcept;
 
@@ -43,7 +43,7 @@ private:
 
     std::unique_ptr<Segment[]> m_apElemSegments;
     int m_nElemCapacity = 0;
-    int m_nSegmentCount = 0; ///< room of the array of segments
+    int m_nSegmentCount = 0; ///< capacity of the segment array
 };
 
 } // namespace Orvane

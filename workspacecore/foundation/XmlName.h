@@ -1,4 +1,4 @@
-// How names of elements and attributes are compared.
+// Comparison of element and attribute names.
 #pragma once
 
 #include <algorithm>
@@ -13,15 +13,14 @@ inline bool IsXmlBlank(wchar_t c) {
     return c == L' ' || c == L'\t' || c == L'\n' || c == L'\r';
 }
 
-/// The name that an element is searched by may be shorter than the one that its end tag has
-/// to repeat.
+/// A name that finds an element may be shorter than the one its end tag must repeat.
 inline bool EndsElementName(wchar_t c) {
     return c == L'<' || c == L'>' || c == L'=' || c == L'\\' || c == L'/' || c == L'?' ||
            c == L'!' || IsXmlBlank(c);
 }
 
-/// Whether a name of the text is the one that is searched. The searched name may go on
-/// behind it: "wsCommand[2]" finds wsCommand.
+/// Whether a name in the text matches the searched name, which may continue after it:
+/// "wsCommand[2]" finds wsCommand.
 inline bool MatchXmlName(std::wstring_view candidate, std::wstring_view searched,
                          bool bIgnoreCase) {
     const std::size_t nLength = candidate.size();
@@ -32,7 +31,7 @@ inline bool MatchXmlName(std::wstring_view candidate, std::wstring_view searched
         bIgnoreCase ? std::equal(candidate.begin(), candidate.end(), searched.begin(),
                                  [](wchar_t a, wchar_t b) { return ToLower(a) == ToLower(b); })
                     : nLength == 0 ||
-                          // Most names differ here, and need no call.
+                          // Most names differ here, which saves the call.
                           (candidate.front() == searched.front() &&
                            std::wmemcmp(candidate.data(), searched.data(), nLength) == 0);
     constexpr std::wstring_view kEnds = L" =/[]";

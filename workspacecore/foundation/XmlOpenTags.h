@@ -1,4 +1,4 @@
-// The tags that are open while a text is parsed, innermost last.
+// Stack of open tags during a parse, innermost last.
 #pragma once
 
 #include <cstdint>
@@ -10,13 +10,12 @@ namespace Orvane {
 
 struct XmlOpenTag {
     int nRecord;
-    std::wstring_view name; ///< lies in the text
+    std::wstring_view name; ///< points into the text
 };
 
-/// A stack that can be searched by name. A well-formed text only ever finds its innermost
-/// tag. So that a hostile one, with many end tags that end nothing below many open tags,
-/// does not search them all again and again, the names are counted from the first deep
-/// search on.
+/// A stack with search by name. In a well-formed text only the innermost tag is ever found. After
+/// the first deep search names are counted, so a hostile text with many unmatched end tags inside
+/// many open tags does not cause quadratic time.
 class XmlOpenTags {
 public:
     explicit XmlOpenTags(bool bIgnoreCase) : m_bIgnoreCase(bIgnoreCase) {}
@@ -27,7 +26,7 @@ public:
     int Parent() const { return m_tags.empty() ? 0 : m_tags.back().nRecord; }
     void Push(int nRecord, std::wstring_view name);
     void Pop();
-    /// The innermost tag that an end tag of this name ends; -1 if there is none.
+    /// The innermost tag closed by an end tag with this name; -1 if there is none.
     int Find(std::wstring_view endName);
 
 private:

@@ -11,15 +11,15 @@
 
 namespace Orvane {
 
-/// Reads the elements of one text into an index whose record 0 is zeroed. Works without
-/// recursion and in a time that grows with the length of the text, whatever it holds.
+/// Reads the elements of one text into an index whose record 0 is zeroed. Not recursive, and in
+/// linear time for any input.
 class WORKSPACE_API XmlParser {
 public:
-    /// `nPosFree` is the next free record and is moved on.
+    /// `nPosFree` is the next free record, and is advanced.
     XmlParser(std::wstring_view text, XmlIndex& index, int& nPosFree, bool bIgnoreCase)
         : m_index(index), m_nPosFree(nPosFree), m_scanner(text), m_openTags(bIgnoreCase) {}
 
-    /// Returns the first thing wrong with the text, empty if it is all right.
+    /// Returns the first error, or an empty text if there is none.
     CString Run();
 
 private:
@@ -28,7 +28,7 @@ private:
     void OnError(const XmlToken& token);
     int TakeRecord();
     void LinkAsLastChild(int nRecord, int nParent);
-    /// Leaves all tags above that depth without an end. `pEndTag` is null at the end of the text.
+    /// Marks all tags above that depth as unclosed. `pEndTag` is null at the end of the text.
     void CloseUnended(int nDepth, const XmlToken* pEndTag);
     void ReportUnended(const XmlOpenTag& tag, const XmlToken* pEndTag);
     void MoveChildrenUp(int nDepth);

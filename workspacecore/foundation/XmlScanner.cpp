@@ -49,7 +49,7 @@ const wchar_t* FindChar(const wchar_t* pAt, const wchar_t* pEnd, wchar_t c) {
     return pFound ? pFound : pEnd;
 }
 
-/// Bit i of the result: whether an odd number of bits is set up to and including bit i.
+/// Bit i of the result is the parity of bits 0 to i.
 std::uint32_t PrefixParity(std::uint32_t nBits) {
     nBits ^= nBits << 1;
     nBits ^= nBits << 2;
@@ -57,10 +57,10 @@ std::uint32_t PrefixParity(std::uint32_t nBits) {
     return nBits ^ nBits << 8;
 }
 
-/// Looks for ">" outside of quotes, one kind of which is ignored inside the other.
+/// Finds ">" outside quotes; each kind of quote is ignored inside the other.
 class TagEndSearch {
 public:
-    /// The place of the ">" or the end of the text.
+    /// The position of the ">", or the end of the text.
     const wchar_t* Find(const wchar_t* pAt, const wchar_t* pEnd) {
         for (; pEnd - pAt >= XmlCharBlock::kSize; pAt += XmlCharBlock::kSize) {
             const XmlCharBlock block(pAt);
@@ -81,7 +81,7 @@ public:
     }
 
 private:
-    /// With one kind of quotes the hidden characters follow from counting them.
+    /// With only one kind of quote, the parity of the quotes tells which characters are quoted.
     int PickEnd(std::uint32_t nEnds, std::uint32_t nQuotes) {
         const std::uint32_t nBefore = m_cQuote != 0 ? ~0U : 0U;
         const std::uint32_t nHidden = PrefixParity(nQuotes) ^ nBefore;
@@ -174,7 +174,7 @@ void XmlScanner::ScanElement(XmlToken& token) {
         return;
     }
     token.name = {pName, static_cast<std::size_t>(pNameEnd - pName)};
-    // A slash behind anything else belongs to a value without quotes.
+    // A slash after anything else is part of an unquoted value.
     const wchar_t* pSlash = pClose - 1;
     if (pSlash >= pNameEnd && *pSlash == L'/') {
         const wchar_t cBefore = pSlash[-1];
@@ -225,7 +225,7 @@ void XmlScanner::ScanDeclaration(XmlToken& token) {
 
 void XmlScanner::ScanTo(XmlToken& token, int nType, std::wstring_view mark,
                         const wchar_t* pszSubject) {
-    // The mark may share characters with the opening: "<!-->" is a whole comment.
+    // The end mark may overlap the opening: "<!-->" is a complete comment.
     for (const wchar_t* pAt = m_pAt + 2; (pAt = FindChar(pAt, m_pEnd, L'>')) != m_pEnd;) {
         ++pAt;
         if (std::wstring_view(m_pAt, static_cast<std::size_t>(pAt - m_pAt)).ends_with(mark)) {
@@ -243,7 +243,7 @@ void XmlScanner::ScanDocType(XmlToken& token, bool bNested) {
         if (cQuote != 0) {
             cQuote = *pAt == cQuote ? L'\0' : cQuote;
         } else if (bNested && (*pAt == L'"' || *pAt == L'\'')) {
-            // A declaration ends at its first ">", whatever it quotes.
+            // A declaration ends at its first ">", even inside quotes.
             cQuote = *pAt;
         } else if (bNested && *pAt == L'<') {
             ++nLevel;

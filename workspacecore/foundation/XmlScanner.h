@@ -1,4 +1,4 @@
-// Cuts a text into the tokens of markup.
+// Splits a text into markup tokens.
 #pragma once
 
 #include <string>
@@ -8,15 +8,15 @@
 
 namespace Orvane {
 
-/// One token. Offsets and lengths count wide characters of the whole text.
+/// One token. Offsets and lengths are in wide characters of the whole text.
 struct XmlToken {
     int nType = XML_TOKEN_END_OF_TEXT;
     int nStart = 0;
     int nLength = 0;
     bool bEmptyElement = false;
-    std::wstring_view name; ///< of an element or an end tag; lies in the text
-    /// Of a token in error: a format for the two others. The message is only put together
-    /// when somebody wants it, since a broken text can hold millions of errors.
+    std::wstring_view name; ///< name of an element or end tag; points into the text
+    /// For a token in error: a format string for the two other members. The message is built on
+    /// demand, since a broken text may contain millions of errors.
     const wchar_t* pszErrorFormat = nullptr;
     const wchar_t* pszErrorSubject = nullptr;
 
@@ -24,8 +24,8 @@ struct XmlToken {
     std::wstring ErrorText() const;
 };
 
-/// Every character belongs to exactly one token, and every call goes on by at least one
-/// character, up to the end of the text.
+/// Every character belongs to exactly one token, and every call advances by at least one
+/// character.
 class XmlScanner {
 public:
     explicit XmlScanner(std::wstring_view text)
@@ -39,7 +39,7 @@ private:
     void ScanElement(XmlToken& token);
     void ScanEndTag(XmlToken& token);
     void ScanDeclaration(XmlToken& token);
-    /// Ends the token at a mark that closes with ">".
+    /// Ends the token at a mark that ends in ">".
     void ScanTo(XmlToken& token, int nType, std::wstring_view mark, const wchar_t* pszSubject);
     void ScanDocType(XmlToken& token, bool bNested);
 

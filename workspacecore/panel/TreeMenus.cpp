@@ -27,8 +27,8 @@ MenuEntries CommandsOfGroup(const CWsCommandRegistry& registry, enmCommandGroup 
                                         definition.GetWsItemType(), definition.GetRepositoryTag());
 }
 
-/// What the registry offers for the item, group by group; groups without an answer are left
-/// out, and those of whose answer nothing is for its entities are empty.
+/// The commands offered for the item, group by group. Groups without commands are omitted; groups
+/// whose commands all apply to other kinds of entities are empty.
 std::vector<MenuEntries> Sections(const CWsCommandRegistry& registry, const MenuTopology& topology,
                                   const CWsTreeItemDefinition& definition) {
     std::vector<MenuEntries> sections;
@@ -95,8 +95,8 @@ MenuEntries TreeMenuEntries(const CWsCommandRegistry& registry, const MenuTopolo
     MenuEntries entries;
     bool first = true;
     for (const MenuEntries& section : Sections(registry, topology, definition)) {
-        // The separator belongs to the section in front, be that empty or not, and is there
-        // for the sake of what follows: an emptied first section leaves one at the top.
+        // Every non-empty group but the first gets a separator in front, even if all groups
+        // before it are empty; an empty first group thus leaves a separator at the top.
         if (!first && !section.empty()) {
             entries.push_back(kSeparator);
         }

@@ -1,4 +1,4 @@
-// What the context menus of the trees and the add menu contain.
+// Contents of the tree context menus and the add menu.
 #pragma once
 
 #include <vector>
@@ -15,34 +15,34 @@ namespace Orvane::Workspace {
 
 class CWsTreeItemDefinition;
 
-/// The topology and the function for which commands are asked for; by default no system's.
+/// The topology and function to look for commands for; by default those of no system.
 struct WORKSPACE_API MenuTopology {
     MenuTopology() = default;
-    /// Those of a system; of none if null.
+    /// Those of a system, which may be null.
     explicit MenuTopology(System::CGisSystem* pSystem);
 
     enmTopologyType type = static_cast<enmTopologyType>(-1);
     int function = -1;
 };
 
-/// One line of a menu: a command, or null for a separator.
+/// One menu line: a command, or null for a separator.
 using MenuEntry = CWsCommandRegistry::CommandPtr;
 using MenuEntries = std::vector<MenuEntry>;
 
-/// The commands for a tree item, section by section, with the separators between them.
-/// Empty if there is no command at all; a separator at the very beginning is possible.
+/// The commands for a tree item, group by group with separators in between. Empty if there are
+/// none; may start with a separator.
 WORKSPACE_API MenuEntries TreeMenuEntries(const CWsCommandRegistry& registry,
                                           const MenuTopology& topology,
                                           const CWsTreeItemDefinition& definition);
 
-/// The menu that adds things: what can be added at the selected item, then the commands
-/// that add systems, then those that close every such menu.
-/// \param pSelected null without an active system or without a selected item
+/// The add menu: commands that add to the selected item, then commands that add systems, then
+/// those at the end of every add menu.
+/// \param pSelected null without an active system or selected item
 WORKSPACE_API MenuEntries AddMenuEntries(const CWsCommandRegistry& registry,
                                          const MenuTopology& topology,
                                          const CWsTreeItemDefinition* pSelected);
 
-/// Puts the entries behind what the menu holds already.
+/// Appends the entries to a menu.
 WORKSPACE_API void AppendMenuEntries(CMenu& menu, const MenuEntries& entries);
 
 } // namespace Orvane::Workspace

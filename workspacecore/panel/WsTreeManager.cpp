@@ -41,8 +41,8 @@ void CWsTreeManager::Delete(enmTree tree, HTREEITEM item) const {
     if (!child) {
         pView->DeleteItem(item);
     }
-    // A child that had children itself stands empty after the first call and goes with the
-    // next; the item stays in any case.
+    // A child with children of its own is emptied by the first call and deleted by the next one.
+    // The item itself stays.
     for (; child; child = pView->GetChildItem(item)) {
         Delete(tree, child);
     }

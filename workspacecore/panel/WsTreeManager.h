@@ -1,4 +1,4 @@
-// The way to the trees of the workspace and to what hangs on them.
+// Access to the trees of the workspace and their node data.
 #pragma once
 
 #include <array>
@@ -15,13 +15,12 @@ namespace Orvane::Workspace {
 class CWsCommand;
 class CWsCommandManager;
 
-/// There are three trees: the systems of the drawing, the repository on disk, and the one on
-/// the net. The panels that host them make and fill them, hang a CWsTreeItemData on each
-/// node, and register them with CWsManager. Until then everything here answers null or does
-/// nothing. Nothing reports an error. Main thread only.
+/// There are three trees: the systems of the drawing, the disk repository and the net repository.
+/// Their panels create and fill them, attach a CWsTreeItemData to each node and register them
+/// with CWsManager. Until then all functions return null or do nothing. Errors are not reported.
+/// Main thread only.
 ///
-/// Icons live as long as the process. One that cannot be found is looked for again the next
-/// time.
+/// Icons live as long as the process. If an icon cannot be found, the next call looks again.
 class WORKSPACE_API CWsTreeManager {
 public:
     CWsTreeManager();
@@ -29,7 +28,7 @@ public:
     CWsTreeManager& operator=(const CWsTreeManager&) = default;
     ~CWsTreeManager();
 
-    // Each for the system, the disk and the net tree. Views are not owned.
+    // One each for the system, disk and net tree. Views are not owned.
     CTreeCtrl* GetTreeControl() const { return m_views[SystemTree]; }
     CTreeCtrl* GetDiskTreeControl() const { return m_views[DiskTree]; }
     CTreeCtrl* GetNetTreeControl() const { return m_views[NetTree]; }
@@ -44,8 +43,7 @@ public:
         return GetItemDataDisk(GetSelectedItemDisk());
     }
     CWsTreeItemData* GetSelectedItemDataNet() const { return GetItemDataNet(GetSelectedItemNet()); }
-    /// The node where the cursor was when the message in hand came about, wherever in its
-    /// line.
+    /// The node at the cursor position of the current message, anywhere in its row.
     HTREEITEM GetItemByPosition() const { return UnderCursor(SystemTree); }
     HTREEITEM GetItemByPositionDisk() const { return UnderCursor(DiskTree); }
     HTREEITEM GetItemByPositionNet() const { return UnderCursor(NetTree); }
@@ -56,8 +54,8 @@ public:
     CWsTreeItemData* GetItemDataByPositionNet() const {
         return GetItemDataNet(GetItemByPositionNet());
     }
-    /// Deletes a node that has no children. Of one that has some it deletes everything below
-    /// and leaves the node itself; a second call takes that, too. Item data is not touched.
+    /// Deletes a node without children. For a node with children it deletes all descendants and
+    /// keeps the node, which a second call deletes. Item data is not touched.
     void DeleteTreeItem(HTREEITEM item) const { Delete(SystemTree, item); }
     void DeleteTreeItemDisk(HTREEITEM item) const { Delete(DiskTree, item); }
     void DeleteTreeItemNet(HTREEITEM item) const { Delete(NetTree, item); }
@@ -66,19 +64,19 @@ public:
     CWsTreeItemDefinitionList* GetTreeItemDefinitionList() const {
         return m_pTreeItemDefinitionList.get();
     }
-    /// Appends the commands for a node, in the context of a system, which may be null.
-    /// \param pItemData null stands for the selected node of the system tree
+    /// Appends the commands for a node in the context of a system, which may be null.
+    /// \param pItemData null for the selected node of the system tree
     /// \return 1 if there is at least one
     int GetMenuBar(CMenu& menu, CWsTreeItemData* pItemData, System::CGisSystem* pSystem) const;
-    /// The command of an id that was chosen in a menu, or null. The registry keeps it alive.
+    /// The command with the id of a menu entry, or null. Owned by the registry.
     CWsCommand* GetMenuCommand(unsigned int menuCmdId) const;
-    /// Brings the children of a template, not those below, into the user's order: tool
-    /// groups first, then the families of "workspaceRepositoryOrder.xml", then the others.
+    /// Sorts the direct children of a template: tool groups first, then the families in the order
+    /// of "workspaceRepositoryOrder.xml", then the others.
     void SortTreeTemplate(const CWsTreeTemplate::Ptr& treeTemplate) const;
 
     HICON GetSystemManagerIcon();
     HICON GetSystemIcon();
-    /// Null for other topologies than lines, polygons and points.
+    /// Null for topologies other than lines, polygons and points.
     HICON GetSystemIcon(enmTopologyType type);
     HICON GetDiskRepositoryIcon();
     HICON GetSystemToolIcon();
@@ -88,7 +86,7 @@ public:
     HICON GetSystemTool_ManagerIcon(); // NOLINT(readability-identifier-naming)
     HICON GetFastCommandIcon();
     HICON GetEntityTypeIcon(enmEntityType type);
-    /// As the active system's topology calls it.
+    /// As named by the active system's topology.
     CString GetEntityTypeName(enmEntityType type) const;
     TreeIcons& Icons() { return m_icons; }
 
@@ -105,7 +103,7 @@ private:
     std::array<CTreeCtrl*, 3> m_views{};
     TreeIcons m_icons;
     std::vector<CString> m_familyOrder; ///< tags; read once
-    /// Handed in by the manager; null in one of somebody else's, which knows no commands.
+    /// Set by the owning manager; null in other instances, which have no commands.
     const CWsCommandManager* m_pCommands = nullptr;
 };
 

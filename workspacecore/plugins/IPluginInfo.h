@@ -1,13 +1,12 @@
-// The contract between the workspace and a plug-in module.
+// The interface between the workspace and a plug-in module.
 //
-// A plug-in is a shared library that exports, by these C names,
+// A plug-in is a shared library that exports these C functions:
 //
 //     extern "C" IPluginInfo* ORVPluginInfoProvider();
 //     extern "C" void         ORVPluginInfoRelease();     (optional; not called today)
 //
-// The provider is asked again before every call, so it must hand out the same living
-// object each time, cheaply; a null one makes the library count as no plug-in. The object
-// belongs to the plug-in.
+// The provider is called before every hook, so it must be cheap and return the same object each
+// time; if it returns null, the library is not a plug-in. The object is owned by the plug-in.
 #pragma once
 
 #include "platform/win/String.h"
@@ -18,16 +17,15 @@ namespace Orvane::Selection {
 enum class SelectionType : int;
 }
 
-/// Derived by the plug-in. The order of the operations is the contract: both sides meet
-/// on this table only.
+/// Implemented by the plug-in. The order of the virtual functions is part of the interface.
 ///
-/// During the load the workspace calls PluginHook6, 1, 2, 3, 4, 5, 7, RegisterInfoTooltips,
-/// RegisterWsPanelDialog and RegisterCatalogExtenders, in this order. In all of them
-/// CWsManager::Instance gives the manager with its registries, and what earlier modules
-/// registered is there; tree templates, log view, main panel and repositories are not.
+/// On loading the workspace calls PluginHook6, 1, 2, 3, 4, 5, 7, RegisterInfoTooltips,
+/// RegisterWsPanelDialog and RegisterCatalogExtenders, in this order. During all of them
+/// CWsManager::Instance returns the manager with its registries, including the registrations of
+/// earlier modules; tree templates, log view, main panel and repositories do not exist yet.
 ///
-/// A file that is added to a running workspace is called otherwise: PluginHook7, 6, 1, 3, 4,
-/// then the three Register operations as above. Hooks 2 and 5 are for the start alone.
+/// A file added to a running workspace gets PluginHook7, 6, 1, 3, 4, then the three Register
+/// functions as above. Hooks 2 and 5 are called at the start only.
 class IPluginInfo {
 public:
     virtual ~IPluginInfo() = default;
@@ -58,5 +56,5 @@ public:
     }
 };
 
-/// Type of the exported provider.
+/// Type of the exported provider function.
 using PluginInfoProvider = IPluginInfo* (*)();

@@ -1,4 +1,4 @@
-// Small rules of the load of the plug-ins.
+// Rules for loading plug-ins.
 #pragma once
 
 #include <cstddef>
@@ -7,10 +7,10 @@
 
 namespace Orvane::Workspace {
 
-/// A library on a network share may be there at the second look.
+/// A library on a network share may only be found on a later attempt.
 inline constexpr int kLoadAttempts = 7;
 
-/// Calls load() until it gives a library, at once and seven times at most.
+/// Calls load() until it returns a library, at most seven times without a delay.
 template <class Load>
 HINSTANCE LoadWithAttempts(Load load) {
     HINSTANCE library = nullptr;
@@ -20,7 +20,7 @@ HINSTANCE LoadWithAttempts(Load load) {
     return library;
 }
 
-/// How far the load is when the record of an index, from 0, is taken up.
+/// Progress of the load when the record at this index (from 0) is next.
 inline int LoadPercent(std::size_t index, std::size_t count) {
     return static_cast<int>(static_cast<double>(index + 1) * 100.0 / static_cast<double>(count));
 }

@@ -1,14 +1,13 @@
-// Progress of the load of the plug-ins, on a window of its own where there is one.
+// Progress display while plug-ins are loaded.
 #pragma once
 
 namespace Orvane::Workspace {
 
-/// Held on the stack by the plug-in manager for the time of the load. There is no window
-/// in this build: Show answers 0 at once, and the caller writes its progress to the
-/// command line.
+/// A local of the plug-in manager while it loads. This build has no splash window: Show returns
+/// 0, and the caller prints its progress at the command line.
 class CSplashScreen {
 public:
-    /// Non-zero if the window is there.
+    /// Non-zero if the window is shown.
     int Show() { return m_bShown; }
     void SetTitle(const wchar_t* /*lpszTitle*/) {}
     void SetProgress(int /*nPercent*/, const wchar_t* /*lpszText*/) {}

@@ -13,7 +13,7 @@ void CWsModule::SetMsgName(int msgName) {
 }
 
 CString CWsModule::GetXML() const {
-    // The run-time fields are a dump: they mean nothing in a file, and no reader takes them.
+    // Run-time fields are written for debugging only; no reader uses them.
     const auto low32 = [](auto pointer) {
         return static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(pointer));
     };

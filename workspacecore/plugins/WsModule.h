@@ -1,4 +1,4 @@
-// One plug-in module: what the registry file says of it, and how it stands now.
+// One plug-in module: its registry entry and current state.
 #pragma once
 
 #include "platform/win/String.h"
@@ -8,9 +8,8 @@
 
 namespace Orvane::Workspace {
 
-/// A plain record. It does not own the library behind its handle; the plug-in manager
-/// alone loads and frees. A copy carries everything, so a copy of a loaded module looks
-/// loaded.
+/// A plain record. The library behind the handle is owned by the plug-in manager, which alone
+/// loads and frees it. A copy of a loaded module looks loaded, too.
 class WORKSPACE_API CWsModule {
 public:
     CWsModule() = default;
@@ -19,14 +18,14 @@ public:
     virtual ~CWsModule() = default;
 
     int GetMsgName() const { return m_nMsgName; }
-    /// Stores the message id and the display name that it stands for now.
+    /// Stores the message id and the display name it currently resolves to.
     void SetMsgName(int msgName);
     CString GetName() const { return m_strName; }
-    /// Non-zero if the module is wanted; only such modules are loaded.
+    /// Non-zero if the module is enabled; only enabled modules are loaded.
     int GetOn() const { return m_bOn; }
     void SetOn(int on) { m_bOn = on; }
-    /// Relative to the folder "install" when it came from the registry file, a whole path
-    /// when a file was added at run time.
+    /// Relative to the folder "install" if read from the registry file, an absolute path if added
+    /// at run time.
     CString GetFileName() const { return m_strFileName; }
     void SetFileName(const wchar_t* fileName) { m_strFileName = fileName; }
     int GetLoaded() const { return m_bLoaded; }

@@ -7,8 +7,8 @@
 #include "platform/win/StringArray.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/utility/Utility.h"
-#include "workspacecore/core/DamagedFile.h"
 #include "workspacecore/foundation/XmlRecord.h"
+#include "workspacecore/trace/DamagedFile.h"
 
 namespace Orvane::Workspace {
 
@@ -78,7 +78,7 @@ CString CWsModuleRegistry::GetXML() const {
 int CWsModuleRegistry::ParseXML(const wchar_t* lpszXml) {
     Clear();
     XmlDocument document;
-    // An ill-formed text is read as far as its index goes.
+    // Reads as much of an ill-formed text as has been indexed.
     document.SetDoc(lpszXml);
     if (!document.FindElem(L"moduleRegistry")) {
         return 0;

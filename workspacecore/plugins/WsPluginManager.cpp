@@ -37,8 +37,8 @@ constexpr Hook kStartHooks[] = {
     {&IPluginInfo::RegisterCatalogExtenders, L"RegisterCatalogExtenders"},
 };
 
-/// A file that is added to a running workspace is asked in another order, and for less:
-/// hooks 2 and 5 belong to the start.
+/// A file added to a running workspace gets fewer hooks, in another order: hooks 2 and 5 belong
+/// to the start.
 constexpr Hook kSingleFileHooks[] = {
     {&IPluginInfo::PluginHook7, L"PluginHook7"},
     {&IPluginInfo::PluginHook6, L"PluginHook6"},
@@ -55,8 +55,8 @@ IPluginInfo* CallProvider(PluginInfoProvider provider, const wchar_t* fileName) 
     return provider();
 }
 
-/// Asks the provider anew for each hook, as plug-ins expect. False if it has nothing to hand out
-/// for the first one, which means that the module is no plug-in.
+/// Calls the provider before each hook, as plug-ins expect. Returns false if it returns null for
+/// the first one, in which case the module is not a plug-in.
 bool RunHooks(PluginInfoProvider provider, const wchar_t* fileName, std::span<const Hook> hooks) {
     for (const Hook& hook : hooks) {
         IPluginInfo* const pInfo = CallProvider(provider, fileName);
@@ -127,8 +127,7 @@ int CWsPluginManager::LoadModules() {
 
     int bAnyAccepted = 0;
     const CWsModuleRegistry::ModuleVector& modules = *m_pModuleRegistry->GetWsModuleVector();
-    // By index against the size of the moment: a hook may append a record, which is then
-    // loaded in its turn.
+    // By index with the current size: a hook may append a record, which is then loaded in turn.
     for (std::size_t i = 0; i < modules.size(); ++i) {
         const CWsModuleRegistry::ModulePtr module = modules[i];
         const CString fileName = module->GetFileName();
@@ -196,7 +195,7 @@ void CWsPluginManager::ReleaseModules() {
     }
     for (const auto& module : *m_pModuleRegistry->GetWsModuleVector()) {
         if (module->GetOn() && module->GetLoaded()) {
-            // The release entry is known and left uncalled: plug-ins end with the process.
+            // The release function is deliberately not called: plug-ins end with the process.
             DropLibrary(*module);
             module->SetOn(0);
         }

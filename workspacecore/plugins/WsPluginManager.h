@@ -7,8 +7,8 @@ namespace Orvane::Workspace {
 
 class CWsPanelDialogManager;
 
-/// A member of CWsManager. The constructor reads "ModuleRegistry.xml" from the folder
-/// "support"; nothing is loaded before LoadModules. Main thread only.
+/// A member of CWsManager. The constructor reads "ModuleRegistry.xml" from the folder "support";
+/// nothing is loaded before LoadModules. Main thread only.
 class WORKSPACE_API CWsPluginManager {
 public:
     CWsPluginManager();
@@ -17,20 +17,20 @@ public:
     ~CWsPluginManager();
 
     CWsModuleRegistry* GetModuleRegistry() const { return m_pModuleRegistry.get(); }
-    /// 0 if the registry file could not be read; then there is nothing to load.
+    /// 0 if the registry file could not be read; then nothing is loaded.
     int IsRegistryLoaded() const { return m_bRegistryLoaded; }
 
-    /// Loads every module that is on, once in the life of the process. A module that
-    /// cannot be loaded stops nothing; an exception from a hook leaves the call.
-    /// \return 1 if at least one module was accepted in this run
+    /// Loads every enabled module, once per process. A module that fails to load does not stop
+    /// the others; exceptions of hooks propagate.
+    /// \return 1 if at least one module was loaded by this call
     int LoadModules();
 
-    /// Loads a single file and adds a record for it. 0 if a loaded module has its name
-    /// already, if it cannot be loaded, or if it is no plug-in.
+    /// Loads a single file and adds a record for it. Returns 0 if a loaded module has the same
+    /// name, if it cannot be loaded, or if it is not a plug-in.
     int LoadModule(const wchar_t* lpszFile);
 
-    /// Frees the libraries of all modules that are on and loaded. Their objects are not
-    /// destroyed first, so this is for the end of the manager only.
+    /// Unloads the libraries of all enabled and loaded modules. Their objects are not destroyed
+    /// first, so call this only when the manager ends.
     void ReleaseModules();
 
 private:
@@ -38,7 +38,7 @@ private:
     boost::shared_ptr<CWsModuleRegistry> m_pModuleRegistry;
     int m_bRegistryLoaded = 0;
     int m_bModulesLoaded = 0;
-    /// Handed in by the manager; what the modules registered there is stacked when all are in.
+    /// Set by the owning manager; its panel buttons are stacked after all modules are loaded.
     CWsPanelDialogManager* m_pPanels = nullptr;
 };
 

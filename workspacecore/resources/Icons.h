@@ -1,4 +1,4 @@
-// The pictures of this module that are known by a number.
+// Images of this module, by resource id.
 #pragma once
 
 #include "platform/mfc/Image.h"
@@ -15,12 +15,12 @@ enum enmModuleIcon : UINT {
     IconCaptionHelp = 114,
 };
 
-/// Of a button on a dialog's caption.
+/// Size of a caption button's image.
 inline constexpr CSize kCaptionIconSize(13, 11);
 
-/// The icon of a number, not owned; null for a number without one.
+/// The icon with this id, not owned; null for an unknown id.
 WORKSPACE_API HICON ModuleIcon(UINT number);
-/// Its picture; empty for a number without one.
+/// The image with this id; empty for an unknown id.
 WORKSPACE_API CImage ModuleImage(UINT number, CSize size);
 
 } // namespace Orvane::Workspace

@@ -5,7 +5,7 @@
 namespace Orvane::Workspace {
 
 namespace {
-/// Its address tells the module from others; what it holds is of no account.
+/// Only the address is used, to identify the module.
 char moduleMark;
 } // namespace
 

@@ -1,12 +1,12 @@
-// The dialogs and icons of this module, current for a while.
+// Scoped switch to the dialogs and icons of this module.
 #pragma once
 
 #include "workspacecore/Api.h"
 
 namespace Orvane::Workspace {
 
-/// While it lives, this module's resources are the ones that are found first; then those
-/// that were before are again, whatever way out was taken.
+/// Makes this module's resources the first to be searched; the destructor restores the previous
+/// ones.
 class WORKSPACE_API ModuleResources {
 public:
     ModuleResources();

@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* kBadPointer = "Error: Bad pointer";
 
-/// The target of the whole trace, settled at first use for the rest of the process.
+/// The output of the whole trace, chosen on first use for the rest of the process.
 class Log {
 public:
     static Log& Instance() {
@@ -39,7 +39,7 @@ std::vector<std::string>& Scopes() {
     return s_vecTraceScopes;
 }
 
-/// Hour, minute and second, each padded with a blank.
+/// Hours, minutes and seconds, each padded with a space.
 std::string TimeOfDay() {
     const std::time_t now = std::time(nullptr);
     std::tm parts{};

@@ -1,4 +1,4 @@
-// The developer's trace: one text file for the whole process, switched by CLogEngine.
+// Developer trace: one text file for the whole process, controlled by CLogEngine.
 //
 // While logging is off a site costs one call of CLogEngine::GetLoggingOnOff; nothing of
 // its arguments is evaluated (but the condition of a verification, which is handed back),
@@ -26,24 +26,24 @@
 
 namespace Orvane::Workspace {
 
-/// What a trace site hands over.
+/// The source location of a trace site.
 struct CTraceLocation {
     const char* m_pszFile;
     int m_nLine;
     const char* m_pszFunction;
     int m_nLevel;
     bool m_bPrefixOnly = false;
-    std::ostream* m_pStream = nullptr; ///< null for the log
+    std::ostream* m_pStream = nullptr; ///< null: the trace file
 };
 
-/// Level of all sites of the system.
+/// Level of all our trace sites.
 inline constexpr int kTraceLevel = 3;
 
 namespace Trace {
 
-/// The qualified name in a signature: no return type, no arguments.
+/// Strips return type and arguments from a function signature.
 constexpr std::string_view QualifiedName(std::string_view signature) {
-    // Words in which a parenthesis, a bracket or a blank belongs to the name.
+    // Names in which a parenthesis, bracket or space is part of the name.
     constexpr std::string_view kOperator = "operator";
     constexpr std::string_view kUnnamed = "(anonymous";
     const std::size_t op = signature.find(kOperator);
@@ -54,7 +54,7 @@ constexpr std::string_view QualifiedName(std::string_view signature) {
         ++open;
     }
     const std::string_view name = signature.substr(0, open);
-    // Backwards over the qualified name to the blank behind the return type.
+    // Backwards over the qualified name to the space after the return type.
     int depth = 0;
     for (std::size_t i = std::min(op, name.size()); i > 0; --i) {
         const char c = name[i - 1];
@@ -66,7 +66,7 @@ constexpr std::string_view QualifiedName(std::string_view signature) {
     return name;
 }
 
-/// The qualified name of a function whose signature the compiler spells, ended with a NUL.
+/// The qualified name of a function as a NUL-terminated string, from the compiler's signature.
 template <std::size_t N>
 consteval std::array<char, N> FunctionName(const char (&signature)[N]) {
     std::array<char, N> text{};
@@ -75,11 +75,11 @@ consteval std::array<char, N> FunctionName(const char (&signature)[N]) {
     return text;
 }
 
-/// The level in force; sites above it stay silent.
+/// The active level; sites above it are silent.
 WORKSPACE_API int Level();
-/// Writes one line. The site's level was compared already.
+/// Writes one line. The caller has already compared the levels.
 WORKSPACE_API void WriteLine(const CTraceLocation& site, std::string_view text);
-/// Names of the open scopes, the newest last. Kept only while logging is on.
+/// Names of the open scopes, newest last. Maintained only while logging is on.
 WORKSPACE_API const std::vector<std::string>& OpenScopes();
 
 WORKSPACE_API std::string Narrow(const wchar_t* text);
@@ -116,7 +116,7 @@ void Format(const CTraceLocation& site, std::wstring_view format, const Args&...
     }
 }
 
-/// Writes the Entering line, and the Exiting line when the scope ends, also by an exception.
+/// Writes the Entering line, and the Exiting line when the scope ends, including by an exception.
 class Scope {
 public:
     explicit Scope(const CTraceLocation& site) : m_site(site) {

@@ -45,7 +45,7 @@ std::vector<CString> LoadFamilyOrder() {
 void SortByFamily(CWsTreeTemplate::Children& children, const std::vector<CString>& familyOrder) {
     CWsTreeTemplate::Children pending = children;
     children.clear();
-    // Moves what is in front of `end` to the sorted ones.
+    // Moves the items before `end` to the sorted ones.
     const auto take = [&](auto begin, auto end) {
         children.insert(children.end(), begin, end);
         pending.erase(begin, end);

@@ -1,16 +1,16 @@
-// The user's order of the families of configurations in a tree.
+// User-defined order of configuration families in a tree.
 #pragma once
 
 #include "workspacecore/tree/WsTreeTemplate.h"
 
 namespace Orvane::Workspace {
 
-/// The tags of "workspaceRepositoryOrder.xml" in the folder "support", first to last. Empty
-/// if the file cannot be read.
+/// The tags in "workspaceRepositoryOrder.xml" in the folder "support", in order. Empty if the
+/// file cannot be read.
 std::vector<CString> LoadFamilyOrder();
 
-/// Brings the children of a template, not those below, into an order: tool groups first,
-/// then the families in the order of their tags, then the others.
+/// Sorts the direct children of a template: tool groups first, then the families in the order of
+/// the tags, then the others.
 void SortByFamily(CWsTreeTemplate::Children& children, const std::vector<CString>& familyOrder);
 
 } // namespace Orvane::Workspace

@@ -1,4 +1,4 @@
-// What a command is given beside the item that it works on.
+// An extra argument of a command, besides its item.
 #pragma once
 
 #include <memory>
@@ -8,16 +8,16 @@
 
 namespace Orvane::Workspace {
 
-/// Nothing, the new name of a rename, or the item that was dropped on the other one.
+/// Nothing, the new name for a rename, or the item that was dropped.
 using ItemArgument = std::variant<std::monostate, CString, std::shared_ptr<const CWsTreeItemData>>;
 
-/// Hands an executor the argument as the custom data of the item, which is all that its
-/// interface has a place for. Null takes it away. Not owned.
+/// Passes an argument to an executor as the item's custom data, the only channel its interface
+/// offers. Null clears it. Not owned.
 inline void WrapArgument(CWsTreeItemData& item, ItemArgument* pArgument) {
     item.SetCustomData(pArgument);
 }
 
-/// The argument of a kind that an executor was handed with the item; null if there is none.
+/// The argument of this type passed with the item; null if there is none.
 template <class Kind>
 const Kind* UnwrapArgument(const CWsTreeItemData* pItem) {
     return pItem ? std::get_if<Kind>(static_cast<const ItemArgument*>(pItem->GetCustomData()))

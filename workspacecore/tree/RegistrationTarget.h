@@ -1,4 +1,4 @@
-// Where the standard registrations go.
+// Destination of the standard registrations.
 #pragma once
 
 #include "workspacecore/commands/WsCommand.h"
@@ -9,22 +9,22 @@ namespace Orvane::Workspace {
 
 class IWsCommandExecutor;
 
-/// What the registrations need of the workspace. The folder above implements it.
+/// The part of the workspace that the registrations need. Implemented in workspacecore/core.
 class IRegistrationTarget {
 public:
     virtual void RegisterWsCommand(const boost::shared_ptr<CWsCommand>& command) = 0;
     virtual void RegisterWsTreeItem(const boost::shared_ptr<CWsTreeItemDefinition>& definition) = 0;
-    /// Null until one was registered.
+    /// Null until registered.
     virtual IWsCommandExecutor* GetBaseExecutor() = 0;
     virtual TreeIcons& Icons() = 0;
-    /// As the active system's topology calls it.
+    /// As named by the active system's topology.
     virtual CString GetEntityTypeName(enmEntityType type) = 0;
 
 protected:
     ~IRegistrationTarget() = default;
 };
 
-/// Handed in once, when the module is loaded; not owned, and lives as long as the module.
+/// Set once when the module is loaded; not owned, and lives as long as the module.
 void SetRegistrationTarget(IRegistrationTarget* pTarget);
 IRegistrationTarget& RegistrationTarget();
 

@@ -14,8 +14,8 @@ namespace {
 using Family = RepositoryItemRegistration;
 using DefinitionPtr = boost::shared_ptr<CWsTreeItemDefinition>;
 
-/// Kinds of entities that a family can serve, in the order of its folders and commands.
-/// Other bits are passed over.
+/// Kinds of entities a family can serve, in the order of its folders and commands. Other bits are
+/// ignored.
 constexpr unsigned int kEntityTypes[] = {1, 2, 16, 32, 64};
 
 std::vector<enmEntityType> SelectedEntityTypes(const Family& family) {
@@ -32,9 +32,9 @@ bool StandsIn(const Family& family, CWsRegistrationFactory::enmRegistrationTarge
     return family.target == tree || family.target == CWsRegistrationFactory::TargetBoth;
 }
 
-// Ids of commands.
+// Command ids.
 
-/// How the ids of a kind of command begin, and the flag without which there are none.
+/// Id prefix of a kind of command, and the flag it depends on.
 struct CommandKind {
     const wchar_t* word;
     int Family::*flag;
@@ -63,7 +63,7 @@ CString CommandId(const Family& family, const CommandKind& kind, enmEntityType e
 
 // Definitions.
 
-/// The kinds of items of one tree.
+/// The item types used in one tree.
 struct TreeKinds {
     enmWSTreeItemType root;
     enmWSTreeItemType folder;
@@ -75,8 +75,8 @@ constexpr TreeKinds kSystemTree = {WsItemSystem, WsItemSystemRepository, WsItemS
 constexpr TreeKinds kRepositoryTree = {WsItemRepositoryRoot, WsItemRepository,
                                        WsItemRepositoryEntityFolder, WsItemRepositoryConfiguration};
 
-/// What folders, entity folders and configurations have in common. A folder gets command
-/// ids for entity type 0, too, though no command has such an id.
+/// The common part of folders, entity folders and configurations. Folders also get command ids
+/// for entity type 0, although no such commands exist.
 DefinitionPtr CreateDefinition(const Family& family, enmEntityType entityType,
                                enmWSTreeItemType type, enmWSTreeItemType parentType) {
     DefinitionPtr definition(new CWsTreeItemDefinition);
@@ -115,7 +115,7 @@ void RegisterEntityFolder(const Family& family, enmEntityType entityType, const 
     RegistrationTarget().RegisterWsTreeItem(definition);
 }
 
-/// All configurations of a family have its tag for an id.
+/// All configurations of a family have its tag as their id.
 DefinitionPtr RegisterConfiguration(const Family& family, enmEntityType entityType,
                                     const TreeKinds& kinds) {
     DefinitionPtr definition =
@@ -147,7 +147,7 @@ std::vector<DefinitionPtr> RegisterTree(const Family& family, const TreeKinds& k
 
 // Commands.
 
-/// Kinds of items to which the commands apply.
+/// Item types to which the commands apply.
 struct ItemTypeSets {
     unsigned long deleteTypes = 0;
     unsigned long editTypes = 0;
@@ -183,7 +183,7 @@ struct CommandRow {
 };
 using Sets = ItemTypeSets;
 
-/// Of a family that stands in the system tree.
+/// For families in the system tree.
 constexpr CommandRow kSystemRows[] = {
     {kAdd, CommandRow::Base, CommandGroupAdd, 4378, TreeBehaviorAdd, &Sets::addTypes},
     {kEdit, CommandRow::Base, CommandGroupEdit, 2910, TreeBehaviorEdit, &Sets::editTypes},
@@ -192,8 +192,8 @@ constexpr CommandRow kSystemRows[] = {
     {kQueryDrop, CommandRow::Own, CommandGroupHidden, 6065, TreeBehaviorNone, &Sets::editTypes},
 };
 
-/// Of every family. The copy of one that stands in the repository trees alone applies to
-/// nothing, and no menu shows it.
+/// For every family. For a family that is in the repository trees only, the copy command applies
+/// to no item and appears in no menu.
 constexpr CommandRow kRows[] = {
     {kDelete, CommandRow::Base, CommandGroupDelete, 6043, TreeBehaviorDelete, &Sets::deleteTypes},
     {kRename, CommandRow::Base, CommandGroupEdit, 1379, TreeBehaviorEdit, &Sets::deleteTypes},
@@ -217,8 +217,8 @@ void RegisterRows(const Family& family, std::span<const CommandRow> rows, enmEnt
     }
 }
 
-/// For no kind of entity, and whether it has an id or not: of the families without one, the
-/// first gets the command of the empty id.
+/// Always registered for EntityNone, even with an empty id: of the families without one, only the
+/// first gets its command.
 void RegisterSetAsDefault(const Family& family, enmEntityType entityType) {
     RegisterStandardCommand({CommandId(family, kSetAsDefault, entityType), CommandGroupRun, 9056,
                              TreeBehaviorNone, WsItemSystemConfiguration},
@@ -250,7 +250,8 @@ void RegisterFamilyCommands(const Family& family, int hasSendToRepository) {
     std::vector<enmEntityType> entityTypes = {EntityNone};
     if (family.commandsPerEntity) {
         entityTypes = SelectedEntityTypes(family);
-        // With a set of commands for each kind of entity, sending has the reach of deleting.
+        // With one set of commands per kind of entity, sending applies to the same items as
+        // deleting.
         types.sendToTypes = types.deleteTypes;
     }
     const bool hasDefaultItem = HasDefaultItem(family);

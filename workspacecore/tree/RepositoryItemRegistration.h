@@ -1,12 +1,12 @@
-// One registration of a family of repository configurations.
+// Registration data of a family of repository configurations.
 #pragma once
 
 #include "workspacecore/tree/WsRegistrationFactory.h"
 
 namespace Orvane::Workspace {
 
-/// What was asked for (CWsRegistrationFactory::RegisterRepositoryItem), from which the
-/// definitions and commands of the family are made.
+/// Arguments of CWsRegistrationFactory::RegisterRepositoryItem, from which the definitions and
+/// commands of the family are created.
 struct RepositoryItemRegistration {
     CString repositoryTag;
     CString name;
@@ -29,9 +29,9 @@ struct RepositoryItemRegistration {
     int hasSendToSystem;
 };
 
-/// Registers the definitions of the folders and items, tree by tree.
+/// Registers the definitions of the folders and items, one tree after the other.
 void RegisterFamilyDefinitions(const RepositoryItemRegistration& family, int doubleClickNotEdit);
-/// Registers the commands, once or for each kind of entity.
+/// Registers the commands, once or per kind of entity.
 void RegisterFamilyCommands(const RepositoryItemRegistration& family, int hasSendToRepository);
 
 } // namespace Orvane::Workspace

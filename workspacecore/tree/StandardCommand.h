@@ -1,4 +1,4 @@
-// How the standard registrations make a command.
+// Creation of the standard commands.
 #pragma once
 
 #include "workspacecore/commands/WsCommand.h"
@@ -6,7 +6,7 @@
 
 namespace Orvane::Workspace {
 
-/// What the tables of commands say of one.
+/// One row of the command tables.
 struct StandardCommand {
     CString id;
     enmCommandGroup group;
@@ -15,15 +15,14 @@ struct StandardCommand {
     unsigned long itemTypes;
 };
 
-/// Registers a command and then gives it its topologies. If its id is taken, the record is
-/// dropped, topologies and all.
+/// Registers a command and assigns its topologies. If the id is taken, the command is discarded.
 void RegisterStandardCommand(const StandardCommand& standard, IWsCommandExecutor* executor,
                              const wchar_t* repositoryTag, enmEntityType entityType,
                              const CWsTopologyDataSet::Vector& topologies);
 
-/// The given topologies; if that is null, a new record for every function of every topology
-/// of the configuration, with function 0 where there are none.
-/// \param entityType only topologies whose systems hold such entities
+/// The given topologies; if null, a new record for every function of every topology of the
+/// configuration, with function 0 for topologies without functions.
+/// \param entityType limits the result to topologies whose systems hold such entities
 CWsTopologyDataSet::Vector StandardTopologies(const CWsTopologyDataSet::Vector* given,
                                               enmEntityType entityType);
 

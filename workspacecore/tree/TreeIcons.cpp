@@ -10,7 +10,7 @@ namespace Orvane::Workspace {
 
 namespace {
 
-/// By its name in the configuration, or by its number among the pictures of this module.
+/// Either a name in the configuration or a resource id of this module.
 struct IconSource {
     const wchar_t* name;
     UINT number = 0;
@@ -21,7 +21,7 @@ HICON Find(const IconSource& source) {
                        : ModuleIcon(source.number);
 }
 
-/// \param kept stays null, and so is asked for again, until the icon is found
+/// \param kept stays null until the icon is found, so the next call retries
 HICON FindOnce(HICON& kept, const IconSource& source) {
     if (!kept) {
         kept = Find(source);

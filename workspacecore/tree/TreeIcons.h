@@ -1,4 +1,4 @@
-// The icons of the kinds of nodes in the trees.
+// Icons of the node types in the trees.
 #pragma once
 
 #include <array>
@@ -9,11 +9,10 @@
 
 namespace Orvane::Workspace {
 
-/// Each is looked for when it is first asked for. One that cannot be found stays null and is
-/// looked for again the next time.
+/// Loaded on first use. An icon that cannot be found stays null, and the next call looks again.
 class TreeIcons {
 public:
-    /// Those that do not depend on a topology or an entity.
+    /// Icons that do not depend on a topology or an entity.
     enum enmIcon {
         SystemManagerIcon,
         DiskRepositoryIcon,
@@ -28,7 +27,7 @@ public:
     };
 
     HICON Get(enmIcon icon);
-    /// Of a system. Null for other topologies than lines, polygons and points.
+    /// Icon of a system. Null for topologies other than lines, polygons and points.
     HICON Get(enmTopologyType type);
     HICON Get(enmEntityType type);
 

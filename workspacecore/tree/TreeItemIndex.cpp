@@ -9,7 +9,7 @@ namespace Orvane::Workspace {
 namespace {
 
 constexpr const wchar_t* kEveryFamily = L"0";
-/// Stands for whatever kind of entity; no kind has the number.
+/// Matches any kind of entity; not a valid enmEntityType.
 constexpr int kAnyEntityType = -1;
 constexpr int kUnknown = -1;
 
@@ -28,7 +28,7 @@ std::size_t TreeItemIndex::KeyHash::operator()(const Key& key) const {
     const auto bits = [](int number) { return static_cast<std::uint32_t>(number); };
     const std::uint64_t mixed = (std::uint64_t{bits(key.tag)} << 32U | bits(key.entityType)) ^
                                 std::uint64_t{bits(key.topology)} << 20U;
-    return mixed * 0x9E3779B97F4A7C15U; // spreads neighbours over the table
+    return mixed * 0x9E3779B97F4A7C15U; // spreads neighbouring keys over the table
 }
 
 TreeItemIndex::TreeItemIndex(const DefinitionMapByType& definitions, const Kinds& kinds)
@@ -63,7 +63,7 @@ void TreeItemIndex::AddFolder(const DefinitionPtr& definition, std::size_t place
 }
 
 void TreeItemIndex::AddConfiguration(const DefinitionPtr& definition) {
-    // The first one stays.
+    // The first registration wins.
     ForEachTopology(definition, [&](const Key& key) {
         m_configurations.try_emplace(key, definition);
         m_configurations.try_emplace({key.tag, key.topology, kAnyEntityType}, definition);
@@ -95,7 +95,7 @@ TreeItemIndex::DefinitionVector TreeItemIndex::Family::EntityFolders(enmEntityTy
     const std::vector<Registered>& ofAll = m_pIndex->Folders({m_everyFamily, m_topology, type});
     std::vector<Registered> merged;
     const auto earlier = [](const Registered& a, const Registered& b) { return a.place < b.place; };
-    // A union: the family "0" itself has its folders once.
+    // A set union, so the family "0" itself does not get its folders twice.
     std::set_union(ofFamily.begin(), ofFamily.end(), ofAll.begin(), ofAll.end(),
                    std::back_inserter(merged), earlier);
     DefinitionVector found;

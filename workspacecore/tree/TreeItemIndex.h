@@ -1,4 +1,4 @@
-// Finds, while templates are assembled, what belongs under a repository folder.
+// Look-up of the children of repository folders while templates are assembled.
 #pragma once
 
 #include <string>
@@ -8,32 +8,32 @@
 
 namespace Orvane::Workspace {
 
-/// Entity folders and configurations by family, kind of entity and, in the system tree,
-/// topology, so that assembling costs as much as there are nodes to make. Valid as long as
-/// the definitions do not change. Tags compare without regard to case.
+/// Entity folders and configurations by family, kind of entity and, in the system tree, topology,
+/// so that assembly is linear in the number of nodes created. Valid while the definitions do not
+/// change. Tags are case-insensitive.
 class TreeItemIndex {
 public:
     using DefinitionPtr = CWsTreeItemDefinitionList::DefinitionPtr;
     using DefinitionVector = CWsTreeItemDefinitionList::DefinitionVector;
     using DefinitionMapByType = CWsTreeItemDefinitionList::DefinitionMapByType;
 
-    /// What a tree's entity folders and configurations are.
+    /// Item types of a tree's entity folders and configurations.
     struct Kinds {
         enmWSTreeItemType entityFolder;
         enmWSTreeItemType configuration;
-        bool byTopology; ///< definitions stand under the topologies that they name alone
+        bool byTopology; ///< definitions apply only to the topologies they list
     };
 
     TreeItemIndex(const DefinitionMapByType& definitions, const Kinds& kinds);
 
-    /// One family in one place of a tree.
+    /// One family at one place of a tree.
     class Family {
     public:
-        /// The folders of the family and those of every family, in order of registration.
+        /// The folders of this family and those for all families, in order of registration.
         DefinitionVector EntityFolders(enmEntityType type) const;
-        /// The first configuration for a kind of entity; null for none.
+        /// The first configuration for a kind of entity; null if there is none.
         DefinitionPtr Configuration(enmEntityType type) const;
-        /// The same for whatever kind of entity.
+        /// The first configuration for any kind of entity.
         DefinitionPtr Configuration() const;
 
     private:
@@ -43,16 +43,16 @@ public:
         int m_everyFamily;
         int m_topology;
     };
-    /// \param topology a key of topology data; empty in trees that know no topologies
+    /// \param topology a key of topology data; empty in trees without topologies
     Family In(const CString& tag, const CString& topology) const;
 
 private:
-    /// A definition and its place in the order of registration.
+    /// A definition with its registration index.
     struct Registered {
         std::size_t place;
         DefinitionPtr definition;
     };
-    /// Family, topology and kind of entity as numbers, the texts counted as they come.
+    /// Family, topology and kind of entity, with the texts mapped to numbers.
     struct Key {
         int tag;
         int topology;
@@ -72,7 +72,7 @@ private:
     DefinitionPtr Configuration(const Key& key) const;
 
     bool m_byTopology;
-    Numbers m_tags; ///< in lower case
+    Numbers m_tags; ///< lower case
     Numbers m_topologies;
     std::unordered_map<Key, std::vector<Registered>, KeyHash> m_folders;
     std::unordered_map<Key, DefinitionPtr, KeyHash> m_configurations;

@@ -40,9 +40,9 @@ constexpr struct {
     {L"SYSTEM_TOGGLEVISIBILITY", CommandGroupHidden, 6218, TreeBehaviorNone, WsItemSystem},
 };
 
-/// In the order of registration. Templates have another order.
+/// In order of registration, which differs from the order in templates.
 constexpr struct {
-    const wchar_t* idFormat; ///< of topology type and function
+    const wchar_t* idFormat; ///< arguments: topology type and function
     int nameMessage;
     TreeIcons::enmIcon icon;
     enmWSTreeItemType itemType;
@@ -110,7 +110,7 @@ CWsRegistrationFactory::RegisterSystemItem(IWsCommandExecutor* executor,
     const TopologyDataVector records = StandardTopologies(topologies, EntityNone);
     DefinitionPtr definition(new CWsTreeItemDefinition);
     definition->SetId(L"SYSTEM");
-    // One picture for systems of every kind.
+    // Systems of all topologies share one icon.
     definition->SetIcon(RegistrationTarget().Icons().Get(TopologyPolygon));
     definition->SetWsItemType(WsItemSystem);
     definition->SetWsParentItemType(WsItemSystemManager);
@@ -118,7 +118,7 @@ CWsRegistrationFactory::RegisterSystemItem(IWsCommandExecutor* executor,
     AddTopologies(*definition, records);
     if (registerCommands) {
         definition->SetCmdIdDoubleClick(L"SYSTEM_DBLCLICK");
-        // A plug-in may bring a command of this id; none is made here.
+        // Optional: a plug-in may register a command with this id.
         definition->SetCmdIdRename(L"SYSTEM_REN");
         definition->SetCmdIdRepositoryItemDrop(L"SYSTEM_DROPITEM");
         RegisterSystemCommands(executor, records);

@@ -1,4 +1,4 @@
-// What hangs on each live node of a tree.
+// Data attached to each node of a tree.
 #pragma once
 
 #include "workspacecore/tree/WsTreeItemDefinition.h"
@@ -12,19 +12,19 @@ class CGisSystem;
 
 namespace Orvane::Workspace {
 
-/// Ties a node to its kind and to what it stands for. Made and owned by the panel that fills
-/// the tree, which stores the address as the node's item data; deleting a node does not
-/// touch it. Copies share the definition.
+/// Connects a node with its definition and the object it represents. Created and owned by the
+/// panel that fills the tree, which stores the address as the node's item data; deleting a node
+/// does not delete it. Copies share the definition.
 class CWsTreeItemData {
 public:
     using DefinitionPtr = boost::shared_ptr<CWsTreeItemDefinition>;
 
     const DefinitionPtr& GetPtrItemDefinition() const { return m_ptrItemDefinition; }
     void SetPtrItemDefinition(const DefinitionPtr& definition) { m_ptrItemDefinition = definition; }
-    /// Of the live object, such as a configuration; empty for folders.
+    /// GUID of the object, such as a configuration; empty for folders.
     CString GetGuid() const { return m_strGuid; }
     void SetGuid(const wchar_t* guid) { m_strGuid = guid; }
-    /// The node itself, as long as it stands.
+    /// The node itself; valid while it exists.
     HTREEITEM GetTreeItem() const { return m_hTreeItem; }
     void SetTreeItem(HTREEITEM item) { m_hTreeItem = item; }
     void* GetData() const { return m_pData; }
@@ -39,7 +39,7 @@ public:
     void SetTargetNet(int net) { m_bTargetNet = net; }
     int GetRunFromSystem() const { return m_bRunFromSystem; }
     void SetRunFromSystem(int run) { m_bRunFromSystem = run; }
-    /// Agreed between a command and its caller; not owned.
+    /// Meaning agreed between a command and its caller; not owned.
     void* GetCustomData() const { return m_pCustomData; }
     void SetCustomData(void* data) { m_pCustomData = data; }
 

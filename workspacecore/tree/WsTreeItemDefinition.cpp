@@ -9,7 +9,7 @@ CWsTreeItemDefinition::CWsTreeItemDefinition(const CWsTreeItemDefinition& other)
     CopyValues(other);
 }
 
-// Field by field, which bears assignment to itself.
+// Member by member, so self-assignment is safe.
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
 CWsTreeItemDefinition& CWsTreeItemDefinition::operator=(const CWsTreeItemDefinition& other) {
     CopyValues(other);

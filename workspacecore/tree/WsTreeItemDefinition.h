@@ -1,4 +1,4 @@
-// What a kind of node in the trees is: its name, its place, its commands.
+// Definition of a kind of tree node: its name, position and commands.
 #pragma once
 
 #include "platform/win/Types.h"
@@ -7,8 +7,8 @@
 
 namespace Orvane::Workspace {
 
-/// Made by whoever registers a kind of tree item, shared with the list of definitions, the
-/// templates and every live node of the kind.
+/// Created by the code that registers it, and shared with the list of definitions, the templates
+/// and all nodes of the kind.
 class WORKSPACE_API CWsTreeItemDefinition {
 public:
     using TopologyDataPtr = CWsTopologyDataSet::Ptr;
@@ -16,14 +16,14 @@ public:
     using TopologyDataMap = CWsTopologyDataSet::Map;
 
     CWsTreeItemDefinition() = default;
-    /// Copies share the topology records. They do not carry what a node answers to (drops
-    /// of repository items, drags, renaming, the ids of its commands): a fresh copy has none
-    /// of it, and the target of an assignment keeps its own.
+    /// Copies share the topology records. Reactions of a node (drops of repository items, drags,
+    /// renaming, command ids) are not copied: a new copy has none, and the target of an
+    /// assignment keeps its own.
     CWsTreeItemDefinition(const CWsTreeItemDefinition& other);
     CWsTreeItemDefinition& operator=(const CWsTreeItemDefinition& other);
     virtual ~CWsTreeItemDefinition() = default;
 
-    /// Several definitions may have the same id.
+    /// Not necessarily unique.
     CString GetId() const { return m_strId; }
     void SetId(const wchar_t* id) { m_strId = id; }
     HICON GetIcon() const { return m_hIcon; }
@@ -32,10 +32,10 @@ public:
     void SetName(const wchar_t* name) { m_strName = name; }
     CString GetDescription() const { return m_strDescription; }
     void SetDescription(const wchar_t* description) { m_strDescription = description; }
-    /// One kind, not a union.
+    /// A single type, not a bit set.
     enmWSTreeItemType GetWsItemType() const { return m_wsItemType; }
     void SetWsItemType(enmWSTreeItemType type) { m_wsItemType = type; }
-    /// For readers only; where a node stands follows from its own type.
+    /// Informational only; the position of a node follows from its own type.
     enmWSTreeItemType GetWsParentItemType() const { return m_wsParentItemType; }
     void SetWsParentItemType(enmWSTreeItemType type) { m_wsParentItemType = type; }
     /// Tag of the repository family; "0" on an entity folder puts it into every family.
@@ -52,7 +52,7 @@ public:
     int GetAllowRename() const { return m_bAllowRename; }
     void SetAllowRename(int allow) { m_bAllowRename = allow; }
 
-    // Ids of the commands that answer; empty for none.
+    // Command ids; empty if the node has no such command.
     CString GetCmdIdDoubleClick() const { return m_strCmdIdDoubleClick; }
     void SetCmdIdDoubleClick(const wchar_t* id) { m_strCmdIdDoubleClick = id; }
     CString GetCmdIdQueryDrop() const { return m_strCmdIdQueryDrop; }
@@ -62,22 +62,22 @@ public:
     CString GetCmdIdRename() const { return m_strCmdIdRename; }
     void SetCmdIdRename(const wchar_t* id) { m_strCmdIdRename = id; }
 
-    /// Non-zero if the family has a folder for each kind of entity.
+    /// Non-zero if the family has one folder per kind of entity.
     int GetIsEntitySpecific() const { return m_bIsEntitySpecific; }
     void SetIsEntitySpecific(int specific) { m_bIsEntitySpecific = specific; }
     int GetIsDoubleClickActionEdit() const { return m_bIsDoubleClickActionEdit; }
     void SetIsDoubleClickActionEdit(int edit) { m_bIsDoubleClickActionEdit = edit; }
-    /// EntityNone for items of every kind of entity.
+    /// EntityNone for items of all kinds of entities.
     enmEntityType GetEntityType() const { return m_entityType; }
     void SetEntityType(enmEntityType type) { m_entityType = type; }
-    /// Places in the image list of the tree that shows the item; -1 until it has one.
+    /// Index in the image list of the tree that shows the item; -1 until assigned.
     int GetIconIndex() const { return m_nIconIndex; }
     void SetIconIndex(int index) { m_nIconIndex = index; }
     int GetGrayIconIndex() const { return m_nGrayIconIndex; }
     void SetGrayIconIndex(int index) { m_nGrayIconIndex = index; }
 
-    /// A second record of the same topology and function stands in the vector again, while
-    /// the map keeps the first.
+    /// A duplicate topology and function is appended to the vector, while the map keeps the first
+    /// record.
     void AddWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Add(data); }
     void RemoveWsTopologyData(const TopologyDataPtr& data) { m_wsTopologyData.Remove(data); }
     int DoesTopologyDataExist(const CWsTopologyData* data) const {
@@ -87,8 +87,8 @@ public:
     TopologyDataMap* GetWsTopologyDataMap() { return &m_wsTopologyData.map; }
 
     CString GetXML() const;
-    /// As assignment, but the target gets topology records of its own. What its map held
-    /// before stays there.
+    /// Like assignment, but with separate topology records. Existing entries of the target's map
+    /// stay.
     void MakeDeepCopy(CWsTreeItemDefinition& target) const;
 
 private:

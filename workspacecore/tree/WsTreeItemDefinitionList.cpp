@@ -1,4 +1,4 @@
-// The definitions themselves, and their text.
+// The list of definitions and its XML form.
 #include "workspacecore/tree/WsTreeItemDefinitionList.h"
 
 #include <algorithm>
@@ -9,8 +9,7 @@ namespace Orvane::Workspace {
 
 namespace {
 
-/// Families that have no entity folders, for texts that were written before there was an
-/// attribute for it.
+/// Families without entity folders, for files written before the attribute existed.
 constexpr const wchar_t* kNotEntitySpecific[] = {L"QUERY", L"LONGITUDINAL"};
 
 int ReadEntitySpecific(const XmlDocument& document, const CString& tag) {
@@ -30,7 +29,7 @@ void ReadTopologies(XmlDocument& document, CWsTreeItemDefinition& definition) {
     document.IntoElem();
     while (document.FindElem(L"wsTopologyData")) {
         const auto type = static_cast<enmTopologyType>(ReadXmlInt(document, L"topologyType"));
-        // Into the vector alone: what was read takes no part in templates.
+        // Only into the vector: definitions read from a text are not used in templates.
         definition.GetWsTopologyDataVector()->push_back(CWsTopologyDataSet::Ptr(
             new CWsTopologyData(type, ReadXmlInt(document, L"topologyFunction"))));
     }
@@ -86,7 +85,7 @@ CString CWsTreeItemDefinitionList::GetXML() const {
 int CWsTreeItemDefinitionList::ParseXML(const wchar_t* xml) {
     Clear();
     XmlDocument document;
-    // An ill-formed text is read as far as its index goes.
+    // Reads as much of an ill-formed text as has been indexed.
     document.SetDoc(xml);
     if (!document.FindElem(L"wsTreeItemDefinitionList")) {
         return 0;

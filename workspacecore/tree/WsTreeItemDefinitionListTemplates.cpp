@@ -1,4 +1,4 @@
-// The assembly of the templates.
+// Assembly of the tree templates.
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/systems/GisSystem.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
@@ -16,7 +16,7 @@ constexpr TreeItemIndex::Kinds kSystemTree = {WsItemSystemEntityFolder, WsItemSy
 constexpr TreeItemIndex::Kinds kRepositoryTree = {WsItemRepositoryEntityFolder,
                                                   WsItemRepositoryConfiguration, false};
 
-/// The tool groups of a system, in the order of the nodes under it.
+/// The tool groups of a system, in display order.
 constexpr enmWSTreeItemType kToolGroups[] = {WsItemSystemToolDraw,    WsItemSystemToolEdit,
                                              WsItemSystemToolSetData, WsItemSystemToolManager,
                                              WsItemSystemTool,        WsItemSystemToolFastCommand};
@@ -33,8 +33,7 @@ std::vector<enmEntityType> EntityTypes(const CTopology& topology) {
     return types;
 }
 
-/// The kinds of entities of all topologies that are in use. One that two topologies have
-/// is there twice.
+/// The kinds of entities of all enabled topologies; those used by two topologies occur twice.
 std::vector<enmEntityType> EntityTypesInUse() {
     std::vector<enmEntityType> all;
     for (const CTopology& topology :
@@ -49,7 +48,7 @@ std::vector<enmEntityType> EntityTypesInUse() {
 
 } // namespace
 
-/// Makes nodes. It alone and the list see into templates.
+/// Builds templates. A friend of the templates, as is the list.
 class TreeTemplateAssembly {
 public:
     static TemplatePtr Append(const TemplatePtr& parent, const DefinitionPtr& definition) {
@@ -60,7 +59,7 @@ public:
         return node;
     }
 
-    /// A repository folder and what stands in it.
+    /// Appends a repository folder with its content.
     /// \param topology a key of topology data; empty in the repository trees
     static void AppendRepositoryFolder(const TemplatePtr& root, const DefinitionPtr& definition,
                                        const TreeItemIndex& index, const CString& topology,
@@ -208,8 +207,8 @@ void CWsTreeItemDefinitionList::InitializeRepositoryTree(TemplatePtr& tree) {
 
 TemplatePtr CWsTreeItemDefinitionList::MakeRepositoryRoot() const {
     TemplatePtr root(new CWsTreeTemplate);
-    // No test for the type itself: the root item has the lowest number of those that are no
-    // part of the system tree.
+    // The type is not compared: the root has the lowest number of all types outside the system
+    // tree.
     const auto hit = m_wsTreeItemDefinitionMapByType.lower_bound(WsItemRepositoryRoot);
     if (hit != m_wsTreeItemDefinitionMapByType.end()) {
         root->m_itemDefinition = hit->second;

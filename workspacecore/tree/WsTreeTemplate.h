@@ -1,15 +1,15 @@
-// A tree of definitions: which kind of node stands where.
+// A tree of item definitions, from which the trees are filled.
 #pragma once
 
 #include "workspacecore/tree/WsTreeItemDefinition.h"
 
 namespace Orvane::Workspace {
 
-/// A node of a template. Panels walk it to fill their trees. The levels are fixed: a root,
-/// tool groups and repository folders below it, entity folders below those that have them.
+/// A node of a template. Panels traverse it to fill their trees. The levels are fixed: a root,
+/// tool groups and repository folders below it, and entity folders below those that have them.
 ///
-/// Links up and down are both shared pointers, so a template keeps itself alive once it
-/// was built. It lives as long as the process does.
+/// Parent and child links are both shared pointers, so a template keeps itself alive and lives as
+/// long as the process.
 class WORKSPACE_API CWsTreeTemplate {
 public:
     using Ptr = boost::shared_ptr<CWsTreeTemplate>;
@@ -18,17 +18,18 @@ public:
 
     /// Null at a root.
     const Ptr& GetParentItem() const { return m_parentItem; }
-    /// What is shown here; null at the root of a repository tree without a root definition.
+    /// The definition shown here; null at the root of a repository tree without a root
+    /// definition.
     const DefinitionPtr& GetItemDefinition() const { return m_itemDefinition; }
-    /// In order of assembly, unless somebody sorted them.
+    /// In order of assembly unless sorted.
     Children* GetChildren() { return &m_children; }
     const Children* GetChildren() const { return &m_children; }
 
-    /// Non-zero where configurations hang.
+    /// Non-zero if configurations are attached here.
     int IsPlaceToAddConfiguration() const { return m_bIsPlaceToAddConfiguration; }
-    /// The kind of those configurations; null for none.
+    /// Definition of those configurations; null if there are none.
     const DefinitionPtr& GetConfigurationDefinition() const { return m_configurationDefinition; }
-    /// Non-zero if the configurations serve one kind of entity.
+    /// Non-zero if the configurations are for one kind of entity.
     int IsEntitySpecificConfiguration() const { return m_bIsEntitySpecificConfiguration; }
     enmEntityType GetConfigurationEntityType() const { return m_configurationEntityType; }
 
@@ -41,7 +42,7 @@ private:
     Children m_children;
     int m_bIsPlaceToAddConfiguration = 0;
     DefinitionPtr m_configurationDefinition;
-    int m_nTopologyType = -1; ///< set at the roots of system trees, as is the function
+    int m_nTopologyType = -1; ///< set at the roots of system trees, like the function
     int m_nTopologyFunction = 0;
     int m_bIsEntitySpecificConfiguration = 0;
     enmEntityType m_configurationEntityType = EntityNone;

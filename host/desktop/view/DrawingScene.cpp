@@ -7,7 +7,7 @@ namespace Tessaly {
 
 namespace {
 
-// A slot: whether it was noted, the kind, and the item's number plus one.
+// Layout of a slot: noted flag, kind, item number plus one.
 constexpr std::uint32_t kNotedBit = 1U << 31U;
 constexpr std::uint32_t kKindShift = 29;
 constexpr std::uint32_t kItemMask = (1U << kKindShift) - 1;
@@ -19,7 +19,7 @@ std::uint32_t SlotOf(ShapeKind kind, std::uint32_t item) {
 }
 
 bool IsSame(std::span<const FloatPoint> left, std::span<const FloatPoint> right) {
-    // By bytes: what is not a number is no number's equal.
+    // Bytewise, because NaN does not equal itself.
     return left.size() == right.size() &&
            std::memcmp(left.data(), right.data(), left.size_bytes()) == 0;
 }
@@ -89,12 +89,12 @@ void DrawingScene::goodbye(const AcDbDatabase*) {
     m_pDatabase = nullptr;
     Drop();
     m_isReplaced = true;
-    m_isStale = false; // whoever shows it has to hear of this in any case
+    m_isStale = false; // the next event must be raised in any case
     BecomeStale();
 }
 
 SceneChange DrawingScene::Update() {
-    // Reading that was given up leaves another, empty drawing without a word.
+    // An aborted read leaves another, empty drawing without any notification.
     const bool isCut = m_pDatabase && m_pDatabase->nextId() < m_slots.size();
     if (!m_isStale && !isCut) {
         return SceneChange::None;
@@ -143,7 +143,7 @@ void DrawingScene::Fill() {
     Arrange(true);
 }
 
-/// In the middle of most entities, so that a few that are lost far away cost no digits.
+/// Chosen amid most entities, so that a few far outliers do not cost precision.
 void DrawingScene::ChooseOrigin() {
     constexpr std::size_t kSample = 1000;
     const std::size_t step = m_pDatabase->entityCount() / kSample + 1;
@@ -216,7 +216,7 @@ void DrawingScene::Arrange(bool all) {
 std::uint32_t DrawingScene::StyleOf(const AcDbEntity& entity) {
     const auto color = static_cast<std::uint64_t>(entity.colorIndex());
     const std::uint64_t key = std::uint64_t{entity.layerId().number()} << kColorBits | color;
-    // Neighbours in the drawing mostly look alike.
+    // Consecutive entities mostly have the same style.
     if (key == m_lastKey && m_lastStyle != kNoStyle) {
         return m_lastStyle;
     }

@@ -1,5 +1,5 @@
-// What a view shows of a database: places, layers and colours of the entities of its model
-// space, packed so that a million can be drawn again and again.
+// A view's copy of a database: shapes, layers and colours of the model space entities, packed for
+// fast redraws of a million of them.
 #pragma once
 
 #include <array>
@@ -15,24 +15,23 @@
 
 namespace Tessaly {
 
-/// How entities of one layer and colour look.
+/// Appearance of the entities of one layer and colour.
 struct StyleLook {
-    int colorIndex = 7;     ///< that of the layer already put in
-    bool isVisible = false; ///< its layer is on
+    int colorIndex = 7;     ///< with the layer's colour resolved
+    bool isVisible = false; ///< the layer is on
 };
 
 enum class SceneChange {
     None,
     Some,
-    Everything, ///< it is another drawing
+    Everything, ///< a different drawing
 };
 
-/// Follows the database as its reactor. Changes are noted as they come and taken over all at
-/// once, by Update: until then the scene shows what was before. About 32 bytes for a line of
-/// two places.
+/// Follows a database as its reactor. Changes are recorded as they happen and applied by Update;
+/// until then the scene shows the previous state. A line of two points takes about 32 bytes.
 ///
-/// Places are kept as floats around an origin amid the drawing, which is enough for masses of
-/// lines a pixel wide. Where a view needs more digits it reads the shape of the entity itself
+/// Points are stored as floats relative to an origin amid the drawing, which is precise enough for
+/// large numbers of hairlines. Views that need more precision read the shape of the entity itself
 /// (Shape).
 class DrawingScene final : AcDbDatabaseReactor {
 public:
@@ -41,27 +40,27 @@ public:
     DrawingScene(const DrawingScene&) = delete;
     DrawingScene& operator=(const DrawingScene&) = delete;
 
-    /// Null for none. Not owned; a database that goes takes itself off.
+    /// Null for none. Not owned; detaches itself when the database is destroyed.
     void SetDatabase(AcDbDatabase* pDatabase);
     AcDbDatabase* Database() const { return m_pDatabase; }
-    /// Called at the first change after an Update, and when the database goes, in the middle
-    /// of whatever makes it.
+    /// Called at the first change after an Update, and when the database is destroyed, from within
+    /// the call that causes it.
     void SetOnStale(std::function<void()> onStale) { m_onStale = std::move(onStale); }
     bool IsStale() const { return m_isStale; }
-    /// Takes the changes over.
+    /// Applies the recorded changes.
     SceneChange Update();
 
     const ItemStore& Items(ShapeKind kind) const { return m_stores[Index(kind)]; }
-    /// By the numbers of styles that items have.
+    /// Indexed by the style numbers of items.
     std::span<const StyleLook> Looks() const { return m_looks; }
     std::uint32_t Rank(std::uint32_t style) const { return m_ranks[style]; }
     PlanePoint Origin() const { return m_origin; }
-    /// The exact shape of an item. False if the entity is no more.
+    /// The exact shape of an item. False if the entity no longer exists.
     bool Shape(AcDbObjectId id, EntityShape& shape) const;
     bool IsLive(AcDbObjectId id) const { return Entity(id) != nullptr; }
-    /// Its layer is on, and it is in the scene.
+    /// Whether the entity is in the scene and its layer is on.
     bool IsVisible(AcDbObjectId id) const;
-    /// Null if it is no living entity of the model space.
+    /// Null if it is not an existing entity of the model space.
     const AcDbEntity* Entity(AcDbObjectId id) const;
 
     struct ItemPlace {
@@ -70,17 +69,17 @@ public:
     };
     std::optional<ItemPlace> Find(AcDbObjectId id) const;
 
-    /// Around everything whose layer is on; around everything if there is no such thing.
+    /// The extents of all visible entities, or of all if none are visible.
     AcGeExtents2d Extents() const;
     AcGeExtents2d Extents(std::span<const AcDbObjectId> ids) const;
 
-    /// How far a place may be off, in drawing units, of those whose x and y are nearer to the
-    /// origin than this.
+    /// Upper limit of the rounding error, in drawing units, of points whose x and y are at most
+    /// this far from the origin.
     static double Uncertainty(double distance) { return distance / (1U << 24U); }
     FloatPoint Relative(const PlanePoint& place) const {
         return {static_cast<float>(place.x - m_origin.x), static_cast<float>(place.y - m_origin.y)};
     }
-    /// An item meets (strictly holds) this box if it does so exactly: rounding keeps order.
+    /// Boxes can be compared as if they were exact, since rounding is monotonic.
     FloatBox Relative(const AcGeExtents2d& box) const;
 
     std::size_t Bytes() const;
@@ -112,7 +111,7 @@ private:
     std::function<void()> m_onStale;
     std::array<ItemStore, kShapeKinds> m_stores;
     PlanePoint m_origin;
-    /// By number of object: kind and number of the item, and whether it was noted.
+    /// By object number: noted flag, kind and item number.
     std::vector<std::uint32_t> m_slots;
 
     struct Style {

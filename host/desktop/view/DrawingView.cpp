@@ -15,16 +15,16 @@ namespace Tessaly {
 namespace {
 
 constexpr double kMargin = 1.05;
-/// What a frame may take before it is shown as far as it has come.
+/// Time limit per frame; an unfinished picture is shown when it is reached.
 constexpr std::chrono::milliseconds kFrameTime(28);
 constexpr double kPickPixels = 5;
 constexpr double kHighlightWidth = 5;
 constexpr double kMarkWidth = 3;
 constexpr double kSelectionWidth = 3;
 constexpr Rgb kSelectionColor = 0xff3d9bff;
-constexpr double kEmptySpan = 100; ///< drawing units across, where there is nothing to fit
-constexpr double kPointSpan = 10;  ///< the same around a drawing without size
-/// How much of a drawing is seen around one of its points.
+constexpr double kEmptySpan = 100; ///< drawing units across an empty drawing
+constexpr double kPointSpan = 10;  ///< drawing units across a drawing without size
+/// Part of the drawing's extents to show around a single point.
 constexpr double kPartAroundPoint = 0.01;
 
 } // namespace
@@ -44,7 +44,7 @@ DrawingView::DrawingView(QWidget* pParent) : QWidget(pParent) {
 }
 
 DrawingView::~DrawingView() {
-    // The scene lets go of its database, and must not ask for a frame of what is left of this.
+    // The scene's destructor detaches from its database and must not call back into this view.
     m_scene.SetOnStale({});
 }
 
@@ -87,7 +87,7 @@ double DrawingView::Tolerance() const {
 void DrawingView::FollowSize() {
     const double ratio = devicePixelRatioF();
     if (m_pixelRatio > 0 && m_pixelRatio != ratio) {
-        // Another screen: the same part of the drawing, in more pixels or in fewer.
+        // On another screen, keep showing the same part of the drawing.
         const PixelPoint middle{m_transform.Width() / 2.0, m_transform.Height() / 2.0};
         m_transform.ZoomAt(middle, ratio / m_pixelRatio);
     }
@@ -102,7 +102,7 @@ void DrawingView::FitExtents() {
         m_transform.Fit({0, 0, kEmptySpan, kEmptySpan}, kMargin, kEmptySpan);
     }
     m_areExtentsWanted = false;
-    // What is put into an empty drawing is shown, unless the user went elsewhere.
+    // After an empty drawing, keep fitting new entities unless the user moves the view.
     m_hasMoved = !extents.isEmpty();
 }
 
@@ -135,7 +135,7 @@ void DrawingView::DropLost() {
 }
 
 void DrawingView::EmphasisChanged() {
-    // Made at the next frame: marks come one by one, thousands of them.
+    // Rebuilt at the next frame, because marks are often added one by one, in thousands.
     m_isEmphasisStale = true;
     m_picture.Invalidate();
     update();
@@ -181,7 +181,7 @@ void DrawingView::PaintRubberBand(QPainter& painter) const {
 }
 
 void DrawingView::resizeEvent(QResizeEvent*) {
-    // A view that nobody has moved goes on showing everything.
+    // A view that was never moved keeps showing everything.
     FollowSize();
 }
 
@@ -221,7 +221,7 @@ void DrawingView::ZoomBy(double factor, const QPointF& around) {
 
 void DrawingView::PanBy(double right, double up) {
     BringUpToDate();
-    // By whole pixels, so that the picture can be moved.
+    // Whole pixels, so that the picture can be shifted.
     m_transform.Pan(std::round(-right * m_transform.Width()),
                     std::round(up * m_transform.Height()));
     ShowMoved();
@@ -276,7 +276,7 @@ void DrawingView::CompletePicture() {
 void DrawingView::StartPick() {
     m_isPicking = true;
     m_drag = Drag::None;
-    setFocus(Qt::OtherFocusReason); // for Escape
+    setFocus(Qt::OtherFocusReason); // to receive Escape
     ShowCursor();
 }
 
@@ -292,7 +292,7 @@ AcDbObjectId DrawingView::EntityAt(const QPointF& position) const {
     const PixelPoint pixel = ToDevice(position);
     const PlanePoint place = m_transform.ToDrawing(pixel);
     const AcDbObjectId near = PickNearest(m_scene, place, Tolerance());
-    // A name stands beside what it names, mostly within some area.
+    // Names are drawn beside their entities, often inside an area, and win over areas.
     const AcDbObjectId named = m_texts.EntityAt(pixel);
     const auto found = m_scene.Find(near);
     const bool isExact = found && found->kind != ShapeKind::Area;

@@ -1,4 +1,4 @@
-// The window in which a drawing is seen, moved, and picked from.
+// The widget that shows a drawing and handles navigation and picking.
 #pragma once
 
 #include <QTimer>
@@ -14,8 +14,8 @@
 
 namespace Tessaly {
 
-/// Shows one drawing, or none. Colours follow the palette: a dark or a light base. Entities
-/// are named by their ids; ids of what is no more are passed over.
+/// Shows one drawing, or none. Colours follow the palette's base, dark or light. Entities are
+/// passed as ids; ids of erased entities are ignored.
 class DrawingView : public QWidget {
     Q_OBJECT
 
@@ -23,54 +23,52 @@ public:
     explicit DrawingView(QWidget* pParent = nullptr);
     ~DrawingView() override;
 
-    /// Not owned; may go before the view. Shows its extents.
+    /// Not owned; may be destroyed before the view. Shows the drawing's extents.
     void SetDatabase(AcDbDatabase* pDatabase);
     const DrawingScene& Scene() const { return m_scene; }
-    /// In pixels of the device.
+    /// In device pixels.
     const ViewTransform& Transform() const { return m_transform; }
 
     void ZoomExtents();
-    /// Shows these entities whole, in the middle; a factor of 1.05 leaves five per cent of
-    /// margin. False, and the view stays, if none of them has a place.
+    /// Centres these entities and shows them completely; a factor of 1.05 leaves a margin of five
+    /// per cent. False, without changing the view, if none of them has a position.
     bool ZoomTo(std::span<const AcDbObjectId> ids, double factor);
-    /// Around the middle, or around a place in the window.
+    /// Around the centre, or around a position in the widget.
     void ZoomBy(double factor);
     void ZoomBy(double factor, const QPointF& around);
-    /// By parts of the window: 1 shows what is just out of sight on the right, or above.
+    /// In parts of the window: 1 shows what is just off screen to the right, or above.
     void PanBy(double right, double up);
 
     const std::vector<AcDbObjectId>& Selection() const { return m_selection; }
     void SetSelection(std::vector<AcDbObjectId> ids);
-    /// Thick, in a colour of the 255-colour table; until the next Redraw.
+    /// With thick lines in a colour of the 255-colour table, until the next Redraw.
     void Highlight(std::span<const AcDbObjectId> ids, int colorIndex);
-    /// In a colour of the 255-colour table; until the next Redraw.
+    /// In a colour of the 255-colour table, until the next Redraw.
     void Mark(std::span<const AcDbObjectId> ids, int colorIndex);
-    /// Draws all anew, without marks and highlights.
+    /// Redraws everything and clears marks and highlights.
     void Redraw();
-    /// Shows at once what has changed in the drawing.
+    /// Shows changes of the drawing at once.
     void UpdateDisplay();
 
-    /// The last frame showed everything; more are on their way otherwise.
+    /// Whether the last frame is complete; if not, more frames follow.
     bool IsPictureWhole() const { return m_picture.IsWhole(); }
-    /// Has the next frame show everything, however long that takes: for a picture of the
-    /// window.
+    /// Makes the next frame complete, however long it takes, for a screenshot.
     void CompletePicture();
 
-    /// Takes the focus. The next click asks for an entity instead of selecting it; PickEnded
-    /// tells of it.
+    /// Takes the focus. The next click picks an entity instead of selecting it and emits PickEnded.
     void StartPick();
     void CancelPick();
     bool IsPicking() const { return m_isPicking; }
-    /// What the user means by a place in the window; null if nothing.
+    /// The entity to pick at a position in the widget; null if there is none.
     AcDbObjectId EntityAt(const QPointF& position) const;
 
 signals:
-    /// The cursor, in drawing units.
+    /// The cursor position, in drawing units.
     void PositionMoved(double x, double y);
     void PositionLeft();
     void SelectionChanged();
-    /// \param id null unless picked
-    /// \param x,y drawing units, where the user pointed
+    /// \param id null unless an entity was picked
+    /// \param x,y the clicked position, in drawing units
     void PickEnded(PickOutcome how, AcDbObjectId id, double x, double y);
 
 protected:
@@ -96,9 +94,9 @@ private:
     };
 
     void ExpectChange();
-    /// What others could not be told in the middle of a frame, or of the end of a drawing.
+    /// Emits signals that were postponed during a frame or the end of a drawing.
     void Tell();
-    /// Takes over what has changed: size, drawing, places asked for.
+    /// Applies pending changes of size, drawing and requested position.
     void BringUpToDate();
     void FollowSize();
     void FitExtents();
@@ -108,7 +106,7 @@ private:
     void ShowMoved();
     RenderSettings Settings() const;
     PixelPoint ToDevice(const QPointF& position) const;
-    /// How far something seen may be from the cursor to be meant, in drawing units.
+    /// The pick distance, in drawing units.
     double Tolerance() const;
     void PaintRubberBand(QPainter& painter) const;
 
@@ -125,17 +123,17 @@ private:
     ViewTransform m_transform;
     ViewPicture m_picture;
     TextOverlay m_texts;
-    QTimer m_more; ///< the picture is not whole yet
+    QTimer m_more; ///< continues an incomplete picture
     QTimer m_tell;
     double m_pixelRatio = 0;
     bool m_areExtentsWanted = true;
-    bool m_hasMoved = false; ///< the user, or a command, chose the place
+    bool m_hasMoved = false; ///< the user or a command has moved the view
 
-    std::vector<AcDbObjectId> m_selection; ///< by number
+    std::vector<AcDbObjectId> m_selection; ///< sorted by number
     std::vector<Marked> m_marks;
-    std::vector<Emphasis> m_emphasis; ///< of both, in the order of drawing
+    std::vector<Emphasis> m_emphasis; ///< from selection and marks, in drawing order
     bool m_isEmphasisStale = false;
-    bool m_isSelectionLess = false; ///< and nobody was told yet
+    bool m_isSelectionLess = false; ///< and the signal is still to be emitted
 
     Drag m_drag = Drag::None;
     bool m_isPicking = false;

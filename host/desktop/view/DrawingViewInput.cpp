@@ -1,4 +1,4 @@
-// What the mouse and the keyboard do in the view.
+// Mouse and keyboard input of the view.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -18,7 +18,7 @@ constexpr double kPanStep = 0.125; ///< of the window
 constexpr double kWheelStep = 120; ///< units of the wheel
 constexpr double kMostSteps = 20;  ///< at once
 
-/// Moves and zooms that keys ask for.
+/// Keys that pan or zoom.
 struct KeyMove {
     int key;
     double right;
@@ -65,7 +65,7 @@ void DrawingView::mouseMoveEvent(QMouseEvent* pEvent) {
     if (m_drag == Drag::Pan) {
         const PixelPoint from = ToDevice(m_dragLast);
         const PixelPoint to = ToDevice(position);
-        // By whole pixels, so that the picture can be moved; what is left comes with the next.
+        // Whole pixels, so that the picture can be shifted; the rest is added to the next move.
         const double right = std::trunc(to.x - from.x);
         const double down = std::trunc(to.y - from.y);
         BringUpToDate();
@@ -107,7 +107,7 @@ void DrawingView::mouseDoubleClickEvent(QMouseEvent* pEvent) {
     if (pEvent->button() == Qt::MiddleButton) {
         ZoomExtents();
     } else {
-        mousePressEvent(pEvent); // a fast second click is a click
+        mousePressEvent(pEvent); // the second of two fast clicks is treated as a click
     }
 }
 
@@ -144,7 +144,7 @@ void DrawingView::keyPressEvent(QKeyEvent* pEvent) {
         m_isSpaceDown = true;
         ShowCursor();
     } else if (pEvent->key() != Qt::Key_Space && !ObeyKey(pEvent->key())) {
-        QWidget::keyPressEvent(pEvent); // the window may know it
+        QWidget::keyPressEvent(pEvent); // leave unknown keys to the window
     }
 }
 
@@ -167,7 +167,7 @@ bool DrawingView::ObeyKey(int key) {
     return true;
 }
 
-/// Ends the innermost of what is going on.
+/// Cancels the innermost operation in progress.
 void DrawingView::Escape() {
     if (m_drag != Drag::None) {
         m_drag = Drag::None;
@@ -190,7 +190,7 @@ void DrawingView::keyReleaseEvent(QKeyEvent* pEvent) {
 }
 
 void DrawingView::focusOutEvent(QFocusEvent* pEvent) {
-    // The release of a key goes to whoever has the focus then.
+    // The key's release will go to the new focus widget.
     m_isSpaceDown = false;
     ShowCursor();
     QWidget::focusOutEvent(pEvent);

@@ -37,7 +37,7 @@ void AddLine(std::span<const AcGePoint3d> points, bool isClosed, PlaceRun& run) 
     }
 }
 
-/// Stays closed without the points that have no place: an open ring could not be filled.
+/// Keeps the ring closed after dropping invalid points, because an open ring cannot be filled.
 void AddRing(std::span<const AcGePoint3d> points, PlaceRun& run) {
     const AcGePoint3d* pFirst = nullptr;
     for (const AcGePoint3d& point : points) {

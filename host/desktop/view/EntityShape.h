@@ -1,5 +1,5 @@
-// What an entity looks like, as one run of places: the form in which everything in the view
-// draws, measures and picks.
+// The geometry of an entity as one sequence of points, which the view uses for drawing, measuring
+// and picking.
 #pragma once
 
 #include <cstdint>
@@ -11,27 +11,27 @@
 
 namespace Tessaly {
 
-/// In the order of drawing: later ones cover earlier ones.
+/// In drawing order: later kinds cover earlier ones.
 enum class ShapeKind : std::uint8_t { Area, Line, Point, Text };
 inline constexpr std::size_t kShapeKinds = 4;
 
-/// Stands in a run of places where the pen is lifted: between rings, and in place of a vertex
-/// that has no place.
+/// Interrupts a sequence of points: between rings, and instead of a vertex without a valid
+/// position.
 inline constexpr PlanePoint kPenUp = {std::numeric_limits<double>::quiet_NaN(),
                                       std::numeric_limits<double>::quiet_NaN()};
 
-/// A buffer to be used over and over: one for each entity would cost more than the drawing.
+/// A buffer to be reused: allocating one per entity would cost more than drawing it.
 struct EntityShape {
     ShapeKind kind = ShapeKind::Line;
-    /// Of closed lines and rings the first place is repeated at the end. No kPenUp at either
-    /// end, and no two in a row. A point and a text have one place.
+    /// Closed lines and rings repeat their first point at the end. No kPenUp at either end, and
+    /// never two in a row. Points and texts have one point.
     std::vector<PlanePoint> places;
 };
 
-/// False, and the places are empty, if nothing of the entity has a place.
+/// False, with empty places, if the entity has no valid position.
 bool ReadShape(const AcDbEntity& entity, EntityShape& shape);
 
-/// The box around the places; empty if there are none.
+/// The box around the points; empty if there are none.
 AcGeExtents2d ExtentsOf(const EntityShape& shape);
 
 } // namespace Tessaly

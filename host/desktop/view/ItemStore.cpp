@@ -10,7 +10,7 @@ namespace Tessaly {
 
 namespace {
 
-/// Where items lie in the plane, as far as it matters for their order.
+/// Computes sort keys from item positions.
 class PlaneGrid {
 public:
     static constexpr int kBits = 20;
@@ -22,11 +22,11 @@ public:
         m_blockSpan = std::max(m_x.span, m_y.span) / std::sqrt(blocks);
     }
 
-    /// Neighbours in the plane have numbers that are mostly near.
+    /// A Z-order number: neighbours in the plane mostly have close numbers.
     std::uint64_t Number(double x, double y) const {
         return Spread(m_x.Cell(x)) | Spread(m_y.Cell(y)) << 1U;
     }
-    /// 0 for what is smaller than a block; one more for each time that it is larger by four.
+    /// 0 for items smaller than a block, plus 1 for each factor of four in size.
     std::uint64_t SizeClass(double size) const {
         constexpr int kLargest = 15;
         if (!(size > m_blockSpan)) {
@@ -47,8 +47,8 @@ private:
         }
     };
 
-    /// Where nearly all are, with room at both ends: a few that are lost far away must not
-    /// push everybody else into one cell.
+    /// The range of nearly all values, with some room at both ends: a few far outliers must not
+    /// squeeze all others into one cell.
     template <class Part>
     static Range RangeOf(std::vector<FloatPoint>& sample, Part part) {
         if (sample.empty()) {
@@ -64,7 +64,7 @@ private:
         return {low - span / 2, span * 2};
     }
 
-    /// Puts a zero between neighbouring bits.
+    /// Inserts a zero bit after each bit.
     static std::uint64_t Spread(std::uint64_t bits) {
         bits = (bits | bits << 16U) & 0x0000ffff0000ffffU;
         bits = (bits | bits << 8U) & 0x00ff00ff00ff00ffU;
@@ -97,8 +97,8 @@ struct ItemStore::Key {
 
 namespace {
 
-/// By bytes, from the last to the first; those that are the same everywhere are passed over.
-/// Three times as fast as comparing.
+/// Radix sort from the lowest byte up, skipping bytes that are equal in all keys. Three times as
+/// fast as a comparison sort.
 template <class Key>
 void SortByOrder(std::vector<Key>& keys) {
     std::vector<Key> other(keys.size());
@@ -124,7 +124,7 @@ void SortByOrder(std::vector<Key>& keys) {
 } // namespace
 
 bool ItemStore::HasRoom(std::size_t places) const {
-    // Three bits of an item's number are the scene's.
+    // The scene uses three bits of an item's number.
     constexpr std::uint32_t kMostItems = (1U << 29U) - 2;
     return Count() < kMostItems &&
            places < std::numeric_limits<std::uint32_t>::max() - m_places.size();

@@ -1,5 +1,5 @@
-// The entities of one kind, packed for drawing and searching: numbers in arrays, and blocks
-// of neighbours with a box around each. Knows nothing of drawings, layers or colours.
+// The entities of one kind, packed for drawing and searching: arrays of numbers, and blocks of
+// neighbours with a bounding box each. Independent of drawings, layers and colours.
 #pragma once
 
 #include <cmath>
@@ -9,7 +9,7 @@
 
 namespace Tessaly {
 
-/// Relative to the origin of the scene. Not a number: the pen is lifted.
+/// Relative to the scene's origin. NaN lifts the pen.
 struct FloatPoint {
     float x = 0;
     float y = 0;
@@ -22,7 +22,7 @@ struct FloatBox {
     float maxY = -INFINITY;
 
     void Add(const FloatPoint& point) {
-        // What is not a number changes nothing.
+        // NaN leaves the box unchanged.
         minX = point.x < minX ? point.x : minX;
         minY = point.y < minY ? point.y : minY;
         maxX = point.x > maxX ? point.x : maxX;
@@ -44,11 +44,11 @@ inline FloatBox BoxOf(std::span<const FloatPoint> places) {
     return box;
 }
 
-/// The style of what is gone. Never drawn, never found.
+/// The style of removed items. Never drawn or found.
 inline constexpr std::uint32_t kNoStyle = 0;
 
-/// Items are numbered from 0. Twelve bytes each, eight for each place, and a box for every 64
-/// items; no allocation but that of the arrays.
+/// Items are numbered from 0. Twelve bytes per item, eight per point and a box per 64 items;
+/// nothing else is allocated.
 class ItemStore {
 public:
     static constexpr std::uint32_t kBlockSize = 64;
@@ -60,13 +60,13 @@ public:
     std::span<const FloatPoint> Places(std::uint32_t item) const {
         return {m_places.data() + m_first[item], FirstPlace(item + 1) - m_first[item]};
     }
-    /// Of all places in a row; their count for the item behind the last.
+    /// Index of an item's first point; the total number of points for the item after the last.
     std::uint32_t FirstPlace(std::uint32_t item) const {
         return item < Count() ? m_first[item] : PlaceCount();
     }
     std::uint32_t PlaceCount() const { return static_cast<std::uint32_t>(m_places.size()); }
 
-    /// The block of number b holds the items from kBlockSize * b on.
+    /// Block b has the items from kBlockSize * b on.
     std::uint32_t BlockCount() const { return static_cast<std::uint32_t>(m_blocks.size()); }
     const FloatBox& Block(std::uint32_t block) const { return m_blocks[block]; }
     std::uint32_t BlockEnd(std::uint32_t block) const {
@@ -74,19 +74,19 @@ public:
         return end < Count() ? end : Count();
     }
 
-    /// There is room for an item of so many places.
+    /// Whether an item with this many points can be added.
     bool HasRoom(std::size_t places) const;
-    /// Adds behind all others, and gives the item's number.
+    /// Appends an item and returns its number.
     std::uint32_t Append(std::uint32_t id, std::uint32_t style, std::span<const FloatPoint> places);
     void Remove(std::uint32_t item);
     void SetStyle(std::uint32_t item, std::uint32_t style) { m_styles[item] = style; }
     void Clear();
 
-    /// So much was added or removed that blocks are no longer made of neighbours.
+    /// Whether so many items were added or removed that blocks are no longer compact.
     bool IsWorthArranging() const;
-    /// Sorts anew, so that a block holds neighbours of one rank and like size, and gives the
-    /// room of removed items back. Items get other numbers. About 150 ns an item.
-    /// \param ranks of each style; lower ones come first
+    /// Sorts the items so that blocks have neighbours of the same rank and similar size, and frees
+    /// removed items. Renumbers the items. Takes about 150 ns per item.
+    /// \param ranks by style; lower ones come first
     void Arrange(std::span<const std::uint32_t> ranks);
 
     std::size_t Bytes() const;
@@ -101,7 +101,7 @@ private:
     std::vector<std::uint32_t> m_first;
     std::vector<FloatPoint> m_places;
     std::vector<FloatBox> m_blocks;
-    std::uint32_t m_nArranged = 0; ///< items that were there at the last arranging
+    std::uint32_t m_nArranged = 0; ///< number of items after the last Arrange
     std::uint32_t m_nRemoved = 0;
 };
 

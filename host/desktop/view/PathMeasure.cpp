@@ -31,7 +31,7 @@ bool SegmentMeetsBox(const PlanePoint& from, const PlanePoint& to, const AcGeExt
         std::max(from.y, to.y) < box.minY || std::min(from.y, to.y) > box.maxY) {
         return false;
     }
-    // The boxes overlap: they meet unless all corners lie on one side of the line.
+    // The bounding boxes overlap, so they meet unless all corners are on one side of the line.
     const double dx = to.x - from.x;
     const double dy = to.y - from.y;
     const auto side = [&](double x, double y) { return dx * (y - from.y) - dy * (x - from.x); };
@@ -60,7 +60,7 @@ bool IsInsideRings(PlanePath rings, const PlanePoint& point) {
     for (std::size_t i = 1; i < rings.size(); ++i) {
         const PlanePoint& from = rings[i - 1];
         const PlanePoint& to = rings[i];
-        // Never so where one is no place.
+        // False if either point is invalid.
         if ((from.y > point.y) != (to.y > point.y) && IsPlace(from) && IsPlace(to) &&
             point.x < from.x + (to.x - from.x) * (point.y - from.y) / (to.y - from.y)) {
             isInside = !isInside;

@@ -1,4 +1,4 @@
-// Distances and overlaps of runs of places in the plane.
+// Distances and overlaps of sequences of points in the plane.
 #pragma once
 
 #include <span>
@@ -9,13 +9,13 @@ namespace Tessaly {
 
 using PlanePath = std::span<const PlanePoint>;
 
-/// To the nearest part of the lines; infinity if there is no place at all.
+/// The distance to the nearest part of the lines; infinity without any point.
 double DistanceToPath(PlanePath path, const PlanePoint& point);
-/// An odd number of rings surrounds the point.
+/// Whether an odd number of rings surrounds the point.
 bool IsInsideRings(PlanePath rings, const PlanePoint& point);
-/// A part of the lines lies in the box; its border belongs to it.
+/// Whether a part of the lines is inside the box or on its border.
 bool PathMeetsBox(PlanePath path, const AcGeExtents2d& box);
-/// All places do.
+/// Whether all points are inside the box or on its border.
 bool IsPathInBox(PlanePath path, const AcGeExtents2d& box);
 
 } // namespace Tessaly

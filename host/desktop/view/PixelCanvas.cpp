@@ -31,12 +31,12 @@ bool HasPlace(const PixelPoint& point) {
     return !std::isnan(point.x) && !std::isnan(point.y);
 }
 
-/// The lower end for what is not a number.
+/// Clamps; NaN becomes the lower end.
 double Within(double value, double low, double high) {
     return value > low ? std::min(value, high) : low;
 }
 
-/// One side of a rectangle: keeps of the line, from t1 to t2, what lies on the inner side.
+/// Clips a line, from t1 to t2, to the inner side of one edge of a rectangle.
 bool KeepInside(double distance, double slope, double& t1, double& t2) {
     if (slope == 0) {
         return distance >= 0;
@@ -128,7 +128,7 @@ void PixelCanvas::InsideLine(float x1, float y1, float x2, float y2, Rgb color) 
     const float low = std::min(y1, y2);
     const float high = std::max(y1, y2);
     const auto across = [&](int i) { return y1 + (static_cast<float>(i) + 0.5F - x1) * slope; };
-    // The middle of a pixel at an end may lie beyond the line, and in no pixel at all.
+    // The centre of the first or last pixel may be beyond the line's end, outside any pixel.
     pixel(first, static_cast<int>(std::clamp(across(first), low, high))) = color;
     pixel(last, static_cast<int>(std::clamp(across(last), low, high))) = color;
     auto place = static_cast<std::int64_t>(across(first + 1) * (1 << kFixedBits));
@@ -178,7 +178,7 @@ void PixelCanvas::ClippedLine(double x1, double y1, double x2, double y2, Rgb co
     const int firstAside = isSteep ? m_clip.left : m_clip.top;
     const int endAside = isSteep ? m_clip.right : m_clip.bottom;
     const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
-    // Each pixel as if nothing were cut off, so that pieces of a picture fit together.
+    // Computes each pixel as if unclipped, so that pieces of a picture fit together.
     const int end = static_cast<int>(Within(std::floor(x2) + 1, firstAlong, endAlong));
     for (int i = static_cast<int>(Within(std::floor(x1), firstAlong, endAlong)); i < end; ++i) {
         const double middle =
@@ -206,7 +206,7 @@ void PixelCanvas::SmoothLine(const PixelPoint& start, const PixelPoint& end, dou
         std::swap(from, to);
     }
     const double length = to.x - from.x;
-    if (length < 1) { // hardly a line: as long as it is wide
+    if (length < 1) { // nearly a point: extend it to its width
         const double missing = (std::max(width, 1.0) - length) / 2;
         from.x -= missing;
         to.x += missing;
@@ -239,7 +239,7 @@ void PixelCanvas::HairPath(PixelPath path, Rgb color) {
         if (IsInside(x1, y1) && IsInside(x2, y2)) {
             HairLine(x1, y1, x2, y2, color);
         } else {
-            ClippedLine(from.x, from.y, to.x, to.y, color); // floats may be too short
+            ClippedLine(from.x, from.y, to.x, to.y, color); // float precision may be insufficient
         }
     });
 }
@@ -254,7 +254,7 @@ void PixelCanvas::AddCrossings(const PixelPoint& from, const PixelPoint& to) {
     const double low = Within(std::min(from.y, to.y), m_clip.top, m_clip.bottom);
     const double high = Within(std::max(from.y, to.y), m_clip.top, m_clip.bottom);
     const double slope = (to.x - from.x) / (to.y - from.y);
-    // Rows whose middle the side crosses, its lower end not included: corners count once.
+    // Rows whose centre the edge crosses, excluding its lower end, so that vertices count once.
     const int end = static_cast<int>(std::ceil(high - 0.5));
     for (int row = static_cast<int>(std::ceil(low - 0.5)); row < end; ++row) {
         const double x = from.x + (row + 0.5 - from.y) * slope;

@@ -1,5 +1,5 @@
-// Draws thin lines, dots and areas straight into the pixels of a picture: for masses of them,
-// which a general painter takes a hundred times as long for.
+// Draws thin lines, dots and areas directly into the pixels of an image: about a hundred times
+// faster than a general painter for large numbers of them.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace Tessaly {
 
-/// Right and bottom are the first that do not belong to it.
+/// Right and bottom are exclusive.
 struct PixelRect {
     int left = 0;
     int top = 0;
@@ -21,15 +21,14 @@ struct PixelRect {
     friend bool operator==(const PixelRect& left, const PixelRect& right) = default;
 };
 
-/// Places on the screen with the pen lifted wherever one is not a number.
+/// Points on the screen; NaN lifts the pen.
 using PixelPath = std::span<const PixelPoint>;
 
-/// Draws on pixels of somebody else's, of the form 0xffRRGGBB, and only within the clip. Any
-/// number may be given as a place.
+/// Draws on 0xffRRGGBB pixels owned by the caller, within the clip. Any coordinates are valid.
 class PixelCanvas {
 public:
     PixelCanvas() = default;
-    /// \param stride pixels from one row to the next
+    /// \param stride pixels per row
     PixelCanvas(std::uint32_t* pPixels, int stride, const PixelRect& clip);
 
     const PixelRect& Clip() const { return m_clip; }
@@ -40,12 +39,12 @@ public:
             At(static_cast<int>(x), static_cast<int>(y)) = color;
         }
     }
-    /// Mixed with what is there.
+    /// Blended with the existing pixel.
     void PaleDot(float x, float y, Rgb color, int share);
     void Square(double x, double y, double size, Rgb color);
     void Disc(double x, double y, double radius, Rgb color);
 
-    /// One pixel wide and not smoothed.
+    /// One pixel wide, without antialiasing.
     void HairLine(float x1, float y1, float x2, float y2, Rgb color) {
         if (!IsInside(x1, y1) || !IsInside(x2, y2)) {
             ClippedLine(x1, y1, x2, y2, color);
@@ -55,7 +54,7 @@ public:
         const int row1 = static_cast<int>(y1);
         const int column2 = static_cast<int>(x2);
         const int row2 = static_cast<int>(y2);
-        // What most lines are when a whole drawing is seen.
+        // Fast path: most lines of a whole drawing in view are this short.
         if (static_cast<unsigned>(column2 - column1 + 1) <= 2 &&
             static_cast<unsigned>(row2 - row1 + 1) <= 2) {
             At(column1, row1) = color;
@@ -64,25 +63,25 @@ public:
         }
         InsideLine(x1, y1, x2, y2, color);
     }
-    /// Of any width, with smoothed borders.
+    /// Of any width, antialiased.
     void SmoothLine(const PixelPoint& from, const PixelPoint& to, double width, Rgb color);
     void HairPath(PixelPath path, Rgb color);
     void SmoothPath(PixelPath path, double width, Rgb color);
-    /// Fills what an odd number of rings surrounds.
-    /// \param share 255 covers what is there
+    /// Fills the area surrounded by an odd number of rings.
+    /// \param share 255 is opaque
     void FillArea(PixelPath rings, Rgb color, int share);
 
 private:
     std::uint32_t& At(int x, int y) {
         return m_pPixels[static_cast<std::ptrdiff_t>(y) * m_stride + x];
     }
-    /// False for what is not a number.
+    /// False for NaN.
     bool IsInside(float x, float y) const {
         return x >= m_left && x < m_right && y >= m_top && y < m_bottom;
     }
     void InsideLine(float x1, float y1, float x2, float y2, Rgb color);
     void ClippedLine(double x1, double y1, double x2, double y2, Rgb color);
-    /// Cuts a line down to what lies in the clip and a border around it. False if nothing.
+    /// Clips a line to the clip with a border around it. False if nothing remains.
     bool ClipLine(PixelPoint& from, PixelPoint& to, double border) const;
     void AddCrossings(const PixelPoint& from, const PixelPoint& to);
 
@@ -93,7 +92,7 @@ private:
     float m_top = 0;
     float m_right = 0;
     float m_bottom = 0;
-    std::vector<std::uint64_t> m_crossings; ///< by row and place in it
+    std::vector<std::uint64_t> m_crossings; ///< by row, then x
 };
 
 } // namespace Tessaly

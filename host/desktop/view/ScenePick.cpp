@@ -12,7 +12,7 @@ AcGeExtents2d BoxAround(const PlanePoint& place, double reach) {
     return {place.x - reach, place.y - reach, place.x + reach, place.y + reach};
 }
 
-/// The nearest of some kinds. What is looked at shrinks with each nearer one that is found.
+/// Finds the nearest item of several kinds, narrowing the search with each nearer one.
 class NearestSearch {
 public:
     NearestSearch(const DrawingScene& scene, const PlanePoint& place, double tolerance)
@@ -22,8 +22,8 @@ public:
 
     void Look(ShapeKind kind) {
         const ItemStore& items = m_scene.Items(kind);
-        // With something near found at once, even a whole drawing within the tolerance is
-        // mostly passed over.
+        // Starting near the point narrows the search early, so most blocks are skipped even if the
+        // whole drawing is within the tolerance.
         if (const std::uint32_t nearest = NearestBlock(items); nearest < items.BlockCount()) {
             LookAt(items, nearest);
         }
@@ -36,8 +36,8 @@ public:
     AcDbObjectId Found() const { return m_found; }
 
 private:
-    /// Of the blocks within the tolerance, the one whose farthest corner is nearest: its items
-    /// are near, too, which those of a large block around the place need not be.
+    /// Of the blocks within the tolerance, the one with the nearest farthest corner: its items are
+    /// certainly near, unlike those of a large block around the point.
     std::uint32_t NearestBlock(const ItemStore& items) const {
         const FloatPoint place = m_scene.Relative(m_place);
         std::uint32_t nearest = items.BlockCount();
@@ -111,7 +111,7 @@ bool IsMeant(const EntityShape& shape, const AcGeExtents2d& box, BoxPick mode) {
            (shape.kind == ShapeKind::Area && IsInsideRings(shape.places, {box.minX, box.minY}));
 }
 
-/// Its border does not belong to it, which no rounding can change.
+/// Excludes the border, so that rounding cannot change the result.
 bool IsWellInside(const FloatBox& inner, const FloatBox& box) {
     return inner.minX > box.minX && inner.maxX < box.maxX && inner.minY > box.minY &&
            inner.maxY < box.maxY;

@@ -1,5 +1,5 @@
-// Which entities are meant by a place or a box on the screen. Exact: places come from the
-// entities themselves. Entities of layers that are off are never meant.
+// Picks entities by a point or a box. Exact, because it uses the entities' own coordinates.
+// Entities on layers that are off are never picked.
 #pragma once
 
 #include <vector>
@@ -8,19 +8,18 @@
 
 namespace Tessaly {
 
-/// What is meant by a place: the nearest point or text within the tolerance, since it would
-/// be hidden by the lines that end in it; otherwise the nearest line or outline; otherwise
-/// the area that holds the place. Of equally near ones, the one added last. Null if there is
-/// nothing.
+/// Picks at a point: the nearest point or text within the tolerance, since the lines that end in it
+/// would hide it; otherwise the nearest line or outline; otherwise the area around the point. If
+/// several are equally near, the one added last. Null if there is none.
 /// \param tolerance drawing units
 AcDbObjectId PickNearest(const DrawingScene& scene, const PlanePoint& place, double tolerance);
 
 enum class BoxPick {
-    Whole, ///< only what lies in the box as a whole
-    Any,   ///< what has a part in it; of areas, their inside counts
+    Whole, ///< only entities completely inside the box
+    Any,   ///< also entities partly inside; the interior of areas counts
 };
 
-/// By number.
+/// Sorted by number.
 std::vector<AcDbObjectId> PickInBox(const DrawingScene& scene, const AcGeExtents2d& box,
                                     BoxPick mode);
 

@@ -7,20 +7,20 @@ namespace Tessaly {
 
 namespace {
 
-/// Up to so many places in view each line is smoothed.
+/// Up to this number of visible points, lines are antialiased.
 constexpr std::uint32_t kFinePlaces = 12000;
 constexpr std::uint32_t kMostLabels = 300;
 constexpr std::uint32_t kMostTexts = 800;
 constexpr int kFillShare = 40;
 constexpr int kEmphasisFillShare = 90;
 constexpr double kLineWidth = 1.2;
-/// Floats farther than this many pixels outside have no part of a pixel left.
+/// Floats farther outside than this many pixels have no subpixel precision left.
 constexpr float kFarPixels = 1e6F;
-/// Beyond so large a part of a pixel their roundings would be seen.
+/// Rounding errors above this part of a pixel would be visible.
 constexpr double kLargestError = 0.2;
-constexpr double kBorderPixels = 16; ///< reach of symbols and wide lines
+constexpr double kBorderPixels = 16; ///< extent of symbols and wide lines
 
-/// What the clip of a canvas shows, and some pixels more.
+/// The part of the drawing within the clip plus a border.
 AcGeExtents2d SeenThrough(const ViewTransform& transform, const PixelRect& clip, double border) {
     return transform.BoxOf({clip.left - border, clip.top - border},
                            {clip.right + border, clip.bottom + border});
@@ -31,7 +31,7 @@ struct Count {
     std::uint32_t places = 0;
 };
 
-/// What is in view of a kind; counts little farther than one of the limits.
+/// Counts visible items of a kind; stops shortly after reaching a limit.
 Count CountOf(const DrawingScene& scene, ShapeKind kind, const FloatBox& view, const Count& limit) {
     Count count;
     ForItemsIn(scene, kind, view, [&](std::uint32_t item) {
@@ -140,7 +140,7 @@ bool SceneRenderer::DrawSome() {
         return DrawEmphasis();
     }
     if (m_stage == Stage::Texts && m_detail.hasTexts) {
-        return false; // painted over the picture, where they can be read
+        return false; // painted over the picture by TextOverlay
     }
     return m_detail.isFine ? DrawFew() : DrawBlocks();
 }
@@ -156,7 +156,7 @@ bool SceneRenderer::DrawFew() {
 }
 
 bool SceneRenderer::DrawBlocks() {
-    // Passing over a block is cheap, so only those that are drawn count.
+    // Skipping a block is cheap, so only drawn blocks are counted.
     constexpr int kAtOnce = 32;
     const ItemStore& items = Items();
     const float pixel = 1 / m_scale;
@@ -169,7 +169,7 @@ bool SceneRenderer::DrawBlocks() {
         const std::uint32_t first = m_next * ItemStore::kBlockSize;
         const std::uint32_t end = items.BlockEnd(m_next);
         if (box.maxX - box.minX < pixel && box.maxY - box.minY < pixel) {
-            // All in one pixel: the first that is shown stands for the others.
+            // All in one pixel, so the first visible item represents the others.
             std::uint32_t item = first;
             while (item < end && m_colors[items.Style(item)] == 0) {
                 ++item;
@@ -251,7 +251,7 @@ void SceneRenderer::DrawItem(std::uint32_t item, Rgb color) {
     if (m_kind != ShapeKind::Point && !BoxOf(Items().Places(item)).Meets(m_view)) {
         return;
     }
-    // Where few are drawn, reading the entity costs little, and it is right in any case.
+    // With few items, reading the exact entity is cheap.
     if (!MakePath(item, m_isExact || m_detail.isFine)) {
         return;
     }
@@ -322,7 +322,7 @@ void SceneRenderer::DrawEmphasized(const Emphasis& emphasis) {
         return;
     }
     m_kind = place->kind;
-    // A mass of them is told by its colour alone.
+    // In large numbers, entities are only shown by colour.
     const bool isPlain = !m_detail.isFine && m_emphasis.size() > kFinePlaces;
     if (m_colors[Items().Style(place->item)] == 0 ||
         !BoxOf(Items().Places(place->item)).Meets(m_view) ||
@@ -348,7 +348,7 @@ void SceneRenderer::DrawEmphasized(const Emphasis& emphasis) {
     }
     m_canvas.SmoothPath(m_path, width, emphasis.color);
     if (width > 2) {
-        // Joints and ends, which the lines alone leave notched.
+        // Round joints and ends; the lines alone leave notches.
         for (const PixelPoint& point : m_path) {
             m_canvas.Disc(point.x, point.y, width / 2, emphasis.color);
         }

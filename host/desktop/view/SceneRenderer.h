@@ -1,4 +1,4 @@
-// Draws a scene into a picture, piece by piece so that nobody has to wait for all of it.
+// Draws a scene into an image in steps, so that the user never waits for all of it.
 #pragma once
 
 #include <chrono>
@@ -13,31 +13,31 @@ namespace Tessaly {
 struct RenderSettings {
     Background background = Background::Dark;
     Rgb paper = 0xff000000;
-    double pixelRatio = 1; ///< pixels of the device for one of the desktop
+    double pixelRatio = 1; ///< device pixels per desktop pixel
     friend bool operator==(const RenderSettings&, const RenderSettings&) = default;
 };
 
-/// How finely a view is drawn. Chosen for a view as a whole, so that pieces of its picture
-/// that are drawn one after the other fit together.
+/// Level of detail. Chosen for the view as a whole, so that separately drawn pieces of its picture
+/// fit together.
 struct RenderDetail {
-    bool isFine = true;     ///< smoothed lines, each over those that are older
-    double pointSize = 7;   ///< pixels of the desktop; 1 is a dot
-    bool hasTexts = true;   ///< texts can be read; dots otherwise
-    bool hasLabels = false; ///< few enough to name them
+    bool isFine = true;     ///< antialiased lines, newer ones on top
+    double pointSize = 7;   ///< in desktop pixels; 1 is a dot
+    bool hasTexts = true;   ///< texts are legible; otherwise drawn as dots
+    bool hasLabels = false; ///< few enough entities to label them
     friend bool operator==(const RenderDetail&, const RenderDetail&) = default;
 };
 
 RenderDetail DetailOf(const DrawingScene& scene, const ViewTransform& transform);
 
-/// An entity that is drawn over all others.
+/// An entity drawn on top of all others.
 struct Emphasis {
     AcDbObjectId id;
     Rgb color = 0;
-    double width = 3; ///< pixels of the desktop
+    double width = 3; ///< in desktop pixels
 };
 
-/// Calls visit(item) for the visible items of a kind whose block meets the box, and then
-/// only if their own box does, until it answers false.
+/// Calls visit(item) for the visible items of a kind whose block and own box meet the box, until it
+/// returns false.
 template <class Visit>
 void ForItemsIn(const DrawingScene& scene, ShapeKind kind, const FloatBox& box, Visit&& visit);
 
@@ -45,12 +45,12 @@ class SceneRenderer {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Begins a picture. All that is given has to stay as it is until the last Continue.
-    /// \param canvas holds the whole view, or is clipped to the part that is to be drawn
+    /// Starts a picture. All arguments must stay unchanged until the last Continue.
+    /// \param canvas the whole view, or clipped to the part to draw
     void Start(const DrawingScene& scene, const ViewTransform& transform,
                const RenderSettings& settings, const RenderDetail& detail,
                std::span<const Emphasis> emphasis, const PixelCanvas& canvas);
-    /// Goes on until it is done, true, or it is late.
+    /// Continues until the picture is done (true) or the deadline has passed (false).
     bool Continue(Clock::time_point deadline);
     void Stop() { m_stage = Stage::Done; }
     bool IsDone() const { return m_stage == Stage::Done; }
@@ -59,7 +59,7 @@ private:
     enum class Stage { Areas, Lines, Points, Texts, Emphasis, Done };
 
     void EnterStage(Stage stage);
-    /// Draws up to some hundred items. False if the stage has no more.
+    /// Draws up to a few hundred items. False if the stage is complete.
     bool DrawSome();
     bool DrawBlocks();
     bool DrawFew();
@@ -72,7 +72,7 @@ private:
     void DrawArea(Rgb color);
     void DrawPoint(Rgb color);
     void DrawEmphasized(const Emphasis& emphasis);
-    /// To pixels, into m_path. False if the entity is no more.
+    /// Converts to pixels, into m_path. False if the entity no longer exists.
     bool MakePath(std::uint32_t item, bool isExact);
 
     float ToX(float x) const { return x * m_scale + m_shiftX; }
@@ -89,10 +89,10 @@ private:
     Stage m_stage = Stage::Done;
     ShapeKind m_kind = ShapeKind::Area;
     std::uint32_t m_next = 0;
-    std::vector<std::uint32_t> m_few; ///< items in the order of drawing, where it is fine
-    std::vector<Rgb> m_colors;        ///< by style; 0 for what is not shown
-    FloatBox m_view;                  ///< what the clip shows, and a border
-    bool m_isExact = false;           ///< floats have not digits enough for this view
+    std::vector<std::uint32_t> m_few; ///< items in drawing order, if detail is fine
+    std::vector<Rgb> m_colors;        ///< by style; 0 if hidden
+    FloatBox m_view;                  ///< the clip plus a border
+    bool m_isExact = false;           ///< floats are not precise enough for this view
     float m_scale = 1;
     float m_shiftX = 0;
     float m_shiftY = 0;

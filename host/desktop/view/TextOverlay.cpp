@@ -12,11 +12,11 @@ namespace {
 
 constexpr double kLabelPixels = 12;
 constexpr double kLeastReadable = 4;
-/// Beyond it a letter fills the view.
+/// Above this size a letter fills the view.
 constexpr double kMostPixels = 4000;
-/// Height of a font for a height of its capitals.
+/// Ratio of font height to capital height.
 constexpr double kFontOfCapitals = 1.37;
-constexpr double kGap = 3; ///< between a name and what it names
+constexpr double kGap = 3; ///< between a name and its entity
 
 QString NameOf(const AcDbEntity& entity) {
     static const AcDbNameId s_name = AcDbIntern("NAME");
@@ -35,11 +35,11 @@ QFont WithPixels(QFont font, double pixels) {
 
 struct LabelSpot {
     PixelPoint middle;
-    double room = 0;  ///< longest name that it takes, in pixels
-    PixelPoint aside; ///< of length 1, to where the line is not; none for an area
+    double room = 0;  ///< longest name that fits, in pixels
+    PixelPoint aside; ///< unit vector pointing away from the line; zero for an area
 };
 
-/// The middle of the longest straight part in sight, with room as long as all such parts.
+/// The middle of the longest visible straight part; the room is the length of all such parts.
 LabelSpot SpotOnLine(const std::vector<PlanePoint>& places, const ViewTransform& transform) {
     LabelSpot spot;
     double longest = 0;
@@ -92,7 +92,7 @@ void TextOverlay::Paint(QPainter& painter, const QFont& font, const DrawingScene
 
 void TextOverlay::PaintTexts(const Frame& frame) {
     AcGeExtents2d view = frame.transform.Visible();
-    // A text reaches to the right of its place, and up.
+    // A text extends to the right of its position, and up.
     view.minX -= view.maxX - view.minX;
     view.minY -= view.maxY - view.minY;
     ForItemsIn(frame.scene, ShapeKind::Text, frame.scene.Relative(view), [&](std::uint32_t item) {

@@ -1,5 +1,5 @@
-// Texts and names of entities, painted over the picture at every frame: few, since only as
-// many are shown as can be read.
+// Texts and names of entities, painted over the picture in every frame. Only as many as are
+// legible, hence few.
 #pragma once
 
 #include <QFont>
@@ -13,14 +13,14 @@ class QPainter;
 
 namespace Tessaly {
 
-/// Works in pixels of the device.
+/// Works in device pixels.
 class TextOverlay {
 public:
-    /// \param font that of names, and of texts by another size
+    /// \param font used for names and, scaled, for texts
     void Paint(QPainter& painter, const QFont& font, const DrawingScene& scene,
                const ViewTransform& transform, const RenderSettings& settings,
                const RenderDetail& detail);
-    /// Whose text or name was painted there, the last one first; null if none.
+    /// The entity whose text or name is painted at this position, topmost first; null if none.
     AcDbObjectId EntityAt(const PixelPoint& place) const;
 
 private:
@@ -28,7 +28,7 @@ private:
         QRectF box;
         AcDbObjectId id;
     };
-    /// What Paint was given.
+    /// The arguments of Paint.
     struct Frame {
         QPainter& painter;
         const DrawingScene& scene;
@@ -39,7 +39,7 @@ private:
 
     void PaintTexts(const Frame& frame);
     void PaintText(const Frame& frame, const AcDbText& text, Rgb color);
-    /// Names do not cover symbols.
+    /// Reserves the space of symbols, which names must not cover.
     void NoteSymbols(const Frame& frame, double size);
     void PaintLabels(const Frame& frame, ShapeKind kind, const QFontMetricsF& metrics);
     void PaintLabel(const Frame& frame, AcDbObjectId id, const QString& name, const QRectF& box);

@@ -92,7 +92,7 @@ bool ViewPicture::Shift(const ViewTransform& transform) {
     m_nCalls = 0;
     const int width = m_image.width();
     const int height = m_image.height();
-    // The rows that came into sight, and the columns beside the others.
+    // The newly visible rows, and the columns beside the others.
     const PixelRect rows =
         down > 0 ? PixelRect{0, 0, width, down} : PixelRect{0, height + down, width, height};
     const int top = std::max(down, 0);
@@ -113,7 +113,7 @@ void ViewPicture::MovePixels(int dx, int dy) {
     const auto bytes = static_cast<std::size_t>(m_image.width() - std::abs(dx)) * 4;
     uchar* const pBits = m_image.bits();
     for (int i = 0; i < rows; ++i) {
-        // From the end that nothing is moved onto before it was moved itself.
+        // Ordered so that no row is overwritten before it was moved.
         const int row = dy > 0 ? rows - 1 - i : i;
         const uchar* const pFrom =
             pBits + (row + std::max(-dy, 0)) * stride + std::ptrdiff_t{4} * std::max(-dx, 0);
@@ -133,7 +133,7 @@ void ViewPicture::Paint(QPainter& painter) const {
     const PixelPoint to = m_transform.ToPixel(shown.maxX, shown.minY);
     painter.fillRect(0, 0, m_transform.Width(), m_transform.Height(),
                      QColor::fromRgb(m_settings.paper));
-    // Stretched beyond all measure it shows nothing.
+    // Too large to paint, and nothing would be recognisable.
     constexpr double kMost = 1e5;
     if (std::abs(from.x) < kMost && std::abs(from.y) < kMost && std::abs(to.x) < kMost &&
         std::abs(to.y) < kMost) {

@@ -1,4 +1,4 @@
-// The picture of a scene that a view keeps from one frame to the next.
+// The picture of a scene, cached between frames.
 #pragma once
 
 #include <QImage>
@@ -10,29 +10,29 @@ class QPainter;
 
 namespace Tessaly {
 
-/// Draws only what the last picture does not have: nothing if the view stands still, the
-/// border that comes into sight if it was moved by whole pixels. What takes long is drawn
-/// over several frames, in which the last picture, moved and stretched, stands for it.
+/// Draws only what the previous picture lacks: nothing if the view has not changed, the newly
+/// visible border if it was shifted by whole pixels. Slow pictures are drawn over several frames;
+/// meanwhile the previous one, shifted and scaled, is shown.
 class ViewPicture {
 public:
     using Clock = SceneRenderer::Clock;
 
-    /// All has to be drawn again.
+    /// Everything must be redrawn.
     void Invalidate() { m_isValid = false; }
-    /// Goes on until the picture is whole, true, or the deadline has passed. The scene and
-    /// the emphasis have to stay as they are until it is whole, or it is invalidated.
+    /// Continues until the picture is complete (true) or the deadline has passed (false). Scene and
+    /// emphasis must stay unchanged until then, or until Invalidate.
     bool Update(const DrawingScene& scene, const ViewTransform& transform,
                 const RenderSettings& settings, std::span<const Emphasis> emphasis,
                 Clock::time_point deadline);
     bool IsWhole() const { return m_isValid && m_isWhole; }
-    /// In pixels of the device.
+    /// In device pixels.
     void Paint(QPainter& painter) const;
     const RenderDetail& Detail() const { return m_detail; }
     const QImage& Image() const { return m_image; }
 
 private:
     bool IsShownBy(const ViewTransform& transform, const RenderSettings& settings) const;
-    /// True if it could.
+    /// True if shifting was possible.
     bool Shift(const ViewTransform& transform);
     void MovePixels(int dx, int dy);
     void StartWhole(const DrawingScene& scene, const ViewTransform& transform,
@@ -45,12 +45,12 @@ private:
     RenderSettings m_settings;
     RenderDetail m_detail;
     SceneRenderer m_renderer;
-    std::vector<PixelRect> m_missing; ///< to be drawn after what the renderer is at
+    std::vector<PixelRect> m_missing; ///< to draw after the renderer's current part
     bool m_isValid = false;
     bool m_isWhole = false;
     bool m_isSlow = false; ///< the last whole picture took more than one call
     int m_nCalls = 0;
-    QImage m_preview; ///< null unless pictures take long
+    QImage m_preview; ///< null unless pictures are slow
     ViewTransform m_previewTransform;
 };
 

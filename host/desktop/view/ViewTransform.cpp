@@ -8,9 +8,9 @@ namespace {
 
 constexpr double kDefaultUnitsPerPixel = 0.1;
 constexpr double kLeastUnitsPerPixel = 1e-9;
-/// The whole range of places in a view of a hundred pixels.
+/// The whole coordinate range in a view of a hundred pixels.
 constexpr double kMostUnitsPerPixel = 2 * kFarthestPlace / 100;
-/// Neighbouring numbers that a pixel has to hold, so that each pan by one moves the centre.
+/// Representable numbers per pixel, so that a pan by one pixel moves the centre.
 constexpr double kStepsPerPixel = 4;
 
 double ClampPlace(double value, double fallback) {
@@ -74,7 +74,7 @@ void ViewTransform::ZoomAt(const PixelPoint& cursor, double factor) {
     }
     const PlanePoint fixed = ToDrawing(cursor);
     Set(m_center.x, m_center.y, m_unitsPerPixel / factor);
-    // By the scale that came of it, which may be at its limit.
+    // Uses the resulting scale, which may have been limited.
     Set(fixed.x - (cursor.x - m_width / 2.0) * m_unitsPerPixel,
         fixed.y + (cursor.y - m_height / 2.0) * m_unitsPerPixel, m_unitsPerPixel);
 }

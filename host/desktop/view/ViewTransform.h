@@ -1,12 +1,12 @@
-// Where in the drawing a view stands.
+// Position and scale of a view.
 #pragma once
 
 #include "platform/arx/GePoint.h"
 
 namespace Tessaly {
 
-/// A place on the screen: x to the right, y down, in pixels of the device from the upper left
-/// corner of the view.
+/// A position on the screen in device pixels from the upper left corner of the view: x to the
+/// right, y down.
 struct PixelPoint {
     double x = 0;
     double y = 0;
@@ -17,30 +17,29 @@ struct PlanePoint {
     double y = 0;
 };
 
-/// Farthest from zero that something is shown. What lies beyond, and what is not a number,
-/// counts as having no place.
+/// The largest coordinate that is shown. Larger ones and NaN are treated as missing.
 inline constexpr double kFarthestPlace = 1e18;
 
 inline bool IsShowable(double coordinate) {
-    // False for what is not a number, too.
+    // Also false for NaN.
     return coordinate >= -kFarthestPlace && coordinate <= kFarthestPlace;
 }
 inline bool IsShowable(double x, double y) {
     return IsShowable(x) && IsShowable(y);
 }
-/// Not empty, and with corners that have places.
+/// Whether the box is not empty and its corners are showable.
 bool IsShowable(const AcGeExtents2d& box);
-/// One box grows so that it holds the other, if that is showable.
+/// Extends a box by another one, if that is showable.
 void Include(AcGeExtents2d& box, const AcGeExtents2d& other);
 
-/// Centre and scale of a view. Whatever is asked of it, its members stay finite, the centre
-/// within kFarthestPlace, and the scale such that neighbouring pixels are different places.
+/// Centre and scale of a view. For any input its members stay finite, the centre within
+/// kFarthestPlace, and the scale such that neighbouring pixels have different coordinates.
 class ViewTransform {
 public:
-    /// Around the origin, some hundred drawing units wide.
+    /// Around the origin, about a hundred drawing units wide.
     ViewTransform();
 
-    /// Pixels of the device; at least 1. The centre stays.
+    /// Device pixels; at least 1. Keeps the centre.
     void Resize(int width, int height);
     int Width() const { return m_width; }
     int Height() const { return m_height; }
@@ -49,18 +48,18 @@ public:
 
     PixelPoint ToPixel(double x, double y) const;
     PlanePoint ToDrawing(const PixelPoint& pixel) const;
-    /// What the view shows.
+    /// The visible part of the drawing.
     AcGeExtents2d Visible() const;
-    /// What a rectangle of the screen shows, whichever of its corners are given.
+    /// The part of the drawing in a screen rectangle, given by any two opposite corners.
     AcGeExtents2d BoxOf(const PixelPoint& corner, const PixelPoint& opposite) const;
 
-    /// The picture moves by so many pixels.
+    /// Shifts the picture by this many pixels.
     void Pan(double dx, double dy);
-    /// Magnifies, with a factor above 1; what is under the cursor stays there.
+    /// Zooms in for factors above 1, keeping the point under the cursor in place.
     void ZoomAt(const PixelPoint& cursor, double factor);
-    /// Shows a box whole, in the middle; a factor of 1.05 leaves five per cent of margin.
-    /// False, and nothing changes, if the box is not showable.
-    /// \param leastSpan what is shown, in drawing units, of a box without width and height
+    /// Centres a box and shows it completely; a factor of 1.05 leaves a margin of five per cent.
+    /// False, without any change, if the box is not showable.
+    /// \param leastSpan drawing units to show around a box without width and height
     bool Fit(const AcGeExtents2d& box, double factor, double leastSpan);
 
     friend bool operator==(const ViewTransform& left, const ViewTransform& right);

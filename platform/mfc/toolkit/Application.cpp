@@ -28,7 +28,7 @@
 namespace {
 
 bool g_desktop = false;
-/// Left alone at the end of the process, where the order of destruction is nobody's.
+/// Not destroyed at the end of the process, where the order of destruction is undefined.
 Application* g_pApplication = nullptr;
 
 bool IsTranslated(QEvent::Type type) {
@@ -59,7 +59,7 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
     }
     const QWidget* const pClient = core.Client();
     if (pWidget != pClient && !pClient->isAncestorOf(pWidget)) {
-        return msg; // on the caption or an edge, which are not the dialog's to look at
+        return msg; // on the caption or an edge, which PreTranslateMessage does not see
     }
     const auto* const pMouse = static_cast<const QMouseEvent*>(pEvent);
     if (pEvent->type() == QEvent::MouseMove) {
@@ -76,8 +76,8 @@ MSG MessageOf(const WindowCore& core, const QWidget* pWidget, const QEvent* pEve
 
 QtMessageHandler g_handlerBefore = nullptr;
 
-/// What the display in memory cannot do, and where it may not keep things for a session, are
-/// no concern of somebody who asks for a picture.
+/// Drops warnings about missing features of the in-memory display and about session folders, which
+/// do not matter when only taking a screenshot.
 void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (!text.startsWith("This plugin does not support") &&
         !text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
@@ -110,14 +110,14 @@ int VirtualKeyOf(int key) {
 }
 
 bool Application::notify(QObject* pReceiver, QEvent* pEvent) {
-    // Nothing may be thrown through the toolkit's event loop: that would end the program.
+    // An exception must not propagate through the toolkit's event loop: that would end the program.
     bool isTaken = true;
     Guarded(PlatformMsg::WindowMessage, [&] { isTaken = NotifyUnguarded(pReceiver, pEvent); });
     return isTaken;
 }
 
 bool Application::NotifyUnguarded(QObject* pReceiver, QEvent* pEvent) {
-    // A popup (an open list, a menu) has the keyboard and the mouse to itself.
+    // An open popup (a list, a menu) grabs keyboard and mouse.
     if (IsTranslated(pEvent->type()) && pReceiver->isWidgetType() && !activePopupWidget() &&
         (m_inputs.empty() || m_inputs.back()->pEvent != pEvent)) {
         auto* const pWidget = static_cast<QWidget*>(pReceiver);
@@ -125,7 +125,7 @@ bool Application::NotifyUnguarded(QObject* pReceiver, QEvent* pEvent) {
             return NotifyInput(pWidget, *pCore, pEvent);
         }
     }
-    // Nobody sees a double click before its window does, but handlers ask where it was.
+    // A double click is not pre-translated, but handlers ask for its position.
     if (pEvent->type() == QEvent::MouseButtonDblClick && pReceiver->isWidgetType()) {
         Input input{static_cast<QWidget*>(pReceiver), pEvent,
                     static_cast<QInputEvent*>(pEvent)->modifiers(), PointOf(pEvent)};
@@ -151,7 +151,7 @@ bool Application::NotifyInput(QWidget* pWidget, WindowCore& core, QEvent* pEvent
             outcome = input.dispatched ? enmOutcome::DispatchedSoon : enmOutcome::Eaten;
         }
         if (pEvent->type() == QEvent::ShortcutOverride && outcome != enmOutcome::GoesOn) {
-            // Accepted, it is no shortcut and comes again as a key press.
+            // Once accepted, it is not a shortcut and is delivered again as a key press.
             const auto* const pKey = static_cast<QKeyEvent*>(pEvent);
             m_keys.push_back({pKey->timestamp(), pKey->key(), pKey->modifiers(), outcome});
             pEvent->accept();
@@ -185,8 +185,8 @@ bool Application::TakeTranslated(const QEvent* pEvent, enmOutcome& outcome) {
         return false;
     }
     outcome = found->outcome;
-    // What stands before it was a shortcut, whose press never came. What stands behind it
-    // belongs to keys typed in a nested loop, all of which are done.
+    // Entries before it were shortcuts, whose key press never arrives. Entries after it belong to
+    // keys typed in a nested loop, which are all processed.
     m_keys.erase(m_keys.begin(), std::next(found));
     return true;
 }
@@ -219,14 +219,14 @@ bool AfxIsDesktopMode() {
 }
 
 bool AfxHasDisplay() {
-    // The toolkit may have found that it cannot open what answers.
+    // The toolkit may have failed to open a display that answers.
     const std::string visible = VisibleDisplays();
     return !visible.empty() &&
            (!QCoreApplication::instance() ||
             visible.find(QGuiApplication::platformName().toStdString()) != std::string::npos);
 }
 
-/// What the toolkit itself says, as in file dialogs, if its translations are installed.
+/// Installs translations of the toolkit's own texts, as in file dialogs, if available.
 static void TranslateToolkit() {
     auto* const pTexts = new QTranslator(QCoreApplication::instance());
     if (pTexts->load(QStringLiteral("qtbase_") + ToQString(Language().View()),
@@ -239,7 +239,7 @@ void AfxStartToolkit() {
     if (QCoreApplication::instance()) {
         return;
     }
-    // Only for the start: programs that are started from here find their own.
+    // Set only for the start, so that child processes choose their own.
     const QByteArray named = qgetenv("QT_QPA_PLATFORM");
     const QByteArray displays = QByteArray::fromStdString(DisplaysToStartWith(g_desktop));
     qputenv("QT_QPA_PLATFORM", displays);
@@ -255,7 +255,7 @@ void AfxStartToolkit() {
     } else {
         qputenv("QT_QPA_PLATFORM", named);
     }
-    // It takes the user's language for everything, and "3,14" is no number in our files.
+    // The toolkit sets the user's locale for everything, but our files use a decimal point.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setQuitOnLastWindowClosed(false);
     TranslateToolkit();

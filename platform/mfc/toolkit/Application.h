@@ -9,13 +9,13 @@
 
 class WindowCore;
 
-/// Shows keys and mouse buttons to PreTranslateMessage before the toolkit delivers them.
+/// Passes keys and mouse buttons to PreTranslateMessage before the toolkit delivers them.
 class Application final : public QApplication {
 public:
     Application(int& argc, char** argv) : QApplication(argc, argv) {}
     bool notify(QObject* pReceiver, QEvent* pEvent) override;
     void DispatchInHand();
-    /// Modifiers and place of the event in hand.
+    /// Modifiers and screen position of the current event.
     Qt::KeyboardModifiers ModifiersInHand() const;
     CPoint PointInHand() const;
 
@@ -29,7 +29,7 @@ private:
         bool dispatched = false;
         bool result = false;
     };
-    /// As long as it lives, an input is the one in hand.
+    /// Makes an input the current one during its lifetime.
     struct InHand {
         InHand(std::vector<Input*>& all, Input& input) : inputs(all) { inputs.push_back(&input); }
         ~InHand() { inputs.pop_back(); }
@@ -37,7 +37,7 @@ private:
         InHand& operator=(const InHand&) = delete;
         std::vector<Input*>& inputs;
     };
-    /// A key whose shortcut phase was translated already; its press follows.
+    /// A key already translated as a shortcut; its key press follows.
     struct TranslatedKey {
         quint64 time;
         int key;
@@ -53,5 +53,5 @@ private:
     std::vector<TranslatedKey> m_keys;
 };
 
-/// The code of a toolkit key.
+/// The virtual key code of a toolkit key.
 int VirtualKeyOf(int key);

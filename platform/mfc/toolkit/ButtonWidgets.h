@@ -6,7 +6,7 @@
 
 #include "platform/mfc/toolkit/WindowCore.h"
 
-/// What both kinds have in common.
+/// Common part of push buttons and check boxes.
 template <class Base>
 class ButtonBase : public Hooked<Base> {
 public:

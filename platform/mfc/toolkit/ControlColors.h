@@ -1,4 +1,4 @@
-// Asking around for the colours of a control. For sources only.
+// Requests the colours of a control. For sources only.
 #pragma once
 
 #include "platform/mfc/DC.h"

@@ -1,4 +1,4 @@
-// Which widget stands behind which kind of control.
+// Maps kinds of controls to their widgets.
 #include "platform/mfc/toolkit/ButtonWidgets.h"
 #include "platform/mfc/toolkit/ComboWidget.h"
 #include "platform/mfc/toolkit/Convert.h"
@@ -46,7 +46,7 @@ bool CWnd::CreateControl(enmControlKind kind, UINT style, const CRect& rect, CWn
     QWidget* const pWidget = MakeWidget(kind, style, pParent->Core()->Client());
     QRect place = ToQRect(rect);
     if (kind == enmControlKind::ComboBox) {
-        // The height given is that with the open list.
+        // The given height includes the open list.
         place.setHeight(pWidget->sizeHint().height());
     }
     const auto* const pArea = qobject_cast<QAbstractScrollArea*>(pWidget);

@@ -1,4 +1,4 @@
-// Values of the platform as those of the toolkit, and back. For sources only.
+// Conversion between values of the platform and of the toolkit. For sources only.
 #pragma once
 
 #include <QColor>
@@ -40,6 +40,6 @@ inline COLORREF ToColorRef(const QColor& color) {
 QFont ToQFont(const LOGFONT& font);
 LOGFONT ToLogFont(const QFont& font);
 QPixmap ToPixmap(const CImage& image);
-/// For rows: on a selected one, where the toolkit would tint the picture till it cannot be told
-/// from the ground, it stands on a light plate.
+/// An icon for rows: in a selected row it is drawn on a light plate, since the toolkit would tint
+/// it until it blends into the background.
 QIcon ToRowIcon(const CImage& image);

@@ -1,4 +1,4 @@
-// The painter behind a device context. For sources only.
+// The implementation of a device context. For sources only.
 #pragma once
 
 #include <optional>
@@ -25,5 +25,5 @@ public:
     int backMode = OPAQUE;
 };
 
-/// What a device context draws with: a painter, which must outlive it.
+/// Creates a device context on a painter, which must outlive it.
 std::unique_ptr<CDC::Impl> DrawWith(QPainter& painter);

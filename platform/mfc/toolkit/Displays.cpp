@@ -20,17 +20,17 @@
 
 namespace {
 
-/// For a server that is there and does not answer, as one that was stopped.
+/// Timeout for a server that is there but does not answer, such as a stopped one.
 constexpr std::chrono::milliseconds kPatience{2000};
 constexpr std::string_view kInMemory = "offscreen";
 
-/// An empty variable says nothing.
+/// Empty if the variable is not set.
 std::string Variable(const char* name) {
     const char* const value = std::getenv(name);
     return value ? value : "";
 }
 
-/// Asked in a thread, as connecting waits for ever. One that got no answer is left behind.
+/// Runs in a detached thread, as connecting may block forever; after a timeout it is abandoned.
 bool XServerAnswers() {
     if (Variable("DISPLAY").empty()) {
         return false;
@@ -54,8 +54,8 @@ bool HasWaylandPlugin() {
     return !QDir(folder).entryList({QStringLiteral("libqwayland*.so")}).isEmpty();
 }
 
-/// Whether something behind a socket answers a client that asks to be told when it is up to
-/// date ("sync", the first thing that every compositor understands).
+/// True if the server behind a socket answers a sync request, the most basic one that every
+/// compositor understands.
 bool AnswersSync(int socket) {
     constexpr std::uint32_t kSync[] = {1, 12U << 16, 2};
     if (write(socket, kSync, sizeof kSync) != static_cast<ssize_t>(sizeof kSync)) {
@@ -102,7 +102,7 @@ bool CanBeOpened(std::string_view display) {
 } // namespace
 
 std::string VisibleDisplays() {
-    // A Wayland client can neither read nor set its place, so X11 comes first there, too.
+    // X11 comes first even under Wayland, whose clients can neither query nor set their position.
     const std::string named = Variable("QT_QPA_PLATFORM");
     std::string_view rest = named.empty() ? std::string_view("xcb;wayland") : named;
     std::string visible;
@@ -122,6 +122,6 @@ std::string DisplaysToStartWith(bool desktop) {
         return named;
     }
     const std::string visible = desktop ? VisibleDisplays() : "";
-    // The toolkit ends the process if it can open none.
+    // The toolkit ends the process if it can open no display.
     return (visible.empty() ? "" : visible + ";") + std::string(kInMemory);
 }

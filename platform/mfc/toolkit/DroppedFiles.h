@@ -9,7 +9,7 @@ struct DroppedFiles {
     std::vector<CString> paths;
 };
 
-/// Those of the drop in hand.
+/// The files of the current drop.
 inline DroppedFiles& FilesInHand() {
     static DroppedFiles files;
     return files;

@@ -1,4 +1,4 @@
-// The widget of a line of text. For sources only.
+// The widget of a single-line text input. For sources only.
 #pragma once
 
 #include <QLineEdit>

@@ -14,19 +14,19 @@
 
 namespace {
 
-/// A window manager tells of a move when it is over, and again if it sets the window right.
+/// A window manager reports a move when it is finished, and again if it corrects the position.
 constexpr int kSettleMilliseconds = 150;
 
-/// What of a window's width is always left to take it by.
+/// Minimum width of a window that stays visible, so that it can be dragged back.
 constexpr int kLeastWidth = 60;
 
-/// Only of a dialog does the window manager learn that it belongs to its parent's window.
+/// Window managers are told the owner only of dialogs.
 Qt::WindowFlags WindowKind(const QWidget* pOwner) {
     return (pOwner ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
 }
 
-/// A button on the caption. Of its icon the shape alone counts: it is drawn in the colour of
-/// the caption's text, which depends on whether the window is the active one.
+/// A caption button. Only the shape of its icon is used: it is drawn in the colour of the caption
+/// text, which depends on whether the window is active.
 class CaptionButton final : public QToolButton {
 public:
     using QToolButton::QToolButton;
@@ -35,7 +35,7 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QStyleOptionToolButton option;
         initStyleOption(&option);
-        // Under the mouse it has a background of its own.
+        // Under the mouse, the button has its own background.
         const bool isFlat = !(option.state & (QStyle::State_MouseOver | QStyle::State_Sunken));
         QPixmap shape = icon().pixmap(iconSize(), devicePixelRatio());
         if (!shape.isNull()) {
@@ -249,7 +249,7 @@ void FrameWidget::moveEvent(QMoveEvent* pEvent) {
 void FrameWidget::Settle() {
     WindowCore* const pCore = Core();
     const QPoint from = pos();
-    // A window manager that insists is left alone.
+    // If the window manager restores a corrected position, leave it.
     if (!pCore || m_dragging || isMinimized() || from == m_lastCorrection.first) {
         return;
     }
@@ -266,7 +266,7 @@ std::shared_ptr<WindowCore> MakeWindow(CWnd& wnd, UINT style, CWnd* pParent, UIN
         auto* const pWidget = new PlainWidget(pAround ? pAround->Client() : nullptr);
         return WindowCore::Bind(wnd, pWidget, pWidget, pParent, id, style);
     }
-    // A window of its own goes with its parent's and stays above it.
+    // A top-level window belongs to its parent's top-level window and stays above it.
     QWidget* const pOwner = pAround && pAround->Outer() ? pAround->Outer()->window() : nullptr;
     if (style & (WS_CAPTION | WS_THICKFRAME)) {
         auto* const pFrame = new FrameWidget(pOwner, style);

@@ -1,4 +1,4 @@
-// Windows without content of their own: bare ones, and those with a caption. For sources only.
+// Windows without controls of their own: plain ones, and those with a caption. For sources only.
 #pragma once
 
 #include <utility>
@@ -8,8 +8,8 @@
 
 #include "platform/mfc/toolkit/WindowCore.h"
 
-/// A child, a popup, or what a frame holds. The mouse ends here, as nothing of it is meant
-/// for the windows around.
+/// A child, a popup, or the content of a frame. Mouse events are not passed on, as they are not
+/// meant for the surrounding windows.
 class PlainWidget final : public Hooked<QWidget> {
 public:
     explicit PlainWidget(QWidget* pParent, enmWidgetPart part = enmWidgetPart::Whole)
@@ -21,8 +21,8 @@ protected:
     bool event(QEvent* pEvent) override;
 };
 
-/// A top-level window that draws its own caption and edges: only so every step of a move
-/// can be changed before it is made.
+/// A top-level window that draws its own caption and edges, as only then every step of a move can
+/// be adjusted before it is made.
 class FrameWidget final : public Hooked<QWidget> {
 public:
     FrameWidget(QWidget* pParent, UINT style);
@@ -30,9 +30,9 @@ public:
     QWidget* Client() const { return m_pClient; }
     QString Caption() const override { return windowTitle(); }
     void SetCaption(const QString& text) override;
-    /// A small button on the caption, left of those that are there.
+    /// Adds a small button to the caption, left of the existing ones.
     QToolButton* AddCaptionButton();
-    /// How much larger the window is than what it holds.
+    /// Difference between the size of the window and of its content.
     QSize Surplus() const;
     static int CaptionHeight();
     static int EdgeWidth() { return 3; }
@@ -58,7 +58,7 @@ private:
     bool m_sizable;
     bool m_dragging = false;
     Qt::Edges m_edges;
-    QPoint m_grip; ///< where on the screen the button went down
+    QPoint m_grip; ///< screen position where the mouse button was pressed
     QRect m_before;
     QTimer m_settle;
     std::pair<QPoint, QPoint> m_lastCorrection; ///< from, to

@@ -63,7 +63,7 @@ void ListModel::Changed(int row) {
 
 void ListModel::InsertColumn(int place, ListColumn column) {
     beginInsertColumns({}, place, place);
-    const bool pushes = HasColumn(place); // rows may have texts before there are columns
+    const bool pushes = HasColumn(place); // rows may have texts before columns exist
     m_columns.insert(m_columns.begin() + place, std::move(column));
     for (const std::unique_ptr<ListRow>& row : m_rows) {
         if (pushes && static_cast<std::size_t>(place) < row->cells.size()) {

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kCellMargin = 6;
 
-/// Makes rows high enough for their pictures, which the model knows nothing of.
+/// Makes rows high enough for their pictures, which the model does not know.
 class RowHeights final : public QStyledItemDelegate {
 public:
     RowHeights(QObject* pParent, const QSize& images)
@@ -32,7 +32,7 @@ private:
 
 } // namespace
 
-/// One row on its way to the screen, stage by stage.
+/// Paints one row, stage by stage.
 class ListWidget::RowPainter {
 public:
     RowPainter(const ListWidget& list, QPainter& painter, const QStyleOptionViewItem& option,
@@ -192,8 +192,8 @@ int ListWidget::HeaderWidth(int column) const {
 }
 
 void ListWidget::SetState(int row, UINT state, UINT mask) {
-    // While a row is painted its state is the painter's business alone: told of a change,
-    // the widget would paint again, and so on for ever.
+    // Do not notify the widget of state changes made while painting a row: it would repaint
+    // endlessly.
     const QSignalBlocker blocker(m_painting ? selectionModel() : nullptr);
     if (mask & LVIS_SELECTED) {
         const bool on = (state & LVIS_SELECTED) != 0;
@@ -289,7 +289,7 @@ void ListWidget::TellChanges(const QItemSelection& rows, UINT newState, UINT old
     if (m_quiet) {
         return;
     }
-    // A handler may change the selection, and the ranges with it.
+    // Copied, as a handler may change the selection.
     std::vector<std::pair<int, int>> ranges;
     for (const QItemSelectionRange& range : rows) {
         ranges.emplace_back(range.top(), range.bottom());

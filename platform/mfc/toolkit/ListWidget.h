@@ -12,7 +12,7 @@
 #include "platform/mfc/toolkit/WindowCore.h"
 
 struct ListRow {
-    std::vector<CString> cells; ///< may be shorter than there are columns
+    std::vector<CString> cells; ///< may have fewer cells than there are columns
     int image = -1;
     DWORD_PTR data = 0;
 };
@@ -22,7 +22,7 @@ struct ListColumn {
     int format;
 };
 
-/// Rows can come at both ends at little cost, which is how reports grow.
+/// Adding rows at either end is cheap, since reports grow there.
 class ListModel final : public QAbstractItemModel {
 public:
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -63,7 +63,7 @@ public:
     const ListModel& Rows() const { return m_model; }
     void SetExtendedStyle(UINT style);
     void SetImages(const CImageList& images);
-    /// Colours that are not set are those of the theme.
+    /// Colours that are not set default to the theme's.
     void SetTextColor(COLORREF color);
     void SetBackColor(COLORREF color);
     COLORREF TextColor() const { return m_textColor.value_or(GetSysColor(COLOR_WINDOWTEXT)); }
@@ -72,7 +72,7 @@ public:
     int HeaderWidth(int column) const;
     void SetState(int row, UINT state, UINT mask);
     UINT State(int row) const;
-    /// Changes rows whose selection goes with them without telling of it.
+    /// Changes rows and their selection without sending notifications.
     template <class Change>
     void ChangeQuietly(Change change) {
         const bool before = std::exchange(m_quiet, true);
@@ -108,7 +108,7 @@ private:
     bool m_pressed = false;
     bool m_quiet = false;
     bool m_painting = false;
-    /// Of the paint in progress: what the handler answered to the first stage.
+    /// State of the current paint: the handler's answer to the first stage.
     mutable bool m_prePaintDone = false;
     mutable LRESULT m_prePaintAnswer = 0;
 };

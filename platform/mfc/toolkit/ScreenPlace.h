@@ -1,11 +1,11 @@
-// Places on the screen, for modules and for the toolkit. For sources only.
+// Conversion between screen positions of modules and of the toolkit. For sources only.
 #pragma once
 
 #include "platform/mfc/toolkit/Convert.h"
 
-/// The upper left corner of the primary monitor as the toolkit counts, which begins at that of
-/// all monitors together. Modules count from this corner; every place on the screen is
-/// translated here and nowhere else.
+/// The upper left corner of the primary monitor in toolkit coordinates, which start at the corner
+/// of the combined area of all monitors. Module coordinates start at this corner; all conversions
+/// between the two are in this header.
 QPoint PrimaryCorner();
 
 inline CPoint ToScreenPoint(const QPoint& point) {

@@ -46,7 +46,7 @@ void RaiseWidget(QWidget* pWidget) {
     if (pWidget->isVisible()) {
         MoveToFront(pWidget);
     }
-    // In memory there is nothing to raise, and the toolkit says so each time.
+    // Windows in memory cannot be raised, and the toolkit warns each time.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
         pWidget->raise();
     }

@@ -1,4 +1,4 @@
-// The order in which top-level windows were last brought to the front. For sources only.
+// Tracks the order in which top-level windows were brought to the front. For sources only.
 #pragma once
 
 #include <vector>
@@ -6,10 +6,10 @@
 class QEvent;
 class QWidget;
 
-/// From the front to the back. It is all there is without a server that knows better.
+/// Front to back. Used alone where no window server provides the stacking order.
 const std::vector<QWidget*>& WindowsByUse();
-/// Notes what an event does to a window of ours.
+/// Updates the order after an event of one of our windows.
 void NoteStacking(QWidget* pWidget, const QEvent* pEvent);
-/// Brings a window or a child to the front of its kind.
+/// Raises a window, or a child among its siblings.
 void RaiseWidget(QWidget* pWidget);
 void ForgetStacking(const QWidget* pWidget);

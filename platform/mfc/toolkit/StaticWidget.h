@@ -1,4 +1,4 @@
-// The widget of controls that only show something. For sources only.
+// The widget of display-only controls. For sources only.
 #pragma once
 
 #include <optional>

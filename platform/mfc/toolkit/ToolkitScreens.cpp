@@ -1,4 +1,4 @@
-// The desktop as the toolkit and X11 tell of it.
+// The desktop as reported by the toolkit and X11.
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
@@ -27,13 +27,12 @@ using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
 /// Null without an X server.
 xcb_connection_t* Connection() {
-    // The interface is there without a server, too, but then has no connection.
+    // The interface exists without a server, too, but has no connection then.
     const auto* const pX11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return pX11 ? pX11->connection() : nullptr;
 }
 
-/// The window of a tree whose parent is the root: a window manager may have put a frame
-/// around ours.
+/// The ancestor of a window that is a child of the root: a window manager may have added a frame.
 xcb_window_t TopOf(xcb_connection_t* pConnection, xcb_window_t window) {
     for (;;) {
         const Owned<xcb_query_tree_reply_t> tree(
@@ -46,7 +45,7 @@ xcb_window_t TopOf(xcb_connection_t* pConnection, xcb_window_t window) {
     }
 }
 
-/// Places of the root's children, 0 at the back.
+/// Stacking positions of the root's children, 0 at the back.
 std::unordered_map<xcb_window_t, int> PlacesOnServer(xcb_connection_t* pConnection) {
     std::unordered_map<xcb_window_t, int> places;
     xcb_flush(pConnection);
@@ -62,7 +61,7 @@ std::unordered_map<xcb_window_t, int> PlacesOnServer(xcb_connection_t* pConnecti
     return places;
 }
 
-/// Puts windows, noted from the front to the back, in the order of the server.
+/// Sorts windows, recorded front to back, in the server's stacking order.
 void RefineByServer(std::vector<const QWidget*>& windows) {
     xcb_connection_t* const pConnection = Connection();
     if (!pConnection) {
@@ -94,7 +93,7 @@ std::span<const std::uint32_t> Numbers(const Property& property) {
             static_cast<std::size_t>(xcb_get_property_value_length(property.get())) / 4};
 }
 
-/// What a panel asks for: the four thicknesses, then where each begins and ends.
+/// Parses a panel's struts: the four thicknesses, followed by the range of each.
 void AppendStruts(std::span<const std::uint32_t> numbers, std::vector<EdgeStrut>& struts) {
     constexpr std::size_t kEdges = 4;
     if (numbers.size() < 3 * kEdges) {
@@ -107,7 +106,7 @@ void AppendStruts(std::span<const std::uint32_t> numbers, std::vector<EdgeStrut>
     }
 }
 
-/// The panels that the window manager knows; nothing without one.
+/// The struts of all panels known to the window manager; empty without one.
 std::vector<EdgeStrut> StrutsOnServer(xcb_connection_t* pConnection) {
     constexpr std::uint32_t kMost = 4096;
     const auto atom = [pConnection](std::string_view name) {
@@ -127,7 +126,7 @@ std::vector<EdgeStrut> StrutsOnServer(xcb_connection_t* pConnection) {
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(pConnection)).data->root;
     const Property list = TakeProperty(pConnection, ask(root, atom("_NET_CLIENT_LIST")));
     const xcb_atom_t partial = atom("_NET_WM_STRUT_PARTIAL");
-    // All are asked before the first answer is awaited.
+    // Send all requests before waiting for the first reply.
     std::vector<xcb_get_property_cookie_t> cookies;
     for (const xcb_window_t window : Numbers(list)) {
         cookies.push_back(ask(window, partial));
@@ -139,13 +138,13 @@ std::vector<EdgeStrut> StrutsOnServer(xcb_connection_t* pConnection) {
     return struts;
 }
 
-/// In pixels of the server: the toolkit keeps corners and scales sizes.
+/// In pixels of the server: the toolkit scales sizes but not positions.
 CRect NativeRect(const QScreen& screen) {
     return ToCRect({screen.geometry().topLeft(), screen.size() * screen.devicePixelRatio()});
 }
 
-/// The toolkit knows one work area for all monitors together, so that a panel of one would
-/// take its room from the others, too.
+/// The toolkit knows only one work area for all monitors, so a panel on one would reduce the
+/// others, too.
 QRect WorkAreaOfScreen(const QScreen& screen) {
     const QList<QScreen*> screens = QGuiApplication::screens();
     xcb_connection_t* const pConnection = Connection();
@@ -185,7 +184,7 @@ public:
             }
         }
         if (monitors.empty()) {
-            // All screens can be unplugged; there is still something to measure against.
+            // Even with all screens unplugged, callers need a size to work with.
             monitors.push_back({{0, 0, 1024, 768}, {0, 0, 1024, 768}});
         }
         return monitors;
@@ -197,7 +196,8 @@ public:
         if (!pPrimary) {
             return IScreens::Primary();
         }
-        // With several monitors the server is asked about all panels: too long for each step.
+        // With several monitors, all panels must be queried from the server: too slow for each
+        // mouse move.
         const QRect geometry = pPrimary->geometry();
         if (!m_primaryAge.isValid() || m_primaryAge.hasExpired(kPrimaryMilliseconds) ||
             m_primaryGeometry != geometry || QGuiApplication::screens().size() < 2) {

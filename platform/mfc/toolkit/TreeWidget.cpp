@@ -72,7 +72,7 @@ void TreeWidget::Select(HTREEITEM item) {
 }
 
 void TreeWidget::Remove(HTREEITEM item) {
-    // The toolkit moves the selection to a neighbour; a selection that goes is just gone.
+    // The toolkit would select a neighbour; removing the selected node must leave none selected.
     const bool losesSelection = IsWithin(m_model.selected, item);
     if (IsWithin(m_model.dropTarget, item)) {
         m_model.dropTarget = nullptr;
@@ -111,12 +111,12 @@ bool TreeWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* pEv
         return HookedArea::edit(index, trigger, pEvent);
     }
     if (trigger == SelectedClicked) {
-        // The toolkit waits whether a double click comes, then calls again.
+        // The toolkit waits for a possible double click, then calls again.
         return HookedArea::edit(index, trigger, pEvent);
     }
     const HTREEITEM item = m_model.ItemOf(index);
     if (TellLabel(TVN_BEGINLABELEDIT, item, nullptr) != 0) {
-        // The toolkit would complain: it has waited for this since the click.
+        // Returning false would make the toolkit warn, as it has waited since the click.
         return true;
     }
     m_edited = item;
@@ -141,7 +141,7 @@ void TreeWidget::startDrag(Qt::DropActions) {
     if (!pCore || !index.isValid()) {
         return;
     }
-    m_pressed.reset(); // a drag is no click
+    m_pressed.reset(); // a drag is not a click
     NMTREEVIEW drag;
     drag.itemNew = m_model.ItemOf(index);
     drag.ptDrag = ToCPoint(from);

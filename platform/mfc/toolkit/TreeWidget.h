@@ -13,10 +13,10 @@
 
 struct _TREEITEM { // NOLINT(bugprone-reserved-identifier)
     _TREEITEM* pParent = nullptr;
-    /// Cheap at both ends, and no memory where there are none.
+    /// Cheap at both ends, and without memory if empty.
     boost::container::deque<std::unique_ptr<_TREEITEM>> children;
-    std::ptrdiff_t firstPlace = 0;    ///< of the first child; falls and rises at the front
-    mutable std::ptrdiff_t place = 0; ///< a guess, see TreeModel::PlaceOf
+    std::ptrdiff_t firstPlace = 0;    ///< of the first child; decreases and increases at the front
+    mutable std::ptrdiff_t place = 0; ///< cached, see TreeModel::PlaceOf
     CString text;
     int image = -1;
     int selectedImage = -1;
@@ -33,13 +33,13 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// The node that holds the top ones; no node of the tree itself.
+    /// The invisible root above the top-level nodes.
     HTREEITEM Root() { return &m_root; }
     HTREEITEM ItemOf(const QModelIndex& index) const;
     QModelIndex IndexOf(HTREEITEM item) const;
-    /// Where a node stands among its siblings. The place noted in the node is right, counted
-    /// from the first one's, unless siblings were inserted or removed between the first and
-    /// it; then all of them are noted anew.
+    /// Index of a node among its siblings. The position cached in the node, relative to that of the
+    /// first sibling, is valid unless siblings were inserted or removed between the two; then the
+    /// cache of all siblings is refreshed.
     static std::size_t PlaceOf(const _TREEITEM& item);
 
     HTREEITEM Insert(HTREEITEM parent, std::size_t place, std::unique_ptr<_TREEITEM> item);
@@ -54,7 +54,7 @@ public:
     std::vector<QIcon> images;
     HTREEITEM selected = nullptr;
     HTREEITEM dropTarget = nullptr;
-    /// Asked whether a label that the user wrote shall stand.
+    /// Called to accept or reject a label entered by the user.
     std::function<bool(HTREEITEM, const CString&)> onEdited;
 
 private:
@@ -97,5 +97,5 @@ private:
     TreeModel m_model;
     bool m_quiet = false;
     std::optional<QPoint> m_pressed;
-    HTREEITEM m_edited = nullptr; ///< whose editor is open and has given no text yet
+    HTREEITEM m_edited = nullptr; ///< the node being edited, until its editor returns a text
 };

@@ -22,7 +22,7 @@
 
 namespace {
 
-/// What is said to fail when a window does.
+/// The step named in reports of failures in window handlers.
 constexpr PlatformMsg kStep = PlatformMsg::WindowMessage;
 
 /// Never destroyed: windows may be static objects.
@@ -43,8 +43,8 @@ HWND NextHandle() {
 
 const QEvent::Type kPostedMessage = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// Places come from files, too. No display has more pixels than this, and with numbers that a
-/// display cannot carry the toolkit would reckon beyond its own.
+/// Limit for positions, which may come from files. No display is larger, and greater numbers would
+/// overflow inside the toolkit.
 constexpr int kFarthest = 32767;
 constexpr int kLargest = 8192;
 
@@ -70,7 +70,7 @@ struct PostedMessage final : QEvent {
 
 } // namespace
 
-/// One message in the hands of its handlers.
+/// A message being handled.
 class WindowCore::Frame {
 public:
     Frame(const WindowCore* pOf, const MSG& message, ToolkitDefault* pToRun)
@@ -137,7 +137,7 @@ WindowCore* WindowCore::OfWidget(const QWidget* pWidget) {
 }
 
 WindowCore* WindowCore::Around(const QWidget* pWidget) {
-    // What stands on a window of ours without being one (a message box) is not part of it.
+    // A separate window on one of ours (such as a message box) is not part of it.
     for (; pWidget; pWidget = pWidget->isWindow() ? nullptr : pWidget->parentWidget()) {
         if (WindowCore* const pCore = OfWidget(pWidget)) {
             return pCore;
@@ -193,7 +193,7 @@ void WindowCore::Destroy() {
     }
     Detach();
     if (outer && m_pRole) {
-        // The widget may be in the middle of an event.
+        // The widget may be processing an event.
         outer->deleteLater();
     }
 }
@@ -264,7 +264,8 @@ bool WindowCore::DeliverEvent(enmWidgetPart part, QEvent* pEvent, ToolkitDefault
     Frame frame(this, msg, &toolkit);
     CallWindow(msg);
     if (pEvent->type() == QEvent::Close) {
-        // Whether the window goes is for the handlers alone; it has gone if they wanted it.
+        // Only handlers decide whether the window closes; it is already destroyed if they wanted
+        // that.
         pEvent->ignore();
         return true;
     }
@@ -309,7 +310,7 @@ bool WindowCore::Translate(enmWidgetPart part, QEvent* pEvent, MSG& msg) const {
         msg.message = WM_PAINT;
         return true;
     case QEvent::KeyPress:
-        // What a control left comes by its parents, too; it was not typed into them.
+        // Keys that a control ignored propagate to its parents, but were not typed into them.
         msg.message = WM_KEYDOWN;
         msg.wParam = static_cast<WPARAM>(VirtualKeyOf(static_cast<QKeyEvent*>(pEvent)->key()));
         return !QApplication::focusWidget() || Around(QApplication::focusWidget()) == this;
@@ -368,7 +369,7 @@ bool WindowCore::eventFilter(QObject*, QEvent* pEvent) {
         QEvent* m_pEvent;
     } toolkit{*this, pEvent};
     MSG msg;
-    // A frame of the host's own decides about its closing itself.
+    // A frame of the host decides itself whether it closes.
     if (pEvent->type() == QEvent::Close || !Translate(enmWidgetPart::Whole, pEvent, msg)) {
         return false;
     }
@@ -493,8 +494,8 @@ void ApplyGeometry(QWidget* pWidget, const QRect& rect) {
     const QPointer<QWidget> widget = pWidget;
     const QSize before = pWidget->size();
     pWidget->setGeometry(rect);
-    // A hidden widget would learn of its size when it is shown; layouts and places that
-    // depend on it are asked for earlier.
+    // A hidden widget would get its resize event only when shown, but layouts and positions that
+    // depend on it are needed earlier.
     if (widget && pWidget->testAttribute(Qt::WA_PendingResizeEvent)) {
         pWidget->setAttribute(Qt::WA_PendingResizeEvent, false);
         QResizeEvent event(pWidget->size(), before);

@@ -1,4 +1,4 @@
-// The link between a window object and the widgets that show it. For sources only.
+// Links a window object to the widgets that show it. For sources only.
 #pragma once
 
 #include <memory>
@@ -14,26 +14,26 @@
 
 class QEvent;
 
-/// What a control can do beyond being a widget.
+/// Control-specific behaviour of a widget.
 class WidgetRole {
 public:
     virtual ~WidgetRole() = default;
     virtual QString Caption() const { return {}; }
     virtual void SetCaption(const QString&) {}
-    /// Texts and rows that somebody should read who does not see the window.
+    /// Appends the texts and rows to print for a user who cannot see the window.
     virtual void AppendLines(std::vector<std::wstring>&) const {}
-    /// Enter is for this control, not for the default button.
+    /// True if Enter is handled by this control instead of the default button.
     virtual bool WantsReturn() const { return false; }
-    /// Pressed by Enter while it has the focus, and by the default button.
+    /// Called when Enter presses the focused control or the default button.
     virtual bool Press() { return false; }
-    /// The release of a mouse button that was pressed on the control is part of its click.
+    /// True if a mouse release after a press on the control is part of its click.
     virtual bool OwnsRelease() const { return false; }
 };
 
-/// A part of a window, as events come to it.
+/// The part of a window that receives an event.
 enum class enmWidgetPart { Whole, Frame, Client };
 
-/// Calls what the toolkit does with an event by itself.
+/// Runs the toolkit's default handling of an event.
 class ToolkitDefault {
 public:
     virtual bool Run() = 0;
@@ -42,15 +42,15 @@ protected:
     ~ToolkitDefault() = default;
 };
 
-/// Registered from creation to destruction of its window and shared with the calls that are
-/// in its handlers.
+/// Registered from creation to destruction of its window; shared with the calls currently in its
+/// handlers.
 class WindowCore final : public QObject, public std::enable_shared_from_this<WindowCore> {
 public:
-    /// Links an object to its widgets; outer and client are the same where there is no frame.
+    /// Links an object to its widgets; outer and client are the same for windows without a frame.
     static std::shared_ptr<WindowCore> Bind(CWnd& wnd, QWidget* pOuter, QWidget* pClient,
                                             CWnd* pParent, UINT id, UINT style);
     static WindowCore* Find(HWND hWnd);
-    /// The window that a widget is part of, its own or the nearest around it; null for none.
+    /// The window that a widget is part of, or the nearest around it; null if there is none.
     static WindowCore* Around(const QWidget* pWidget);
     static WindowCore* OfWidget(const QWidget* pWidget);
     static std::vector<WindowCore*> All();
@@ -66,21 +66,21 @@ public:
     UINT Style() const { return m_style; }
     const std::vector<HWND>& Children() const { return m_children; }
 
-    /// Has another object stand for the window; the one before is left without.
+    /// Attaches another object to the window and detaches the current one.
     void HandOver(CWnd& wnd);
-    /// Has the window go with another parent; null: with none.
+    /// Changes the parent; null removes it.
     void MoveTo(WindowCore* pParent);
-    /// An object that goes with the window: a control that nobody took over.
+    /// Takes ownership of the object of a control that no module object is attached to.
     void Own(std::unique_ptr<CWnd> pWnd) { m_pOwned = std::move(pWnd); }
     void Destroy();
-    /// The toolkit destroyed a widget by itself.
+    /// Called when the toolkit has destroyed a widget itself.
     void WidgetGone();
 
-    /// Sends a message, with what the toolkit does by itself at hand for DefWindowProc.
+    /// Sends a message; DefWindowProc runs the given default.
     LRESULT Deliver(const MSG& msg, ToolkitDefault* pDefault);
-    /// Turns an event into a message and delivers it; the toolkit does the others by itself.
+    /// Translates an event to a message and delivers it; other events go to the toolkit.
     bool DeliverEvent(enmWidgetPart part, QEvent* pEvent, ToolkitDefault& toolkit);
-    /// True if there was something of the toolkit's own to do for the message in hand.
+    /// True if the toolkit has a default action for the current message, which is run.
     static bool RunToolkitDefault(const WindowCore* pCore);
     static const MSG* MessageInHand();
 
@@ -92,10 +92,10 @@ public:
     void StartTimerOf(DWORD_PTR id, UINT milliseconds);
     bool StopTimerOf(DWORD_PTR id);
 
-    /// Of a child in its parent, of others on the screen as modules count.
+    /// In parent coordinates for a child, else in module screen coordinates.
     QRect GeometryNow() const;
     void TakeGeometry(const QRect& rect);
-    /// Asks the handlers about a place, then takes it.
+    /// Lets the handlers adjust a position, then applies it.
     void Place(WINDOWPOS place, const WindowCore* pInsertAfter);
 
 protected:
@@ -124,20 +124,20 @@ private:
     bool m_inForeignDefault = false;
     std::vector<HWND> m_children;
     std::vector<const QWidget*> m_registered;
-    std::unordered_map<int, DWORD_PTR> m_timers; ///< by the toolkit's numbers
+    std::unordered_map<int, DWORD_PTR> m_timers; ///< by the toolkit's timer ids
     std::unique_ptr<CWnd> m_pOwned;
 };
 
-/// Moves and sizes a widget; a hidden one learns of its size at once, too.
+/// Moves and sizes a widget; hidden widgets get the resize event at once, too.
 void ApplyGeometry(QWidget* pWidget, const QRect& rect);
 
-/// A widget whose events come as messages first.
+/// A widget whose events are first delivered as messages.
 template <class Base>
 class Hooked : public Base, public WidgetRole {
 public:
     explicit Hooked(QWidget* pParent, enmWidgetPart part = enmWidgetPart::Whole)
         : Base(pParent), m_part(part) {}
-    // NOLINTNEXTLINE(bugprone-exception-escape): what handlers throw ends the program here
+    // NOLINTNEXTLINE(bugprone-exception-escape): exceptions of handlers end the program here
     ~Hooked() override {
         if (WindowCore* pCore = WindowCore::OfWidget(this)) {
             pCore->WidgetGone();
@@ -165,7 +165,7 @@ private:
     enmWidgetPart m_part;
 };
 
-/// The same for widgets that scroll: painting and the mouse come to their viewport.
+/// The same for scrollable widgets, whose viewport gets paint and mouse events.
 template <class Base>
 class HookedArea : public Hooked<Base> {
 public:
@@ -177,7 +177,7 @@ protected:
     }
 };
 
-/// The widget of a control, if it is of the kind asked for.
+/// The widget of a control if it is of the given type, else null.
 template <class Widget>
 Widget* WidgetOf(const CWnd& wnd) {
     return wnd.Core() ? dynamic_cast<Widget*>(wnd.Core()->Outer()) : nullptr;

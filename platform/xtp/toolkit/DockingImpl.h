@@ -1,4 +1,4 @@
-// What stands behind docking panes. For sources only.
+// Implementation data of docking panes. For sources only.
 #pragma once
 
 #include <QDockWidget>
@@ -11,7 +11,7 @@ struct CXTPDockingPane::Impl {
     QPointer<QDockWidget> dock;
     HWND frame = nullptr;
     HWND child = nullptr;
-    bool isRestored = false; ///< it came to where the user had left it
+    bool isRestored = false; ///< placed where the user left it in an earlier run
 };
 
 struct CXTPDockingPaneManager::Impl {

@@ -27,7 +27,7 @@ constexpr int kMsgNotWritten = 900347; // with the reason
 constexpr const wchar_t* kPrecisionKey = L"NODE_INDEX_PRECISION";
 constexpr int kDefaultPrecision = 3;
 
-/// General settings that make sense as whole numbers only.
+/// General settings that accept whole numbers only.
 constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP", L"PT_MARK_COLOR",
                                           kPrecisionKey};
 

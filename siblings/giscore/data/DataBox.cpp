@@ -13,10 +13,10 @@ namespace Orvane::Data {
 
 namespace {
 
-/// The nearest whole number, fractions cut off.
+/// Truncates and clamps to the range of the type.
 template <class Whole>
 Whole ToWhole(std::floating_point auto value) {
-    // As a double the greatest long is one too large.
+    // Converted to double, the largest long is one too large.
     constexpr auto kLeast = static_cast<double>(std::numeric_limits<Whole>::min());
     if (std::isnan(value)) {
         return 0;
@@ -44,7 +44,7 @@ CString Join(const CStringArray& pieces) {
     return text;
 }
 
-/// Numbers are handed to one function, and what has to be read first, as a text, to the other.
+/// Passes numbers to one function and values that have to be parsed, as a text, to the other.
 template <class Value, class FromNumber, class FromText>
 auto Convert(const Value& value, FromNumber fromNumber, FromText fromText) {
     return std::visit(
@@ -66,7 +66,7 @@ auto Convert(const Value& value, FromNumber fromNumber, FromText fromText) {
 } // namespace
 
 int CDataBox::GetDataType() const {
-    // In the order of the variant.
+    // In the order of the variant's alternatives.
     static constexpr std::array kTypes = {DataTypeNone, DataTypeDouble, DataTypeInt,
                                           DataTypeText, DataTypeLong,   DataTypeTextList};
     static_assert(kTypes.size() == std::variant_size_v<decltype(m_value)>);

@@ -1,4 +1,4 @@
-// A value of one of the kinds that dialogs and entities keep.
+// A value of any of the types that dialogs and entities store.
 #pragma once
 
 #include <variant>
@@ -8,7 +8,7 @@
 
 namespace Orvane::Data {
 
-/// Kinds of content by the numbers under which they are persisted.
+/// Content types; the numbers are persisted.
 enum enmDataType : int {
     DataTypeNone = 0,
     DataTypeDouble = 5001,
@@ -18,9 +18,9 @@ enum enmDataType : int {
     DataTypeTextList = 5023,
 };
 
-/// Takes any kind in and gives it out as any other; a conversion never fails. Texts become
-/// numbers as far as they can be read as one, numbers become the nearest one of the other
-/// kind, and a list is one text with ";" between its pieces. An empty box is 0 or no text.
+/// Stores any type and converts to any other; a conversion never fails. The numeric prefix of a
+/// text counts as a number, reals are truncated and clamped to the range of an integer type, and
+/// a list becomes one text joined by ";". An empty box converts to 0 or an empty text.
 class GISCORE_API CDataBox {
 public:
     CDataBox() = default;
@@ -44,9 +44,9 @@ public:
     operator double() const;
     operator int() const;
     operator long() const;
-    /// Reals in the shortest form that reads back as the same number.
+    /// Reals in the shortest form that round-trips.
     operator CString() const;
-    /// The pieces of a list; none if the box holds anything else.
+    /// The items of a list; empty if the box holds anything else.
     const CStringArray& GetStringArray() const;
 
 private:

@@ -1,4 +1,4 @@
-// How data is shown, and which data lives for a session only.
+// Display of data, and the definitions of session-only data.
 #pragma once
 
 #include <vector>
@@ -13,14 +13,14 @@ public:
     /// Lives to the end of the process.
     static CDataConfiguration* Instance();
 
-    /// Decimal places of coordinates in texts; held between 0 and 15.
+    /// Decimal places of coordinates in texts; clamped to 0..15.
     void SetFloatToStrPrecision_Point(int decimals);
     int GetFloatToStrPrecision_Point() const { return m_nPointPrecision; }
-    /// A coordinate with that many decimal places.
+    /// Formats a coordinate with the configured number of decimal places.
     CString PointToStr(double coordinate) const;
 
-    /// Reads the definitions of temporary data again, from TemporaryData.ini in the
-    /// folder "support", and tells the observers of the GIS core.
+    /// Reloads the definitions of temporary data from TemporaryData.ini in the folder "support"
+    /// and notifies the observers of the GIS core.
     void RefreshTemporaryDataDefinitions();
     const std::vector<CDataDefinition>& GetTemporaryDataDefinitions() const {
         return m_temporaryData;

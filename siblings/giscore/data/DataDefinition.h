@@ -1,4 +1,4 @@
-// The description of a value that entities can have.
+// Definition of a value that entities can have.
 #pragma once
 
 #include <vector>
@@ -11,15 +11,15 @@ namespace Orvane::Data {
 struct CDataDefinition {
     enum class Type { Number, Text };
 
-    CString m_strName;  ///< by which values are kept
-    CString m_strLabel; ///< as the user reads it
-    CString m_strUnit;  ///< of numbers; empty if there is none
+    CString m_strName;  ///< key under which values are stored
+    CString m_strLabel; ///< display text
+    CString m_strUnit;  ///< unit of a number; may be empty
     Type m_type = Type::Number;
 };
 
-/// Reads definitions from a file of the folder "support": a section each, named after
-/// the value, with the keys label, unit and type (number or text). What is wrong with the
-/// file is noted with CModuleConfiguration. A file that is not there defines nothing.
+/// Reads definitions from a file of the folder "support": one section per value, named after it,
+/// with the keys label, unit and type (number or text). Problems are reported to
+/// CModuleConfiguration. A missing file defines nothing.
 GISCORE_API std::vector<CDataDefinition> ReadDataDefinitions(const wchar_t* fileName);
 
 } // namespace Orvane::Data

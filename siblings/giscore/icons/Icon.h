@@ -1,4 +1,4 @@
-// What an icon handle of the configuration stands for.
+// The object behind an icon handle.
 #pragma once
 
 #include "platform/win/Rect.h"
@@ -6,11 +6,11 @@
 
 namespace Orvane {
 
-/// A picture known by name. A HICON of CModuleConfiguration points to one.
+/// A named icon. An HICON returned by CModuleConfiguration points to one.
 struct CIcon {
     CString m_strName;
-    CString m_strPath; ///< a scalable picture (SVG)
-    CSize m_size;      ///< it is shown at, unless another is asked for
+    CString m_strPath; ///< SVG file
+    CSize m_size;      ///< default display size
 };
 
 } // namespace Orvane

@@ -10,8 +10,8 @@ namespace {
 
 constexpr CSize kUsualSize(16, 16);
 
-/// The file of an icon; empty if there is none. A name with a separator would lead out of
-/// the folder.
+/// The file of an icon; empty if there is none. Names with a separator are rejected because they
+/// could leave the folder.
 CString FileOf(const CString& folder, const CString& name) {
     const CString path = folder + name + L".svg";
     return !name.IsEmpty() && FileNameOf(name) == name && FileExists(path) ? path : CString();

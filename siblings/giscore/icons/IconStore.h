@@ -1,4 +1,4 @@
-// The icons of the installation: their handles and the pictures behind these.
+// The icons of the installation, by handle.
 #pragma once
 
 #include <map>
@@ -11,10 +11,10 @@ namespace Orvane {
 
 class CIconStore final : public IIconSource {
 public:
-    /// The icon of a name in a folder (with a separator at its end), the same each time; null
+    /// The shared icon of that name in a folder (ending in a separator), the same each time; null
     /// if there is none.
     HICON Get(const CString& folder, const CString& name);
-    /// One of its own for the caller, who destroys it.
+    /// A separate copy, destroyed by the caller.
     HICON Load(const CString& folder, const CString& name, CSize size);
 
     CImage GetImage(HICON icon, CSize size) override;
@@ -24,7 +24,7 @@ private:
     HICON Keep(CIcon icon);
 
     std::map<HICON, std::unique_ptr<CIcon>> m_icons;
-    std::map<CString, HICON, CStringLess> m_shared; ///< those of m_icons that stay
+    std::map<CString, HICON, CStringLess> m_shared; ///< the shared ones among m_icons
 };
 
 } // namespace Orvane

@@ -8,19 +8,19 @@
 
 namespace Orvane::System {
 
-/// Hands an event to every observer in the order of registration. Whoever performs what
-/// an event tells of raises it. Main thread only.
+/// Delivers an event to every observer in the order of registration. The code that performs an
+/// action raises its event. Main thread only.
 class GISCORE_API CGisEvents {
 public:
     /// Lives to the end of the process.
     static CGisEvents* Instance();
 
-    /// Not owned. One that is registered already keeps its place.
+    /// Not owned. Registering again has no effect.
     void Register(ISystemEvents* pObserver);
     void Unregister(ISystemEvents* pObserver);
 
-    /// Raise(&ISystemEvents::OnSystemChanged, pSystem). Observers may come and go
-    /// meanwhile; an exception of one passes out.
+    /// Raise(&ISystemEvents::OnSystemChanged, pSystem). Observers may register and unregister
+    /// during the call. Exceptions of observers propagate.
     template <class... Params, class... Args>
     void Raise(void (ISystemEvents::*event)(Params...), Args... args) {
         const std::vector<ISystemEvents*> observers = m_observers;

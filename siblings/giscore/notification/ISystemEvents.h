@@ -1,4 +1,4 @@
-// What the GIS core tells of systems, configurations and settings.
+// Events of the GIS core about systems, configurations and settings.
 #pragma once
 
 namespace Orvane::System {
@@ -6,12 +6,12 @@ namespace Orvane::System {
 class CGisSystem;
 class CGisSystems;
 
-/// Derived by who wants to hear; override what is of interest. Not owned. The meaning of
-/// the texts of the configuration events: tag of the repository, GUID of the definition.
+/// Override the events of interest. Observers are not owned. The texts of the configuration
+/// events are the repository's tag and the item's GUID.
 class ISystemEvents {
 public:
     virtual void OnSystemChanged(CGisSystem*) {}
-    /// Null: no system is active any more.
+    /// Null: no system is active any longer.
     virtual void OnSystemBecomeActive(CGisSystem*) {}
     virtual void OnSystemBecomeInactive(CGisSystem*) {}
     virtual void OnSystemBecomeHidden(CGisSystem*) {}
@@ -30,11 +30,11 @@ public:
                                        const wchar_t* /*guid*/) {}
     virtual void OnAfterGeneralSettingsChanged() {}
 
-    /// Between the two events of a deletion: who keeps something of the system, such as
-    /// its entities, drops it now.
+    /// Sent between the two events of a deletion: observers that store data of the system, such
+    /// as its entities, drop it now.
     virtual void OnDropSystemContent(CGisSystem*) {}
-    /// A drawing is about to be saved: who keeps something of its systems apart from the
-    /// drawing gives it back now.
+    /// Sent before a drawing is saved: observers that keep data of its systems outside the
+    /// drawing write it back now.
     virtual void OnSaveSystemContent(CGisSystems*) {}
 
 protected:

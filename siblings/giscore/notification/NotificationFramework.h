@@ -1,4 +1,4 @@
-// Publishers by name, and which command of the user is running.
+// Publishers by name, and the user command that is running.
 #pragma once
 
 #include <map>
@@ -15,18 +15,18 @@ public:
     /// Lives to the end of the process.
     static CNotificationFramework* Instance();
 
-    /// The publisher of a name, made at the first call; never null. Every module that
-    /// asks for the name gets the same one.
+    /// The publisher of a name, created on first use; never null. All modules get the same one
+    /// for the same name.
     CPublisher* GetPublisher(const wchar_t* name);
-    /// Takes a subscriber off every publisher.
+    /// Unregisters a subscriber from every publisher.
     static void UnregisterSubscriber(CSubscriber* pSubscriber);
 
-    /// From now on no publisher tells anybody anything. There is no way back.
+    /// Disables all publishers permanently.
     static void BlockAllResponders();
 
-    /// Non-zero while a SetActiveCommand lives.
+    /// Non-zero while a SetActiveCommand is alive.
     static int IsCommandActive();
-    /// Name of the command that began last; empty if none is active.
+    /// Name of the command that started last; empty if none is active.
     static CString GetActiveCommand();
 
 private:

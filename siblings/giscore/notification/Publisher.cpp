@@ -17,7 +17,7 @@ void CPublisher::UnregisterSubscriber(CSubscriber* pSubscriber) {
     if (m_nRunning == 0) {
         std::erase(m_subscribers, pSubscriber);
     } else {
-        // Places must not move under the walk; the empty ones go when it has ended.
+        // Indices must stay valid during Notify; the outermost call removes the nulls.
         std::replace(m_subscribers.begin(), m_subscribers.end(), pSubscriber,
                      static_cast<CSubscriber*>(nullptr));
     }

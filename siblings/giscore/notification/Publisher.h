@@ -1,4 +1,4 @@
-// One subject that modules signal and listen to, known by name.
+// A named subject to which modules subscribe.
 #pragma once
 
 #include <vector>
@@ -10,7 +10,7 @@ namespace Orvane::Notification {
 
 class CSubscriber;
 
-/// Made and owned by CNotificationFramework. Main thread only.
+/// Created and owned by CNotificationFramework. Main thread only.
 class GISCORE_API CPublisher {
 public:
     explicit CPublisher(CString name) : m_strName(std::move(name)) {}
@@ -19,22 +19,22 @@ public:
 
     const CString& GetName() const { return m_strName; }
 
-    /// Not owned. One that is registered already keeps its place; null is ignored.
+    /// Not owned. Registering again has no effect; null is ignored.
     void RegisterSubscriber(CSubscriber* pSubscriber);
     void UnregisterSubscriber(CSubscriber* pSubscriber);
 
-    /// Calls Update of every subscriber in the order of registration. Subscribers may come
-    /// and go meanwhile: who goes is not called any more, who comes is called from the next
-    /// time on. An exception of a subscriber passes out.
+    /// Calls Update of every subscriber in the order of registration. Subscribers removed during
+    /// a call are skipped; new ones are called from the next event on. Exceptions of subscribers
+    /// propagate.
     void Notify(void* pHint1, void* pHint2);
 
 private:
     friend class CNotificationFramework;
-    static bool s_bBlocked; ///< all of them are
+    static bool s_bBlocked; ///< applies to all publishers
 
     CString m_strName;
-    std::vector<CSubscriber*> m_subscribers; ///< null: has gone while somebody was being told
-    int m_nRunning = 0;                      ///< calls of Notify under way
+    std::vector<CSubscriber*> m_subscribers; ///< null: removed during Notify
+    int m_nRunning = 0;                      ///< depth of nested Notify calls
 };
 
 } // namespace Orvane::Notification

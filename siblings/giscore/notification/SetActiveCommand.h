@@ -1,12 +1,12 @@
-// Marks a command of the user as running.
+// Marks a user command as running.
 #pragma once
 
 #include "siblings/giscore/Api.h"
 
 namespace Orvane::Notification {
 
-/// While it lives, the framework regards the named command as running. Such marks nest;
-/// they have to end in the reverse order, as local objects do.
+/// The framework regards the named command as running during the lifetime of this object. Objects
+/// nest and must be destroyed in reverse order, as locals are.
 class GISCORE_API SetActiveCommand {
 public:
     explicit SetActiveCommand(const wchar_t* name);

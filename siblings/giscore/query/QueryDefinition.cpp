@@ -7,7 +7,7 @@ namespace Orvane::Query {
 
 namespace {
 
-/// By the number of Operator.
+/// Indexed by Operator.
 constexpr const wchar_t* kOperators[] = {L"=", L"<>", L"<",        L"<=",
                                          L">", L">=", L"contains", L"empty"};
 
@@ -25,7 +25,7 @@ CString WithoutQuotes(CString text) {
     return isQuoted ? text.Mid(1, length - 2) : text;
 }
 
-/// The longest operator of signs at a place of a text.
+/// The longest symbolic operator at the start of a text.
 std::optional<Operator> SignAt(std::wstring_view text) {
     std::optional<Operator> found;
     std::size_t length = 0;
@@ -42,14 +42,14 @@ std::optional<Operator> SignAt(std::wstring_view text) {
 constexpr std::wstring_view kSigns = L"<>=";
 constexpr std::wstring_view kForeignEnds = L"!~:&|^";
 
-/// People who know other notations write "!=", ":=", "~=", "==" or "=>". Taken literally, the
-/// sign too many would become a part of the attribute's name or of the value.
+/// Users of other notations write "!=", ":=", "~=", "==" or "=>". Accepted as is, the extra
+/// character would become part of the attribute name or of the value.
 bool HasForeignSign(std::wstring_view attribute, std::wstring_view value) {
     return kForeignEnds.find(attribute.back()) != kForeignEnds.npos ||
            (!value.empty() && kSigns.find(value.front()) != kSigns.npos);
 }
 
-/// "=" and "<>" can be asked of nothing.
+/// Only "=" and "<>" accept an empty value.
 bool NeedsValue(Operator op) {
     return op != Operator::Equal && op != Operator::NotEqual;
 }
@@ -80,7 +80,7 @@ std::optional<Condition> ParseWords(const CString& text) {
     const auto op = OperatorOf(end < 0 ? rest : rest.Left(end));
     const CString value = end < 0 ? CString() : WithoutQuotes(rest.Mid(end));
     const bool isWord = op == Operator::Contains || op == Operator::IsEmpty;
-    // "empty" takes no value, "contains" needs one.
+    // "empty" takes no value, "contains" requires one.
     if (!isWord || (op == Operator::IsEmpty) != (end < 0)) {
         return std::nullopt;
     }
@@ -135,7 +135,7 @@ CString CQueryDefinition::ReadContent(const XmlElement& root) {
 
 std::optional<Condition> ParseCondition(const CString& text) {
     const CString trimmed = CString(text).Trim();
-    // A sign inside the value of "contains" is none of the condition.
+    // Ignore symbols inside the value of "contains".
     const auto words = ParseWords(trimmed);
     return words ? words : ParseSigns(trimmed);
 }

@@ -16,33 +16,33 @@ enum class Operator {
     Greater,
     GreaterOrEqual,
     Contains,
-    IsEmpty, ///< the value is not looked at
+    IsEmpty, ///< ignores the value
 };
 
-/// As it is written: "=", "<>", "<", "<=", ">", ">=", "contains", "empty".
+/// As written in a condition: "=", "<>", "<", "<=", ">", ">=", "contains", "empty".
 GISCORE_API const wchar_t* OperatorText(Operator op);
-/// Without regard to case; nothing for any other text.
+/// Case-insensitive; nullopt for any other text.
 GISCORE_API std::optional<Operator> OperatorOf(const CString& text);
 
 struct Condition {
-    CString attribute; ///< its name in the drawing, case sensitive
+    CString attribute; ///< attribute name in the drawing, case-sensitive
     Operator op = Operator::Equal;
     CString value;
     friend bool operator==(const Condition&, const Condition&) = default;
 };
 
-/// Conditions on attributes, of which an entity has to fulfil all, or any. Names no system,
-/// so it can be asked of each. Without conditions every entity of the kind fulfils it.
+/// Conditions on attributes; an entity must meet all of them, or any. Not tied to a system, so it
+/// can run on each. Without conditions every entity of the queried kind matches.
 class GISCORE_API CQueryDefinition : public CRepositoryItem {
 public:
     CQueryDefinition(const wchar_t* guid, const wchar_t* name)
         : CRepositoryItem(L"QUERY", guid, name) {}
     ~CQueryDefinition() override;
 
-    /// The kind of entities that are asked for; EntityNone for every kind.
+    /// The kind of entity to search; EntityNone for all kinds.
     enmEntityType GetQueriedType() const { return m_enmQueriedType; }
     void SetQueriedType(enmEntityType type) { m_enmQueriedType = type; }
-    /// Whether one fulfilled condition is enough.
+    /// Whether meeting one condition is enough.
     bool GetMatchAny() const { return m_bMatchAny; }
     void SetMatchAny(bool any) { m_bMatchAny = any; }
     const std::vector<Condition>& GetConditions() const { return m_conditions; }
@@ -58,8 +58,9 @@ private:
     std::vector<Condition> m_conditions;
 };
 
-/// A condition as people write it, "DIAMETER >= 300" or "NAME empty"; the reverse of
-/// ConditionText. A value may stand in double quotes. Nothing if it is none.
+/// Parses a condition as users write it, "DIAMETER >= 300" or "NAME empty"; the inverse of
+/// ConditionText. A value may be in double quotes. Returns nullopt if it is not a valid
+/// condition.
 GISCORE_API std::optional<Condition> ParseCondition(const CString& text);
 GISCORE_API CString ConditionText(const Condition& condition);
 

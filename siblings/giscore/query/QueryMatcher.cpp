@@ -11,7 +11,7 @@ namespace Orvane::Query {
 
 namespace {
 
-/// Numbers by size, texts by letters; nothing for one against the other.
+/// Numbers compare by value, texts alphabetically; nullopt for a number and a text.
 std::optional<std::partial_ordering> Order(const std::optional<double>& leftNumber,
                                            const CString& left,
                                            const std::optional<double>& rightNumber,

@@ -1,4 +1,4 @@
-// Whether values fulfil a query.
+// Tests values against a query.
 #pragma once
 
 #include <functional>
@@ -9,15 +9,15 @@
 
 namespace Orvane::Query {
 
-/// The value of an attribute; a null value if there is none.
+/// Returns the value of an attribute; a null value if there is none.
 using ValueOf = std::function<AcDbValue(AcDbNameId)>;
 
-/// The conditions of a query, made ready for asking many entities. The kind of entity is for
-/// the caller to look at.
+/// The conditions of a query, prepared for testing many entities. The caller checks the kind of
+/// entity.
 ///
-/// A text that is a number counts as one. Numbers compare by size, texts letter by letter
-/// without regard to case, and a number against a text only as equal or not. A value that is
-/// not there, or an empty text, is empty: it equals nothing but an empty value.
+/// A text that reads as a number counts as one. Numbers compare by value, texts
+/// case-insensitively, and a number and a text only for equality. A missing value and an empty
+/// text are both empty and equal only to an empty value.
 class GISCORE_API QueryMatcher {
 public:
     explicit QueryMatcher(const CQueryDefinition& query);
@@ -36,9 +36,9 @@ private:
     bool m_bMatchAny;
 };
 
-/// A value as people read it: a number in its shortest form, an empty text for none. UTF-8.
+/// Display form of a value: the shortest form of a number, an empty text for null. UTF-8.
 GISCORE_API std::string ValueText(const AcDbValue& value);
-/// The number that a value is, be it as a text.
+/// The numeric value, also of a text that reads as a number.
 GISCORE_API std::optional<double> ValueNumber(const AcDbValue& value);
 
 } // namespace Orvane::Query

@@ -1,4 +1,4 @@
-// Settings that are kept in a drawing, as records of one of its dictionaries.
+// Settings stored in a drawing as records of one of its dictionaries.
 #pragma once
 
 #include "platform/arx/DbDatabase.h"
@@ -6,24 +6,24 @@
 
 namespace Orvane::System {
 
-/// One dictionary of a drawing, which need not be there yet.
+/// One dictionary of a drawing, which need not exist yet.
 class GISCORE_API DrawingRecords {
 public:
     DrawingRecords(AcDbDatabase& database, const CString& dictionary)
         : m_database(database), m_strDictionary(dictionary) {}
 
-    /// Null without the dictionary.
+    /// Null if the dictionary does not exist.
     const AcDbDictionary* Dictionary() const;
     /// Empty if there is no such record.
     CString Get(const wchar_t* record) const;
     int GetInt(const wchar_t* record, int otherwise) const;
 
-    /// Makes the dictionary if there is none. What stands there already is not written
-    /// again. False if somebody else has the dictionary open.
+    /// Creates the dictionary if necessary and skips writing an unchanged text. Returns false if
+    /// the dictionary is open elsewhere.
     bool Set(const wchar_t* record, const CString& text);
     bool Set(const wchar_t* record, int number);
     bool Remove(const wchar_t* record);
-    /// The whole dictionary.
+    /// Erases the whole dictionary.
     bool Erase();
 
 private:

@@ -15,59 +15,58 @@ namespace Orvane::System {
 class CGisSystems;
 class DrawingRecords;
 
-/// Records with this prefix are items and defaults of repository families, which are kept
-/// with the system. When they change, by undo for instance, observers hear OnSystemChanged.
+/// Records with this prefix are items and defaults of repository families stored with the system.
+/// Changes to them, for instance by undo, raise OnSystemChanged.
 inline constexpr std::wstring_view kItemPrefix = L"ITEM.";
 
-/// What is known of a system apart from its entities. Kept in the drawing as a dictionary,
-/// so that it is saved, and undone, with it. Made and owned by CGisSystems; gone once it is
-/// deleted or its document is closed. Changed through CSystemManager, so that everybody
-/// hears of it.
+/// The data of a system apart from its entities. Stored in the drawing as a dictionary, so it is
+/// saved and undone with it. Created and owned by CGisSystems; deleted with the system or when
+/// its document closes. Change it only through CSystemManager, which notifies the observers.
 class GISCORE_API CGisSystem {
 public:
     CGisSystem(const CGisSystem&) = delete;
     CGisSystem& operator=(const CGisSystem&) = delete;
 
-    /// Unique in the drawing, without regard to case.
+    /// Unique in the drawing, case-insensitive.
     const CString& GetSystemName() const { return m_strName; }
-    /// Unique in the drawing, from 1; not used again after a system was deleted.
+    /// Unique in the drawing, from 1; never reused after a system was deleted.
     int GetSystemId() const { return m_nId; }
-    /// Unique everywhere.
+    /// Globally unique.
     const CString& GetGuid() const { return m_strGuid; }
     enmTopologyType GetTopologyType() const { return m_enmTopologyType; }
-    /// Number of CTopologyFunction; 0 for topologies without functions.
+    /// Id of a CTopologyFunction; 0 for topologies without functions.
     int GetSystemFunction() const { return m_nFunction; }
-    /// Non-zero if its entities are shown.
+    /// Non-zero if its entities are visible.
     int GetVisibility() const { return m_bVisible; }
     /// Non-zero if it is the drawing's active system.
     int GetActive() const;
     AcDbDatabase* GetDatabase() const;
-    /// The dictionary that it is kept as. Not after its drawing was closed.
+    /// The system's dictionary. Must not be called after the drawing was closed.
     DrawingRecords GetRecords() const;
-    /// Another number after each change of the items that are kept with it.
+    /// Changes with every change of the items stored with the system.
     std::size_t GetItemStamp() const { return m_nItemStamp; }
 
-    /// By their references.
+    /// Ordered by reference.
     const std::vector<CGisSystemLayer>& GetLayers() const { return m_layers; }
     /// Null if the system has no such layer.
     const CGisSystemLayer* GetLayerByReference(const wchar_t* reference) const;
-    /// The layer for its entities of a kind, EntityNone for texts; its first layer if it has
-    /// none of its own for them, null if it has none at all.
+    /// The layer for entities of a kind (EntityNone: texts); the first layer if the system has
+    /// none for that kind, null if it has no layers.
     AcDbObjectId GetLayerFor(enmEntityType type) const;
 
-    /// Name or definition of the coordinate system of its positions; empty if unknown.
+    /// Name or definition of the coordinate reference system; empty if unknown.
     const CString& GetCoordinateSystem() const { return m_strCoordinateSystem; }
     void SetCoordinateSystem(const wchar_t* text);
 
-    /// Named counters that go with the system, such as the last number given to a node.
-    /// Written into the drawing with each save; undoing does not turn them back.
+    /// Named counters of the system, such as the last number used in a node name. Written into
+    /// the drawing on save; not affected by undo.
     using Counters = std::map<CString, int, CStringLess>;
     const Counters& GetCounters() const { return m_counters; }
     void SetCounters(Counters counters) { m_counters = std::move(counters); }
-    /// One of them, 0 at first.
+    /// One counter, initially 0.
     int& Counter(const wchar_t* name) { return m_counters[CString(name)]; }
 
-    // 1, and the value, if the statistic is there for this system; 0 otherwise.
+    // Returns 1 and the value if the statistic is available for this system; 0 otherwise.
     int GetStatisticValue_int(enmStatistic statistic, int& value) const;
     int GetStatisticValue_dbl(enmStatistic statistic, double& value) const;
 

@@ -8,7 +8,7 @@ namespace Orvane::System {
 
 namespace {
 
-/// Colours that can be read on light and on dark.
+/// Colours that are legible on light and dark backgrounds.
 constexpr LayerDesign kDesigns[] = {
     {TopologyLine, 1, L"DIONICA", GisMsg::SectionLayer, 150},
     {TopologyLine, 2, L"DIONICA", GisMsg::SectionLayer, 32},
@@ -34,7 +34,7 @@ constexpr LayerDesign kDesigns[] = {
 } // namespace
 
 AcDbObjectId CGisSystemLayer::GetLayerId() const {
-    // Asked for with every entity, so that the search by name is spared where it can be.
+    // Called for every entity, so avoid the look-up by name where possible.
     const AcDbObject* const pLast = m_pDatabase->peek(m_id);
     if (!pLast || pLast->isErased()) {
         m_id = m_pDatabase->findLayer(m_strName);
@@ -49,7 +49,7 @@ int CGisSystemLayer::GetColorIndex() const {
 }
 
 std::vector<const LayerDesign*> LayerDesignsOf(enmTopologyType type, int function) {
-    // An alignment has no sections, and a row of the function itself is the one that counts.
+    // An alignment has no sections, and a row for the function itself takes precedence.
     const bool isAlignment = type == TopologyLine && function == kFunctionAlignment;
     std::vector<const LayerDesign*> designs;
     for (const LayerDesign& design : kDesigns) {

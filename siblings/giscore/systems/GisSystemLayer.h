@@ -10,8 +10,8 @@
 
 namespace Orvane::System {
 
-/// Systems know their layers by a reference, as "DIONICA" for the sections of a network, so
-/// that the layers themselves may have any name. Owned by its system.
+/// Systems find their layers by a reference, such as "DIONICA" for the sections of a network, so
+/// the layers themselves may have any name. Owned by its system.
 class GISCORE_API CGisSystemLayer {
 public:
     CGisSystemLayer(const AcDbDatabase& database, const wchar_t* reference, const CString& name)
@@ -19,7 +19,7 @@ public:
 
     const CString& GetReference() const { return m_strReference; }
     const CString& GetLayerName() const { return m_strName; }
-    /// Null if the drawing does not have the layer (any more).
+    /// Null if the drawing does not (or no longer) have the layer.
     AcDbObjectId GetLayerId() const;
     /// Index of the standard 255-colour table; 0 if the drawing does not have the layer.
     int GetColorIndex() const;
@@ -28,22 +28,22 @@ private:
     const AcDbDatabase* m_pDatabase;
     CString m_strReference;
     CString m_strName;
-    mutable AcDbObjectId m_id; ///< where it was found last
+    mutable AcDbObjectId m_id; ///< cached result of the last look-up
 };
 
-/// What a system of a topology and function has for layers.
+/// A layer that systems of a topology and function have.
 struct LayerDesign {
     enmTopologyType type;
-    int function; ///< 0: all that no other row names
+    int function; ///< 0: all functions without a row of their own
     const wchar_t* reference;
-    GisMsg word; ///< behind the system's name in the layer's name
+    GisMsg word; ///< follows the system's name in the layer name
     int colorIndex;
 };
 
-/// In the order in which they are made.
+/// In the order of creation.
 GISCORE_API std::vector<const LayerDesign*> LayerDesignsOf(enmTopologyType type, int function);
-/// The layer that entities of a kind lie on: in a system of polygons a text lies on "TEXT".
-/// EntityNone stands for texts.
+/// The layer reference for entities of a kind (EntityNone: texts), e.g. "TEXT" for texts in
+/// polygon systems.
 GISCORE_API const wchar_t* LayerReferenceOf(enmTopologyType type, int function,
                                             enmEntityType entity);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/arx/DbReferences.h"
 #include "platform/arx/DbUndoScopes.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/systems/DrawingRecords.h"
@@ -13,14 +14,14 @@ namespace Orvane::System {
 
 namespace {
 
-constexpr const wchar_t* kSystems = L"ORVZ_SYSTEMS";
-constexpr const wchar_t* kLastId = L"LASTID";
-constexpr const wchar_t* kActive = L"ACTIVE";
-constexpr const wchar_t* kCounter = L"COUNTER.";
+constexpr const wchar_t* kSystems = AcDbReferences::kSystems.data();
+constexpr const wchar_t* kLastId = AcDbReferences::kLastSystem.data();
+constexpr const wchar_t* kActive = AcDbReferences::kActiveSystem.data();
+constexpr const wchar_t* kCounter = AcDbReferences::kSystemCounter.data();
 
-constexpr const wchar_t* kSystemPrefix = L"ORVZ_SYSTEM_";
-constexpr const wchar_t* kGuid = L"GUID";
-constexpr const wchar_t* kName = L"NAME";
+constexpr const wchar_t* kSystemPrefix = AcDbReferences::kSystemDictionary.data();
+constexpr const wchar_t* kGuid = AcDbReferences::kDrawingGuid.data();
+constexpr const wchar_t* kName = AcDbReferences::kSystemName.data();
 constexpr const wchar_t* kTopology = L"TOPOLOGY";
 constexpr const wchar_t* kFunction = L"FUNCTION";
 constexpr const wchar_t* kVisible = L"VISIBLE";
@@ -41,7 +42,7 @@ DrawingRecords RecordsOf(AcDbDatabase& database, int id) {
     return {database, FormatText(L"%s%d", kSystemPrefix, id)};
 }
 
-/// Changes with the items that are kept under a system.
+/// Changes with the items stored with a system.
 std::size_t ItemStampOf(const AcDbDictionary& dictionary) {
     std::size_t stamp = 0;
     for (const auto& [record, text] : dictionary.records()) {
@@ -61,13 +62,13 @@ CString CounterPrefix(int id) {
     return FormatText(L"%s%d.", kCounter, id);
 }
 
-/// What follows a prefix; nothing if the text does not begin with it.
+/// The remainder after a prefix; nullopt if the text does not start with it.
 std::optional<CString> Behind(const CString& text, const CString& prefix) {
     return text.Left(prefix.GetLength()) == prefix ? std::optional(text.Mid(prefix.GetLength()))
                                                    : std::nullopt;
 }
 
-/// All that is known of a system but its visibility, for comparing.
+/// Everything stored for a system except its visibility, for comparison.
 CString ContentOf(const CGisSystem& system) {
     CString text;
     text.Format(L"%s\n%s\n%d %d\n%s\n", system.GetSystemName(), system.GetGuid(),
@@ -86,7 +87,7 @@ void Tell(void (ISystemEvents::*event)(Params...), Args... args) {
 
 } // namespace
 
-/// While the dictionaries are changed from here, they need not be read back.
+/// While alive, changes to the dictionaries are our own and need not be read back.
 class CGisSystems::OwnChange {
 public:
     explicit OwnChange(CGisSystems& systems) : m_systems(systems) { ++m_systems.m_nOwnChanges; }
@@ -157,7 +158,7 @@ int CGisSystems::IdOf(const AcDbObject& object) const {
     }
     const auto number = Behind(static_cast<const AcDbDictionary&>(object).name(), kSystemPrefix);
     const int id = number ? WholeNumber(number->View()).value_or(0) : 0;
-    // One way of writing a number only: there is one dictionary for it.
+    // Reject other spellings of the number ("01"): a system has exactly one dictionary.
     return id > 0 && *number == FormatText(L"%d", id) ? id : 0;
 }
 
@@ -196,7 +197,7 @@ void CGisSystems::ReadCounters(CGisSystem& system) const {
             const auto counter = Behind(record, prefix);
             const auto value = WholeNumber(text.View());
             if (counter && value) {
-                // One in memory is never behind the one that was saved.
+                // A counter in memory is at least as recent as the saved one.
                 system.m_counters.try_emplace(*counter, *value);
             }
         }
@@ -235,7 +236,7 @@ void CGisSystems::StoreState() {
 }
 
 void CGisSystems::DropOldCounters() {
-    // Of systems that are gone, and will not come back once the drawing was closed.
+    // Remove records of deleted systems, which cannot return once the drawing is closed.
     DrawingRecords shared = SharedRecords(*m_pDatabase);
     std::vector<CString> old;
     if (const AcDbDictionary* const pShared = shared.Dictionary()) {
@@ -266,7 +267,7 @@ CGisSystem& CGisSystems::Add(const CString& name, enmTopologyType type, int func
     const int highest = m_systems.empty() ? 0 : m_systems.back()->m_nId;
     const int id = std::max(shared.GetInt(kLastId, 0), highest) + 1;
     {
-        // Not to be undone: an id never comes twice.
+        // Outside the undo history, so that an id is never reused.
         const AcDbUndoPause pause(*m_pDatabase);
         const OwnChange own(*this);
         shared.Set(kLastId, id);
@@ -295,7 +296,7 @@ void CGisSystems::Remove(CGisSystem& system) {
     const OwnChange own(*this);
     RecordsOf(*m_pDatabase, system.m_nId).Erase();
     for (const CGisSystemLayer& layer : system.m_layers) {
-        // A layer that others have drawn on stays.
+        // Fails for a layer that still holds other entities, which stays.
         AcDbLayerTableRecord* pLayer = nullptr;
         if (acdbOpenObject(pLayer, layer.GetLayerId(), AcDb::kForWrite, false, m_pDatabase) ==
             Acad::eOk) {
@@ -324,12 +325,12 @@ void CGisSystems::SetActive(CGisSystem* pSystem) {
     }
     m_pActive = pSystem;
     if (acdbHostApplicationServices()->workingDatabase() != m_pDatabase) {
-        return; // told when the drawing becomes the current one
+        return; // sent when the drawing becomes current
     }
     if (pOld) {
         Tell(&ISystemEvents::OnSystemBecomeInactive, pOld);
     }
-    // An observer may have activated yet another one, and told so.
+    // An observer may have activated yet another system, which raised its own event.
     if (m_pActive == pSystem) {
         Tell(&ISystemEvents::OnSystemBecomeActive, pSystem);
     }

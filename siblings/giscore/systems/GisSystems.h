@@ -8,46 +8,46 @@
 
 namespace Orvane::System {
 
-/// Kept by CSystemManager beside the drawing; goes with the document.
+/// Owned by CSystemManager; deleted with the document.
 ///
-/// In the drawing a system is the dictionary "ORVZ_SYSTEM_<id>", with the records "GUID",
-/// "NAME", "TOPOLOGY", "FUNCTION", "VISIBLE", "SRS", and "LAYER.<reference>" with the name
-/// of each layer, and "ITEM.<tag>.<guid>" for each configuration. The dictionary "ORVZ_SYSTEMS" has
-/// "GUID", "LASTID", "ACTIVE" (an id) and "COUNTER.<id>.<name>". Systems follow the dictionaries:
-/// when undo takes one away or brings it back, so go the systems, and observers hear of it.
+/// A system is stored as the dictionary "ORVZ_SYSTEM_<id>", with the records "GUID", "NAME",
+/// "TOPOLOGY", "FUNCTION", "VISIBLE", "SRS", "LAYER.<reference>" with the name of each layer, and
+/// "ITEM.<tag>.<guid>" for each configuration. The dictionary "ORVZ_SYSTEMS" holds "GUID",
+/// "LASTID", "ACTIVE" (an id) and "COUNTER.<id>.<name>". Systems follow the dictionaries: when
+/// undo removes or restores one, the system is dropped or restored, and observers are notified.
 class GISCORE_API CGisSystems final : private AcDbDatabaseReactor {
 public:
-    /// Reads what the drawing has.
+    /// Reads the systems stored in the drawing.
     explicit CGisSystems(AcDbDatabase* pDatabase);
     ~CGisSystems() override;
     CGisSystems(const CGisSystems&) = delete;
     CGisSystems& operator=(const CGisSystems&) = delete;
 
-    /// In the order of creation. A copy, so that systems may come and go during a walk.
+    /// In the order of creation. A copy, so systems may be added and removed during iteration.
     std::vector<CGisSystem*> GetSystemList() const;
     int GetCount() const { return static_cast<int>(m_systems.size()); }
 
-    // Null for an unknown one.
+    // Null if there is no such system.
     CGisSystem* GetSystemById(int id) const;
     CGisSystem* GetSystemByGuid(const wchar_t* guid) const;
-    /// Without regard to case.
+    /// Case-insensitive.
     CGisSystem* GetSystemByName(const wchar_t* name) const;
 
     /// Null if no system is active.
     CGisSystem* GetActiveSystem() const { return m_pActive; }
-    /// Null once the drawing is gone.
+    /// Null after the drawing was closed.
     AcDbDatabase* GetDatabase() const { return m_pDatabase; }
-    /// Unique everywhere; given to the drawing with its first system, and kept in it.
+    /// Globally unique; assigned when the first system is created, and stored in the drawing.
     const CString& GetDrawingGuid() const { return m_strDrawingGuid; }
-    /// Another number whenever systems have come or gone.
+    /// Changes whenever systems are added or removed.
     std::uint64_t GetRosterStamp() const { return m_nRosterStamp; }
 
-    /// Completes systems that an earlier version, or another program, left without a GUID or
-    /// a name, or with a name that an earlier system has. Outside of the undo history.
-    /// \return how many systems were completed
+    /// Repairs systems from an earlier version or another program that have no GUID or name, or a
+    /// duplicate name. Not part of the undo history.
+    /// \return number of systems repaired
     int UpgradeSystems();
-    /// Makes the layers that systems of their kind have and these do not.
-    /// \return how many layers were made
+    /// Creates the layers missing from existing systems.
+    /// \return number of layers created
     int CreateMissingLayers();
     /// Writes the active system and the counters into the drawing, before a save.
     void StoreState();
@@ -62,16 +62,16 @@ private:
     void databaseReplaced(const AcDbDatabase*) override;
     void goodbye(const AcDbDatabase*) override;
 
-    /// Reads all systems anew, without a word to anybody.
+    /// Reads all systems again without raising events.
     void Load();
     void Read(CGisSystem& system) const;
     void ReadCounters(CGisSystem& system) const;
     CGisSystem& Insert(int id);
-    /// Its id if an object of the drawing is the dictionary of a system, else 0.
+    /// The system id if the object is a system's dictionary, else 0.
     int IdOf(const AcDbObject& object) const;
-    /// Tells the observers, and takes a system from the list.
+    /// Notifies the observers and removes a system from the list.
     void Drop(CGisSystem& system);
-    /// Keeps what the drawing does not know of a system, for when undo brings it back.
+    /// Remembers the parts of a system that are not in the drawing, in case undo restores it.
     void Park(const CGisSystem& system);
     void DropOldCounters();
     void MakeDrawingGuid();
@@ -81,7 +81,7 @@ private:
     void SetActive(CGisSystem* pSystem);
     void SetVisibility(CGisSystem& system, int visible);
     void Rename(CGisSystem& system, const CString& name);
-    /// Writes what the drawing does not have yet of a system.
+    /// Writes the unsaved parts of a system into the drawing.
     void Store(const CGisSystem& system);
     int CreateMissingLayers(CGisSystem& system);
 
@@ -93,9 +93,9 @@ private:
         CGisSystem::Counters counters;
         bool wasActive = false;
     };
-    std::map<int, Parked> m_parked; ///< of systems that are gone, by id
+    std::map<int, Parked> m_parked; ///< state of removed systems, by id
     std::uint64_t m_nRosterStamp = 0;
-    int m_nOwnChanges = 0; ///< the dictionaries are changed from here
+    int m_nOwnChanges = 0; ///< > 0 while we change the dictionaries ourselves
 };
 
 } // namespace Orvane::System

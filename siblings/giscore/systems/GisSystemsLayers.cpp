@@ -1,4 +1,4 @@
-// The layers of systems: made where they are missing, switched with their system.
+// Layers of systems: created if missing, shown and hidden with their system.
 #include <algorithm>
 
 #include "platform/arx/DbUndoScopes.h"
@@ -30,7 +30,7 @@ AcDbObjectId MakeLayer(AcDbDatabase& database, const CString& name, int colorInd
     return id;
 }
 
-/// An unused name of a layer: what lies on one of the same name is none of the system's.
+/// An unused layer name: entities on an existing layer of that name are not the system's.
 CString FreeLayerName(const AcDbDatabase& database, const CString& wanted) {
     CString name = wanted;
     for (int number = 2; !database.findLayer(name).isNull(); ++number) {
@@ -91,7 +91,7 @@ int CGisSystems::CreateMissingLayers(CGisSystem& system) {
         }
     }
     if (made > 0) {
-        // As the drawing gives them back.
+        // In the order in which the drawing returns them.
         std::sort(system.m_layers.begin(), system.m_layers.end(),
                   [](const CGisSystemLayer& left, const CGisSystemLayer& right) {
                       return left.GetReference() < right.GetReference();

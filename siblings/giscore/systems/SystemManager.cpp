@@ -12,7 +12,7 @@ namespace Orvane::System {
 
 namespace {
 
-// Texts for the user.
+// Message ids.
 constexpr int kMsgNoDrawing = 900300;
 constexpr int kMsgEmptyName = 900301;
 constexpr int kMsgNameTaken = 900302;       // with the name
@@ -26,7 +26,7 @@ void Explain(CString* pReason, int message, const Args&... args) {
     }
 }
 
-/// False, with a reason, if a drawing's system cannot get a name. Its own is no hindrance.
+/// Returns false and a reason if a system cannot have the name. Its current name is allowed.
 bool IsNameFree(const CGisSystems& systems, const CString& name, const CGisSystem* pOwn,
                 CString* pReason) {
     const CGisSystem* const pOther = systems.GetSystemByName(name);
@@ -40,7 +40,7 @@ bool IsNameFree(const CGisSystems& systems, const CString& name, const CGisSyste
     return false;
 }
 
-/// False, with a reason, if there is no such kind of system.
+/// Returns false and a reason for an unknown topology or function.
 bool IsKnownKind(enmTopologyType type, int function, CString* pReason) {
     const CTopology* const pTopology = CModuleConfiguration::Instance()->GetTopology(type);
     if (!pTopology) {
@@ -55,8 +55,8 @@ bool IsKnownKind(enmTopologyType type, int function, CString* pReason) {
 
 } // namespace
 
-/// Drops what belongs to a document once it is gone. Only then: others may still ask
-/// while they are told that it is about to go.
+/// Drops the data of a document after it was destroyed, not before: other reactors may still use
+/// it while the document closes.
 class CSystemManager::DocumentReactor final : public AcApDocManagerReactor {
 public:
     explicit DocumentReactor(CSystemManager& manager) : m_manager(manager) {
@@ -75,7 +75,7 @@ private:
     std::vector<AcDbDatabase*> m_dying;
 };
 
-/// Has everything that belongs to systems written into the drawing before it is saved.
+/// Writes the state of all systems into the drawing before it is saved.
 class CSystemManager::SaveReactor final : public AcEditorReactor {
 public:
     explicit SaveReactor(CSystemManager& manager) : m_manager(manager) {

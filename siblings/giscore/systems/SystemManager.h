@@ -1,4 +1,4 @@
-// Makes, changes and removes the systems of drawings, and says so.
+// Creates, changes and deletes the systems of drawings, and raises the events.
 #pragma once
 
 #include <map>
@@ -8,12 +8,12 @@
 
 namespace Orvane::System {
 
-/// Everything that changes a system goes through here; each change is told to the
-/// observers of CGisEvents, once, and only if something did change. Operations that return
-/// int give 1 for success and 0 for failure. Main thread only.
+/// All changes to systems go through here. Observers of CGisEvents are notified of each change
+/// once, and only if something did change. Functions that return int give 1 for success and 0 for
+/// failure. Main thread only.
 ///
-/// Operations without a drawing or system argument work on the working database; without
-/// one they find nothing.
+/// Functions without a drawing or system argument work on the working database, and find nothing
+/// if there is none.
 class GISCORE_API CSystemManager {
 public:
     /// Lives to the end of the process.
@@ -24,27 +24,27 @@ public:
     /// The systems of any open drawing; null for a null drawing.
     CGisSystems* GetSystems(AcDbDatabase* pDatabase);
 
-    /// Makes a system of the current drawing. Null if the name is empty or taken, the
-    /// topology or the function is unknown, or there is no drawing; `pReason` then gets a
-    /// text for the user. The new system is shown and not active.
+    /// Creates a system in the current drawing, visible and not active. Returns null if the name
+    /// is empty or taken, the topology or function is unknown, or no drawing is open; `pReason`
+    /// then receives a message for the user.
     CGisSystem* CreateSystem(const wchar_t* name, enmTopologyType type, int function,
                              CString* pReason = nullptr);
-    /// Fails, with a text for the user, on an empty or taken name. The case of letters may
-    /// be changed.
+    /// Fails, with a message for the user, if the name is empty or taken. Changing only the case
+    /// is allowed.
     int RenameSystem(CGisSystem* pSystem, const wchar_t* name, CString* pReason = nullptr);
-    /// Removes a system with its entities. An active system is made inactive first, and
-    /// none is active then.
+    /// Deletes a system and its entities. An active system is deactivated first, which leaves no
+    /// system active.
     int DeleteSystem(CGisSystem* pSystem);
 
     CGisSystem* GetActiveSystem();
-    /// Makes a system its drawing's active one, or none if null (then of the current
-    /// drawing). The old one's event goes out first; both see the new state.
+    /// Makes a system the active one of its drawing; null deactivates the one of the current
+    /// drawing. The old system's event is raised first; both events see the new state.
     int SetSystemActive(CGisSystem* pSystem);
 
     int SetSystemVisible(CGisSystem* pSystem);
     int SetSystemInvisible(CGisSystem* pSystem);
 
-    // Null for an unknown one.
+    // Null if there is no such system.
     CGisSystem* GetSystemById(int id);
     CGisSystem* GetSystemByGuid(const wchar_t* guid);
     CGisSystem* GetSystemByName(const wchar_t* name);

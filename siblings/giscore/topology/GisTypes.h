@@ -1,5 +1,5 @@
-// Numbers by which the whole family names kinds of topologies and entities. They are
-// persisted and travel through interfaces, so the values stand.
+// Ids of topologies and kinds of entities. They are persisted and part of the interface, so the
+// values must not change.
 #pragma once
 
 namespace Orvane {
@@ -22,8 +22,8 @@ enum enmEntityType : int {
     EntityLongitudinalSection = 128,
 };
 
-/// Function of line systems that lead along roads and pipes: alignments, told apart from
-/// networks wherever layers and figures are concerned.
+/// Function of line systems that are alignments of roads and pipes, which differ from networks in
+/// layers and statistics.
 inline constexpr int kFunctionAlignment = 10000;
 
 } // namespace Orvane

@@ -9,22 +9,22 @@
 
 namespace Orvane {
 
-/// One topology of the configuration, which owns it. Never changes once it was read.
+/// One topology of the configuration, which owns it. Immutable after loading.
 class GISCORE_API CTopology {
 public:
     explicit CTopology(enmTopologyType type) : m_enmType(type) {}
 
     enmTopologyType GetTopologyType() const { return m_enmType; }
-    /// Non-zero if the user works with this topology.
+    /// Non-zero if this topology is enabled.
     int GetOnOff() const { return m_bOn; }
-    /// As the user reads it.
+    /// Display name.
     const CString& GetNameUI() const { return m_strName; }
 
-    /// Non-zero if its systems are told apart by what they are for.
+    /// Non-zero if its systems have a function.
     int GetHasFunctions() const { return !m_functions.empty(); }
-    /// In the order of the configuration; empty if it has none.
+    /// In the order of the configuration; may be empty.
     const std::vector<CTopologyFunction>& GetTopologyFunctionVector() const { return m_functions; }
-    /// Null for an unknown number.
+    /// Null if there is no such function.
     const CTopologyFunction* GetTopologyFunctionById(int id) const;
 
     const std::vector<CTopologyEntityType>& GetEntityTypeVector() const { return m_entityTypes; }

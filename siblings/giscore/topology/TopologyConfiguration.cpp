@@ -12,7 +12,7 @@ namespace Orvane {
 
 namespace {
 
-/// What the product is delivered with; the same as share/support/TopologyConfiguration.ini.
+/// Default configuration; the same as share/support/TopologyConfiguration.ini.
 constexpr std::string_view kDelivered = R"(
 [line]
 name=900200
@@ -61,7 +61,7 @@ enmTopologyType TypeOf(const CString& word) {
     return hit == std::end(kTopologyWords) ? TopologyNone : hit->type;
 }
 
-/// The number of a key such as "function.4"; nothing if it is not of that kind.
+/// The number of a key such as "function.4"; nullopt for keys of another kind.
 std::optional<int> NumberOfKey(const CString& key, std::wstring_view kind) {
     const int length = static_cast<int>(kind.size());
     return key.Left(length).CompareNoCase(CString(kind)) == 0 ? WholeNumber(key.Mid(length).View())
@@ -70,7 +70,7 @@ std::optional<int> NumberOfKey(const CString& key, std::wstring_view kind) {
 
 } // namespace
 
-/// Makes topologies of the sections of a file.
+/// Creates topologies from the sections of a file.
 class TopologyReader {
 public:
     TopologyReader(const wchar_t* name, const std::function<CString(int)>& message,
@@ -199,7 +199,8 @@ CString CTopologyConfiguration::GetEntityTypeName(enmEntityType type,
             return pEntityType->GetName();
         }
     }
-    // A system of another topology has no such entities; their name does not depend on it.
+    // Systems of another topology have no such entities, so fall back to the name without a
+    // system.
     return pSystem ? GetEntityTypeName(type, nullptr) : CString();
 }
 

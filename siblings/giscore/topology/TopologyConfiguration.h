@@ -1,4 +1,4 @@
-// The topologies that a user's systems can have.
+// The topologies available to the user.
 #pragma once
 
 #include <functional>
@@ -12,12 +12,12 @@ namespace System {
 class CGisSystem;
 }
 
-/// Read from a settings file with a section for each topology. Without a file, or with one
-/// that holds no topology, it is the configuration that the product is delivered with. A
-/// line that makes no sense is left out and noted among the problems.
+/// Read from a settings file with one section per topology. Without a file, or with one that
+/// contains no topology, the built-in default applies. Invalid lines are skipped and reported as
+/// problems.
 class GISCORE_API CTopologyConfiguration {
 public:
-    /// Names may stand in the file as numbers of messages; `message` gives their texts.
+    /// A name may be a message id; `message` returns its text.
     CTopologyConfiguration(const wchar_t* path, const std::function<CString(int)>& message);
     ~CTopologyConfiguration();
     CTopologyConfiguration(const CTopologyConfiguration&) = delete;
@@ -28,11 +28,11 @@ public:
     /// Null if the configuration has no such topology.
     const CTopology* GetTopologyByTopologyType(enmTopologyType type) const;
 
-    /// The name of a kind of entity in a system, or, without one, in the first topology
+    /// Display name of a kind of entity in a system or, without a system, in the first topology
     /// that has such entities. Empty for an unknown kind.
     CString GetEntityTypeName(enmEntityType type, const System::CGisSystem* pSystem) const;
 
-    /// "file:line: reason" for every line that was left out, or why the file could not be read.
+    /// "file:line: reason" for every skipped line, or the reason why the file could not be read.
     const std::vector<CString>& GetProblems() const { return m_problems; }
 
 private:

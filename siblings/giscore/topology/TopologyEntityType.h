@@ -12,7 +12,7 @@ public:
         : m_enmType(type), m_strName(std::move(name)) {}
 
     enmEntityType GetType() const { return m_enmType; }
-    /// As the user reads it.
+    /// Display name.
     const CString& GetName() const { return m_strName; }
 
 private:

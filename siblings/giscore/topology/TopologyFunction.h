@@ -1,12 +1,12 @@
-// What a line network is for: water supply, sewer, gas.
+// The purpose of a line network: water supply, sewer, gas.
 #pragma once
 
 #include "platform/win/String.h"
 
 namespace Orvane {
 
-/// One function of a topology. The number is kept in drawings and stands in the keys of
-/// commands and trees; the name is for the user.
+/// One function of a topology. The id is stored in drawings and part of the keys of commands and
+/// trees; the name is for display.
 class CTopologyFunction {
 public:
     CTopologyFunction(int id, CString name) : m_nId(id), m_strName(std::move(name)) {}

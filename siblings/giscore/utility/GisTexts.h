@@ -7,7 +7,7 @@
 namespace Orvane {
 
 enum class GisMsg : int {
-    // Files of the folder "support"; each with file and line, and most with a word of it.
+    // Files of the folder "support"; arguments: file and line, and in most the offending word.
     NotAWholeNumber = 910100,
     UnknownKey = 910101,
     NeitherNumberNorText = 910102,
@@ -19,11 +19,11 @@ enum class GisMsg : int {
     SecondFunction = 910121,
     NoSuchEntityType = 910122,
     SecondEntityType = 910123,
-    NoTopology = 910124, // with the file alone
+    NoTopology = 910124, // file only
     NotANameScope = 910125,
     NotAnEntityType = 910126,
     NotANamePattern = 910127,
-    // Names of layers.
+    // Layer names.
     SectionLayer = 910140,
     AlignmentLayer = 910141,
     NodeLayer = 910142,
@@ -37,20 +37,20 @@ enum class GisMsg : int {
     InvalidCondition = 910104,
     OtherGuid = 910105,
     SameGuid = 910106,
-    NoSuchFolder = 910107, // with the folder
+    NoSuchFolder = 910107, // folder
     NotNamedAfterGuid = 910108,
     TooLong = 910109,
-    OtherRoot = 910110, // with its name and the one it should have
+    OtherRoot = 910110, // actual and expected name
     OtherFamily = 910111,
     WithoutName = 910112,
     EntityTypeNotANumber = 910113,
     WithoutGuid = 910114,
     NoModuleForFamily = 910115,
-    NotWellFormed = 910128, // with the line
-    AtLine = 910132,        // with the line and the reason
+    NotWellFormed = 910128, // line
+    AtLine = 910132,        // line and reason
     DocumentType = 910130,
     TooDeep = 910131,
-    SystemWithoutName = 910129, // its name; with its number
+    SystemWithoutName = 910129, // default name; argument: the system's number
 };
 
 } // namespace Orvane

@@ -1,4 +1,4 @@
-// Texts that are unique everywhere.
+// Globally unique identifiers.
 #pragma once
 
 #include "platform/win/String.h"
@@ -6,12 +6,11 @@
 
 namespace Orvane {
 
-/// A random one of the usual form (variant 1, version 4), as
-/// "0F8FAD5B-D9CB-469F-A165-70867728950E".
+/// A random GUID (variant 1, version 4), such as "0F8FAD5B-D9CB-469F-A165-70867728950E".
 GISCORE_API CString NewGuid();
 
-/// Letters, digits and hyphens, at most 64 of them: fit to be the name of a file or of a
-/// record. Stricter would refuse what other programs have made.
+/// Letters, digits and hyphens, at most 64: safe as a file or record name. Deliberately lenient,
+/// since other programs' ids may deviate from the standard form.
 GISCORE_API bool IsGuid(std::wstring_view text);
 
 } // namespace Orvane

@@ -1,4 +1,4 @@
-// Which help page belongs to a dialog.
+// Maps dialogs to help pages.
 #include "platform/mfc/WinApp.h"
 #include "platform/win/File.h"
 #include "platform/win/MessageCatalogue.h"

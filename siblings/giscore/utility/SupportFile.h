@@ -1,4 +1,4 @@
-// Reading of the user's files.
+// Loading of the user's support files.
 #pragma once
 
 #include <vector>
@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// Reads a file of the folder "support". One that is not there counts as an empty one: the
-/// user may have removed it. Returns what was wrong, "file:line: reason" or "file: reason".
+/// Reads a file of the folder "support". A missing file counts as empty, since the user may have
+/// removed it. Returns the problems as "file:line: reason" or "file: reason".
 GISCORE_API std::vector<CString> LoadSupportFile(IniFile& file, const CString& path);
 
 } // namespace Orvane

@@ -3,7 +3,7 @@
 namespace Orvane::Utility {
 
 void CUtility::SplitString(const wchar_t* text, const wchar_t* separators, CStringArray& pieces) {
-    // Apart from the result, which may hold the text.
+    // A copy: `text` may point into the result.
     const CString whole = text;
     pieces.RemoveAll();
     std::wstring_view rest = whole.View();

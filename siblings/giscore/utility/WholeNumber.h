@@ -1,4 +1,4 @@
-// Numbers of support files.
+// Numbers in support files.
 #pragma once
 
 #include <charconv>
@@ -9,8 +9,8 @@
 
 namespace Orvane {
 
-/// The whole text as an int, or nothing: what stands in a settings file is taken as it
-/// was meant or not at all.
+/// Parses the whole text as an int; nullopt otherwise, so that malformed settings are never used
+/// in part.
 inline std::optional<int> WholeNumber(std::wstring_view text) {
     const std::string bytes = WideToUtf8(text);
     int number = 0;

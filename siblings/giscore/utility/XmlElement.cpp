@@ -73,10 +73,10 @@ XmlElement ElementAt(const QXmlStreamReader& reader) {
     return element;
 }
 
-/// Reads up to the end, or to what the reader's error tells.
+/// Reads to the end or to the first error, which the reader reports.
 XmlElement ReadElements(QXmlStreamReader& reader) {
     XmlElement document;
-    // Children are only ever added to the last one, so that the others stay where they are.
+    // Children are only appended to the last element, so pointers to open elements stay valid.
     std::vector<XmlElement*> open{&document};
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
@@ -131,7 +131,7 @@ std::optional<XmlElement> ReadXml(std::wstring_view text, CString& reason) {
     QXmlStreamReader reader(QString::fromWCharArray(text.data(), static_cast<int>(text.size())));
     XmlElement document = ReadElements(reader);
     if (reader.hasError()) {
-        // The parser's own texts are in English only.
+        // The parser's own messages are English only.
         reason =
             reader.error() == QXmlStreamReader::CustomError
                 ? MessageText(GisMsg::AtLine, reader.lineNumber(), ToText(reader.errorString()))

@@ -1,4 +1,4 @@
-// Small XML texts as trees of elements: the form in which configurations are kept.
+// Small XML texts as element trees, the storage format of configurations.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace Orvane {
 
-/// One element with what is in it; text between elements is of no meaning here.
+/// One element with its attributes and children; text content is ignored.
 struct GISCORE_API XmlElement {
     XmlElement() = default;
     explicit XmlElement(CString elementName) : name(std::move(elementName)) {}
@@ -21,17 +21,17 @@ struct GISCORE_API XmlElement {
 
     /// Empty if there is no such attribute.
     CString Get(std::wstring_view attribute) const;
-    /// The whole value as a number; nothing if it is none.
+    /// The whole value as a number; nullopt if it is not one.
     std::optional<int> GetInt(std::wstring_view attribute) const;
     XmlElement& Set(const wchar_t* attribute, const CString& value);
     XmlElement& Set(const wchar_t* attribute, int value);
 };
 
-/// One line. Characters that XML cannot hold are left out.
+/// On one line. Characters that XML cannot represent are dropped.
 GISCORE_API CString WriteXml(const XmlElement& root);
 
-/// Nothing, with a reason, for a text that is not well formed, has a document type, is
-/// longer than 4 MiB characters, or is deeper than 16 elements.
+/// Returns nullopt and a reason if the text is not well formed, has a document type, is longer
+/// than 4 Mi characters, or nests deeper than 16 elements.
 GISCORE_API std::optional<XmlElement> ReadXml(std::wstring_view text, CString& reason);
 
 } // namespace Orvane

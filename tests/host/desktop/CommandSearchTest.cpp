@@ -50,7 +50,7 @@ TEST(CommandSearch, RecentOnesComeFirstAmongEquals) {
     EXPECT_EQ(Find(L"").find("Größe IMPORT NETWORK_CHECK "), 0U);
     EXPECT_EQ(Find(L"", {L"save", L"gone", L"OPEN"}).find("SAVE OPEN Größe IMPORT "), 0U);
     EXPECT_EQ(Find(L"network", {L"NETWORK_IMPORT"}), "NETWORK_IMPORT NETWORK_CHECK ");
-    EXPECT_EQ(Find(L"save", {L"SAVEAS"}), "SAVE SAVEAS ") << "the whole name is better";
+    EXPECT_EQ(Find(L"save", {L"SAVEAS"}), "SAVE SAVEAS ") << "the whole name ranks higher";
 }
 
 } // namespace

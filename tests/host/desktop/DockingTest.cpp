@@ -1,4 +1,4 @@
-// Docking panes and following controls, at a frame of the toolkit.
+// Docking panes and resizing controls in a frame of the toolkit.
 #include <QApplication>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -53,7 +53,7 @@ TEST_F(DockingTest, PanesAreFoundByTheirNumbersAndKeptWhenClosed) {
     m_panes.ShowPane(6666, 1);
     EXPECT_EQ(pane.IsClosed(), 0);
     m_pFrame->hide();
-    EXPECT_EQ(pane.IsClosed(), 0) << "it is the frame that is hidden";
+    EXPECT_EQ(pane.IsClosed(), 0) << "only the frame is hidden";
     pane.Hide();
     EXPECT_NE(pane.IsClosed(), 0);
     m_panes.ShowPane(1, 1);
@@ -96,9 +96,9 @@ TEST_F(DockingTest, AnAttachedWindowGoesWithTheFrame) {
     Pane(1).Attach(&window);
     EXPECT_EQ(window.GetParent(), &m_frame);
     pView.reset();
-    EXPECT_TRUE(window.GetSafeHwnd()) << "it went with the view that it was made for";
+    EXPECT_TRUE(window.GetSafeHwnd()) << "destroyed with its first parent";
     m_pFrame.reset();
-    EXPECT_TRUE(window.destroyed) << "told while it still had its window";
+    EXPECT_TRUE(window.destroyed) << "notified while the window existed";
     EXPECT_FALSE(window.GetSafeHwnd());
 }
 

@@ -22,7 +22,7 @@ struct Seen {
 };
 using SeenById = std::map<std::uint32_t, Seen>;
 
-/// What the database says.
+/// The expected content, from the database.
 SeenById Expected(const AcDbDatabase& database) {
     SeenById seen;
     EntityShape shape;
@@ -49,7 +49,7 @@ void ExpectPlaces(const DrawingScene& scene, AcDbObjectId id, std::span<const Fl
     }
 }
 
-/// What the scene holds; each item has to be found by its id and lie in its block.
+/// The scene's content; also checks that each item is found by its id and inside its block.
 SeenById Actual(const DrawingScene& scene) {
     SeenById seen;
     for (std::size_t kind = 0; kind < kShapeKinds; ++kind) {
@@ -154,7 +154,7 @@ TEST(DrawingScene, ArrangesItselfAnewAfterManyChanges) {
         const FloatBox& box = lines.Block(block);
         area += static_cast<double>(box.maxX - box.minX) * (box.maxY - box.minY);
     }
-    // Hundreds of blocks, each of neighbours: together not much more than the drawing.
+    // Blocks hold neighbours, so their total area is not much larger than the drawing.
     EXPECT_GT(lines.BlockCount(), 200U);
     EXPECT_LT(area, 20 * 1100.0 * 1100.0);
 
@@ -166,7 +166,7 @@ TEST(DrawingScene, ArrangesItselfAnewAfterManyChanges) {
     }
     database.undo().endGroup();
     scene.Update();
-    EXPECT_EQ(scene.Items(ShapeKind::Line).Count(), 0U) << "gives the room back";
+    EXPECT_EQ(scene.Items(ShapeKind::Line).Count(), 0U) << "frees the memory";
     EXPECT_TRUE(scene.Extents().isEmpty());
     database.undo().undo();
     scene.Update();
@@ -197,7 +197,7 @@ TEST(DrawingScene, TakesAnotherDrawingAndNoneAtAll) {
         scene.SetDatabase(&database);
         EXPECT_EQ(scene.Update(), SceneChange::Everything);
         database.beginLoading(10);
-        scene.Update(); // a frame in the middle of reading
+        scene.Update(); // a frame while reading
         auto point = std::make_unique<AcDbPoint>(AcGePoint3d{1, 2});
         database.load(AcDbObjectId(5), std::move(point));
         scene.Update();
@@ -208,7 +208,7 @@ TEST(DrawingScene, TakesAnotherDrawingAndNoneAtAll) {
         AddMixture(database, 50, 100, {});
         scene.Update();
         database.beginLoading(4);
-        database.cancelLoading(); // of which nobody is told
+        database.cancelLoading(); // without any notification
         EXPECT_EQ(scene.Update(), SceneChange::Everything);
         EXPECT_TRUE(Actual(scene).empty());
         AddSpot(database, 1, 2);

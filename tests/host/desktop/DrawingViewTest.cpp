@@ -41,10 +41,10 @@ protected:
             position = {x, y};
         });
         view.show();
-        QApplication::processEvents(); // not painted before the screen has it
+        QApplication::processEvents(); // not painted before it is exposed
     }
 
-    /// One unit a pixel, (0, 0) in the lower left corner.
+    /// One unit per pixel, with (0, 0) in the lower left corner.
     void ShowFromOrigin() {
         AddSpot(database, 0, 0);
         AddSpot(database, 400, 300);
@@ -171,14 +171,14 @@ TEST_F(DrawingViewTest, SelectsByClickAndBox) {
     Click(Place(100, 120));
     EXPECT_EQ(view.Selection(), Ids{});
     Drag(Qt::LeftButton, Place(30, 30), Place(200, 220));
-    EXPECT_EQ(view.Selection(), Ids{low}) << "to the right: whole ones";
+    EXPECT_EQ(view.Selection(), Ids{low}) << "to the right: only entities inside";
     Drag(Qt::LeftButton, Place(200, 220), Place(30, 30));
-    EXPECT_EQ(view.Selection(), (Ids{low, high})) << "to the left: what it touches";
+    EXPECT_EQ(view.Selection(), (Ids{low, high})) << "to the left: all entities it touches";
     EXPECT_EQ(selectionChanges, 5);
 
     EraseEntity(database, low);
     view.UpdateDisplay();
-    EXPECT_EQ(view.Selection(), Ids{high}) << "what is no more is not selected";
+    EXPECT_EQ(view.Selection(), Ids{high}) << "erased entities are deselected";
     Key(Qt::Key_Escape);
     EXPECT_EQ(view.Selection(), Ids{});
 }
@@ -192,11 +192,11 @@ TEST_F(DrawingViewTest, AsksForOneEntity) {
     EXPECT_EQ(answer->how, PickOutcome::Picked);
     EXPECT_EQ(answer->id, line);
     EXPECT_NEAR(answer->x, 100, 1e-3);
-    EXPECT_TRUE(view.Selection().empty()) << "asking selects nothing";
+    EXPECT_TRUE(view.Selection().empty()) << "picking does not select";
 
     view.StartPick();
     Drag(Qt::MiddleButton, Place(10, 10), Place(12, 10));
-    EXPECT_TRUE(view.IsPicking()) << "moving the view does not answer";
+    EXPECT_TRUE(view.IsPicking()) << "panning does not end the pick";
     Click(Place(200, 150));
     EXPECT_EQ(answer->how, PickOutcome::Missed);
     view.StartPick();
@@ -205,17 +205,17 @@ TEST_F(DrawingViewTest, AsksForOneEntity) {
     answer.reset();
     Key(Qt::Key_Escape);
     Click(Place(100, 52));
-    EXPECT_FALSE(answer) << "nobody asks";
+    EXPECT_FALSE(answer) << "no pick is in progress";
 }
 
 TEST_F(DrawingViewTest, StopsAskingWhenTheDrawingGoes) {
     {
         AcDbDatabase other;
         view.SetDatabase(&other);
-        AddSpot(other, 1, 2); // the view has something to take over already
+        AddSpot(other, 1, 2); // so that the view has a pending change
         view.StartPick();
     }
-    EXPECT_FALSE(answer) << "not in the middle of it";
+    EXPECT_FALSE(answer) << "not from within the call";
     QApplication::processEvents();
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->how, PickOutcome::Cancelled);
@@ -243,7 +243,7 @@ TEST_F(DrawingViewTest, ZoomsToEntities) {
     EXPECT_NEAR(view.Transform().Center().x, 120, 1e-9);
     EXPECT_TRUE(view.ZoomTo(std::span(&spot, 1), 3));
     EXPECT_NEAR(view.Transform().Center().x, 300, 1e-9);
-    EXPECT_LT(view.Transform().UnitsPerPixel(), 0.1) << "a point is seen from near";
+    EXPECT_LT(view.Transform().UnitsPerPixel(), 0.1) << "zoomed in on the point";
     EraseEntity(database, line);
     EXPECT_FALSE(view.ZoomTo(ids, 2));
 }
@@ -259,7 +259,7 @@ TEST_F(DrawingViewTest, MarksUntilItIsRedrawn) {
     EXPECT_EQ(PixelAt(100, 80.5), 0xff00ff00);
     EXPECT_EQ(PixelAt(100, 82), 0xff00ff00) << "thick";
     view.UpdateDisplay();
-    EXPECT_EQ(PixelAt(100, 50.5), 0xffff0000) << "until it is drawn anew";
+    EXPECT_EQ(PixelAt(100, 50.5), 0xffff0000) << "until the next Redraw";
     view.Redraw();
     EXPECT_EQ(PixelAt(100, 50.5), plain);
     EXPECT_EQ(PixelAt(100, 80.5), plain);

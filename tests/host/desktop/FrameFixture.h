@@ -1,4 +1,4 @@
-// The desktop's window with its session, on no display, for tests of what a user does in it.
+// The desktop's window with its session, off screen, for tests of user actions.
 #pragma once
 
 #include <QLineEdit>
@@ -26,7 +26,7 @@ inline std::vector<std::string>& Warnings() {
 }
 
 inline void NoteWarning(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    // What the memory display lacks, and a machine without a session, are no faults of ours.
+    // Warnings caused by the off-screen platform, or by a machine without a session bus.
     if (type != QtDebugMsg && type != QtInfoMsg && !text.startsWith(QLatin1String("This plugin")) &&
         !text.startsWith(QLatin1String("QStandardPaths"))) {
         Warnings().push_back(text.toStdString());
@@ -41,7 +41,7 @@ protected:
         AfxSetDesktopMode(true);
         AfxStartToolkit();
         SetHostOption(kHostOptionSupport, m_folder.Wide("") + L"/");
-        // No modules: the host alone.
+        // No modules, only the host.
         SetHostOption(kHostOptionInstall, m_folder.Wide("none/"));
         m_pFrame = std::make_unique<Frame>();
         m_pPort = std::make_unique<DesktopPort>(*m_pFrame, m_pFrame->Pane());
@@ -64,13 +64,13 @@ protected:
             ADD_FAILURE() << "left over: " << pWindow->metaObject()->className();
         }
     }
-    /// As a user who sees the window does it.
+    /// Types a command line as a user does.
     void Type(const char* line) {
         QTest::keyClicks(m_pInput, QString::fromUtf8(line));
         QTest::keyClick(m_pInput, Qt::Key_Return);
         QApplication::processEvents();
     }
-    /// While a command waits in a loop of its own.
+    /// Calls back while a command waits in a nested event loop.
     void Later(std::function<void()> call, int after = 20) {
         QTimer::singleShot(after, m_pFrame.get(), std::move(call));
     }
@@ -88,7 +88,7 @@ protected:
     QLineEdit* m_pInput = nullptr;
 };
 
-/// A line in the current drawing, at a height.
+/// A horizontal line in the current drawing at height y.
 inline AcDbObjectId AddLine(double y) {
     const AcGePoint3d ends[] = {{0, y}, {100, y}};
     return acDocManagerPtr()->curDocument()->database()->appendEntity(

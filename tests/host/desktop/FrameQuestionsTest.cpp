@@ -1,4 +1,4 @@
-// Prompts and pointing in the desktop's window: nested, cancelled, and asked for by panels.
+// Prompts and picks in the desktop's window: nested, cancelled, and requested by panels.
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -52,7 +52,7 @@ TEST_F(FrameQuestionsTest, WhatAPanelAsksEndsBeforeACommandRuns) {
         meanwhile = Drawings();
     });
     EXPECT_EQ(Ask(L"Panel:").Str(), L"");
-    EXPECT_EQ(meanwhile, before) << "nothing runs inside of the prompt";
+    EXPECT_EQ(meanwhile, before) << "no command runs during the prompt";
     QApplication::processEvents();
     EXPECT_EQ(Drawings(), before + 1);
     Later([&] { acedRunner().Give({L"NEW", OrderOrigin::Menu}); });
@@ -86,7 +86,7 @@ TEST_F(FrameQuestionsTest, AClickAnswersTheInnerPickAlone) {
         });
     });
     EXPECT_EQ(Pick(), RTCAN);
-    EXPECT_EQ(inner, RTERROR) << "there is nothing to point at";
+    EXPECT_EQ(inner, RTERROR) << "there is nothing to pick";
     EXPECT_TRUE(goesOn);
 }
 
@@ -124,7 +124,7 @@ TEST_F(FrameQuestionsTest, ChoicesAreButtonsAndEscapeIsNoAnswer) {
 TEST_F(FrameQuestionsTest, NobodyAnswersWithoutADesktop) {
     AfxSetDesktopMode(false);
     EXPECT_EQ(Ask(L"First:").Str(), L"");
-    EXPECT_EQ(Ask(L"Again:").Str(), L"_quit") << "for those who ask on and on";
+    EXPECT_EQ(Ask(L"Again:").Str(), L"_quit") << "for commands that keep prompting";
     EXPECT_EQ(Pick(), RTCAN);
     acedAlert(L"A text");
     EXPECT_TRUE(Said("A text"));

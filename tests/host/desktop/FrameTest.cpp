@@ -1,4 +1,4 @@
-// What a user of the desktop's window types and clicks, and what happens.
+// Typing and clicking in the desktop's window.
 #include <QAction>
 #include <QDockWidget>
 #include <QListView>
@@ -60,7 +60,7 @@ TEST_F(FrameTest, DrawingsHaveTabsAndTheTabsFollow) {
     Tabs().setCurrentIndex(0);
     EXPECT_NE(acDocManagerPtr()->curDocument(), pSecond);
     EXPECT_TRUE(m_pFrame->windowTitle().startsWith("Drawing1"));
-    // A command works on the drawing that it began with.
+    // A running command keeps working on its drawing.
     Later([&] {
         Tabs().setCurrentIndex(1);
         EXPECT_EQ(Tabs().currentIndex(), 0);
@@ -138,7 +138,7 @@ TEST_F(FrameTest, KeysThatAPaneHasLeftAreNotForTheCommandLine) {
     EXPECT_EQ(Tabs().count(), 2) << "the last command was repeated";
     QTest::keyClick(m_pFrame->CurrentView(), Qt::Key_X);
     EXPECT_EQ(m_pInput->text(), "x");
-    // What stands between the panes is none of them.
+    // A widget outside the panes is not a pane.
     auto* const pTabs = new QTabBar(m_pFrame.get());
     pTabs->show();
     pTabs->setFocus();
@@ -159,7 +159,7 @@ TEST_F(FrameTest, TheLayoutIsTheSameAgain) {
     EXPECT_TRUE(pDock->isFloating());
     EXPECT_EQ(m_pFrame->geometry(), QRect(40, 50, 640, 480));
     EXPECT_EQ(m_pFrame->CurrentLayout().history, std::vector<CString>{L"DRAWINGS"});
-    // What cannot be read is not used, and everything stays reachable.
+    // An unreadable layout is ignored, and everything stays reachable.
     Layout broken = layout;
     broken.panes = "no state of panes";
     broken.window = {90000, 90000, 640, 480};

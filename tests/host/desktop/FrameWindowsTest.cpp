@@ -1,4 +1,4 @@
-// The windows that stand around the frame: panes and dialogs of modules, themes.
+// Windows around the frame: module panes and dialogs, themes.
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
@@ -133,7 +133,7 @@ TEST_F(FrameWindowsTest, OverTheDrawingADialogGivesTheKeyboardAwayUnlessItKeepsI
     EXPECT_EQ(QApplication::focusWidget(), m_pFrame->CurrentView());
     m_pInput->setFocus();
     enterDrawing();
-    EXPECT_EQ(QApplication::focusWidget(), m_pInput) << "the command line is no dialog";
+    EXPECT_EQ(QApplication::focusWidget(), m_pInput) << "the command line is not a dialog";
 }
 
 TEST_F(FrameWindowsTest, ListsFollowTheTheme) {
@@ -142,7 +142,7 @@ TEST_F(FrameWindowsTest, ListsFollowTheTheme) {
     EXPECT_EQ(list.GetTextBkColor(), GetSysColor(COLOR_WINDOW));
     list.SetTextBkColor(RGB(1, 2, 3));
     ApplyTheme(L"light");
-    EXPECT_EQ(list.GetTextBkColor(), RGB(1, 2, 3)) << "what was set stays";
+    EXPECT_EQ(list.GetTextBkColor(), RGB(1, 2, 3)) << "explicit colours are kept";
 }
 
 TEST_F(FrameWindowsTest, ThemesAreTheUsersOrTheSystems) {
@@ -161,7 +161,7 @@ TEST_F(FrameWindowsTest, ThemesAreTheUsersOrTheSystems) {
     m_pFrame->ApplyLayout(layout);
     m_pFrame->SetThemeOfRun(L"dark");
     EXPECT_TRUE(IsDark());
-    EXPECT_EQ(m_pFrame->CurrentLayout().theme, L"light") << "kept for the next run";
+    EXPECT_EQ(m_pFrame->CurrentLayout().theme, L"light") << "saved for the next run";
 }
 
 TEST_F(FrameWindowsTest, WhatIsShownOfADrawing) {

@@ -70,7 +70,7 @@ TEST(LayoutFile, WindowsStayWhereTheyCanBeCaught) {
         {"over the edge, but caught", {1800, 900, 800, 600}, two, {1800, 900, 800, 600}},
         {"only a rim", {1890, 100, 800, 600}, two, {1120, 100, 800, 600}},
         {"title behind the task bar", {100, 0, 800, 600}, two, {100, 30, 800, 600}},
-        {"the screen has gone", {-1200, 10, 800, 600}, {two[0]}, {0, 30, 800, 600}},
+        {"the screen was unplugged", {-1200, 10, 800, 600}, {two[0]}, {0, 30, 800, 600}},
         {"too large for what is left", {-1200, 10, 5000, 3000}, {two[0]}, {0, 30, 1920, 1050}},
         {"larger than the screens now", {10, 40, 2560, 1000}, {two[0]}, {0, 40, 1920, 1000}},
         {"far away", {2000000000, 2000000000, 100, 100}, {two[0]}, {1820, 980, 100, 100}},

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kSize = 1000;
 
-/// A drawing with a layer that is off, and its scene.
+/// A drawing with a hidden layer, and its scene.
 struct Picked {
     explicit Picked(std::size_t count, unsigned seed = 1) {
         hidden = AddLayer(database, L"hidden", 1);
@@ -27,7 +27,7 @@ struct Picked {
     DrawingScene scene;
 };
 
-/// The same by going over everything.
+/// The expected result, by a linear search.
 AcDbObjectId PlainNearest(const Picked& picked, const PlanePoint& place, double tolerance) {
     AcDbObjectId spot;
     AcDbObjectId line;

@@ -20,7 +20,7 @@ constexpr Rgb kRed = 0xffff0000;
 constexpr Rgb kGreen = 0xff00ff00;
 constexpr Rgb kWhite = 0xffffffff;
 
-/// One unit a pixel: place (x, y) is at pixel x, height - y from the corner.
+/// One unit per pixel: position (x, y) is pixel (x, height - y).
 ViewTransform At(double x, double y) {
     ViewTransform view;
     view.Resize(kWidth, kHeight);
@@ -45,7 +45,7 @@ struct Shown {
     }
 };
 
-/// A grid of lines, too many to be smoothed.
+/// A grid of lines, too many for antialiasing.
 void AddGrid(AcDbDatabase& database, double x, double y, AcDbObjectId layer = {}) {
     for (int row = 0; row < 30; ++row) {
         for (int column = 0; column < 400; ++column) {
@@ -112,7 +112,7 @@ TEST(SceneRenderer, ShowsMassesFromAfarAndWhatFillsThem) {
     Shown shown;
     AddGrid(shown.database, 0, 0);
     ViewTransform view = At(0, 0);
-    view.ZoomAt({kWidth / 2.0, kHeight / 2.0}, 0.02); // all of it is 8 by 6 pixels
+    view.ZoomAt({kWidth / 2.0, kHeight / 2.0}, 0.02); // the whole drawing is 8 by 6 pixels
     const Pixels pixels = shown.Draw(view);
     EXPECT_EQ(pixels.At(kWidth / 2, kHeight / 2), kWhite);
     EXPECT_GE(pixels.CountInked(), 7 * 5);

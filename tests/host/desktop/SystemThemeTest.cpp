@@ -1,4 +1,4 @@
-// What the desktop's settings service says about dark and light, over a bus of our own.
+// Reads the desktop's dark or light setting from a settings service on a private bus.
 #include "host/desktop/SystemTheme.h"
 
 #include <QCoreApplication>
@@ -28,7 +28,7 @@ public:
         if (message.member() != "Read" || message.arguments().value(0) != kGroup) {
             return false;
         }
-        // The number comes wrapped twice.
+        // The number is wrapped twice.
         const QVariant inner = QVariant::fromValue(QDBusVariant(scheme));
         return bus.send(message.createReply(QVariant::fromValue(QDBusVariant(inner))));
     }
@@ -44,7 +44,7 @@ TEST(SystemTheme, NothingIsKnownWithoutABus) {
 
 TEST(SystemTheme, FollowsTheServiceOfTheDesktop) {
     if (QStandardPaths::findExecutable("dbus-daemon").isEmpty()) {
-        GTEST_SKIP() << "there is no bus to be had";
+        GTEST_SKIP() << "no bus available";
     }
     int argc = 1;
     char name[] = "test";

@@ -1,4 +1,4 @@
-// Short ways to put something into a drawing that is to be seen.
+// Shortcuts for filling drawings in tests of the view.
 #pragma once
 
 #include <initializer_list>
@@ -32,7 +32,7 @@ inline AcDbObjectId AddText(AcDbDatabase& database, double x, double y, const ch
     return database.appendEntity(std::move(entity));
 }
 
-/// A square, with a hole in its middle if that has a size.
+/// A square, with a hole in its middle if the hole's size is not 0.
 inline AcDbObjectId AddSquare(AcDbDatabase& database, double x, double y, double size,
                               double hole = 0, AcDbObjectId layer = {}) {
     const auto ring = [&](double low, double side) {
@@ -50,7 +50,7 @@ inline AcDbObjectId AddSquare(AcDbDatabase& database, double x, double y, double
     return database.appendEntity(std::move(area));
 }
 
-/// A layer of a colour.
+/// A layer with a colour.
 inline AcDbObjectId AddLayer(AcDbDatabase& database, const wchar_t* name, int color) {
     const AcDbObjectId id = database.layer(name);
     AcDbLayerTableRecord* pLayer = nullptr;

@@ -1,5 +1,4 @@
-// Tests with windows, on no display. A warning of the toolkit, and a window that is left
-// over, is a failure.
+// Base of off-screen window tests. Fails on toolkit warnings and leaked windows.
 #pragma once
 
 #include <QApplication>
@@ -10,7 +9,7 @@
 
 #include "tests/support/TestHost.h"
 
-/// Each test has a process, and so an application, of its own.
+/// Each test runs in a process, and thus with an application, of its own.
 class WindowTest : public testing::Test {
 protected:
     WindowTest() {

@@ -1,4 +1,4 @@
-// Whatever goes wrong, the file and the drawing stay whole, and the user is told why.
+// Failures while saving and opening: file and drawing stay intact, and the reason is reported.
 #include <csignal>
 #include <map>
 #include <random>
@@ -8,67 +8,10 @@
 #include <sys/wait.h>
 #include <thread>
 
-#include "platform/win/CodePage.h"
-#include "tests/host/storage/StorageFixture.h"
+#include "tests/host/storage/FailureFixture.h"
 
 namespace Tessaly {
 namespace {
-
-class FailureTest : public StorageTest {
-protected:
-    /// A drawing of some size, saved as "plan.gpkg".
-    void MakePlan(AcDbDatabase& database, int nodes = 300) {
-        for (int i = 0; i < nodes; ++i) {
-            m_ids.push_back(AddNode(database, i, i, "a node of the plan"));
-        }
-        Edit<AcDbDictionary>(database, database.dictionary(L"__HV__"),
-                             [](AcDbDictionary& records) { records.setAt(L"r", L"text"); });
-        SaveNew(database, "plan.gpkg");
-    }
-    void Rename(AcDbDatabase& database, const char* name) {
-        for (const AcDbObjectId id : m_ids) {
-            Edit<AcDbPoint>(database, id,
-                            [&](AcDbPoint& point) { point.setAttribute(Name("NAME"), name); });
-        }
-    }
-    /// Saves where it must fail, and tells why it did.
-    std::string WhyNotSaved(AcDbDatabase& database, const std::string& name) {
-        return Refused(database, m_storage->Save(database, m_folder.Wide(name), {}));
-    }
-    std::string WhyNotSavedAs(AcDbDatabase& database, const std::string& path) {
-        const std::string from = path.find("/disk/") == path.npos ? "plan.gpkg" : "disk/plan.gpkg";
-        return Refused(database, m_storage->SaveAs(database, m_folder.Wide(from),
-                                                   CString(Utf8ToWide(path)), {}));
-    }
-    std::string Refused(const AcDbDatabase& database, const AcDbStorageResult& result) {
-        EXPECT_FALSE(result.ok());
-        EXPECT_TRUE(database.isModified()) << "nothing was saved";
-        return WideToUtf8(result.reason.View());
-    }
-    /// Runs in a process of its own, as nobody, to whom permissions mean something.
-    template <class Work>
-    void AsNobody(Work work) {
-        ASSERT_EQ(chown(m_folder.Native("").c_str(), 65534, 65534), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            const bool isNobody = setgid(65534) == 0 && setuid(65534) == 0;
-            if (!isNobody) {
-                _exit(1);
-            }
-            work();
-            _exit(testing::Test::HasFailure() ? 1 : 0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
-    }
-
-    std::vector<AcDbObjectId> m_ids;
-};
-
-bool Contains(const std::string& text, const char* part) {
-    return text.find(part) != std::string::npos;
-}
 
 TEST_F(FailureTest, FilesThatAreNoDrawingsAreRefusedWithTheReason) {
     m_folder.Write("empty.gpkg", "");
@@ -132,7 +75,7 @@ TEST_F(FailureTest, ALockOfAnotherProgramIsWaitedForShortlyAndTold) {
     }
     EXPECT_EQ(DescribeFile("plan.gpkg"), before);
     Save(database, "plan.gpkg");
-    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database)) << "the lock has gone";
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database)) << "the lock was released";
     Rename(database, "changed again");
     Sqlite brief(m_folder.Native("plan.gpkg"));
     brief.Execute("BEGIN IMMEDIATE");
@@ -159,7 +102,7 @@ TEST_F(FailureTest, AFileInUseWithAWriteAheadLogIsReadAndSaved) {
     EXPECT_EQ(DescribeFile("copy.gpkg"), Describe(*again));
     EXPECT_TRUE(Contains(Describe(*again), "'theirs'"));
 
-    // Another coordinate system needs another file, which the log would be taken for a part of.
+    // A new coordinate system requires a new file, for which the old log could be mistaken.
     const auto there = Open("plan.gpkg");
     there->setCoordinateSystem(L"LOCAL_CS[\"a town's own\",UNIT[\"metre\",1]]");
     EXPECT_TRUE(Contains(WhyNotSaved(*there, "plan.gpkg"), "another program has it open"));
@@ -242,7 +185,7 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
     std::signal(SIGXFSZ, SIG_IGN);
     const pid_t child = fork();
     if (child == 0) {
-        // No file may grow beyond this: the nearest to a full disk that needs no disk.
+        // A file size limit simulates a full disk.
         const auto size = std::filesystem::file_size(m_folder / "plan.gpkg");
         const rlimit limit{size + 20000, size + 20000};
         setrlimit(RLIMIT_FSIZE, &limit);
@@ -262,7 +205,7 @@ TEST_F(FailureTest, AFullDiskLosesNothing) {
     EXPECT_EQ(Sqlite(m_folder.Native("plan.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
 }
 
-/// A disk of a few pages, where the machine lets one be made.
+/// A file system of a few pages, if the machine allows mounting one.
 class SmallDisk {
 public:
     SmallDisk(std::string folder, std::size_t bytes) : m_folder(std::move(folder)) {
@@ -287,7 +230,7 @@ private:
 TEST_F(FailureTest, ADiskThatRunsFullIsToldAndSavingGoesOnOnceThereIsRoom) {
     const SmallDisk disk(m_folder.Native("disk"), 3'000'000);
     if (!disk.IsThere()) {
-        GTEST_SKIP() << "no disk may be made here";
+        GTEST_SKIP() << "cannot mount a file system here";
     }
     AcDbDatabase database;
     for (int i = 0; i < 1000; ++i) {
@@ -339,7 +282,7 @@ TEST_F(FailureTest, AnObjectInAnImpossiblePlaceIsNamedAndNothingIsSaved) {
     EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
 }
 
-/// How many processes are killed; TESSALY_KILLS asks for more than a quick test does.
+/// The number of killed processes; set TESSALY_KILLS to test more of them.
 int KillCount() {
     const char* count = std::getenv("TESSALY_KILLS"); // NOLINT(concurrency-mt-unsafe)
     return count ? std::atoi(count) : 25;
@@ -355,7 +298,7 @@ TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
     const std::string newState = Describe(database);
     std::mt19937 random(11);
     std::map<std::string, int> seen;
-    useconds_t longest = 0; // what a save takes here; the first two are let finish
+    useconds_t longest = 0; // the duration of a save here; the first two are not killed
     for (int run = -2; run < KillCount(); ++run) {
         const bool isCopy = run % 3 == 0 || run == -2;
         const auto begin = Clock::now();
@@ -388,7 +331,7 @@ TEST_F(FailureTest, AKillAtAnyMomentLeavesTheOldOrTheNewDrawing) {
     RecordProperty("old", seen["old"]);
     RecordProperty("new", seen["new"]);
     RecordProperty("in the middle", seen["in the middle"]);
-    // What the killed ones left is cleared by the next.
+    // The next save removes files that the killed ones have left.
     EXPECT_TRUE(
         m_storage->SaveAs(database, m_folder.Wide("plan.gpkg"), m_folder.Wide("plan.gpkg"), {})
             .ok());

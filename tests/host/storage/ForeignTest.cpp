@@ -1,4 +1,4 @@
-// GeoPackages of other programs: shown as they are, and never written to.
+// GeoPackages from other programs: shown unchanged, and never written to.
 #include <cmath>
 #include <map>
 #include <ogrsf_frmts.h>
@@ -13,7 +13,7 @@ class ForeignTest : public StorageTest {
 protected:
     ForeignTest() { GDALAllRegister(); }
 
-    /// A table with a text and a number, and a row for each geometry (WKT; empty: null).
+    /// A table with a text and a number column and one row per geometry (WKT; empty: null).
     void AddTable(const std::string& file, const std::string& table, OGRwkbGeometryType type,
                   const std::vector<std::string>& geometries) {
         const std::string path = m_folder.Native(file);
@@ -23,7 +23,7 @@ protected:
                 ? GDALDataset::Open(path.c_str(), GDAL_OF_VECTOR | GDAL_OF_UPDATE)
                 : pDriver->Create(path.c_str(), 0, 0, 0, GDT_Unknown, nullptr)};
         ASSERT_TRUE(dataset);
-        // Without an index: its triggers call functions that plain SQLite does not have.
+        // Without a spatial index, whose triggers call functions that plain SQLite does not have.
         static const char* const kOptions[] = {"SPATIAL_INDEX=NO", nullptr};
         OGRSpatialReference reference;
         reference.importFromEPSG(32633);
@@ -57,7 +57,7 @@ protected:
     void Run(const std::string& file, const std::string& sql) {
         Sqlite(m_folder.Native(file)).Execute(sql);
     }
-    /// Entities on the layer of a table, in the order of the file.
+    /// Entities on the layer of a table, in file order.
     static std::vector<const AcDbEntity*> On(const AcDbDatabase& database, const char* layer) {
         std::vector<const AcDbEntity*> found;
         database.forEachEntity([&](const AcDbEntity& entity) {
@@ -75,7 +75,7 @@ protected:
         }
         return false;
     }
-    /// All that the file held before our tables came, but for what every write renews.
+    /// All tables of the other program, except what every write updates.
     std::string DumpForeign(const std::string& file, const std::vector<std::string>& tables) {
         std::string all;
         for (const std::string& table : tables) {
@@ -114,13 +114,13 @@ TEST_F(ForeignTest, ShapesOfAnyKindBecomePlainEntities) {
     };
     EXPECT_TRUE(std::isnan(height(0)));
     EXPECT_EQ(height(1), 3);
-    EXPECT_TRUE(std::isnan(height(2))) << "a measure is no height";
+    EXPECT_TRUE(std::isnan(height(2))) << "a measure is not a height";
     EXPECT_EQ(height(3), 3);
     EXPECT_EQ(entities[9]->attributes().size(), 3U);
     EXPECT_EQ(entities[6]->attribute(Name("n\xC3\xA1zev")).asText(), "row 6") << "of both parts";
     EXPECT_EQ(entities[6]->attribute(Name("count")).asInteger(), 6);
     EXPECT_EQ(entities[6]->attribute(Name("when")).asText(), "2020-02-29");
-    EXPECT_TRUE(HasWarning("bytes")) << "binary columns are told of";
+    EXPECT_TRUE(HasWarning("bytes")) << "binary columns are reported";
     EXPECT_NE(WideToUtf8(database->coordinateSystem().View()).find("UTM zone 33N"),
               std::string::npos);
     EXPECT_FALSE(database->isModified());
@@ -170,7 +170,7 @@ TEST_F(ForeignTest, ViewsAreLayersAndTablesWithoutGeometryAreNot) {
     EXPECT_EQ(On(*database, "some").size(), 2U);
     EXPECT_TRUE(database->findLayer(L"prices").isNull());
 
-    // One that shows our own objects would show them twice.
+    // A view of our own objects would show them twice.
     AddNode(*database, 1, 1, "ours");
     Save(*database, "town.gpkg");
     Run("town.gpkg",
@@ -196,7 +196,7 @@ TEST_F(ForeignTest, ASaveLeavesForeignTablesAsTheyAre) {
     EXPECT_EQ(DumpForeign("town.gpkg", tables), before);
     EXPECT_EQ(DescribeFile("town.gpkg"), Describe(*database));
     EXPECT_EQ(Sqlite(m_folder.Native("town.gpkg")).Query("SELECT NAME FROM nodes_1"), "'ours'\n")
-        << "a table of that name was there already";
+        << "a table with that name already existed";
     EXPECT_EQ(Sqlite(m_folder.Native("town.gpkg")).Query("PRAGMA integrity_check"), "'ok'\n");
 }
 
@@ -270,7 +270,7 @@ TEST_F(ForeignTest, RowsThatAnotherProgramAddsToOurTablesAreKept) {
     const AcDbObjectId node = AddNode(database, 1, 1, "first");
     const AcDbObjectId line = AddLine(database, {{0, 0}, {1, 1}});
     SaveNew(database, "plan.gpkg");
-    // The number of the line, the next one of the drawing, one far away, and none that can be.
+    // The line's number, the drawing's next number, a large one, and invalid ones.
     Run("plan.gpkg", "INSERT INTO nodes (fid, geom, NAME, orv_layer) SELECT v.column1, geom, "
                      "v.column2, 'Theirs' FROM nodes, (VALUES (" +
                          std::to_string(line.number()) + ", 'clash'), (" +

@@ -1,4 +1,4 @@
-// Files of other programs, read into plain values: whole or not at all.
+// Imports files from other programs as plain values: completely or not at all.
 #include <cmath>
 #include <csignal>
 #include <ogrsf_frmts.h>
@@ -16,7 +16,7 @@ protected:
     AcDbImportResult Import(const std::string& name, const AcDbProgress& progress = {}) {
         return MakeImporter()->Import(m_folder.Wide(name), progress);
     }
-    /// The reason of a refusal, which has to be one.
+    /// Expects a refusal and returns its reason.
     std::string WhyNot(const std::string& name) {
         const AcDbImportResult result = Import(name);
         EXPECT_FALSE(result.ok()) << name;
@@ -127,7 +127,7 @@ TEST_F(ImportTest, ADxfThatIsCutOrDamagedIsRefusedInTime) {
     lines[lines.find("\r\n10") + 1] = '\0';
     m_folder.Write("plan.dxf", lines);
     WhyNot("plan.dxf");
-    // A word by which another reader takes the file for its own.
+    // A word that makes another driver claim the file.
     m_folder.Write("plan.dxf", lines.insert(lines.find("Pipes"), "<kml:kml"));
     WhyNot("plan.dxf");
 }

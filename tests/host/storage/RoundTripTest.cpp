@@ -1,4 +1,4 @@
-// What is saved is what is opened again.
+// Saving and reopening preserves everything.
 #include <limits>
 
 #include "platform/win/CodePage.h"
@@ -12,7 +12,7 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 using Ring = AcDbMPolygon::Ring;
 
-/// A drawing with everything that a drawing can hold.
+/// A drawing with every kind of content.
 void Fill(AcDbDatabase& database) {
     database.setCoordinateSystem(
         L"LOCAL_CS[\"Works grid \u010D. 7\",UNIT[\"metre\",1],AXIS[\"x\",EAST],AXIS[\"y\",NORTH]]");
@@ -181,7 +181,8 @@ TEST_F(StorageTest, ASaveWritesWhatChangedAndNothingElse) {
     Edit<AcDbPoint>(database, ids[9], [](AcDbPoint& point) { point.erase(false); });
     Edit<AcDbPolyline>(database, line, [](AcDbPolyline& section) { section.erase(); });
     Save(database, "plan.gpkg");
-    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database)) << "an erased object that came back";
+    EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database))
+        << "an erased object that was restored";
 }
 
 TEST_F(StorageTest, SymbolsAndRecordsAreSavedAsTheyChange) {
@@ -211,7 +212,7 @@ TEST_F(StorageTest, ExtentsForOtherProgramsFollowWhatMovesAndGoes) {
     const auto expectExtent = [&](double minX, double minY, double maxX, double maxY) {
         Save(database, "plan.gpkg");
         char sql[400];
-        // Texts of numbers lose their last digits here and there.
+        // Converting to text may lose the last digits.
         std::snprintf(sql, sizeof sql,
                       "SELECT abs(min_x - %.17g) + abs(min_y - %.17g) + abs(max_x - %.17g) + "
                       "abs(max_y - %.17g) < 1e-9 FROM gpkg_contents WHERE table_name = 'nodes'",
@@ -227,7 +228,7 @@ TEST_F(StorageTest, ExtentsForOtherProgramsFollowWhatMovesAndGoes) {
     expectExtent(2 / 7.0, 1 / 3.0, 9, 9);
 }
 
-/// An entity of a class that some module has made.
+/// An entity of a class defined by a module.
 class Special final : public AcDbEntity {
 public:
     AcRxClass* isA() const override { return AcDbEntity::desc(); }

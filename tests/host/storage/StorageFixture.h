@@ -1,4 +1,4 @@
-// Drawings for tests of their storage, and a view of files that does not go through it.
+// Drawings for storage tests, and direct access to files, bypassing the storage.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 
 namespace Tessaly {
 
-/// A connection of "another program".
+/// A connection from "another program".
 class Sqlite {
 public:
     explicit Sqlite(const std::string& path);
@@ -21,24 +21,24 @@ public:
     Sqlite(const Sqlite&) = delete;
     Sqlite& operator=(const Sqlite&) = delete;
 
-    /// Fails the test if the statements do.
+    /// Fails the test if a statement fails.
     void Execute(const std::string& sql);
-    /// All rows of a result: values with bars between, rows with line ends. Blobs in
-    /// hexadecimal, so that nothing of them is left out.
+    /// All rows of a result: columns separated by "|", rows by newlines, blobs in full as
+    /// hexadecimal.
     std::string Query(const std::string& sql);
 
 private:
     sqlite3* m_pDatabase = nullptr;
 };
 
-/// The content of a table, or view, to the last byte.
+/// The exact content of a table or view.
 std::string DumpTable(const std::string& path, const std::string& table);
 
-/// Everything that a drawing holds, a line an object, so that two can be compared.
+/// The complete content of a drawing, one object per line, for comparisons.
 std::string Describe(const AcDbDatabase& database);
 
 AcDbNameId Name(const char* name);
-/// Opens for writing, calls, closes.
+/// Opens an object for writing, calls the function and closes the object.
 template <class T, class Change>
 void Edit(AcDbDatabase& database, AcDbObjectId id, Change change) {
     T* pObject = nullptr;
@@ -52,20 +52,20 @@ AcDbObjectId AddLine(AcDbDatabase& database, std::vector<AcGePoint3d> vertices);
 
 class StorageTest : public testing::Test {
 protected:
-    /// Reads into a new database; fails the test on a refusal.
+    /// Reads into a new database; fails the test if that is refused.
     std::unique_ptr<AcDbDatabase> Open(const std::string& name);
-    /// The reason of a refusal, in UTF-8; empty if it was read.
+    /// The reason of a refusal, in UTF-8; empty if the file was read.
     std::string WhyNotRead(const std::string& name);
     void Save(AcDbDatabase& database, const std::string& name);
     void SaveNew(AcDbDatabase& database, const std::string& name);
-    /// What a reader in another process would find.
+    /// The content as seen by a reader in another process.
     std::string DescribeFile(const std::string& name);
-    /// Other files in the folder than those of these names.
+    /// Files in the folder other than these.
     std::vector<std::string> Leftovers(const std::vector<std::string>& expected) const;
 
     TempFolder m_folder;
     std::unique_ptr<IDbStorage> m_storage = MakeGeoPackageStorage();
-    std::vector<CString> m_warnings; ///< of the last call
+    std::vector<CString> m_warnings; ///< from the last call
 };
 
 } // namespace Tessaly

@@ -1,4 +1,4 @@
-// What the reader says about files that are not as they should be.
+// Problems reported for faulty files.
 #include "plugins/network/InpReader.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// A small network behind which the cases put their faults; it has nine lines.
+/// A small network of nine lines; the cases append their faults.
 const std::string kSound = "[JUNCTIONS]\n"
                            "A 10\n"
                            "B 20\n"
@@ -116,7 +116,7 @@ TEST(InpReaderProblems, CutLinesAreNamed) {
          {"net.inp:11: too few columns in [VERTICES]: 1 instead of 3 (name, x, y)"}},
         {"[LABELS]\n1 2\n",
          {"net.inp:11: too few columns in [LABELS]: 2 instead of 3 (x, y, text)"}},
-        {"[VERTI", {"net.inp:10: the section heading \"[VERTI\" is cut off"}},
+        {"[VERTI", {"net.inp:10: the section heading \"[VERTI\" is incomplete"}},
     };
     for (const Case& each : cases) {
         ExpectErrors(kSound + each.text, each.problems);
@@ -134,9 +134,9 @@ TEST(InpReaderProblems, LongLinesAreRefusedWithTheirLength) {
     const std::string longest(kLongestLine - 2, 'x');
     EXPECT_TRUE(Read(kSound + "; " + longest + "\n").ok);
     ExpectErrors(kSound + ";; " + longest + "\r\n",
-                 {"net.inp:10: the line has 65537 characters, more than 65536"});
+                 {"net.inp:10: the line has 65537 characters; the limit is 65536"});
     ExpectErrors(kSound + std::string(10'000'000, 'x') + "\n" + kSound,
-                 {"net.inp:10: the line has 10000000 characters, more than 65536"});
+                 {"net.inp:10: the line has 10000000 characters; the limit is 65536"});
 }
 
 TEST(InpReaderProblems, LengthOfALineCountsCharactersNotBytes) {
@@ -146,7 +146,7 @@ TEST(InpReaderProblems, LengthOfALineCountsCharactersNotBytes) {
     }
     EXPECT_TRUE(Read(comment).ok);
     ExpectErrors(comment + "\xC3\xBC",
-                 {"net.inp:10: the line has 65537 characters, more than 65536"});
+                 {"net.inp:10: the line has 65537 characters; the limit is 65536"});
 }
 
 TEST(InpReaderProblems, MissingNodesAreKeptByName) {
@@ -224,7 +224,7 @@ TEST(InpReaderProblems, AllAreCountedAndTheFirstOnesListed) {
 }
 
 TEST(InpReaderProblems, ProblemsComeInTheOrderOfTheirLines) {
-    // Coordinates are read before pipes, wherever they stand.
+    // Coordinates are read before pipes, whatever their order in the file.
     ExpectErrors("[PIPES]\nP A B x 1\n[COORDINATES]\nA y 0\n[JUNCTIONS]\nA z\n",
                  {"net.inp:2: length \"x\" is not a number",
                   "net.inp:4: x coordinate \"y\" is not a number",

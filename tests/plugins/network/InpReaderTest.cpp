@@ -1,4 +1,4 @@
-// What the reader takes from sound files.
+// Reading valid files.
 #include "plugins/network/InpReader.h"
 
 #include <gtest/gtest.h>
@@ -92,7 +92,7 @@ InpResult Read(std::string_view text) {
     return ReadInp(text, "net.inp");
 }
 
-/// The text with the line ends of other systems.
+/// The text with other systems' line ends.
 std::string WithCarriageReturns(std::string_view text) {
     std::string result;
     for (const char c : text) {
@@ -197,7 +197,7 @@ TEST(InpReader, SewerNetworkIsRead) {
                            SectionKind::Orifice, SectionKind::Outlet, SectionKind::Pump}));
     EXPECT_EQ(model.sections.statedLengths[0], 309.4);
     EXPECT_EQ(model.sections.diameters[0], 1.25);
-    EXPECT_TRUE(std::isnan(model.sections.diameters[1])); // its height is no diameter
+    EXPECT_TRUE(std::isnan(model.sections.diameters[1])); // its height is not a diameter
 }
 
 TEST(InpReader, RingsOfPolygonsAreNotClosed) {

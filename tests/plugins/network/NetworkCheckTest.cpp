@@ -93,11 +93,11 @@ TEST(NetworkCheck, ZeroLengthSections) {
     sketch
         .Section(0, 1)                      // between coincident nodes
         .Section(0, 0)                      // from a node to itself
-        .Section(0, 1, {{1, 1}})            // an inner vertex at the same place
-        .Section(0, 1, {{2, 2}})            // goes away and comes back
-        .Section(0, 2)                      // of some length
-        .Section(0, kMissingNode, {{1, 1}}) // nobody knows where it leads
-        .Section(0, 3);                     // nor here
+        .Section(0, 1, {{1, 1}})            // an inner vertex at the same position
+        .Section(0, 1, {{2, 2}})            // leaves and comes back
+        .Section(0, 2)                      // not of zero length
+        .Section(0, kMissingNode, {{1, 1}}) // unknown end
+        .Section(0, 3);                     // likewise
     EXPECT_EQ(
         FindingsOf(sketch, FindingKind::ZeroLengthSection),
         (Texts{"S0: zero-length section", "S1: zero-length section", "S2: zero-length section"}));
@@ -112,7 +112,7 @@ TEST(NetworkCheck, MissingNodes) {
                      "S2: refers to the missing nodes X and Y"}));
     const CheckResult result = CheckNetwork(sketch.Geometry());
     EXPECT_TRUE(IsPlace(result.findings[1].place));
-    EXPECT_FALSE(IsPlace(result.findings[3].place)); // lies nowhere
+    EXPECT_FALSE(IsPlace(result.findings[3].place)); // no position
 }
 
 TEST(NetworkCheck, ParallelSectionsNameTheFirstOfTheirNodes) {

@@ -1,4 +1,4 @@
-// Crossings by cases, and against a slow search that works on fractions and angles.
+// Crossings in chosen cases, and compared with a slow search using fractions and angles.
 #include "plugins/network/NetworkCrossings.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ bool DoCross(const Line& a, const Line& b) {
     return !CrossingsOf(NetworkSketch().Line(a).Line(b)).empty();
 }
 
-/// A place on a segment: its first point plus above / below of the way to its second.
+/// A point on a segment: its first point plus above / below of the way to its second.
 struct Spot {
     std::size_t segment = 0;
     std::int64_t above = 0;
@@ -46,7 +46,7 @@ struct Directions {
     Point behind;
 };
 
-/// Which ways a line leads away from a spot; nothing where it ends.
+/// The directions in which a line leaves a spot; none where it ends.
 std::optional<Directions> DirectionsAt(const Line& line, const Spot& spot) {
     std::size_t before = spot.segment;
     std::size_t behind = spot.segment + 1;
@@ -63,7 +63,7 @@ std::optional<Directions> DirectionsAt(const Line& line, const Spot& spot) {
     return Directions{towards(at, at - 1), towards(at, at + 1)};
 }
 
-/// Whether the four ways out of a common spot alternate around it.
+/// Whether the four directions at a common spot alternate.
 bool Alternate(const Directions& a, const Directions& b) {
     std::vector<std::pair<double, int>> ways;
     for (const auto& [way, owner] :
@@ -84,9 +84,9 @@ std::int64_t Cross(const Point& o, const Point& a, const Point& b) {
     return std::llround((a.x - o.x) * (b.y - o.y) - (a.y - o.y) * (b.x - o.x));
 }
 
-/// The one spot that two segments with whole coordinates share, on each of them; nothing
-/// for parallel ones, whose lines either never alternate or do so at a vertex that another
-/// pair of segments meets in.
+/// The one point shared by two segments with integer coordinates, as a fraction of each; nothing
+/// for parallel segments, whose lines either never alternate or do so at a vertex shared with
+/// another pair of segments.
 std::optional<std::pair<Spot, Spot>> CommonSpot(const Line& a, std::size_t i, const Line& b,
                                                 std::size_t j) {
     const std::int64_t ofB0 = Cross(a[i], a[i + 1], b[j]);
@@ -109,7 +109,7 @@ std::optional<std::pair<Spot, Spot>> CommonSpot(const Line& a, std::size_t i, co
     return std::pair(onA, onB);
 }
 
-/// Spots where straight-on vertices meet belong to parallel segments only.
+/// Points where straight-through vertices meet belong only to parallel segments.
 std::optional<std::pair<Spot, Spot>> CommonVertex(const Line& a, std::size_t i, const Line& b,
                                                   std::size_t j) {
     if (a[i] != b[j]) {
@@ -164,7 +164,7 @@ Point PlaceOf(Dice& dice, int limit) {
     return {static_cast<double>(x), static_cast<double>(dice.Throw(limit))};
 }
 
-/// Sections between random nodes; on a small board most points fall together.
+/// Sections between random nodes; on a small board most points coincide.
 NetworkSketch RandomNetwork(Dice& dice, int nodeCount, int sectionCount, int board) {
     NetworkSketch sketch;
     for (int i = 0; i < nodeCount; ++i) {

@@ -1,4 +1,4 @@
-// Small networks for tests, drawn in a few words.
+// Builds small networks for tests.
 #pragma once
 
 #include <initializer_list>
@@ -7,7 +7,7 @@
 
 #include "plugins/common/NetworkGeometry.h"
 
-/// A network that owns its arrays. Nodes are named N0, N1 ...; sections S0, S1 ...
+/// A network that owns its arrays. Nodes are named N0, N1, ...; sections S0, S1, ...
 class NetworkSketch : public Orvane::Network::INetworkNames {
 public:
     using Point = Orvane::Network::Point;
@@ -22,7 +22,7 @@ public:
         offsets.push_back(static_cast<std::uint32_t>(vertices.size()));
         return *this;
     }
-    /// A section with two nodes of its own.
+    /// A section with two new nodes.
     NetworkSketch& Line(const std::vector<Point>& points) {
         const int start = static_cast<int>(nodes.size());
         nodes.push_back(points.front());

@@ -1,4 +1,4 @@
-// Networks from their files into a drawing, to disk, and back.
+// Networks from network files to the drawing, to disk and back.
 #include <cmath>
 #include <filesystem>
 #include <sqlite3.h>
@@ -37,7 +37,7 @@ void AppendCommon(std::string& text, const Topology::CEntity& entity) {
     }
 }
 
-/// Everything that a drawing has of networks, a line an entity.
+/// The complete network content of a drawing, one entity per line.
 std::string Describe(const CTopologyStorage& storage) {
     std::string text;
     for (const auto node : storage.GetNodeVector()) {
@@ -108,7 +108,7 @@ protected:
             acDocManagerPtr()->openDocument(m_folder.Wide(name), {}, pDoc);
         ASSERT_TRUE(read.ok()) << WideToUtf8(read.reason.View());
     }
-    /// The first value of an answer of another program to a question.
+    /// The first value of another program's query result.
     std::string Ask(const char* name, const char* sql) {
         sqlite3* pFile = nullptr;
         std::string answer = "nothing";
@@ -159,7 +159,7 @@ TEST_P(ReferenceNetworkOnDisk, ComesBackAsItWas) {
     EXPECT_EQ(text.GetLength(), 100000);
     EXPECT_FALSE(acDocManagerPtr()->curDocument()->isModified());
 
-    // Other programs see plain tables.
+    // Other programs see ordinary tables.
     EXPECT_EQ(Ask("plan.gpkg", "PRAGMA integrity_check"), "ok");
     EXPECT_EQ(Ask("plan.gpkg", "SELECT count(*) FROM nodes"),
               std::to_string(network.model.nodes.size()));

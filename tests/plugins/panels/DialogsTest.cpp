@@ -1,4 +1,4 @@
-// The dialogs under mouse and keyboard.
+// The dialogs, driven by mouse and keyboard.
 #include "tests/plugins/panels/PanelsOnDesktop.h"
 
 #include <QAbstractButton>
@@ -164,7 +164,7 @@ TEST_F(Dialogs, GeneralSettingsAreWrittenOnlyIfTheyMakeSense) {
         Later([=] {
             QWidget* const pDialog = QApplication::activeModalWidget();
             ASSERT_NE(pDialog, nullptr);
-            // Behind the minutes between autosaves.
+            // The control after the autosave interval.
             pDialog->findChildren<QLineEdit*>().at(1)->setText(QLatin1String(color));
             for (const char* const button : buttons) {
                 for (auto* const pButton : pDialog->findChildren<QAbstractButton*>()) {

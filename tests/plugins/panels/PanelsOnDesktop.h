@@ -1,4 +1,4 @@
-// The real plug-ins on a desktop in memory, with a small network in the drawing.
+// The real plug-ins on an in-memory desktop, with a small network in the drawing.
 #pragma once
 
 #include "platform/arx/ApDocManager.h"
@@ -12,8 +12,7 @@
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/dialogs/WsPanelDialog.h"
 
-/// Modules are loaded as the program loads them, so that panels and dialogs are reached by
-/// their ids alone.
+/// Loads modules as the program does, so that panels and dialogs are found by their ids.
 class PanelsOnDesktop : public WindowTest {
 protected:
     void SetUp() override {
@@ -24,7 +23,7 @@ protected:
 <module msgName="900001" on="1" fileName="ORVZNetwork.arx" ></module>
 <module msgName="900002" on="1" fileName="ORVZPanels.arx" ></module>
 </moduleRegistry>)");
-        // The configurations that come with the program.
+        // The configurations shipped with the program.
         const std::filesystem::path from = TESSALY_STAGE_DIR "/share/support/repository";
         std::filesystem::copy(from, m_host.Support() / "repository",
                               std::filesystem::copy_options::recursive);
@@ -53,7 +52,7 @@ protected:
         WindowTest::TearDown();
     }
 
-    /// A click becomes a command, and that a refresh; each is a message of its own.
+    /// A click posts a command, which posts a refresh; each is a separate message.
     static void Settle() {
         for (int round = 0; round < 4; ++round) {
             AfxPumpMessages();
@@ -76,7 +75,7 @@ protected:
     }
     static std::string Narrow(const CString& text) { return WideToUtf8(text.View()); }
 
-    /// A panel over the lower part of the frame, or all of it.
+    /// A panel in the lower part of the frame, or filling it.
     Orvane::Workspace::CWsPanelDialog& MakePanel(const wchar_t* id, int top = 0) {
         Orvane::Workspace::CWsPanelDialog* const pPanel =
             Factories().front()->CreateWsPanelDialog(&m_frame, id);
@@ -86,13 +85,13 @@ protected:
         return *pPanel;
     }
 
-    /// What can be seen of a tree: a line for each node, "*" before the selected one.
+    /// The visible nodes of a tree, one per line, with "*" before the selected one.
     static std::string Shown(const CTreeCtrl& tree) {
         std::string text;
         Append(tree, tree.GetRootItem(), 0, text);
         return text;
     }
-    /// By the beginnings of the texts from the root down; null if there is none.
+    /// Finds a node by prefixes of the texts from the root down; null if there is none.
     static HTREEITEM Find(const CTreeCtrl& tree, std::initializer_list<const wchar_t*> path) {
         HTREEITEM item = nullptr;
         HTREEITEM first = tree.GetRootItem();

@@ -1,4 +1,4 @@
-// What the trees and dialogs decide, without a window.
+// The rules of trees and dialogs, without a window.
 #include <boost/make_shared.hpp>
 
 #include "platform/win/CodePage.h"
@@ -21,7 +21,7 @@ std::string Narrow(const CString& text) {
     return WideToUtf8(text.View());
 }
 
-/// What a node is, as the tables say it.
+/// The test tables' description of a node.
 struct Kind {
     const wchar_t* tag = L"";
     const wchar_t* guid = L"";
@@ -171,7 +171,7 @@ TEST_F(Rules, SearchMeetsAnyPartAndPutsTheNameItselfFirst) {
     const struct {
         const char* what;
         EntitySearch search;
-        const char* found; ///< name and where
+        const char* found; ///< name and where it matched
         std::size_t count;
     } cases[] = {
         {"names", {L"a1", town, SearchIn::Name}, "A1:A1 A10:A10 xa1:xa1 ", 3},
@@ -181,7 +181,7 @@ TEST_F(Rules, SearchMeetsAnyPartAndPutsTheNameItselfFirst) {
         {"numbers", {L"2.5", 0, SearchIn::Attributes}, "A1:ELEVATION = 12.5 ", 1},
         {"other letters", {L"äRM", 0, SearchIn::Everywhere}, "Ärmel:Ärmel ", 1},
         {"in a text with them", {L"STRA", 0, SearchIn::Everywhere}, "A1:NOTE = Straße ", 1},
-        {"our own attributes are none", {L"1", 9999, SearchIn::Everywhere}, "", 0},
+        {"internal attributes are not searched", {L"1", 9999, SearchIn::Everywhere}, "", 0},
         {"nothing stands for all", {L"", town, SearchIn::Name}, "A1: xa1: A10: Ärmel: Lone: ", 5},
     };
     for (const auto& row : cases) {
@@ -196,7 +196,7 @@ TEST_F(Rules, SearchMeetsAnyPartAndPutsTheNameItselfFirst) {
     const SearchResult few = SearchDrawing({L"a1", 0, SearchIn::Name}, 2);
     EXPECT_EQ(few.count, 4U);
     ASSERT_EQ(few.entities.size(), 2U);
-    EXPECT_EQ(Narrow(few.entities[1].system), "Other") << "the better ones are kept";
+    EXPECT_EQ(Narrow(few.entities[1].system), "Other") << "the best matches are kept";
 }
 
 TEST_F(Rules, PropertiesKeepTheirKind) {

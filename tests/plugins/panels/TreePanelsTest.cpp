@@ -1,4 +1,4 @@
-// The tree panels under mouse and keyboard.
+// The tree panels, driven by mouse and keyboard.
 #include "tests/plugins/panels/PanelsOnDesktop.h"
 
 #include <QLineEdit>
@@ -36,7 +36,7 @@ protected:
         return CRepositoryManager::Instance()->GetRepositoryfactory(L"QUERY")->GetSystemStore(
             m_pSystem);
     }
-    /// Types into the label that is being edited.
+    /// Types into the active label editor.
     static void TypeLabel(const char* text, Qt::Key end) {
         auto* const pEditor = WidgetOf(Tree())->findChild<QLineEdit*>();
         ASSERT_NE(pEditor, nullptr);
@@ -44,9 +44,10 @@ protected:
         QTest::keyClick(pEditor, end);
         Settle();
     }
-    /// Opens the menu of the selected node, and chooses; all entries, "|" for a separator.
+    /// Opens the menu of the selected node and chooses an entry; returns all entries, "|" for a
+    /// separator.
     static std::string Choose(CTreeCtrl& tree, const char* entry) {
-        // Closing a menu in memory leaves no window active.
+        // Closing a menu on the in-memory desktop leaves no window active.
         WidgetOf(tree)->activateWindow();
         tree.SetFocus();
         Settle();
@@ -72,7 +73,7 @@ protected:
         Settle();
         return entries;
     }
-    /// Presses in one tree and lets go in another, or the same.
+    /// Presses in one tree and releases in another, or the same.
     static void Drag(CTreeCtrl& from, HTREEITEM item, CTreeCtrl& to, HTREEITEM target) {
         const QPoint end = PlaceOf(to, target);
         const QPoint start = PlaceOf(from, item);
@@ -277,7 +278,8 @@ TEST_F(TreePanels, ACommandOfAPluginIsOneStepAndMayThrow) {
                   throws)
             << m_host.Output();
         EXPECT_TRUE(drawing.undo().undo());
-        EXPECT_EQ(drawing.entityCount(), before) << "one step, though the executor makes none";
+        EXPECT_EQ(drawing.entityCount(), before)
+            << "one undo step, though the executor creates none";
         EXPECT_NE(Find(Tree(), {L"Systems", L"Town"}), nullptr);
     }
 }

@@ -22,7 +22,7 @@ TEST_F(Executors, AQueryIsAddedRunEditedAndUndone) {
     EXPECT_TRUE(Undo().undo());
     EXPECT_TRUE(Undo().undo());
     EXPECT_FALSE(InSystem(L"QUERY")->GetItem(guid));
-    EXPECT_EQ(Run(L"RUN_QUERY", &item), -1) << "the item is gone, the node is not";
+    EXPECT_EQ(Run(L"RUN_QUERY", &item), -1) << "the item was deleted, but not its node";
 }
 
 TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
@@ -44,7 +44,7 @@ TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
         {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"2 1", L""}, "ascending order"},
         {L"ADD_THEME_2", &theme, {L"x", L"ranges", L"DIAMETER", L"", L"99", L""}, "from 1 to 12"},
         {L"ADD_THEME_2", &theme, {L"x", L"unique", L"DIAMETER", L"1 300"}, "from 1 to 255"},
-        {L"ADD_LABEL_1", &label, {L"x", L"{NAME"}, "a brace"},
+        {L"ADD_LABEL_1", &label, {L"x", L"{NAME"}, "unmatched brace"},
         {L"ADD_LABEL_1", &label, {L"x", L"", L"-3"}, "is not a valid text height"},
         {L"DEL_QUERY", &query, {L"nothing"}, "There is no configuration \"nothing\"."},
         {L"RPODROP_QUERY", &query, {}, "dropped item cannot be used"},
@@ -56,7 +56,8 @@ TEST_F(Executors, WhatMakesNoSenseIsRefusedAndNothingChanges) {
         EXPECT_TRUE(Base(test.id, test.answers, test.pNode).IsEmpty()) << WideToUtf8(test.id);
         EXPECT_NE(Host().TakeOutput().find(test.message), std::string::npos) << test.message;
     }
-    EXPECT_EQ(Undo().undoName() ? *Undo().undoName() : CString(), L"") << "no step was made";
+    EXPECT_EQ(Undo().undoName() ? *Undo().undoName() : CString(), L"")
+        << "no undo step was created";
     for (const wchar_t* tag : {L"QUERY", L"THEME", L"LABEL"}) {
         EXPECT_TRUE(InSystem(tag)->GetItems().empty());
     }
@@ -84,7 +85,7 @@ TEST_F(Executors, AThemeColoursItsEntitiesOrThoseOfADroppedQuery) {
     EXPECT_EQ(Run(L"QRYDROP_THEME_2", &item, &query), 0);
 
     item.SetSystem(&MakeSystem(L"Parcels", TopologyPolygon, 0));
-    EXPECT_EQ(Run(L"RUN_THEME_2", &item), -1) << "it stands in another system";
+    EXPECT_EQ(Run(L"RUN_THEME_2", &item), -1) << "it belongs to another system";
     CRepositoryFactory& themes = Family(L"THEME");
     EXPECT_TRUE(
         themes.GetSystemStore(item.GetSystem())->Add(*InSystem(L"THEME")->GetItem(guid)).IsEmpty());
@@ -102,7 +103,7 @@ TEST_F(Executors, LabelsReplaceTheirOwnOlderOnesAlone) {
     EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ");
     EXPECT_EQ(Storage().GetTextVector()[4].GetPosition().x, 5);
     EXPECT_EQ(Run(L"RUN_LABEL_1", &nodes), 3);
-    EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ") << "what is right stays untouched";
+    EXPECT_EQ(Labels(), "by hand A B C DN 100 DN 400 ") << "correct labels stay untouched";
     EXPECT_EQ(Base(L"EDIT_LABEL_1", {L"{NAME}{ELEVATION}", L""}, &nodes), nodes.GetGuid());
     EXPECT_EQ(Run(L"RUN_LABEL_1", &nodes), 3);
     EXPECT_EQ(Labels(), "by hand B C DN 100 DN 400 A12.5 ");
@@ -129,7 +130,7 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     EXPECT_TRUE(Base(L"SENDTO_QUERY", {L"nowhere"}, &node).IsEmpty());
     node.SetS2D(1);
     EXPECT_EQ(Base(L"SENDTO_QUERY", {}, &node), guid);
-    EXPECT_TRUE(Base(L"SENDTO_QUERY", {}, &node).IsEmpty()) << "it is there, and the same";
+    EXPECT_TRUE(Base(L"SENDTO_QUERY", {}, &node).IsEmpty()) << "an equal item already exists";
 
     ItemArgument typed = CString(L"renamed\nin place");
     WrapArgument(node, &typed);

@@ -1,4 +1,4 @@
-// A drawing for commands on configurations, driven by nodes of trees made by hand.
+// A drawing for tests of configuration commands, driven by hand-made tree nodes.
 #pragma once
 
 #include <boost/make_shared.hpp>
@@ -27,7 +27,7 @@ using Workspace::ItemArgument;
 
 inline constexpr const wchar_t* kEscape = L"\x1B";
 
-/// Counts what a publisher tells.
+/// Counts a publisher's notifications.
 class Counter final : public Notification::CSubscriber {
 public:
     explicit Counter(const wchar_t* publisher) {
@@ -46,7 +46,7 @@ public:
     void* pLast = nullptr;
 };
 
-/// Three nodes in a row, two sections of 100 and 400 mm between them, and a system for it.
+/// Three nodes in a row, connected by sections with diameters 100 and 400 mm, in a system.
 class Executors : public TestDrawing {
 protected:
     Executors() : m_system(MakeSystem(L"Town")) {
@@ -69,7 +69,7 @@ protected:
         acDocManagerPtr()->setStorage(nullptr);
     }
 
-    /// A node of a system tree, or of the disk tree if there is no system.
+    /// A node of the system tree, or of the disk tree if the system is null.
     static CWsTreeItemData Node(const wchar_t* tag, Workspace::enmWSTreeItemType type,
                                 System::CGisSystem* pSystem, const CString& guid = {},
                                 enmEntityType entityType = EntityNone) {
@@ -88,7 +88,7 @@ protected:
         return Node(tag, Workspace::WsItemSystemConfiguration, &m_system, guid, type);
     }
 
-    /// As the host runs a command, which makes it one step of the history.
+    /// Runs a command as the host does, as one undo step.
     template <class Call>
     static boost::shared_ptr<Workspace::CExecutorReturnValue> InOrder(const wchar_t* id,
                                                                       Call call) {
@@ -99,7 +99,7 @@ protected:
                                 }});
         return result;
     }
-    /// GUID of the item that a command was about; empty if it was not carried out.
+    /// GUID of the command's item; empty if the command was not carried out.
     CString Base(const wchar_t* id, std::initializer_list<const wchar_t*> answers,
                  CWsTreeItemData* pNode, Query::CQueryDefinition* pQuery = nullptr) {
         Host().Answer(answers);
@@ -108,7 +108,7 @@ protected:
         EXPECT_EQ(result->m_nStatus == 0, result->m_strText1.IsEmpty());
         return result->m_strText1;
     }
-    /// How many entities a run was about; -1 if it was not carried out.
+    /// The number of entities in a run; -1 if the command was not carried out.
     static int Run(const wchar_t* id, CWsTreeItemData* pNode,
                    Query::CQueryDefinition* pQuery = nullptr) {
         const auto result = InOrder(id, [&] { return CBaseExecutor().Execute(id, pQuery, pNode); });

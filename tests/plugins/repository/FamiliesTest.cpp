@@ -1,4 +1,4 @@
-// What holds for families of every kind, also for one of another plug-in.
+// Rules for families of every kind, including one from another plug-in.
 #include "plugins/repository/RepositoryDefaults.h"
 #include "tests/plugins/repository/Executors.h"
 #include "workspacecore/core/WsManager.h"
@@ -112,7 +112,7 @@ TEST_F(Executors, DefaultsAreShownWhenTheDrawingIsOpened) {
     EXPECT_TRUE(pDoc->isModified());
     reopen(true);
     EXPECT_EQ(Labels(), "A B C ");
-    EXPECT_FALSE(acDocManagerPtr()->curDocument()->isModified()) << "it is shown already";
+    EXPECT_FALSE(acDocManagerPtr()->curDocument()->isModified()) << "already shown";
     EXPECT_FALSE(acDocManagerPtr()->curDocument()->database()->undo().undoName());
     acDocManagerPtr()->newDocument(L"b.dwg");
     Host().TakeOutput();
@@ -125,7 +125,7 @@ TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
     Workspace::CWsManager& workspace = *Workspace::CWsManager::Instance();
     workspace.RegisterBaseExecutor(&m_base);
     ASSERT_TRUE(workspace.PluginMgr()->LoadModule(L"" TESSALY_FIXTURES_DIR "/BringsFamily.arx"));
-    // As somebody without a tree gives them; each by its id, on an item known by its name.
+    // Without a tree: each command by its id, on an item given by name.
     struct {
         const wchar_t* id;
         std::initializer_list<const wchar_t*> answers;
@@ -153,7 +153,7 @@ TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
         EXPECT_EQ(result->m_nNumber, test.number) << WideToUtf8(test.id);
         EXPECT_NE(Host().Output().find(test.output), std::string::npos) << Host().Output();
     }
-    // Drops have nodes: the item from the disk on another system, a query on the item.
+    // Drops need nodes: the disk item on another system, a query on the item.
     const auto item = InSystem(L"NOTE")->GetItemByName(L"lead");
     ASSERT_TRUE(item);
     EXPECT_EQ(InSystem(L"NOTE")->GetDefault(EntitySection), item->GetGuid());
@@ -172,5 +172,6 @@ TEST_F(Executors, AFamilyOfAnotherPluginTakesEveryCommand) {
     EXPECT_NE(Host().Output().find("Pipes of lead, for iron"), std::string::npos);
     EXPECT_EQ(commands.ExecuteExplicite(L"RUN_NOTE_2", item.get(), nullptr, nullptr)->m_nNumber, 2);
     EXPECT_EQ(commands.ExecuteExplicite(L"RUN_NOTE_2", &query, nullptr, nullptr)->m_nStatus, 0);
-    EXPECT_NE(Host().Output().find("needs a configuration of its own family"), std::string::npos);
+    EXPECT_NE(Host().Output().find("can only run configurations of its own family"),
+              std::string::npos);
 }

@@ -1,4 +1,4 @@
-// The rules of the families: ids of commands, classes, label patterns and places, ways.
+// Rules of the families: command ids, classes, label patterns and positions, paths.
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ std::vector<ThemeValue> Values(std::initializer_list<AcDbValue> values) {
     return all;
 }
 
-/// "label:count/color", class by class, and the classes of the values.
+/// "label:count/color" for each class, and the classes of the values.
 std::string Describe(const ThemeResult& result) {
     std::string text;
     for (const ThemeClass& entry : result.classes) {
@@ -197,7 +197,7 @@ TEST(LabelPlaces, AreTheMiddleOfALineAndTheCentreOfAnArea) {
 
 namespace {
 
-/// Nodes along a line at x, with sections between them.
+/// Nodes on a line at the given x, connected by sections.
 struct Sketch {
     std::vector<Point> nodes;
     std::vector<std::int32_t> starts;
@@ -215,7 +215,7 @@ struct Sketch {
 
 TEST(ShortestPath, GoesByDrawnLengthInEitherDirection) {
     //     3
-    //   /   \      the way over 3 has fewer sections, that over 1 and 2 is shorter
+    //   /   \      the path over 3 has fewer sections, that over 1 and 2 is shorter
     // 0 -1- 2 - 4    5 (apart)
     const double nan = std::nan("");
     const Sketch sketch{{{0, 0}, {5, 0}, {10, 0}, {5, 50}, {20, 0}, {nan, nan}},

@@ -74,7 +74,7 @@ TEST(SpatialIndex, NearestComeInOrderAndWithinTheDistance) {
     const CSpatialIndex index(entries);
     const auto hits = index.Nearest(0, 0, 20, 10);
     ASSERT_EQ(hits.size(), 3U);
-    EXPECT_EQ(hits[0].id, 3U); // inside of it
+    EXPECT_EQ(hits[0].id, 3U); // the point is inside it
     EXPECT_EQ(hits[0].distance, 0);
     EXPECT_EQ(hits[1].id, 2U);
     EXPECT_DOUBLE_EQ(hits[1].distance, 5);

@@ -1,4 +1,4 @@
-// Dialogs under the user's hand stick to edges; where the program puts them they stay.
+// Dialogs snap to edges while the user moves them, but not when the program does.
 #include <QPointer>
 
 #include "tests/support/Rows.h"

@@ -97,7 +97,7 @@ TEST_F(WsBaseDialogTest, ComboBoxesComeBackAsFarAsTheirEntriesGo) {
     }
 }
 
-// The place.
+// Position.
 
 TEST_F(WsBaseDialogTest, WhatIsRememberedOfAPlace) {
     for (const int type : {1, 2, 4, 8, 16, 32}) {
@@ -199,7 +199,7 @@ TEST_F(WsBaseDialogTest, RestoringLeavesTheOrderOfWindows) {
     SetScreens(&m_desktop);
 }
 
-// Rolling up.
+// Collapsing.
 
 int CaptionOnly() {
     return GetSystemMetrics(SM_CYSIZE) + GetSystemMetrics(SM_CXFIXEDFRAME);
@@ -215,7 +215,7 @@ TEST_F(WsBaseDialogTest, ADialogRollsUpToItsCaptionAndDownAgain) {
     EXPECT_EQ(dialog.GetWindowRect(), CRect(10, 20, 310, 20 + caption));
     std::vector<int> expected;
     for (int height = 155; height > caption; height -= 45) {
-        expected.push_back(height); // the first step is as high as it was: no change of size
+        expected.push_back(height); // the first step keeps the height, so there is no resize
     }
     EXPECT_EQ(std::vector(heights.begin(), heights.begin() + 3),
               std::vector(expected.begin(), expected.begin() + 3));
@@ -312,7 +312,7 @@ TEST_F(WsBaseDialogTest, ADialogMayGoAtItsOwnButton) {
 
 // Keys.
 
-/// Counts the keys that come to it.
+/// Counts key presses.
 class KeyEdit : public CEdit {
 public:
     std::vector<WPARAM> keys;
@@ -341,7 +341,7 @@ TEST_F(WsBaseDialogTest, EnterAndEscapeAreForTheControl) {
     EXPECT_EQ(edit.keys, (std::vector<WPARAM>{VK_RETURN, VK_RETURN, VK_ESCAPE, 'A'}));
     EXPECT_EQ(dialog.TakeLog(), std::vector<std::string>());
     EXPECT_TRUE(dialog.IsWindowVisible());
-    // A button that has the focus is not pressed by Enter either, but by Space.
+    // A focused button is not pressed by Enter either, but by Space.
     dialog.GetDlgItem(IDOK)->SetFocus();
     QTest::keyClick(WidgetOf(*dialog.GetDlgItem(IDOK)), Qt::Key_Return);
     EXPECT_EQ(dialog.TakeLog(), std::vector<std::string>());
@@ -349,7 +349,7 @@ TEST_F(WsBaseDialogTest, EnterAndEscapeAreForTheControl) {
     EXPECT_EQ(dialog.TakeLog(), std::vector<std::string>{"ok"});
 }
 
-// What it hears.
+// Notifications.
 
 TEST_F(WsBaseDialogTest, ADialogHearsOfRefreshesAndEventsWhileItLives) {
     CWsManager& manager = *CWsManager::Instance();

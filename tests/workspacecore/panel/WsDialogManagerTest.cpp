@@ -24,7 +24,7 @@ protected:
     }
 };
 
-// Finding and making.
+// Finding and creating.
 
 TEST_F(WsDialogManagerTest, ADialogIsMadeByTheFirstFactoryThatKnowsIt) {
     CWsManager& manager = *CWsManager::Instance();
@@ -229,7 +229,7 @@ TEST_F(WsDialogManagerTest, DialogsMayGoWhileAllAreReset) {
 
 class Cascade : public WsDialogManagerTest {
 protected:
-    /// Places a new dialog of a size and tells where it went; it lives on.
+    /// Places a new dialog of a size and returns its position; the dialog stays alive.
     CPoint Place(CSize size, enmDialogType type = enmDialogFixedCascaded, CPoint start = {}) {
         CString id;
         id.Format(L"D%d", static_cast<int>(m_dialogs.size()));
@@ -294,7 +294,7 @@ TEST_F(Cascade, OnlyWithTheCursorOnThePrimaryMonitor) {
                   expected)
             << what;
     }
-    // Not even a remembered place is taken.
+    // Not even a saved position is restored.
     Manager().GetDialogStates()->Clear();
     auto state = boost::make_shared<CDialogState>();
     state->SetId(L"D6");

@@ -42,7 +42,7 @@ protected:
         CWsManager::Instance()->RegisterWsDialogFactory(factory);
         return factory;
     }
-    /// Ids of the places 0 to 9; "-" for a free one.
+    /// Ids at positions 0 to 9; "-" for a free one.
     static std::string Column(CWsPanelDialogManager& panels = Panels()) {
         std::string column;
         for (int place = 0; place < 10; ++place) {

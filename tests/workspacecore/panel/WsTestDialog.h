@@ -1,4 +1,4 @@
-// A workspace dialog that tells what happens to it, and a factory of such dialogs.
+// A workspace dialog that records its events, and a factory of such dialogs.
 #pragma once
 
 #include "tests/mfc/WindowTest.h"
@@ -49,7 +49,7 @@ public:
         DestroyWindow();
     }
 
-    /// Creates the window and shows it at a place.
+    /// Creates the window and shows it at a position.
     void Show(const CRect& place, UINT templateId = kWsSizable) {
         Create(templateId);
         MoveWindow(place);
@@ -98,7 +98,7 @@ protected:
     }
 };
 
-/// Makes what its list names and keeps one dialog for each id.
+/// Creates the dialogs in its list, one per id.
 class WsTestFactory : public IWsDialogFactory {
 public:
     explicit WsTestFactory(std::vector<CString> ids = {}) : m_ids(std::move(ids)) {}
@@ -124,7 +124,7 @@ private:
     std::vector<CString> m_ids;
 };
 
-/// A workspace on a desktop of one screen of 1920 by 1080 and no task bar.
+/// A workspace on a single screen of 1920 by 1080 without a task bar.
 class WsDialogTest : public WindowTest {
 protected:
     static CWsDialogManager& Manager() { return *CWsManager::Instance()->DlgMgr(); }
@@ -133,7 +133,7 @@ protected:
         CWsManager::Instance()->RegisterWsDialogFactory(factory);
         return factory;
     }
-    /// States of dialogs by their ids, sorted.
+    /// Ids of the saved dialog states, sorted.
     static std::string RememberedIds() {
         std::string ids;
         for (const auto& [id, state] : *Manager().GetDialogStates()->GetDialogStateMapById()) {
@@ -146,7 +146,7 @@ protected:
     ScriptedScreens m_desktop{{{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}}};
 };
 
-/// The user's hand on a caption, from grip to release.
+/// Simulates the user dragging a caption, from press to release.
 class Drag {
 public:
     explicit Drag(const CWnd& window) : m_pFrame(FrameOf(window)) {
@@ -163,7 +163,7 @@ public:
     Drag(const Drag&) = delete;
     Drag& operator=(const Drag&) = delete;
 
-    /// Moves the mouse so far that the window's corner would come here if nothing attracted it.
+    /// Moves the mouse so that the window's corner would be here without snapping.
     void To(CPoint corner) {
         Send(QEvent::MouseMove, m_grip + QPoint(corner.x - m_corner.x, corner.y - m_corner.y));
     }

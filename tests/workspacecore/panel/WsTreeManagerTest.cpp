@@ -1,4 +1,4 @@
-// The way to the trees, their icons, and the user's order.
+// Access to the trees, their icons, and the user-defined order.
 #include "tests/mfc/WindowTest.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ class WsTreeManagerTest : public DialogOnScreenTest {
 protected:
     void SetUp() override {
         DialogOnScreenTest::SetUp();
-        // Nothing of one is at the height of another.
+        // The views do not overlap vertically.
         for (int i = 0; i < 3; ++i) {
             m_views[static_cast<std::size_t>(i)].Create(
                 WS_CHILD | WS_VISIBLE, CRect(0, 60 * i, 100, 60 * i + 50), m_pDialog.get(),
@@ -197,8 +197,8 @@ TEST_F(WsTreeManagerTest, EntitiesAreNamedAsTheActiveSystemDoes) {
     EXPECT_EQ(trees.GetEntityTypeName(EntityPolygon), L"");
 }
 
-/// A system's template with its children in the given order; numbers are kinds of tool
-/// groups, all others are families. Sorted by the file, if there is one, and told by place.
+/// Sorts the children of a system's template by the file, if there is one; numbers are types of
+/// tool groups, other tags are families. Returns the resulting order.
 std::string Sorted(const TestHost& host, const char* file, std::vector<const wchar_t*> tags) {
     if (file) {
         host.Support().Write("workspaceRepositoryOrder.xml", file);
@@ -222,7 +222,7 @@ std::string Sorted(const TestHost& host, const char* file, std::vector<const wch
     list.InitializeSystemTreeTemplate();
     const auto root = list.GetSystemTreeTemplate(TopologyPolygon, 0);
     auto& children = *root->GetChildren();
-    // Assembly puts tool groups first; here they stand anywhere.
+    // Assembly puts tool groups first; here they are in any position.
     std::sort(children.begin(), children.end(), [](const auto& a, const auto& b) {
         return a->GetItemDefinition()->GetId() < b->GetItemDefinition()->GetId();
     });

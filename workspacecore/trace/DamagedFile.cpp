@@ -1,4 +1,4 @@
-#include "workspacecore/core/DamagedFile.h"
+#include "workspacecore/trace/DamagedFile.h"
 
 #include "platform/win/ErrorText.h"
 #include "platform/win/File.h"

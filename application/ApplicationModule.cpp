@@ -1,9 +1,12 @@
 // Application module: loaded last, it starts the workspace and connects the GIS core, the host
 // and the workspace from then on.
+#include <chrono>
+
 #include <set>
 #include <utility>
 
 #include "platform/arx/ApDocManager.h"
+#include "platform/arx/CommandRunner.h"
 #include "platform/arx/EdCommandStack.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostReactor.h"
@@ -13,6 +16,7 @@
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/notification/Subscriber.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 #include "workspacecore/core/WsManager.h"
 #include "workspacecore/core/WsOrder.h"
 
@@ -172,7 +176,25 @@ private:
     std::set<CString, CStringLess> m_printed; ///< printed and not yet solved
 };
 
+/// What others have changed in shared folders is known before a command works with it.
+class FolderWatch final : public ICommandWatcher {
+public:
+    void CommandBegins(const CommandOrder&) override {
+        if (Clock::now() - m_last >= kPause) {
+            CRepositoryManager::Instance()->LookForChanges();
+            m_last = Clock::now();
+        }
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    /// Scripts may run thousands of commands in a second.
+    static constexpr std::chrono::milliseconds kPause{100};
+    Clock::time_point m_last;
+};
+
 ProblemPrinter s_problems;
+FolderWatch s_folders;
 EventForwarder s_events;
 CloseForwarder s_close;
 WorkspaceCommands s_commands;
@@ -187,6 +209,7 @@ public:
         // The manager's first call loads the modules, and with them what they keep.
         const auto& plugins = *CWsManager::Instance()->PluginMgr();
         s_problems.Begin();
+        acedRunner().AddWatcher(&s_folders);
         const CString& damage = plugins.GetModuleRegistry()->GetProblem();
         if (!damage.IsEmpty()) {
             acutPrintf(L"%s\n", damage);
@@ -198,6 +221,7 @@ public:
         return result;
     }
     AcRx::AppRetCode On_kUnloadAppMsg(void* pPacket) override {
+        acedRunner().RemoveWatcher(&s_folders);
         s_problems.End();
         acedRegCmds()->removeSource(&s_commands);
         acedRemoveHostReactor(&s_close);

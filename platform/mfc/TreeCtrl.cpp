@@ -192,6 +192,20 @@ bool CTreeCtrl::EnsureVisible(HTREEITEM item) {
     return true;
 }
 
+HTREEITEM CTreeCtrl::GetFirstVisibleItem() const {
+    const TreeWidget* const pTree = TreeOf(*this);
+    const QModelIndex index = pTree ? pTree->indexAt(QPoint(0, 0)) : QModelIndex();
+    return index.isValid() ? pTree->Nodes().ItemOf(index) : nullptr;
+}
+
+bool CTreeCtrl::SelectSetFirstVisible(HTREEITEM item) {
+    TreeWidget* const pTree = TreeOf(*this);
+    if (pTree && item) {
+        pTree->scrollTo(pTree->Nodes().IndexOf(item), QAbstractItemView::PositionAtTop);
+    }
+    return pTree && item;
+}
+
 HTREEITEM CTreeCtrl::HitTest(CPoint point, UINT* pFlags) const {
     const TreeWidget* const pTree = TreeOf(*this);
     UINT flags = TVHT_NOWHERE;

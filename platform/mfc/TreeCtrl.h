@@ -81,6 +81,10 @@ public:
     bool Expand(HTREEITEM item, UINT action);
     bool IsExpanded(HTREEITEM item) const;
     bool EnsureVisible(HTREEITEM item);
+    /// The uppermost one that is in view; null without any.
+    HTREEITEM GetFirstVisibleItem() const;
+    /// Scrolls so that the node is the uppermost one, as far as there is enough below it.
+    bool SelectSetFirstVisible(HTREEITEM item);
     /// The node at the height of a point in client coordinates, if any.
     HTREEITEM HitTest(CPoint point, UINT* pFlags = nullptr) const;
     /// The rectangle of the label or of the whole line; empty if the node is not visible.

@@ -130,6 +130,11 @@ bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes) {
     bool isWritten = file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     // Otherwise the rename could reach the disk before the content does.
     isWritten = isWritten && std::fflush(file.get()) == 0 && fsync(fileno(file.get())) == 0;
+    struct stat old {};
+    if (isWritten && stat(target.c_str(), &old) == 0) {
+        constexpr mode_t kPermissions = 07777;
+        fchmod(fileno(file.get()), old.st_mode & kPermissions);
+    }
     isWritten = isWritten && std::fclose(file.release()) == 0;
     isWritten = isWritten && std::rename(draft.c_str(), target.c_str()) == 0;
     if (!isWritten) {
@@ -163,6 +168,34 @@ std::optional<CString> SetFileAside(const wchar_t* path, const wchar_t* suffix) 
 bool FileExists(const wchar_t* path) {
     std::error_code ignored;
     return std::filesystem::exists(NativePath(path), ignored);
+}
+
+bool FileIsMissing(const wchar_t* path) {
+    struct stat info {};
+    return lstat(NativePath(path).c_str(), &info) != 0 && errno == ENOENT;
+}
+
+bool FileIsWriteProtected(const wchar_t* path) {
+    const std::string native = NativePath(path);
+    struct stat info {};
+    // The administrator may write to any file, so the marks count as well.
+    return stat(native.c_str(), &info) == 0 &&
+           ((info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 ||
+            access(native.c_str(), W_OK) != 0);
+}
+
+bool FolderIsReadable(const wchar_t* path) {
+    const std::string native = NativePath(path);
+    struct stat info {};
+    if (stat(native.c_str(), &info) != 0 || access(native.c_str(), R_OK | X_OK) != 0) {
+        SetLastErrorNumber(errno);
+        return false;
+    }
+    if (!S_ISDIR(info.st_mode)) {
+        SetLastErrorNumber(ENOTDIR);
+        return false;
+    }
+    return true;
 }
 
 bool RemoveFile(const wchar_t* path) {

@@ -33,8 +33,8 @@ PLATFORM_API FileHandle OpenRegularFile(const wchar_t* path);
 PLATFORM_API std::optional<std::string> ReadFileBytes(const wchar_t* path);
 
 /// Writes a file whole or not at all: under another name beside it, to the disk, and then into
-/// its place, so that at any moment there is the old one or the new one. False on failure,
-/// with LastErrorText set and the old one as it was.
+/// its place, so that at any moment there is the old one or the new one, with the permissions of
+/// the old one. False on failure, with LastErrorText set and the old one as it was.
 PLATFORM_API bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes);
 
 /// Renames a regular file to the first free name of path + suffix + 1, 2, 3 and so on, and returns
@@ -42,6 +42,13 @@ PLATFORM_API bool ReplaceFileBytes(const wchar_t* path, std::string_view bytes);
 PLATFORM_API std::optional<CString> SetFileAside(const wchar_t* path, const wchar_t* suffix);
 
 PLATFORM_API bool FileExists(const wchar_t* path);
+/// There is nothing of that name, as opposed to something that cannot be looked at.
+PLATFORM_API bool FileIsMissing(const wchar_t* path);
+/// There is a file that this user may not write to, or that nobody may, the administrator
+/// included.
+PLATFORM_API bool FileIsWriteProtected(const wchar_t* path);
+/// False if there is no such folder or its files cannot be listed, with LastErrorText set.
+PLATFORM_API bool FolderIsReadable(const wchar_t* path);
 /// False on failure, with LastErrorText set; also if there is no such file.
 PLATFORM_API bool RemoveFile(const wchar_t* path);
 /// Creates a folder and its parents. True if it already exists.

@@ -32,6 +32,14 @@ enum class Msg : int {
     ReallyDelete = 900427, // with the name
     ReplaceThere = 900428, // with the name
     SendWhere = 900429,
+    // Two people have changed the same configuration; with its name, who and when.
+    ChangedMeanwhile = 962010,
+    DeletedMeanwhile = 962011, // with the name
+    KeepMine = 962012,
+    KeepTheirs = 962013,
+    KeepBoth = 962014,
+    DeleteChanged = 962015,
+    TheirsStays = 962016, // with the name
     SystemName = 900445,
     SystemKind = 900446,
     SystemFunction = 900447,

@@ -1,6 +1,7 @@
 #include "plugins/panels/TreeContent.h"
 
 #include <algorithm>
+#include <set>
 
 #include "plugins/panels/PanelTexts.h"
 #include "siblings/giscore/repository/RepositoryFactory.h"
@@ -139,6 +140,24 @@ TreeNode SystemContent() {
     return root;
 }
 
+/// A folder that cannot be reached, and configurations that cannot be read. A folder that all
+/// families miss is one problem.
+void AddProblems(TreeNode& root, const Place& place) {
+    std::set<CString, CStringLess> problems;
+    for (const CString& tag : CRepositoryManager::Instance()->GetRepositoryFamilyTags()) {
+        if (const auto store = StoreOf(tag, place)) {
+            const auto found = store->GetProblems();
+            problems.insert(found.begin(), found.end());
+        }
+    }
+    for (const CString& problem : problems) {
+        TreeNode node = MakeNode(nullptr, place);
+        node.name = node.text = problem;
+        node.isGray = true;
+        root.children.push_back(std::move(node));
+    }
+}
+
 TreeNode RepositoryContent(TreeKind kind) {
     const Workspace::CWsTreeItemDefinitionList& definitions =
         *Workspace::CWsManager::Instance()->TreeMgr()->GetTreeItemDefinitionList();
@@ -152,6 +171,7 @@ TreeNode RepositoryContent(TreeKind kind) {
     }
     if (root.definition) {
         AddChildren(root, tree, place);
+        AddProblems(root, place);
     }
     return root;
 }
@@ -169,7 +189,7 @@ CString KeyOf(const CWsTreeItemDefinition& definition, const CString& guid) {
 }
 
 CString KeyOf(const TreeNode& node) {
-    return node.definition ? KeyOf(*node.definition, node.guid) : CString(node.guid);
+    return node.definition ? KeyOf(*node.definition, node.guid) : CString(node.text);
 }
 
 } // namespace Orvane::Panels

@@ -16,10 +16,10 @@ namespace Orvane::Panels {
 struct TreeNode {
     using DefinitionPtr = boost::shared_ptr<Workspace::CWsTreeItemDefinition>;
 
-    CString name; ///< of the system or configuration, for editing
-    CString text; ///< as shown: the name with marks
-    DefinitionPtr definition;
-    CString guid; ///< of a system or a configuration; empty for folders
+    CString name;             ///< of the system or configuration, for editing
+    CString text;             ///< as shown: the name with marks
+    DefinitionPtr definition; ///< null for a node that only reports a problem
+    CString guid;             ///< of a system or a configuration; empty for folders
     System::CGisSystem* pSystem = nullptr;
     bool isTargetNet = false;
     bool isGray = false; ///< belongs to a hidden system

@@ -23,6 +23,8 @@ using Workspace::CWsOrder;
 using Workspace::CWsTreeItemData;
 
 constexpr UINT kRefreshMessage = WM_USER + 1;
+constexpr DWORD_PTR kFolderTimer = 1;
+constexpr UINT kFolderPause = 1000; // milliseconds
 constexpr int kF2 = VK_F1 + 1;
 constexpr int kF10 = VK_F1 + 9;
 
@@ -117,6 +119,7 @@ const MessageMap* CTreePanel::GetMessageMap() const {
         MapMessage<&CTreePanel::OnSize>(WM_SIZE),
         MapMessage<&CTreePanel::OnMouseMove>(WM_MOUSEMOVE),
         MapMessage<&CTreePanel::OnLButtonUp>(WM_LBUTTONUP),
+        MapMessage<&CTreePanel::OnTimer>(WM_TIMER),
         MapMessage<&CTreePanel::OnRefresh>(kRefreshMessage),
         MapMessage<&CTreePanel::OnKeepFocus>(WM_ACAD_KEEPFOCUS),
         MapNotify<&CTreePanel::OnRightClick>(NM_RCLICK, kTree),
@@ -140,6 +143,9 @@ bool CTreePanel::OnInitDialog() {
     m_resize.SetResize(kTree, 0, 0, 1, 1);
     RegisterTree(&m_tree);
     Refresh();
+    if (m_kind != TreeKind::Systems) {
+        SetTimer(kFolderTimer, kFolderPause);
+    }
     return false;
 }
 
@@ -164,6 +170,13 @@ void CTreePanel::OnSize(UINT type, int cx, int cy) {
 
 LRESULT CTreePanel::OnKeepFocus(WPARAM, LPARAM) {
     return 1;
+}
+
+/// Others may work with the same folders.
+void CTreePanel::OnTimer(DWORD_PTR id) {
+    if (id == kFolderTimer && m_tree.IsWindowVisible()) {
+        CRepositoryManager::Instance()->LookForChanges();
+    }
 }
 
 // Filling.

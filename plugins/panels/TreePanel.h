@@ -50,6 +50,7 @@ private:
     void OnBeginDrag(NMHDR* pHeader, LRESULT* pResult);
     void OnMouseMove(UINT flags, CPoint point);
     void OnLButtonUp(UINT flags, CPoint point);
+    void OnTimer(DWORD_PTR id);
     LRESULT OnRefresh(WPARAM wParam, LPARAM lParam);
     LRESULT OnKeepFocus(WPARAM wParam, LPARAM lParam);
 

@@ -40,11 +40,15 @@ TreeState::TreeState(const CTreeCtrl& tree, const KeyOfItem& keyOf) {
         if (item == tree.GetSelectedItem()) {
             m_selected = path;
         }
+        if (item == tree.GetFirstVisibleItem()) {
+            m_first = path;
+        }
     });
 }
 
 void TreeState::Restore(CTreeCtrl& tree, const KeyOfItem& keyOf) const {
     HTREEITEM selected = nullptr;
+    HTREEITEM first = nullptr;
     Walk(tree, keyOf, tree.GetRootItem(), {}, [&](HTREEITEM item, const std::wstring& path) {
         if (m_open.contains(path)) {
             tree.Expand(item, TVE_EXPAND);
@@ -53,10 +57,14 @@ void TreeState::Restore(CTreeCtrl& tree, const KeyOfItem& keyOf) const {
         if (!m_selected.empty() && StartsWithPath(m_selected, path)) {
             selected = item;
         }
+        if (path == m_first) {
+            first = item;
+        }
     });
     if (selected) {
         tree.SelectItem(selected);
     }
+    tree.SelectSetFirstVisible(first);
 }
 
 } // namespace Orvane::Panels

@@ -1,5 +1,5 @@
-// Expanded and selected nodes of a tree, by the keys of the nodes, so they can be restored after
-// the tree was refilled.
+// Expanded and selected nodes of a tree and its scroll position, by the keys of the nodes, so
+// they can be restored after the tree was refilled.
 #pragma once
 
 #include <functional>
@@ -16,13 +16,14 @@ public:
 
     /// Saves the tree's current state.
     TreeState(const CTreeCtrl& tree, const KeyOfItem& keyOf);
-    /// Expands and selects the same nodes; if the selected node no longer exists, selects its
-    /// nearest existing ancestor.
+    /// Expands and selects the same nodes and scrolls to the same place; if the selected node no
+    /// longer exists, selects its nearest existing ancestor.
     void Restore(CTreeCtrl& tree, const KeyOfItem& keyOf) const;
 
 private:
     std::set<std::wstring> m_open; ///< paths of keys
     std::wstring m_selected;
+    std::wstring m_first; ///< the uppermost one in view
 };
 
 } // namespace Orvane::Panels

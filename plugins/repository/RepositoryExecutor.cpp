@@ -5,6 +5,7 @@
 
 #include "platform/arx/EdPrompt.h"
 #include "plugins/common/CommandIds.h"
+#include "plugins/repository/RepositoryConflicts.h"
 #include "plugins/repository/RepositoryPrompts.h"
 #include "plugins/repository/RepositoryTarget.h"
 #include "plugins/repository/RepositoryTexts.h"
@@ -52,6 +53,12 @@ ItemPtr Done(CRepositoryStore& store, const CString& reason, Msg message, const 
     return item;
 }
 
+/// Ends a command that changed an item.
+ItemPtr Changed(CRepositoryStore& store, const ItemPtr& item) {
+    const ItemPtr kept = GiveBack(store, item);
+    return kept ? Done(store, {}, kept == item ? Msg::Changed : Msg::Added, kept) : kept;
+}
+
 /// Replaces characters that would break a line.
 CString NameFrom(const CString& typed) {
     CString name = typed;
@@ -83,12 +90,12 @@ ItemPtr EditItem(Call& call) {
     if (!item || !call.family.EditContent(*item, call.target.pSystem)) {
         return {};
     }
-    return Done(*call.target.store, call.target.store->Replace(*item), Msg::Changed, item);
+    return Changed(*call.target.store, item);
 }
 
 ItemPtr DeleteItem(Call& call) {
     const ItemPtr item = ItemOf(call.target);
-    if (!item || !acedAskYes(Text(Msg::ReallyDelete, item->GetName()))) {
+    if (!item || !AskDelete(*call.target.store, *item)) {
         return {};
     }
     return Done(*call.target.store, call.target.store->Remove(item->GetGuid()), Msg::Deleted, item);
@@ -105,7 +112,7 @@ ItemPtr RenameItem(Call& call) {
         return {};
     }
     item->SetName(NameFrom(*name));
-    return Done(*call.target.store, call.target.store->Replace(*item), Msg::Changed, item);
+    return Changed(*call.target.store, item);
 }
 
 ItemPtr CopyItem(Call& call) {

@@ -146,6 +146,8 @@ bool PutItem(CRepositoryStore& store, const CRepositoryItem& item) {
     if (old && !acedAskYes(Text(Msg::ReplaceThere, old->GetName()))) {
         return false;
     }
+    // It is the one there that must not have changed while the user was asked.
+    item.SetOrigin(old ? old->GetOrigin() : CString());
     const CString reason = old ? store.Replace(item) : store.Add(item);
     return reason.IsEmpty() || Refuse(reason);
 }

@@ -3631,5 +3631,75 @@ Die Systeme sind markiert. Weiter mit der Eingabetaste: </translation>
         <extracomment>Error of the operating system</extracomment>
         <translation>keine gewöhnliche Datei</translation>
     </message>
+    <message id="962000">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration, who and when</extracomment>
+        <translation>„%s“ wurde von %s am %s geändert, seit es hier gelesen wurde.</translation>
+    </message>
+    <message id="962001">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration</extracomment>
+        <translation>„%s“ wurde gelöscht, seit es hier gelesen wurde.</translation>
+    </message>
+    <message id="962002">
+        <source></source>
+        <extracomment>Reason why a configuration is not written</extracomment>
+        <translation>sie ist schreibgeschützt</translation>
+    </message>
+    <message id="962003">
+        <source></source>
+        <extracomment>Reason why a configuration is not written</extracomment>
+        <translation>ein anderes Programm schreibt gerade in diesen Ordner; versuchen Sie es noch einmal</translation>
+    </message>
+    <message id="962004">
+        <source></source>
+        <extracomment>Button: chooses a folder</extracomment>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message id="962005">
+        <source></source>
+        <extracomment>Title of a window in which a folder is chosen</extracomment>
+        <translation>Ordner der Netzablage</translation>
+    </message>
+    <message id="962006">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration and why</extracomment>
+        <translation>„%s“ konnte nicht gelöscht werden: %s</translation>
+    </message>
+    <message id="962010">
+        <source></source>
+        <extracomment>Question, its answers follow; with the name of a configuration, who and when</extracomment>
+        <translation>„%s“ wurde inzwischen von %s am %s geändert. Welche Fassung soll bleiben?</translation>
+    </message>
+    <message id="962011">
+        <source></source>
+        <extracomment>Question, its answers follow; with the name of a configuration</extracomment>
+        <translation>„%s“ wurde inzwischen von jemand anderem gelöscht. Ihre Fassung behalten oder das Löschen annehmen?</translation>
+    </message>
+    <message id="962012">
+        <source></source>
+        <extracomment>Answer: the version of this user</extracomment>
+        <translation>Meine</translation>
+    </message>
+    <message id="962013">
+        <source></source>
+        <extracomment>Answer: the version of another user</extracomment>
+        <translation>Andere</translation>
+    </message>
+    <message id="962014">
+        <source></source>
+        <extracomment>Answer: both versions</extracomment>
+        <translation>Beide</translation>
+    </message>
+    <message id="962015">
+        <source></source>
+        <extracomment>Question; with the name of a configuration, who and when</extracomment>
+        <translation>„%s“ wurde inzwischen von %s am %s geändert. Trotzdem löschen?</translation>
+    </message>
+    <message id="962016">
+        <source></source>
+        <extracomment>Message; with the name of a configuration</extracomment>
+        <translation>„%s“ bleibt so, wie die andere Person es hinterlassen hat.</translation>
+    </message>
 </context>
 </TS>

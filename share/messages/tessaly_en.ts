@@ -3630,5 +3630,75 @@ The systems are marked. Press Enter to continue: </translation>
         <extracomment>Error of the operating system</extracomment>
         <translation>not a regular file</translation>
     </message>
+    <message id="962000">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration, who and when</extracomment>
+        <translation>&quot;%s&quot; has been changed by %s at %s since it was read here.</translation>
+    </message>
+    <message id="962001">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration</extracomment>
+        <translation>&quot;%s&quot; has been deleted since it was read here.</translation>
+    </message>
+    <message id="962002">
+        <source></source>
+        <extracomment>Reason why a configuration is not written</extracomment>
+        <translation>it is write-protected</translation>
+    </message>
+    <message id="962003">
+        <source></source>
+        <extracomment>Reason why a configuration is not written</extracomment>
+        <translation>another program is writing to this folder; try again</translation>
+    </message>
+    <message id="962004">
+        <source></source>
+        <extracomment>Button: chooses a folder</extracomment>
+        <translation>&amp;Browse...</translation>
+    </message>
+    <message id="962005">
+        <source></source>
+        <extracomment>Title of a window in which a folder is chosen</extracomment>
+        <translation>Folder of the net repository</translation>
+    </message>
+    <message id="962006">
+        <source></source>
+        <extracomment>Reason; with the name of a configuration and why</extracomment>
+        <translation>&quot;%s&quot; could not be deleted: %s</translation>
+    </message>
+    <message id="962010">
+        <source></source>
+        <extracomment>Question, its answers follow; with the name of a configuration, who and when</extracomment>
+        <translation>&quot;%s&quot; has meanwhile been changed by %s at %s. Which version is to be kept?</translation>
+    </message>
+    <message id="962011">
+        <source></source>
+        <extracomment>Question, its answers follow; with the name of a configuration</extracomment>
+        <translation>&quot;%s&quot; has meanwhile been deleted by someone else. Keep your version, or accept the deletion?</translation>
+    </message>
+    <message id="962012">
+        <source></source>
+        <extracomment>Answer: the version of this user</extracomment>
+        <translation>Mine</translation>
+    </message>
+    <message id="962013">
+        <source></source>
+        <extracomment>Answer: the version of another user</extracomment>
+        <translation>Theirs</translation>
+    </message>
+    <message id="962014">
+        <source></source>
+        <extracomment>Answer: both versions</extracomment>
+        <translation>Both</translation>
+    </message>
+    <message id="962015">
+        <source></source>
+        <extracomment>Question; with the name of a configuration, who and when</extracomment>
+        <translation>&quot;%s&quot; has meanwhile been changed by %s at %s. Delete it all the same?</translation>
+    </message>
+    <message id="962016">
+        <source></source>
+        <extracomment>Message; with the name of a configuration</extracomment>
+        <translation>&quot;%s&quot; stays as the other user left it.</translation>
+    </message>
 </context>
 </TS>

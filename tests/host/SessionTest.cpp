@@ -100,14 +100,17 @@ TEST_F(ProgramTest, WritesATraceOnlyWhenAsked) {
     }
 }
 
-TEST_F(ProgramTest, ProblemsOfConfigurationsArePrintedOnce) {
+TEST_F(ProgramTest, ProblemsOfConfigurationsArePrintedOnceAndStandInTheTrees) {
     Run("", "QUIT\n");
     m_folder.Write("support/repository/QUERY/CUT.xml", "<item");
     m_folder.Write("support/Settings.ini", "[General]\nNET_REPOSITORY=/no/such/net\n");
     EXPECT_EQ(Run("", "TREE\nTREE\nQUIT\n"), 0);
-    for (const char* problem : {"QUERY/CUT.xml: ", "\n/no/such/net: there is no such folder\n"}) {
-        EXPECT_TRUE(Printed(problem)) << m_output;
-        EXPECT_EQ(m_output.find(problem), m_output.rfind(problem)) << m_output;
+    for (const std::string& problem : {m_folder.Native("support/repository/QUERY/CUT.xml: "),
+                                       std::string("/no/such/net: there is no such folder\n")}) {
+        const std::string line = "\n" + problem;
+        EXPECT_TRUE(Printed(line)) << m_output;
+        EXPECT_EQ(m_output.find(line), m_output.rfind(line)) << m_output;
+        EXPECT_TRUE(Printed("\n  " + problem)) << m_output;
     }
 }
 

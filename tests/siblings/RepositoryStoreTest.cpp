@@ -1,10 +1,15 @@
 // Storage of configurations: in folders, including damaged files, and in systems of a drawing.
 #include <boost/make_shared.hpp>
+#include <csignal>
 #include <functional>
+#include <sys/wait.h>
 
 #include "platform/arx/DbUndoScopes.h"
+#include "platform/win/FileLock.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/notification/GisEvents.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/notification/Subscriber.h"
 #include "siblings/giscore/query/QueryDefinition.h"
 #include "siblings/giscore/repository/RepositoryFolder.h"
 #include "siblings/giscore/repository/RepositoryItemFactory.h"
@@ -24,6 +29,16 @@ class QueryItems final : public CRepositoryItemFactory {
                                                   const wchar_t* name) override {
         return boost::make_shared<CQueryDefinition>(guid, name);
     }
+};
+
+class CountedItems final : public CRepositoryItemFactory {
+public:
+    boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
+                                                  const wchar_t* name) override {
+        ++count;
+        return boost::make_shared<CQueryDefinition>(guid, name);
+    }
+    int count = 0;
 };
 
 /// Records the events of configurations.
@@ -80,6 +95,21 @@ std::string Problems() {
     return text;
 }
 
+/// Counts how often trees were told to fill themselves again.
+class Refreshes final : public Notification::CSubscriber {
+public:
+    Refreshes() {
+        Notification::CNotificationFramework::Instance()
+            ->GetPublisher(L"REFRESH_CHILDREN")
+            ->RegisterSubscriber(this);
+    }
+    ~Refreshes() override { Notification::CNotificationFramework::UnregisterSubscriber(this); }
+    Refreshes(const Refreshes&) = delete;
+    Refreshes& operator=(const Refreshes&) = delete;
+    void Update(Notification::CPublisher*, void*, void*) override { ++count; }
+    int count = 0;
+};
+
 std::string QueryText(const std::string& guid, const std::string& name,
                       const std::string& rest = R"(of="2" match="all"/>)") {
     return R"(<item tag="QUERY" guid=")" + guid + R"(" name=")" + name + R"(" entityType="0" )" +
@@ -129,6 +159,10 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
     for (const auto& test : cases) {
         m_folder.Write(std::string("QUERY/") + test.file, test.content);
     }
+    const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(1);
+    std::filesystem::last_write_time(m_folder / "QUERY/A1.xml.new-77", longAgo);
+    m_folder.Write("QUERY/A1.xml.new-88", "is just being written");
+    m_folder.Write("QUERY/.nfs0001", "hidden");
     std::string deep = QueryText("DEEP", "x", R"(of="2" match="all">)");
     for (int i = 0; i < 100'000; ++i) {
         deep += "<a>";
@@ -145,6 +179,8 @@ TEST_F(RepositoryStore, DamagedFilesAreSkippedWithAReason) {
     EXPECT_NE(problems.find("DEEP.xml: line 1: the elements are nested too deeply"),
               std::string::npos);
     EXPECT_NE(problems.find("GONE.xml: "), std::string::npos);
+    EXPECT_EQ(problems.find("new-88"), std::string::npos);
+    EXPECT_EQ(problems.find("nfs"), std::string::npos);
     EXPECT_NE(problems.find("b2.xml: another item has the same GUID"), std::string::npos);
     EXPECT_FALSE(store.GetItem(L"OTHER"));
     EXPECT_FALSE(store.GetItem(L"CUT"));
@@ -197,19 +233,105 @@ TEST_F(RepositoryStore, ChangesOfAFolder) {
     std::filesystem::remove_all(m_folder / "QUERY");
     m_folder.Write("QUERY", "a file in the place of the folder");
     EXPECT_FALSE(add(L"Q4", L"four"));
-    EXPECT_EQ(Names(store.GetItems()), "TWO") << "what was not written is not there";
+    EXPECT_EQ(Names(store.GetItems()), "") << "neither what was there nor what was not written";
+}
+
+TEST_F(RepositoryStore, WhatOthersChangedSinceItWasReadIsNotOverwritten) {
+    namespace fs = std::filesystem;
+    const std::string original = QueryText("A1", "shared");
+    const fs::path file = m_folder / "QUERY/a1.xml"; // its name differs from the GUID in case
+    struct {
+        const char* what;
+        std::function<void()> meanwhile;
+        const char* conflict; ///< of replacing
+        std::string after;    ///< what replacing leaves behind
+        bool isRemoved;
+    } const cases[] = {
+        {"nothing", [] {}, "", "mine", true},
+        {"the same bytes again", [&] { m_folder.Write("QUERY/a1.xml", original); }, "", "mine",
+         true},
+        {"changed", [&] { m_folder.Write("QUERY/a1.xml", QueryText("A1", "theirs")); },
+         "has been changed by ", "theirs", true},
+        {"damaged", [&] { m_folder.Write("QUERY/a1.xml", ""); }, "has been changed by ", "", false},
+        {"deleted", [&] { fs::remove(file); }, "no longer exists", "", false},
+        {"write-protected", [&] { fs::permissions(file, fs::perms::owner_read); },
+         "it is write-protected", "shared", false},
+    };
+    for (const auto& test : cases) {
+        for (const bool removes : {false, true}) {
+            fs::remove(file);
+            m_folder.Write("QUERY/a1.xml", original);
+            fs::permissions(file, fs::perms::owner_all);
+            CRepositoryFolder store = Folder();
+            const auto item = store.GetItem(L"A1");
+            ASSERT_TRUE(item);
+            test.meanwhile();
+            if (removes) {
+                EXPECT_EQ(store.Remove(L"A1").IsEmpty(), test.isRemoved) << test.what;
+                EXPECT_EQ(fs::exists(file), !test.isRemoved && test.what != std::string("deleted"))
+                    << test.what;
+                continue;
+            }
+            item->SetName(L"mine");
+            const std::string reason = WideToUtf8(store.Replace(*item).View());
+            EXPECT_NE(reason.find(test.conflict), std::string::npos) << test.what << reason;
+            EXPECT_EQ(reason.empty(), *test.conflict == 0) << test.what << reason;
+            EXPECT_EQ(Names(Folder().GetItems()), test.after) << test.what;
+            EXPECT_FALSE(m_folder.Has("QUERY/A1.xml")) << test.what;
+            if (reason.empty()) {
+                item->SetName(L"mine again");
+                EXPECT_TRUE(store.Replace(*item).IsEmpty()) << "the change was our own";
+            }
+        }
+    }
+}
+
+TEST_F(RepositoryStore, NoChangeOfSeveralProgramsIsLost) {
+    constexpr int kPrograms = 3;
+    constexpr int kChanges = 10;
+    m_folder.Write("QUERY/A1.xml", QueryText("A1", "x"));
+    for (int program = 0; program < kPrograms; ++program) {
+        if (fork() == 0) {
+            CRepositoryFolder store = Folder();
+            for (int change = 0; change < kChanges;) {
+                store.Reload();
+                const auto item = store.GetItem(L"A1");
+                CString name = item ? item->GetName() : CString();
+                name.AppendFormat(L" %d-%d", program, change);
+                if (item) {
+                    item->SetName(name);
+                    change += store.Replace(*item).IsEmpty() ? 1 : 0;
+                }
+            }
+            _exit(0);
+        }
+    }
+    while (wait(nullptr) > 0) {
+    }
+    const CString name = Folder().GetItem(L"A1")->GetName();
+    EXPECT_EQ(std::count(name.Str().begin(), name.Str().end(), L'-'), kPrograms * kChanges);
+}
+
+TEST_F(RepositoryStore, ALockEndsWithItsOwner) {
+    const CString path = m_folder.Wide("QUERY/.lock");
+    const pid_t other = fork();
+    if (other == 0) {
+        const auto lock = FileLock::Take(path, 0);
+        m_folder.Write("locked", "");
+        pause();
+    }
+    while (!m_folder.Has("locked")) {
+        usleep(1000);
+    }
+    EXPECT_FALSE(FileLock::Take(path, 0));
+    kill(other, SIGKILL);
+    waitpid(other, nullptr, 0);
+    EXPECT_TRUE(FileLock::Take(path, 0));
+    EXPECT_TRUE(FileLock::Take(m_folder.Wide("no folder/.lock"), 0)) << "the write will tell why";
 }
 
 TEST_F(RepositoryStore, ReloadingReadsWhatHasChangedAlone) {
-    class CountedItems final : public CRepositoryItemFactory {
-    public:
-        boost::shared_ptr<CRepositoryItem> CreateItem(const wchar_t* guid,
-                                                      const wchar_t* name) override {
-            ++count;
-            return boost::make_shared<CQueryDefinition>(guid, name);
-        }
-        int count = 0;
-    } items;
+    CountedItems items;
     CRepositoryManager::Instance()->RegisterRepositoryItemFactory(L"QUERY", &items);
     for (const char* guid : {"A1", "A2", "A3", "A4"}) {
         m_folder.Write(std::string("QUERY/") + guid + ".xml", QueryText(guid, guid));
@@ -306,6 +428,16 @@ TEST_F(RepositoryStore, RecordsThatOthersSpoiltAreSkipped) {
     EXPECT_NE(Problems().find("Town: ITEM.QUERY.a b: its file name is not"), std::string::npos);
     EXPECT_FALSE(store.GetItem(store.GetDefault(EntityNone)));
 
+    // What is right is not read again at each look, whoever looks; what has changed is.
+    CountedItems items;
+    CRepositoryManager::Instance()->RegisterRepositoryItemFactory(L"QUERY", &items);
+    EXPECT_EQ(CRepositoryRecords(L"QUERY", system).GetHeads().size(), 1U);
+    EXPECT_EQ(items.count, 0);
+    records.Set(L"ITEM.QUERY.A1", CString(Utf8ToWide(QueryText("A1", "changed"))));
+    EXPECT_EQ(CRepositoryRecords(L"QUERY", system).GetHeads().at(0).name, L"changed");
+    EXPECT_EQ(items.count, 1);
+    CRepositoryManager::Instance()->RegisterRepositoryItemFactory(L"QUERY", &m_items);
+
     AcDbDictionary* pOpen = nullptr;
     ASSERT_EQ(acdbOpenObject(pOpen, records.Dictionary()->objectId(), AcDb::kForWrite), Acad::eOk);
     EXPECT_FALSE(CRepositoryRecords(L"QUERY", system).Add(CQueryDefinition(L"Q", L"q")).IsEmpty());
@@ -313,20 +445,32 @@ TEST_F(RepositoryStore, RecordsThatOthersSpoiltAreSkipped) {
 }
 
 TEST_F(RepositoryStore, TheNetRepositoryIsTheFolderOfTheSetting) {
-    CStoredRepositoryFactory family(L"QUERY", false);
+    // The manager knows it to the end of the process.
+    static CStoredRepositoryFactory family(L"QUERY", false);
+    CRepositoryManager::Instance()->RegisterRepositoryFactory(L"QUERY", &family);
     EXPECT_FALSE(family.GetNetStore());
     EXPECT_TRUE(family.GetDiskStore()->GetItems().empty()) << "there is no folder yet";
     m_folder.Write("QUERY/A1.xml", QueryText("A1", "shared"));
     Host().Support().Write("Settings.ini",
                            "[General]\nNET_REPOSITORY=" + m_folder.Native("") + "\n");
     CModuleConfiguration::Instance()->ReloadGeneralSettings();
-    family.ReloadRepository(0);
     ASSERT_TRUE(family.GetNetStore());
     EXPECT_EQ(Names(family.GetNetStore()->GetItems()), "shared");
 
+    Refreshes refreshes;
+    CRepositoryManager::Instance()->LookForChanges();
+    EXPECT_EQ(refreshes.count, 0) << "nothing has changed";
+    m_folder.Write("QUERY/A2.xml", QueryText("A2", "by a colleague"));
+    m_folder.Write("QUERY/A3.xml", "");
+    CRepositoryManager::Instance()->LookForChanges();
+    EXPECT_EQ(refreshes.count, 1);
+    EXPECT_EQ(Names(family.GetNetStore()->GetItems()), "by a colleague, shared");
+    ASSERT_EQ(family.GetNetStore()->GetProblems().size(), 1U);
+    EXPECT_NE(family.GetNetStore()->GetProblems()[0].Find(L"A3.xml: "), -1);
+
     Host().Support().Write("Settings.ini", "[General]\nNET_REPOSITORY=/no/such/folder\n");
     CModuleConfiguration::Instance()->ReloadGeneralSettings();
-    family.ReloadRepository(0);
+    EXPECT_EQ(refreshes.count, 2);
     EXPECT_TRUE(family.GetNetStore()->GetItems().empty());
     EXPECT_NE(Problems().find("/no/such/folder: there is no such folder"), std::string::npos);
     EXPECT_FALSE(family.GetNetStore()->Add(CQueryDefinition(L"Q", L"q")).IsEmpty());

@@ -6,6 +6,7 @@
 #include "platform/mfc/Button.h"
 #include "platform/mfc/ColorDialog.h"
 #include "platform/mfc/Edit.h"
+#include "platform/mfc/FolderDialog.h"
 #include "platform/win/File.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/data/DataBox.h"
@@ -21,17 +22,21 @@ using enum enmControlKind;
 constexpr UINT kTemplate = 6650;
 constexpr UINT kColor = 150;
 constexpr UINT kHelp = 151;
+constexpr UINT kBrowse = 152;
 /// The label and the control of each setting, in the order of the list.
 constexpr UINT kFirstLabel = 200;
 constexpr UINT kFirstControl = 100;
 constexpr UINT kLanguage = kFirstControl;
 constexpr UINT kMarkColor = kFirstControl + 3;
+constexpr UINT kNetFolder = kFirstControl + 5;
 
 constexpr int kMsgTitle = 381;
 constexpr int kMsgOk = 235;
 constexpr int kMsgHelp = 50156;
 constexpr int kMsgCancel = 900340;
 constexpr int kMsgChoose = 900341;
+constexpr int kMsgBrowse = 962004;
+constexpr int kMsgNetFolder = 962005;
 
 constexpr DialogItem kItems[] = {
     {Static, kFirstLabel, 7, 10, 130, 8},
@@ -44,7 +49,8 @@ constexpr DialogItem kItems[] = {
     {Static, kFirstLabel + 4, 7, 64, 130, 8},
     {Edit, kFirstControl + 4, 140, 61, 50, 14},
     {Static, kFirstLabel + 5, 7, 82, 223, 8},
-    {Edit, kFirstControl + 5, 7, 92, 223, 14},
+    {Edit, kNetFolder, 7, 92, 158, 14},
+    {Button, kBrowse, 169, 92, 61, 14},
     {Button, kFirstControl + 2, 7, 112, 223, 12, L"", BS_AUTOCHECKBOX},
     {Button, IDOK, 58, 134, 55, 14, L"", BS_DEFPUSHBUTTON},
     {Button, IDCANCEL, 117, 134, 55, 14},
@@ -81,6 +87,7 @@ CGeneralSettingsDialog::CGeneralSettingsDialog(GeneralSettings& settings)
 const MessageMap* CGeneralSettingsDialog::GetMessageMap() const {
     static constexpr MessageEntry kEntries[] = {
         MapCommand<&CGeneralSettingsDialog::OnColor>(kColor),
+        MapCommand<&CGeneralSettingsDialog::OnBrowse>(kBrowse),
         MapCommand<&CGeneralSettingsDialog::OnHelp>(kHelp),
     };
     static const MessageMap kMap{CDialog::GetMessageMap(), kEntries};
@@ -94,6 +101,7 @@ bool CGeneralSettingsDialog::OnInitDialog() {
     GetDlgItem(IDCANCEL)->SetWindowText(Msg(kMsgCancel));
     GetDlgItem(kHelp)->SetWindowText(Msg(kMsgHelp));
     GetDlgItem(kColor)->SetWindowText(Msg(kMsgChoose));
+    GetDlgItem(kBrowse)->SetWindowText(Msg(kMsgBrowse));
     FillLanguages();
     ShowValues();
     return true;
@@ -176,6 +184,13 @@ void CGeneralSettingsDialog::OnColor() {
     int color = Data::CDataBox(field.GetWindowText());
     if (acedSetColorDialog(color, false, color)) {
         field.SetWindowText(std::to_wstring(color).c_str());
+    }
+}
+
+void CGeneralSettingsDialog::OnBrowse() {
+    CWnd& field = *GetDlgItem(kNetFolder);
+    if (const auto folder = AfxChooseFolder(Msg(kMsgNetFolder), field.GetWindowText())) {
+        field.SetWindowText(*folder);
     }
 }
 

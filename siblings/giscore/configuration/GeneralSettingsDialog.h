@@ -20,6 +20,7 @@ protected:
 
 private:
     void OnColor();
+    void OnBrowse();
     void OnHelp();
     void FillLanguages();
     void ShowValues();

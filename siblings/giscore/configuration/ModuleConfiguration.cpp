@@ -12,6 +12,7 @@
 #include "siblings/giscore/icons/IconStore.h"
 #include "siblings/giscore/notification/GisEvents.h"
 #include "siblings/giscore/notification/NotificationFramework.h"
+#include "siblings/giscore/repository/RepositoryManager.h"
 #include "siblings/giscore/topology/TopologyConfiguration.h"
 #include "siblings/giscore/utility/GisTexts.h"
 #include "siblings/giscore/utility/SupportFile.h"
@@ -114,6 +115,7 @@ int CModuleConfiguration::GetGSValueText(const wchar_t* key, CString& value) con
 
 void CModuleConfiguration::ReloadGeneralSettings() {
     ReadSettings();
+    CRepositoryManager::Instance()->LookForChanges(); // the net repository may be another one
     System::CGisEvents::Instance()->Raise(&System::ISystemEvents::OnAfterGeneralSettingsChanged);
 }
 

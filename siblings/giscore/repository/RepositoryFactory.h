@@ -21,6 +21,10 @@ public:
     /// Reads the items of the family again from where they are kept.
     /// \param mode as handed to CRepositoryManager::ReloadRepositories
     virtual void ReloadRepository(int mode) = 0;
+    /// Reads what others have changed meanwhile, and tells the trees if there is anything. Called
+    /// before each command, and about once a second while trees of folders are visible: has to
+    /// be quick.
+    virtual void LookForChanges() {}
     /// Non-zero if one item of the family can be the default one.
     virtual int SupportsDefaultItem() const { return 0; }
 

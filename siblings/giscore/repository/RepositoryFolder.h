@@ -13,7 +13,8 @@ enum class MissingFolder {
 };
 
 /// <folder>/<tag>/<guid>.xml, UTF-8. The files are read once; Reload reads those that have
-/// changed since.
+/// changed since. Several programs may work with one folder: what another one has changed is
+/// not overwritten, and files that may not be written to are not replaced.
 class GISCORE_API CRepositoryFolder final : public CRepositoryStore {
 public:
     /// \param folder of all families
@@ -25,18 +26,25 @@ public:
     /// Of all families, as it was handed in.
     const CString& GetRoot() const { return m_strRoot; }
     const CString& GetFolder() const { return m_strFolder; }
-    void Reload();
+    /// \return whether anything is different now
+    bool Reload();
+    void Renew() override { Reload(); }
+    std::optional<RepositoryConflict> FindConflict(const CRepositoryItem& item) const override;
 
 private:
+    using Listing = std::vector<std::pair<CString, FileStamp>>;
+
     std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const override;
     std::optional<CString> TextOf(const CString& guid) const override;
-    CString Write(const CRepositoryItem& item) override;
+    CString Write(const CRepositoryItem& item, bool isNew) override;
     CString Erase(const CRepositoryItem& item) override;
     CString ProblemKey() const override { return m_strProblemKey; }
 
     CString PathOf(const CString& guid) const;
-    void ReadFile(const CString& name, const Entries& old);
-    bool LacksRoot() const;
+    Listing ListFiles(std::vector<CString>& problems) const;
+    void ReadFile(const CString& name, const FileStamp& stamp, const Entries& old);
+    CString WhyOutOfReach() const;
+    CString WhyNotWritable(const CRepositoryItem& item, const CString& path, bool isNew) const;
 
     CString m_strRoot;
     MissingFolder m_missing;
@@ -46,6 +54,9 @@ private:
     /// Of each file that has been read, by its path.
     std::map<CString, FileStamp, CStringLess> m_stamps;
     std::vector<CString> m_unreadable;
+    Listing m_listing; ///< as it was when the files were looked at last
+    /// The entries are what the listing has: there were no problems, and nothing was written since.
+    bool m_isLookedAt = false;
 };
 
 } // namespace Orvane

@@ -83,6 +83,7 @@ ReadRepositoryItem(const CString& text, const wchar_t* repositoryTag, CString& r
     }
     auto item = pFactory->CreateItem(guid, root->Get(kName));
     reason = item->Take(*root);
+    item->SetOrigin(text);
     return reason.IsEmpty() ? item : boost::shared_ptr<CRepositoryItem>();
 }
 

@@ -29,6 +29,11 @@ public:
     enmEntityType GetEntityType() const { return m_enmEntityType; }
     void SetEntityType(enmEntityType type) { m_enmEntityType = type; }
 
+    /// The text of which the item was made, as its store had it: by that the store knows
+    /// whether somebody else has changed it since. Empty for an item that is new.
+    const CString& GetOrigin() const { return m_strOrigin; }
+    void SetOrigin(CString text) const { m_strOrigin = std::move(text); }
+
     /// One line.
     CString GetXML() const;
     /// Takes all but tag and GUID, which stay the item's own. 0, with a reason, for a text
@@ -52,6 +57,7 @@ private:
     CString m_strRepositoryTag;
     CString m_strGuid;
     CString m_strName;
+    mutable CString m_strOrigin; ///< no part of what the item is
     enmEntityType m_enmEntityType = EntityNone;
 };
 

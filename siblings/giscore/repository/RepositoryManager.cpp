@@ -80,4 +80,10 @@ void CRepositoryManager::ReloadRepositories(int mode) {
     }
 }
 
+void CRepositoryManager::LookForChanges() {
+    for (std::size_t i = 0; i < m_factories.size(); ++i) {
+        m_factories[i].pFactory->LookForChanges();
+    }
+}
+
 } // namespace Orvane

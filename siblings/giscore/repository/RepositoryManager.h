@@ -35,6 +35,8 @@ public:
     /// Asks every factory, in the order of registration, to read its items again. A
     /// factory that is registered meanwhile is asked too, at its turn.
     void ReloadRepositories(int mode);
+    /// Asks every factory to look for what others have changed.
+    void LookForChanges();
 
 private:
     template <class Factory>

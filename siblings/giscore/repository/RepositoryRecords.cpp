@@ -12,6 +12,8 @@ namespace {
 
 constexpr const wchar_t* kDefault = L"DEFAULT.";
 
+constexpr std::size_t kKnownPlaces = 100;
+
 CString ResultOf(bool isWritten) {
     return isWritten ? CString() : RepositoryMessage(kMsgDrawingIsBusy);
 }
@@ -24,6 +26,13 @@ CRepositoryRecords::CRepositoryRecords(const wchar_t* tag, System::CGisSystem& s
 
 std::shared_ptr<const CRepositoryStore::Entries>
 CRepositoryRecords::GetEntries(std::vector<CString>& problems) const {
+    // By the name for problems. What comes from a drawing that is closed is dropped with the
+    // others, some time.
+    static std::map<CString, std::shared_ptr<const Entries>, CStringLess> known;
+    if (known.size() > kKnownPlaces) {
+        known.clear();
+    }
+    std::shared_ptr<const Entries>& before = known[ProblemKey()];
     auto entries = std::make_shared<Entries>();
     const AcDbDictionary* const pDictionary = m_system.GetRecords().Dictionary();
     if (!pDictionary) {
@@ -35,12 +44,23 @@ CRepositoryRecords::GetEntries(std::vector<CString>& problems) const {
         const CString key = at->first.Mid(m_strPrefix.GetLength());
         const CString source = m_system.GetSystemName() + L": " + at->first;
         if (IsGuid(key.View())) {
-            AddEntry(*entries, MakeEntry(source, key, at->second), problems);
+            AddEntry(*entries, KnownEntry(before.get(), source, key, at->second), problems);
         } else if (!key.View().starts_with(kDefault)) {
             problems.push_back(source + L": " + MessageText(GisMsg::NotNamedAfterGuid));
         }
     }
+    before = entries;
     return entries;
+}
+
+/// One with a fault is read again: somebody may make items of the family by now.
+CRepositoryStore::Entry CRepositoryRecords::KnownEntry(const Entries* pBefore,
+                                                       const CString& source, const CString& guid,
+                                                       const CString& text) const {
+    const auto hit = pBefore ? pBefore->find(CString(guid).MakeUpper()) : Entries::const_iterator();
+    const bool isKnown = pBefore && hit != pBefore->end() && hit->second.source == source &&
+                         hit->second.text == text && hit->second.fault.IsEmpty();
+    return isKnown ? hit->second : MakeEntry(source, guid, text);
 }
 
 std::optional<CString> CRepositoryRecords::TextOf(const CString& guid) const {
@@ -49,7 +69,7 @@ std::optional<CString> CRepositoryRecords::TextOf(const CString& guid) const {
     return pText ? std::optional(*pText) : std::nullopt;
 }
 
-CString CRepositoryRecords::Write(const CRepositoryItem& item) {
+CString CRepositoryRecords::Write(const CRepositoryItem& item, bool /*isNew*/) {
     return ResultOf(m_system.GetRecords().Set(m_strPrefix + item.GetGuid(), item.GetXML()));
 }
 

@@ -53,16 +53,28 @@ void CRepositoryStore::AddEntry(Entries& entries, Entry entry, std::vector<CStri
     }
 }
 
-std::shared_ptr<const CRepositoryStore::Entries> CRepositoryStore::Look() const {
-    std::vector<CString> problems;
+std::shared_ptr<const CRepositoryStore::Entries>
+CRepositoryStore::LookFor(std::vector<CString>& problems) const {
     auto entries = GetEntries(problems);
     for (const auto& [key, entry] : *entries) {
         if (!entry.fault.IsEmpty()) {
             problems.push_back(entry.source + L": " + entry.fault);
         }
     }
+    return entries;
+}
+
+std::shared_ptr<const CRepositoryStore::Entries> CRepositoryStore::Look() const {
+    std::vector<CString> problems;
+    auto entries = LookFor(problems);
     CModuleConfiguration::Instance()->SetProblems(ProblemKey(), std::move(problems));
     return entries;
+}
+
+std::vector<CString> CRepositoryStore::GetProblems() const {
+    std::vector<CString> problems;
+    LookFor(problems);
+    return problems;
 }
 
 std::vector<RepositoryItemHead> CRepositoryStore::GetHeads(enmEntityType type) const {
@@ -124,9 +136,10 @@ CString CRepositoryStore::WhyNot(const CRepositoryItem& item) const {
 }
 
 CString CRepositoryStore::Add(const CRepositoryItem& item) {
+    Renew();
     CString reason =
         TextOf(item.GetGuid()) ? RepositoryMessage(kMsgItemIsThere, item.GetName()) : WhyNot(item);
-    reason = reason.IsEmpty() ? Write(item) : reason;
+    reason = reason.IsEmpty() ? Write(item, true) : reason;
     if (reason.IsEmpty()) {
         Tell(&ISystemEvents::OnNewConfigDefinitionAdded, *this, item);
     }
@@ -134,8 +147,9 @@ CString CRepositoryStore::Add(const CRepositoryItem& item) {
 }
 
 CString CRepositoryStore::Replace(const CRepositoryItem& item) {
+    Renew();
     CString reason = TextOf(item.GetGuid()) ? WhyNot(item) : RepositoryMessage(kMsgItemIsGone);
-    reason = reason.IsEmpty() ? Write(item) : reason;
+    reason = reason.IsEmpty() ? Write(item, false) : reason;
     if (reason.IsEmpty()) {
         Tell(&ISystemEvents::OnConfigDefinitionChanged, *this, item);
     }
@@ -143,6 +157,7 @@ CString CRepositoryStore::Replace(const CRepositoryItem& item) {
 }
 
 CString CRepositoryStore::Rename(const wchar_t* guid, const wchar_t* name) {
+    Renew();
     const ItemPtr item = GetItem(guid);
     if (!item) {
         return RepositoryMessage(kMsgItemIsGone);
@@ -152,6 +167,7 @@ CString CRepositoryStore::Rename(const wchar_t* guid, const wchar_t* name) {
 }
 
 CString CRepositoryStore::Remove(const wchar_t* guid) {
+    Renew();
     const ItemPtr item = GetItem(guid);
     if (!item) {
         return RepositoryMessage(kMsgItemIsGone);

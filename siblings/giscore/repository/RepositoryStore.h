@@ -20,6 +20,15 @@ struct RepositoryItemHead {
     CString guid;
     CString name;
     enmEntityType entityType = EntityNone;
+    friend bool operator==(const RepositoryItemHead&, const RepositoryItemHead&) = default;
+};
+
+/// What somebody else has done to an item since it was read.
+struct RepositoryConflict {
+    bool isDeleted = false;
+    CString who; ///< of a changed one
+    CString when;
+    CString text; ///< as it is now
 };
 
 /// The items of one family in one place. What is handed out are copies: changes count once
@@ -49,9 +58,23 @@ public:
     /// regard to case.
     ItemPtr GetItemByName(const wchar_t* name, enmEntityType type = EntityNone) const;
 
+    /// What is wrong with items that were left out, each with where it stands, and why a place
+    /// cannot be reached.
+    std::vector<CString> GetProblems() const;
+
+    /// Looks for what others have changed; each change of a store begins with it.
+    virtual void Renew() {}
+    /// What has become of an item since it was read; nothing if it is as it was, or as it is to
+    /// be, and for items that are new.
+    virtual std::optional<RepositoryConflict> FindConflict(const CRepositoryItem& /*item*/) const {
+        return std::nullopt;
+    }
+
     /// Names are no keys, but people tell items apart by them: a name that another item of
     /// the same entity folder has is refused.
     CString Add(const CRepositoryItem& item);
+    /// Refused if somebody else has changed the item since it was read; what to do then is the
+    /// user's to say (FindConflict).
     CString Replace(const CRepositoryItem& item);
     CString Rename(const wchar_t* guid, const wchar_t* name);
     CString Remove(const wchar_t* guid);
@@ -70,6 +93,7 @@ protected:
         CString text;
         RepositoryItemHead head; ///< with the GUID under which it is kept
         CString fault;           ///< why it is no item; empty for those that are
+        friend bool operator==(const Entry&, const Entry&) = default;
     };
     /// By their GUIDs in capital letters.
     using Entries = std::map<CString, Entry, CStringLess>;
@@ -82,7 +106,8 @@ protected:
     /// \param problems gets what could not even be read
     virtual std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const = 0;
     virtual std::optional<CString> TextOf(const CString& guid) const = 0;
-    virtual CString Write(const CRepositoryItem& item) = 0;
+    /// \param isNew there is nothing to be replaced yet
+    virtual CString Write(const CRepositoryItem& item, bool isNew) = 0;
     virtual CString Erase(const CRepositoryItem& item) = 0;
     virtual CString WriteDefault(const CRepositoryItem& item);
     /// The name under which problems are noted.
@@ -91,6 +116,7 @@ protected:
     std::shared_ptr<const Entries> Look() const;
 
 private:
+    std::shared_ptr<const Entries> LookFor(std::vector<CString>& problems) const;
     CString WhyNot(const CRepositoryItem& item) const;
 
     CString m_strTag;

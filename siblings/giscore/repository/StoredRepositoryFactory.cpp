@@ -1,8 +1,10 @@
 #include "siblings/giscore/repository/StoredRepositoryFactory.h"
 
 #include <boost/make_shared.hpp>
+#include <utility>
 
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
+#include "siblings/giscore/notification/NotificationFramework.h"
 #include "siblings/giscore/repository/RepositoryFolder.h"
 #include "siblings/giscore/repository/RepositoryRecords.h"
 
@@ -12,35 +14,51 @@ namespace {
 
 using FolderPtr = boost::shared_ptr<CRepositoryFolder>;
 
-void Reload(FolderPtr& folder, const CString& tag, const CString& root, const CString& problemKey,
+/// \return whether anything is different now
+bool Reload(FolderPtr& folder, const CString& tag, const CString& root, const CString& problemKey,
             MissingFolder missing) {
     if (folder && folder->GetRoot() == root) {
-        folder->Reload();
-    } else {
-        folder = boost::make_shared<CRepositoryFolder>(tag, root, problemKey, missing);
+        return folder->Reload();
     }
+    folder = boost::make_shared<CRepositoryFolder>(tag, root, problemKey, missing);
+    return true;
 }
 
 } // namespace
 
-void CStoredRepositoryFactory::ReloadRepository(int /*mode*/) {
+bool CStoredRepositoryFactory::Read() {
     CModuleConfiguration& configuration = *CModuleConfiguration::Instance();
     m_bIsRead = true;
-    Reload(m_pDisk, m_strTag, configuration.GetPath(L"support") + L"repository",
-           L"repository/" + m_strTag, MissingFolder::IsMade);
+    const bool isDiskNew =
+        Reload(m_pDisk, m_strTag, configuration.GetPath(L"support") + L"repository",
+               L"repository/" + m_strTag, MissingFolder::IsMade);
     const CString key = L"net repository/" + m_strTag;
     CString root;
     if (configuration.GetGSValueText(L"NET_REPOSITORY", root) && !root.Trim().IsEmpty()) {
-        Reload(m_pNet, m_strTag, root, key, MissingFolder::IsAProblem);
-    } else {
-        m_pNet.reset();
-        configuration.SetProblems(key, {});
+        return Reload(m_pNet, m_strTag, root, key, MissingFolder::IsAProblem) || isDiskNew;
+    }
+    configuration.SetProblems(key, {});
+    return std::exchange(m_pNet, nullptr) || isDiskNew;
+}
+
+void CStoredRepositoryFactory::ReloadRepository(int /*mode*/) {
+    const bool wasRead = m_bIsRead;
+    if (Read() && wasRead) {
+        Notification::CNotificationFramework::Instance()
+            ->GetPublisher(L"REFRESH_CHILDREN")
+            ->Notify(nullptr, const_cast<wchar_t*>(m_strTag.GetString()));
+    }
+}
+
+void CStoredRepositoryFactory::LookForChanges() {
+    if (m_bIsRead) {
+        ReloadRepository(0);
     }
 }
 
 void CStoredRepositoryFactory::ReadOnce() {
     if (!m_bIsRead) {
-        ReloadRepository(0);
+        Read();
     }
 }
 

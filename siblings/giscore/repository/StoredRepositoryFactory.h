@@ -11,7 +11,8 @@ class CRepositoryFolder;
 
 /// The disk store is the folder "repository" in the folder "support", the net store the
 /// folder of the general setting "NET_REPOSITORY", if that is not empty. Both are read at
-/// their first use; when the repository is reloaded, files that have changed are read again.
+/// their first use; when the repository is reloaded, files that have changed are read again,
+/// and if anything is different then, the publisher "REFRESH_CHILDREN" tells, with the tag.
 /// A store that was handed out follows, unless the setting has come to name another folder.
 class GISCORE_API CStoredRepositoryFactory final : public CRepositoryFactory {
 public:
@@ -19,6 +20,7 @@ public:
         : m_strTag(tag), m_bSupportsDefaultItem(supportsDefaultItem) {}
 
     void ReloadRepository(int mode) override;
+    void LookForChanges() override;
     int SupportsDefaultItem() const override { return m_bSupportsDefaultItem; }
     StorePtr GetDiskStore() override;
     StorePtr GetNetStore() override;
@@ -26,6 +28,7 @@ public:
 
 private:
     void ReadOnce();
+    bool Read();
 
     CString m_strTag;
     bool m_bSupportsDefaultItem;

@@ -1,6 +1,7 @@
 // The tree panels, driven by mouse and keyboard.
 #include "tests/plugins/panels/PanelsOnDesktop.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -186,6 +187,44 @@ TEST_F(TreePanels, ARefreshWaitsUntilALabelIsEdited) {
     EXPECT_EQ(Shown(Tree()).find("Late"), std::string::npos);
     TypeLabel("Town", Qt::Key_Escape);
     EXPECT_NE(Shown(Tree()).find("Late"), std::string::npos);
+}
+
+TEST_F(TreePanels, WhatOthersChangeInAFolderAppearsByItself) {
+    ASSERT_NE(Find(Disk(), {L"Repository", L"Queries", L"Tanks"}), nullptr);
+    Disk().SelectItem(Find(Disk(), {L"Repository", L"Queries", L"Tanks"}));
+    const auto waitFor = [](const char* text) {
+        QElapsedTimer clock;
+        for (clock.start(); clock.elapsed() < 2000 && Shown(Disk()).find(text) == std::string::npos;
+             QTest::qWait(20)) {
+        }
+        return Shown(Disk());
+    };
+    m_host.Support().Write("repository/QUERY/B1.xml",
+                           R"(<item tag="QUERY" guid="B1" name="Of a colleague" entityType="0" )"
+                           R"(of="2" match="all"/>)");
+    const std::string with = waitFor("Of a colleague");
+    EXPECT_NE(with.find("  Of a colleague\n"), std::string::npos) << with;
+    EXPECT_NE(with.find("  *Tanks"), std::string::npos) << with;
+    // Nothing jumps away from under somebody who has scrolled away from what is selected.
+    for (const wchar_t* folder : {L"Themes", L"Labels", L"Longitudinal"}) {
+        HTREEITEM const item = Find(Disk(), {L"Repository", folder});
+        Disk().Expand(item, TVE_EXPAND);
+        for (HTREEITEM kind = Disk().GetChildItem(item); kind;
+             kind = Disk().GetNextSiblingItem(kind)) {
+            Disk().Expand(kind, TVE_EXPAND);
+        }
+    }
+    Disk().SelectSetFirstVisible(Find(Disk(), {L"Repository", L"Themes"}));
+    const auto firstInView = [] {
+        return Narrow(Disk().GetItemText(Disk().GetFirstVisibleItem()));
+    };
+    const std::string inView = firstInView();
+    EXPECT_NE(inView, "Repository");
+    m_host.Support().Write("repository/QUERY/B1.xml", "");
+    const std::string damaged = waitFor("B1.xml: line 1");
+    EXPECT_NE(damaged.find("B1.xml: line 1"), std::string::npos) << damaged;
+    EXPECT_EQ(firstInView(), inView);
+    EXPECT_NE(m_host.Output().find("B1.xml: line 1"), std::string::npos);
 }
 
 TEST_F(TreePanels, TheMenuOfANodeRunsItsCommands) {

@@ -163,6 +163,54 @@ TEST_F(Executors, ItemsMoveBetweenDrawingAndDisk) {
     EXPECT_EQ(Family(L"QUERY").GetSystemStore(&other)->GetItems().size(), 1U);
 }
 
+TEST_F(Executors, OfTwoPeoplesChangesTheUserChooses) {
+    Workspace::CWsManager::Instance(); // reads the folders when it comes up
+    const auto store = Family(L"QUERY").GetDiskStore();
+    const std::string file = "repository/QUERY/Q1.xml";
+    const auto theirs = [&] {
+        Query::CQueryDefinition item(L"Q1", L"theirs");
+        Host().Support().Write(file, WideToUtf8(item.GetXML().View()));
+    };
+    const auto deleted = [&] { std::filesystem::remove(Host().Support() / file); };
+    struct {
+        const wchar_t* id;
+        std::function<void()> meanwhile;
+        std::initializer_list<const wchar_t*> answers;
+        const char* names; ///< of all items afterwards
+        const char* output;
+    } const cases[] = {
+        {L"REN_QUERY",
+         theirs,
+         {L"mine", L"Mine"},
+         "mine ",
+         "\"shared\" has meanwhile been changed"},
+        {L"REN_QUERY", theirs, {L"mine", L"t"}, "theirs ", "stays as the other user left it"},
+        {L"REN_QUERY", theirs, {L"mine", L""}, "mine theirs ", "[Mine/Theirs/Both] <Both>"},
+        {L"REN_QUERY", theirs, {L"Theirs", L"both"}, "theirs Theirs (2) ", ""},
+        {L"REN_QUERY", theirs, {L"theirs"}, "theirs ", "theirs was changed"},
+        {L"REN_QUERY", theirs, {L"mine", kEscape}, "theirs ", ""},
+        {L"REN_QUERY", deleted, {L"mine", L""}, "mine ", "has meanwhile been deleted"},
+        {L"REN_QUERY", deleted, {L"mine", L"_Theirs"}, "", ""},
+        {L"DEL_QUERY", theirs, {L"yes", L"no"}, "theirs ", "Delete it all the same?"},
+        {L"DEL_QUERY", theirs, {L"yes", L"yes"}, "", ""},
+    };
+    CWsTreeItemData node = Node(L"QUERY", Workspace::WsItemRepositoryConfiguration, nullptr, L"Q1");
+    for (const auto& test : cases) {
+        std::filesystem::remove_all(Host().Support() / "repository/QUERY");
+        EXPECT_TRUE(store->Add(Query::CQueryDefinition(L"Q1", L"shared")).IsEmpty());
+        test.meanwhile();
+        Base(test.id, test.answers, &node);
+        Family(L"QUERY").LookForChanges();
+        std::string names;
+        for (const RepositoryItemHead& head : store->GetHeads()) {
+            names += WideToUtf8(head.name.View()) + " ";
+        }
+        const std::string output = Host().TakeOutput();
+        EXPECT_EQ(names, test.names) << output;
+        EXPECT_NE(output.find(test.output), std::string::npos) << output;
+    }
+}
+
 TEST_F(Executors, ConfigurationsAreSavedWithTheDrawing) {
     CWsTreeItemData node = SystemItem(L"LABEL", {}, EntityNode);
     const CString guid = Base(L"ADD_LABEL_1", {L"names", L"{NAME}!", L"1.5"}, &node);

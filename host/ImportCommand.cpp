@@ -4,6 +4,7 @@
 
 #include "host/Prompts.h"
 #include "host/storage/CoordinateSystem.h"
+#include "platform/arx/DbUndo.h"
 #include "platform/arx/EdProgress.h"
 #include "platform/win/File.h"
 
@@ -96,6 +97,7 @@ std::vector<CString> CoordinateWarnings(const AcDbDatabase& database,
 }
 
 void AddToDrawing(AcDbDatabase& database, std::vector<AcDbImportLayer> layers) {
+    database.undo().dropRedo(); // or its ids would be given again below the first one
     const std::uint32_t first = database.nextId();
     const CString systemBefore = database.coordinateSystem();
     try {

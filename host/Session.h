@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "host/UndoNotice.h"
 #include "platform/arx/DbImport.h"
 #include "platform/arx/DbStorage.h"
 #include "platform/win/String.h"
@@ -30,6 +31,7 @@ public:
 private:
     std::unique_ptr<IDbStorage> m_pStorage;
     std::unique_ptr<IDbImporter> m_pImporter;
+    UndoNotice m_undoNotice;
 };
 
 } // namespace Tessaly

@@ -227,6 +227,8 @@ enum class Msg : int {
     HelpNotOpened = 911157,
     ModuleNotLoaded = 911159,
     KeepsPrompting = 911010,
+    UndoStepDropped = 960002,
+    UndoStepsDropped = 960003,
 };
 
 template <class... Args>

@@ -13,6 +13,7 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "host/desktop/LayoutFile.h"
 #include "host/desktop/QtTexts.h"
 
 namespace Tessaly {
@@ -20,7 +21,6 @@ namespace Tessaly {
 namespace {
 
 constexpr int kMostLines = 20'000;
-constexpr int kMostHistory = 500;
 constexpr int kVisibleLines = 6;
 
 void Paint(QWidget& widget, const CommandLineLook& look) {

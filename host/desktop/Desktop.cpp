@@ -15,6 +15,7 @@
 #include "host/desktop/DesktopPort.h"
 #include "host/desktop/Frame.h"
 #include "host/desktop/FrameDisplay.h"
+#include "host/desktop/LayoutKeeper.h"
 #include "host/desktop/QtTexts.h"
 #include "host/desktop/Theme.h"
 #include "host/desktop/view/DrawingView.h"
@@ -44,8 +45,8 @@ CString LayoutPath() {
     return GetHostOption(kHostOptionSupport) + kLayoutFile;
 }
 
-void SaveLayout(const Frame& frame) {
-    const CString problem = WriteLayout(LayoutPath(), frame.CurrentLayout());
+void SaveLayout(LayoutKeeper& keeper) {
+    const CString problem = keeper.Save();
     if (!problem.IsEmpty()) {
         // The command line has gone from sight already.
         Complain(Text(Msg::LayoutNotSaved, problem));
@@ -92,6 +93,12 @@ int TakePicture(Frame& frame, const CString& path) {
 int Run(const Options& options, Frame& frame, DesktopPort& port, Session& session) {
     const bool isOpen = session.Start(options.drawing);
     port.EndLine(); // the last module said its name
+    LayoutKeeper keeper(LayoutPath(), [&frame] { return frame.CurrentLayout(); });
+    if (!options.snapshot) {
+        keeper.Start([](const CString& problem) {
+            acutPrintf(L"%s\n", Text(Msg::LayoutNotSaved, problem));
+        });
+    }
     if (options.first) {
         CommandLines(port).RunScript(*options.first);
     }
@@ -101,7 +108,7 @@ int Run(const Options& options, Frame& frame, DesktopPort& port, Session& sessio
         return isOpen ? status : kExitCommandFailed;
     }
     const int status = HasQuit() ? kExitDone : QApplication::exec();
-    SaveLayout(frame);
+    SaveLayout(keeper);
     port.CancelAll();
     session.End();
     return status;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "host/Texts.h"
 #include "platform/win/CodePage.h"
@@ -160,6 +161,38 @@ std::string Format(const Layout& layout) {
     return text + std::string(kEnd) + "\n";
 }
 
+using Lines = std::vector<CString>;
+
+template <class Value>
+void Merge(const Value& base, const Value& theirs, Value& ours) {
+    if (ours == base) {
+        ours = theirs;
+    }
+}
+
+Lines JoinedRecent(const Lines& ours, const Lines& theirs) {
+    Lines joined = ours;
+    std::copy_if(theirs.begin(), theirs.end(), std::back_inserter(joined), [&](const auto& name) {
+        return std::find(ours.begin(), ours.end(), name) == ours.end();
+    });
+    return joined;
+}
+
+/// What we added comes last. The oldest lines may have been dropped for it.
+Lines JoinedHistory(const Lines& base, const Lines& ours, const Lines& theirs) {
+    auto kept = base.begin();
+    while (kept != base.end() && (base.end() - kept > static_cast<std::ptrdiff_t>(ours.size()) ||
+                                  !std::equal(kept, base.end(), ours.begin()))) {
+        ++kept;
+    }
+    Lines joined = theirs;
+    joined.insert(joined.end(), ours.begin() + (base.end() - kept), ours.end());
+    if (joined.size() > kMostHistory) {
+        joined.erase(joined.begin(), joined.end() - kMostHistory);
+    }
+    return joined;
+}
+
 int Overlap(int from, int length, int otherFrom, int otherLength) {
     return std::min(from + length, otherFrom + otherLength) - std::max(from, otherFrom);
 }
@@ -192,6 +225,28 @@ std::optional<Layout> ReadLayout(const CString& path, CString& problem) {
 
 CString WriteLayout(const CString& path, const Layout& layout) {
     return ReplaceFileBytes(path, Format(layout)) ? CString() : path + L": " + LastErrorText();
+}
+
+Layout MergedLayout(const Layout& base, const Layout& ours, const Layout& theirs) {
+    Layout merged = ours;
+    const bool isWindowOurs = ours.window != base.window || ours.isMaximized != base.isMaximized;
+    if (!isWindowOurs) {
+        merged.window = theirs.window;
+        merged.isMaximized = theirs.isMaximized;
+    }
+    Merge(base.panes, theirs.panes, merged.panes);
+    Merge(base.theme, theirs.theme, merged.theme);
+    if (ours.recent == base.recent || theirs.recent == base.recent) {
+        Merge(base.recent, theirs.recent, merged.recent);
+    } else {
+        merged.recent = JoinedRecent(ours.recent, theirs.recent);
+    }
+    if (ours.history == base.history || theirs.history == base.history) {
+        Merge(base.history, theirs.history, merged.history);
+    } else {
+        merged.history = JoinedHistory(base.history, ours.history, theirs.history);
+    }
+    return merged;
 }
 
 ScreenRect OnScreen(const ScreenRect& window, const std::vector<ScreenRect>& workAreas) {

@@ -9,6 +9,9 @@
 
 namespace Tessaly {
 
+/// Lines of the command line that are kept.
+inline constexpr int kMostHistory = 500;
+
 /// A rectangle on the screens, in their common coordinates.
 struct ScreenRect {
     int left = 0;
@@ -37,6 +40,10 @@ std::optional<Layout> ReadLayout(const CString& path, CString& problem);
 /// Writes beside the file and puts it in its place, so that there is a whole one at any
 /// moment. An empty text, or the reason why it was not written.
 CString WriteLayout(const CString& path, const Layout& layout);
+
+/// What `ours` and another program's layout make together, both begun from `base`: of each
+/// value, ours if we changed it, else the other one's. Lists that both changed are joined.
+Layout MergedLayout(const Layout& base, const Layout& ours, const Layout& theirs);
 
 /// Where a window goes on the screens that there are now: at its place if enough of its upper
 /// edge can be seen to be caught and the screens together have room for it, otherwise moved, and if

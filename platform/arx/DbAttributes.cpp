@@ -226,6 +226,15 @@ void AcDbAttributes::reserve(std::size_t count) {
     }
 }
 
+std::size_t AcDbAttributes::bytes() const {
+    std::size_t sum = m_pBlock ? sizeof(Block) + m_pBlock->capacity * sizeof(Slot) : 0;
+    for (std::size_t i = 0; i < size(); ++i) {
+        const Slot& slot = m_pBlock->Slots()[i];
+        sum += slot.OwnsLetters() ? slot.length : 0;
+    }
+    return sum;
+}
+
 AcDbAttributes::Block* AcDbAttributes::relocate(std::size_t capacity) {
     Block* const pBlock = Block::Make(capacity);
     if (m_pBlock) {

@@ -75,6 +75,8 @@ public:
     /// False if the name did not exist.
     bool remove(AcDbNameId name);
     void reserve(std::size_t count);
+    /// What they take in memory beside the object itself.
+    std::size_t bytes() const;
 
 private:
     struct Slot;

@@ -52,6 +52,7 @@ AcDbObject& AcDbDatabase::adopt(AcDbObjectId id, std::unique_ptr<AcDbObject> pOb
 }
 
 AcDbObjectId AcDbDatabase::append(std::unique_ptr<AcDbObject> pObject) {
+    m_pUndo->dropRedo(); // its ids may be free then
     const AcDbObjectId id(nextId());
     m_objects.emplace_back();
     AcDbObject& object = adopt(id, std::move(pObject));
@@ -78,6 +79,7 @@ AcDbObjectId AcDbDatabase::appendEntity(std::unique_ptr<AcDbEntity> pEntity, AcD
         throw std::logic_error("An entity was added to a block, or on a layer, that the drawing "
                                "does not have.");
     }
+    m_pUndo->dropRedo();
     pBlock->m_entities.push_back(AcDbObjectId(nextId()));
     return append(std::move(pEntity));
 }
@@ -128,14 +130,17 @@ AcDbObjectId AcDbDatabase::findNamed(const Names& names, const CString& key) con
 
 template <class T>
 AcDbObjectId AcDbDatabase::named(Names& names, const CString& key, const wchar_t* name) {
+    const AcDbObjectId live = findNamed(names, key);
+    if (!live.isNull()) {
+        return live;
+    }
+    m_pUndo->dropRedo(); // may release the erased one
     const auto hit = names.find(key);
     if (hit == names.end()) {
         return append(std::make_unique<T>(CString(name)));
     }
     const AcDbObjectId id = hit->second;
-    if (object(id)->isErased()) {
-        bringBack(*object(id));
-    }
+    bringBack(*object(id));
     return id;
 }
 
@@ -220,6 +225,8 @@ void AcDbDatabase::markSaved() {
     }
     m_unsaved.clear();
     m_bHeaderUnsaved = false;
+    m_nFirstUnstored = nextId();
+    m_pUndo->noteSaved();
 }
 
 AcDbHostApplicationServices* acdbHostApplicationServices() {

@@ -23,6 +23,8 @@ public:
     virtual void objectErased(const AcDbDatabase*, const AcDbObject*, bool /*bErased*/) {}
     /// The entire content was replaced: a drawing was read.
     virtual void databaseReplaced(const AcDbDatabase*) {}
+    /// Ids from the database's nextId on, whose objects were erased before, are given again.
+    virtual void idsFreed(const AcDbDatabase*) {}
     /// The database is about to go, and will not ask for its reactors to be removed.
     virtual void goodbye(const AcDbDatabase*) {}
 };
@@ -43,8 +45,8 @@ public:
     /// "0". Throws std::logic_error for a null entity and for a layer or block that is not in the
     /// database.
     AcDbObjectId appendEntity(std::unique_ptr<AcDbEntity> pEntity, AcDbObjectId block = {});
-    /// The layer of a name; made if there is none. An erased one comes back as it was (a
-    /// dictionary without its records): a name belongs to one object for good.
+    /// The layer of a name; made if there is none. An erased one that the undo history can
+    /// bring back comes back as it was (a dictionary without its records).
     AcDbObjectId layer(const wchar_t* name);
     /// Null id if it does not exist.
     AcDbObjectId findLayer(const wchar_t* name) const;
@@ -59,7 +61,7 @@ public:
     std::vector<AcDbObjectId> dictionaries() const;
 
     /// For whoever only reads, without opening. Null for an unknown id; an erased object is
-    /// given too.
+    /// given too, as long as the undo history can bring it back.
     const AcDbObject* peek(AcDbObjectId id) const;
     /// Calls visit(const AcDbEntity&) for each entity of the model space that is not erased, in the
     /// order of adding. Entities added meanwhile are not visited.
@@ -86,7 +88,8 @@ public:
     std::span<const AcDbObjectId> unsavedObjects() const { return m_unsaved; }
     bool isHeaderUnsaved() const { return m_bHeaderUnsaved; }
     void markSaved();
-    /// The next id to be given; ids below it have been used.
+    /// The next id to be given; ids below it have been used. Undoing and changing something
+    /// else makes it lower again, but not below what it was when the drawing was read or saved.
     std::uint32_t nextId() const { return static_cast<std::uint32_t>(m_objects.size()); }
     /// Prepares for loading into an empty database. Loaded objects keep their ids and are neither
     /// unsaved nor undoable; reactors are notified once, by endLoading. Existing content is
@@ -150,15 +153,36 @@ private:
     void setErased(AcDbObject& object, bool bErased);
     void markUnsaved(AcDbObject& object);
 
+    /// Nobody is in the middle of looking at objects.
+    bool mayReleaseObjects() const;
+    /// The file may have a row for it that the next save has to delete.
+    bool isRowLeft(const AcDbObject& object) const;
+    /// In the order of numbers; erased, and not to be brought back.
+    void releaseObjects(std::span<const std::uint32_t> numbers);
+    void freeIds();
+
     template <class Call>
     void tell(Call call);
     void tellAppended(const AcDbObject& object);
     void tellReplaced();
+    void tellIdsFreed();
     void tellGoodbye();
     void tellChanges(const AcDbObject& object, bool bErasedChanged, bool bModified);
 
-    // Index is the id's number; 0 stays empty.
+    struct Visiting {
+        explicit Visiting(const AcDbDatabase& database) : m_database(database) {
+            ++m_database.m_nVisiting;
+        }
+        ~Visiting() { --m_database.m_nVisiting; }
+        Visiting(const Visiting&) = delete;
+        Visiting& operator=(const Visiting&) = delete;
+        const AcDbDatabase& m_database;
+    };
+
+    // Index is the id's number; 0 stays empty, as do released objects.
     std::vector<std::unique_ptr<AcDbObject>> m_objects;
+    /// Ids below it may stand in a file.
+    std::uint32_t m_nFirstUnstored = 0;
     std::vector<AcDbObjectId> m_unsaved;
     // Including erased ones. Layer and block names in lower case.
     Names m_layersByName;
@@ -176,6 +200,7 @@ private:
     // Reactors removed during a call are replaced by null.
     std::vector<AcDbDatabaseReactor*> m_reactors;
     int m_nTelling = 0;
+    mutable int m_nVisiting = 0;
 };
 
 class PLATFORM_API AcDbHostApplicationServices {
@@ -199,6 +224,7 @@ T* AcDbDatabase::live(AcDbObjectId id) const {
 
 template <class Visit>
 void AcDbDatabase::forEachEntity(Visit&& visit) const {
+    const Visiting visiting(*this);
     const auto* const pSpace = static_cast<const AcDbBlockTableRecord*>(peek(m_modelSpace));
     const std::size_t count = pSpace ? pSpace->entityIds().size() : 0;
     for (std::size_t i = 0; i < count; ++i) {

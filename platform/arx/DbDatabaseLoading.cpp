@@ -16,6 +16,7 @@ void AcDbDatabase::reset() {
     beginLoading(1);
     m_layerZero = layer(kLayerZero);
     m_modelSpace = block(kModelSpace);
+    m_nFirstUnstored = nextId();
     m_bLoading = false;
 }
 
@@ -23,6 +24,7 @@ void AcDbDatabase::beginLoading(std::uint32_t nextId) {
     if (m_nOpen > 0) {
         throw std::logic_error("Cannot read a drawing while objects of it are open.");
     }
+    m_bLoading = true;
     m_pUndo->clear();
     m_unsaved.clear();
     m_layersByName.clear();
@@ -35,7 +37,6 @@ void AcDbDatabase::beginLoading(std::uint32_t nextId) {
     m_bHeaderUnsaved = false;
     m_objects.clear();
     m_objects.resize(std::max<std::uint32_t>(nextId, 1));
-    m_bLoading = true;
 }
 
 void AcDbDatabase::cancelLoading() {
@@ -64,6 +65,7 @@ void AcDbDatabase::endLoading() {
     m_layerZero = layer(kLayerZero);
     m_modelSpace = block(kModelSpace);
     placeLoadedEntities();
+    m_nFirstUnstored = nextId();
     m_bLoading = false;
     tellReplaced();
 }

@@ -52,6 +52,7 @@ void AcDbDatabase::endWriting(AcDbObject& object) {
     --m_nWriters;
     m_pUndo->noteClosed(object);
     tellChanges(object, object.m_bErased != object.m_bWasErased, object.m_bChanged);
+    m_pUndo->noteComplete();
 }
 
 bool AcDbDatabase::isInUse(const AcDbObject& object) const {
@@ -139,6 +140,10 @@ void AcDbDatabase::tellAppended(const AcDbObject& object) {
 
 void AcDbDatabase::tellReplaced() {
     tell([this](AcDbDatabaseReactor& reactor) { reactor.databaseReplaced(this); });
+}
+
+void AcDbDatabase::tellIdsFreed() {
+    tell([this](AcDbDatabaseReactor& reactor) { reactor.idsFreed(this); });
 }
 
 void AcDbDatabase::tellGoodbye() {

@@ -56,3 +56,13 @@ std::unique_ptr<AcDbObject> AcDbDictionary::cloneBody() const {
 void AcDbDictionary::swapBody(AcDbObject&) {
     // Records are recorded in the history one by one.
 }
+
+std::size_t AcDbDictionary::bodyBytes() const {
+    std::size_t letters = 0;
+    for (const auto& [name, text] : m_records) {
+        letters +=
+            static_cast<std::size_t>(name.GetLength()) + static_cast<std::size_t>(text.GetLength());
+    }
+    return sizeof(*this) + m_records.size() * sizeof(Records::value_type) +
+           letters * sizeof(wchar_t);
+}

@@ -28,6 +28,7 @@ public:
 protected:
     std::unique_ptr<AcDbObject> cloneBody() const override;
     void swapBody(AcDbObject& other) override;
+    std::size_t bodyBytes() const override;
 
 private:
     friend class AcDbUndo;

@@ -69,6 +69,7 @@ public:
 protected:
     std::unique_ptr<AcDbObject> cloneBody() const override;
     void swapBody(AcDbObject& other) override;
+    std::size_t bodyBytes() const override;
 
 private:
     AcGePoint3d m_position;
@@ -92,6 +93,7 @@ public:
 protected:
     std::unique_ptr<AcDbObject> cloneBody() const override;
     void swapBody(AcDbObject& other) override;
+    std::size_t bodyBytes() const override;
 
 private:
     bool m_bClosed = false; // first, where it uses existing padding
@@ -118,6 +120,7 @@ public:
 protected:
     std::unique_ptr<AcDbObject> cloneBody() const override;
     void swapBody(AcDbObject& other) override;
+    std::size_t bodyBytes() const override;
 
 private:
     std::vector<Ring> m_rings;
@@ -144,6 +147,7 @@ public:
 protected:
     std::unique_ptr<AcDbObject> cloneBody() const override;
     void swapBody(AcDbObject& other) override;
+    std::size_t bodyBytes() const override;
 
 private:
     AcGePoint3d m_position;

@@ -76,6 +76,16 @@ Acad::ErrorStatus AcDbObject::erase(bool bErasing) {
     return Acad::eOk;
 }
 
+std::size_t AcDbObject::bytes() const {
+    const std::size_t attributes =
+        m_bEntity ? static_cast<const AcDbEntity&>(*this).attributes().bytes() : 0;
+    return bodyBytes() + attributes;
+}
+
+std::size_t AcDbObject::bodyBytes() const {
+    return sizeof(AcDbEntity);
+}
+
 bool AcDbObject::beginChange() {
     if (!m_pDatabase) {
         return false;

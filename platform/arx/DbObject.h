@@ -22,8 +22,8 @@
 class AcDbDatabase;
 class AcDbEntity;
 
-/// Names an object of one database. Never used again after the object was erased; kept in
-/// the drawing's file.
+/// Names an object of one database; kept in the drawing's file. Given again only after neither
+/// undo nor redo can bring the object back, and if no file has it.
 class AcDbObjectId {
 public:
     AcDbObjectId() = default;
@@ -72,6 +72,8 @@ public:
 
     /// A copy of the content only: without an id and in no database.
     virtual std::unique_ptr<AcDbObject> clone() const = 0;
+    /// About what it takes in memory, without the book-keeping of the heap.
+    std::size_t bytes() const;
 
 protected:
     AcDbObject() = default;
@@ -88,6 +90,8 @@ protected:
     virtual std::unique_ptr<AcDbObject> cloneBody() const { return clone(); }
     /// Exchanges the body with another object of the same class.
     virtual void swapBody(AcDbObject& other) = 0;
+    /// The part of bytes() that a copy of the body takes.
+    virtual std::size_t bodyBytes() const;
 
 private:
     friend class AcDbDatabase;

@@ -29,6 +29,10 @@ void AcDbPoint::swapBody(AcDbObject& other) {
     std::swap(m_position, static_cast<AcDbPoint&>(other).m_position);
 }
 
+std::size_t AcDbPoint::bodyBytes() const {
+    return sizeof(*this);
+}
+
 AcRxClass* AcDbPolyline::desc() {
     static AcRxClass* const pClass = acdbRegisterClass(L"AcDbPolyline", AcDbEntity::desc());
     return pClass;
@@ -69,6 +73,10 @@ void AcDbPolyline::swapBody(AcDbObject& other) {
     std::swap(m_bClosed, line.m_bClosed);
 }
 
+std::size_t AcDbPolyline::bodyBytes() const {
+    return sizeof(*this) + m_vertices.capacity() * sizeof(AcGePoint3d);
+}
+
 AcRxClass* AcDbMPolygon::desc() {
     static AcRxClass* const pClass = acdbRegisterClass(L"AcDbMPolygon", AcDbEntity::desc());
     return pClass;
@@ -99,6 +107,14 @@ std::unique_ptr<AcDbObject> AcDbMPolygon::cloneBody() const {
 
 void AcDbMPolygon::swapBody(AcDbObject& other) {
     m_rings.swap(static_cast<AcDbMPolygon&>(other).m_rings);
+}
+
+std::size_t AcDbMPolygon::bodyBytes() const {
+    std::size_t sum = sizeof(*this) + m_rings.capacity() * sizeof(Ring);
+    for (const Ring& ring : m_rings) {
+        sum += ring.points.capacity() * sizeof(AcGePoint3d);
+    }
+    return sum;
 }
 
 AcRxClass* AcDbText::desc() {
@@ -142,4 +158,8 @@ void AcDbText::swapBody(AcDbObject& other) {
     std::swap(m_position, text.m_position);
     m_text.swap(text.m_text);
     std::swap(m_dHeight, text.m_dHeight);
+}
+
+std::size_t AcDbText::bodyBytes() const {
+    return sizeof(*this) + m_text.capacity();
 }

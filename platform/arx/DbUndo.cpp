@@ -41,6 +41,7 @@ void AcDbUndo::endGroup() {
     }
     if (--m_pState->depth == 0) {
         m_pState->forgetNotes(m_pState->firstNoted);
+        m_pState->settle();
     }
 }
 
@@ -61,6 +62,7 @@ bool AcDbUndo::undo() {
     if (m_pState->done == 0 || !m_pState->mayApply()) {
         return false;
     }
+    m_pState->measureNew();
     --m_pState->done;
     m_pState->apply(m_pState->done, false);
     return true;
@@ -77,14 +79,22 @@ bool AcDbUndo::redo() {
 
 void AcDbUndo::clear() {
     m_pState->forgetNotes(m_pState->firstNoted);
+    m_pState->noteLeft(0, m_pState->entries.size());
     m_pState->firstNoted = 0;
     m_pState->entries.clear();
     m_pState->groups.clear();
     m_pState->names.clear();
     m_pState->bars.clear();
     m_pState->done = 0;
+    m_pState->measured = 0;
+    m_pState->bytes = 0;
     m_pState->groupHasEntries = false;
     m_pState->openAlone = {};
+    if (m_pState->isPassive()) {
+        m_pState->left.clear(); // the database drops all objects
+        m_pState->isReleaseDue = false;
+    }
+    m_pState->release();
 }
 
 void AcDbUndo::noteBody(AcDbObject& object) {
@@ -184,4 +194,13 @@ void AcDbUndo::noteClosed(AcDbObject& object) {
     if (m_pState->openAlone == object.m_id) {
         m_pState->openAlone = {};
     }
+}
+
+void AcDbUndo::noteComplete() {
+    m_pState->settle();
+}
+
+void AcDbUndo::noteSaved() {
+    m_pState->isReleaseDue = !m_pState->left.empty();
+    m_pState->release();
 }

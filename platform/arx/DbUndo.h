@@ -9,6 +9,9 @@
 // The other parts of the object are still undone. Such a change does not clear the redo side.
 // A layer or block on which an entity is put off the record stays, too, and so does a
 // dictionary in which a record is written.
+//
+// Erased objects that neither undo nor redo can bring back any more are released, and ids at
+// the upper end that no file has are given again.
 #pragma once
 
 #include <memory>
@@ -46,6 +49,18 @@ public:
     void resume();
     /// Forgets all. An open group stays open.
     void clear();
+    /// What every change on the record does first. For whoever has to know the database's
+    /// nextId before the change. Does nothing while nothing is recorded.
+    void dropRedo();
+
+    /// For the history of each drawing, in bytes; 0 for none. When a step is complete, the
+    /// oldest ones are dropped until the others fit, but never the newest one.
+    static void setMemoryLimit(std::size_t bytes);
+    static std::size_t memoryLimit();
+    /// About what the complete steps take, with the erased objects that they can bring back.
+    std::size_t bytes() const;
+    /// Steps that were dropped for the limit since the last call.
+    std::size_t takeDropped();
 
 private:
     friend class AcDbDatabase;
@@ -64,6 +79,9 @@ private:
     void noteCreated(const AcDbObject& object);
     void noteErased(const AcDbObject& object, bool bErased);
     void noteClosed(AcDbObject& object);
+    /// Reactors have heard of the change.
+    void noteComplete();
+    void noteSaved();
 
     std::unique_ptr<State> m_pState;
 };

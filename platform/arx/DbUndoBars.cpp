@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <iterator>
 
 #include "platform/arx/DbUndoState.h"
 
@@ -10,6 +11,15 @@ std::uint64_t KeyOf(AcDbObjectId id, UndoPart part, AcDbNameId name) {
     return std::uint64_t{id.number()} << kIdShift |
            std::uint64_t{static_cast<std::uint8_t>(part)} << kNameBits |
            static_cast<std::uint32_t>(name);
+}
+
+/// A bar below all entries is none.
+template <class Bars, class Move>
+void MoveBars(Bars& bars, Move move) {
+    for (auto bar = bars.begin(); bar != bars.end();) {
+        bar->second = move(bar->second);
+        bar = bar->second == 0 ? bars.erase(bar) : std::next(bar);
+    }
 }
 
 } // namespace
@@ -40,9 +50,15 @@ bool UndoBars::holds(AcDbObjectId id, const CString& record, std::size_t entry) 
 }
 
 void UndoBars::cut(std::size_t entries) {
-    const auto cutOne = [entries](auto& bar) { bar.second = std::min(bar.second, entries); };
-    std::for_each(m_parts.begin(), m_parts.end(), cutOne);
-    std::for_each(m_records.begin(), m_records.end(), cutOne);
+    const auto cutOne = [entries](std::size_t bar) { return std::min(bar, entries); };
+    MoveBars(m_parts, cutOne);
+    MoveBars(m_records, cutOne);
+}
+
+void UndoBars::dropOldest(std::size_t entries) {
+    const auto lower = [entries](std::size_t bar) { return bar - std::min(bar, entries); };
+    MoveBars(m_parts, lower);
+    MoveBars(m_records, lower);
 }
 
 void UndoBars::clear() {

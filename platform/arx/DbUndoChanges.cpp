@@ -96,3 +96,20 @@ bool AcDbUndo::State::CoordinateSystemChange::exchange(State& state, AcDbObject*
     state.database.m_bHeaderUnsaved = true;
     return true;
 }
+
+std::size_t AcDbUndo::State::BodyChange::bytes() const {
+    return sizeof(*this) + body->bodyBytes();
+}
+
+std::size_t AcDbUndo::State::PropertiesChange::bytes() const {
+    return sizeof(*this) + attributes.bytes();
+}
+
+std::size_t AcDbUndo::State::RecordChange::bytes() const {
+    const int letters = name.GetLength() + (text ? text->GetLength() : 0);
+    return sizeof(*this) + static_cast<std::size_t>(letters) * sizeof(wchar_t);
+}
+
+std::size_t AcDbUndo::State::CoordinateSystemChange::bytes() const {
+    return sizeof(*this) + static_cast<std::size_t>(wkt.GetLength()) * sizeof(wchar_t);
+}

@@ -51,7 +51,7 @@ AcDbUndo::State::Entry& AcDbUndo::State::push(AcDbObjectId id, Kind kind) {
     const bool joins = depth > 0 ? groupHasEntries : !id.isNull() && id == openAlone;
     if (!joins) {
         const CString& name = depth > 0 ? groupName : CString();
-        groups.push_back({entries.size(), &*names.insert(name).first});
+        groups.push_back({entries.size(), &*names.insert(name).first, 0});
         done = groups.size();
         groupHasEntries = depth > 0;
     }
@@ -67,26 +67,15 @@ AcDbUndo::State::Entry* AcDbUndo::State::lastOfGroup() {
     return depth > 0 && groupHasEntries ? &entries.back() : nullptr;
 }
 
-void AcDbUndo::State::dropRedo() {
-    if (done == groups.size()) {
-        return;
-    }
-    const std::size_t kept = groups[done].first;
-    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
-    groups.erase(groups.begin() + static_cast<std::ptrdiff_t>(done), groups.end());
-    firstNoted = std::min(firstNoted, kept);
-    bars.cut(kept);
-}
-
-void AcDbUndo::State::forgetNotes(std::size_t firstEntry) {
-    for (std::size_t i = firstEntry; i < entries.size(); ++i) {
+void AcDbUndo::State::forgetNotes(std::size_t firstEntry, std::size_t end) {
+    for (std::size_t i = firstEntry; i < end; ++i) {
         AcDbObject* const pObject = database.object(AcDbObjectId(entries[i].first));
         if (pObject) {
             pObject->m_bBodyNoted = false;
             pObject->m_bPropertiesNoted = false;
         }
     }
-    firstNoted = entries.size();
+    firstNoted = std::max(firstNoted, end);
 }
 
 std::size_t AcDbUndo::State::endOf(std::size_t group) const {
@@ -104,11 +93,15 @@ void AcDbUndo::State::apply(std::size_t group, bool forward) {
         applyEntry(forward ? i : end - 1 - (i - first), forward);
     }
     bringBackPlaces();
+    bytes -= groups[group].bytes;
+    groups[group].bytes = measure(group);
+    bytes += groups[group].bytes;
     // All is done before anybody hears of it, so that a reactor finds a whole drawing and may
     // change it.
     for (const Event& event : takeEvents()) {
         database.tellChanges(*database.object(event.id), event.erasedChanged, event.modified);
     }
+    release();
 }
 
 void AcDbUndo::State::applyEntry(std::size_t index, bool forward) {
@@ -158,10 +151,10 @@ void AcDbUndo::State::bringBackPlaces() {
         }
         const auto& entity = static_cast<const AcDbEntity&>(object);
         for (const AcDbObjectId id : {entity.m_layer, entity.m_block}) {
-            AcDbObject& place = *database.object(id);
-            if (place.m_bErased) {
-                touch(place);
-                database.setErased(place, false);
+            AcDbObject* const pPlace = database.object(id);
+            if (pPlace && pPlace->m_bErased) {
+                touch(*pPlace);
+                database.setErased(*pPlace, false);
             }
         }
     }

@@ -23,6 +23,8 @@ public:
     bool holds(AcDbObjectId id, const CString& record, std::size_t entry) const;
     /// The history was cut to a number of entries; those to come are above all bars.
     void cut(std::size_t entries);
+    /// The oldest entries were dropped.
+    void dropOldest(std::size_t entries);
     void clear();
 
 private:
@@ -36,6 +38,7 @@ struct AcDbUndo::State {
         virtual ~Change() = default;
         /// False if all of it is barred.
         virtual bool exchange(State& state, AcDbObject* pObject, std::size_t entry) = 0;
+        virtual std::size_t bytes() const = 0;
     };
     struct BodyChange;
     struct PropertiesChange;
@@ -55,6 +58,7 @@ struct AcDbUndo::State {
     struct Group {
         std::size_t first; ///< entry; it reaches to the next group's
         const CString* pName;
+        std::size_t bytes = 0; ///< once it is measured
     };
     /// What reactors hear of an object after undo or redo.
     struct Event {
@@ -78,8 +82,20 @@ struct AcDbUndo::State {
     /// Null unless a group is open and has entries.
     Entry* lastOfGroup();
     void dropRedo();
-    void forgetNotes(std::size_t firstEntry);
+    void forgetNotes(std::size_t firstEntry) { forgetNotes(firstEntry, entries.size()); }
+    void forgetNotes(std::size_t firstEntry, std::size_t end);
     std::size_t endOf(std::size_t group) const;
+
+    std::size_t measure(std::size_t group) const;
+    void measureNew();
+    /// A step is complete: keeps the history within its limit.
+    void settle();
+    void dropOldest(std::size_t count);
+    /// Entries that are about to be dropped: what they name may be out of reach then.
+    void noteLeft(std::size_t firstEntry, std::size_t end);
+    /// Releases what is out of reach, unless somebody may be looking at it right now.
+    void release();
+    void passOverReachable(std::vector<std::uint32_t>& ids) const;
 
     bool mayApply() const;
     void apply(std::size_t group, bool forward);
@@ -97,6 +113,13 @@ struct AcDbUndo::State {
     UndoBars bars;
     std::set<CString> names; ///< of groups, each once
     std::vector<AcDbObjectId> touched;
+
+    std::size_t bytes = 0;    ///< of measured groups
+    std::size_t measured = 0; ///< groups; those behind them are not complete
+    std::size_t dropped = 0;
+    /// Numbers of objects that dropped entries named: first and end of each run.
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> left;
+    bool isReleaseDue = false;
 
     bool recording = true;
     int pauses = 0; ///< each in force until it ends, whatever is switched meanwhile

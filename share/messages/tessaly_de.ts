@@ -3631,6 +3631,21 @@ Die Systeme sind markiert. Weiter mit der Eingabetaste: </translation>
         <extracomment>Error of the operating system</extracomment>
         <translation>keine gewöhnliche Datei</translation>
     </message>
+    <message id="960001">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>Rückgängig-&amp;Verlauf in MB (0 = unbegrenzt):</translation>
+    </message>
+    <message id="960002">
+        <source></source>
+        <extracomment>Message; with the limit</extracomment>
+        <translation>Der Rückgängig-Verlauf hat seine Grenze von %d MB erreicht: Sein ältester Schritt lässt sich nicht mehr zurücknehmen.</translation>
+    </message>
+    <message id="960003">
+        <source></source>
+        <extracomment>Message; with the limit and the number of steps, two or more</extracomment>
+        <translation>Der Rückgängig-Verlauf hat seine Grenze von %d MB erreicht: Seine %d ältesten Schritte lassen sich nicht mehr zurücknehmen.</translation>
+    </message>
     <message id="962000">
         <source></source>
         <extracomment>Reason; with the name of a configuration, who and when</extracomment>

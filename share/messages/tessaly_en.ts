@@ -3630,6 +3630,21 @@ The systems are marked. Press Enter to continue: </translation>
         <extracomment>Error of the operating system</extracomment>
         <translation>not a regular file</translation>
     </message>
+    <message id="960001">
+        <source></source>
+        <extracomment>Label in the general settings, with its letter</extracomment>
+        <translation>&amp;Undo history in MB (0 = no limit):</translation>
+    </message>
+    <message id="960002">
+        <source></source>
+        <extracomment>Message; with the limit</extracomment>
+        <translation>The undo history has reached its limit of %d MB: its oldest step can no longer be undone.</translation>
+    </message>
+    <message id="960003">
+        <source></source>
+        <extracomment>Message; with the limit and the number of steps, two or more</extracomment>
+        <translation>The undo history has reached its limit of %d MB: its %d oldest steps can no longer be undone.</translation>
+    </message>
     <message id="962000">
         <source></source>
         <extracomment>Reason; with the name of a configuration, who and when</extracomment>

@@ -197,3 +197,122 @@ TEST_F(UndoTest, AnEntityThatComesBackBringsItsLayerAlong) {
     EXPECT_TRUE(Undo().undo());
     EXPECT_EQ(Part(a, "exists") + Part(layer, "exists"), "yesyes");
 }
+
+TEST_F(UndoTest, StepsThatAreGoneGiveTheirIdsAndNamesBack) {
+    const AcDbObjectId kept = AddPoint(m_database, 1);
+    const std::uint32_t first = m_database.nextId();
+    const std::size_t unsaved = m_database.unsavedObjects().size();
+    const Parts before = PartsOf(m_database);
+    for (const char* round : {"first", "again", "and again"}) {
+        SCOPED_TRACE(round);
+        InGroup(L"import", [&] {
+            const AcDbObjectId layer = m_database.layer(L"Sewer");
+            EXPECT_EQ(layer.number(), first);
+            m_database.block(L"Valve");
+            m_database.dictionary(L"Systems");
+            AddPoint(m_database, 1, layer);
+            MovePoint(m_database, kept, 2);
+        });
+        EXPECT_EQ(m_database.nextId(), first + 4);
+        EXPECT_TRUE(Undo().undo());
+        EXPECT_TRUE(Undo().redo());
+        EXPECT_TRUE(Undo().undo());
+    }
+    MovePoint(m_database, kept, 3);
+    EXPECT_EQ(m_database.nextId(), first);
+    EXPECT_EQ(m_database.unsavedObjects().size(), unsaved);
+    EXPECT_EQ(m_database.findLayer(L"Sewer"), AcDbObjectId());
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_EQ(PartsOf(m_database), before);
+}
+
+TEST_F(UndoTest, IdsThatAFileHasAreNotGivenAgain) {
+    const AcDbObjectId saved = AddPoint(m_database, 1);
+    m_database.markSaved();
+    EXPECT_TRUE(Undo().undo());
+    const AcDbObjectId other = AddPoint(m_database, 2);
+    EXPECT_GT(other, saved);
+    ASSERT_NE(m_database.peek(saved), nullptr) << "its row is still to be deleted";
+    m_database.markSaved();
+    EXPECT_EQ(m_database.peek(saved), nullptr);
+    EXPECT_EQ(m_database.nextId(), other.number() + 1);
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_GT(AddPoint(m_database, 3), other);
+}
+
+TEST_F(UndoTest, NothingIsReleasedWhileSomebodyLooksAtIt) {
+    /// Changes the drawing in the middle of an undo.
+    class Writer final : public AcDbDatabaseReactor {
+    public:
+        explicit Writer(AcDbDatabase& database) : m_database(database) {}
+        void objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool) override {
+            m_database.setCoordinateSystem(std::to_wstring(++m_nCalls).c_str());
+            EXPECT_EQ(m_database.peek(pObject->objectId()), pObject);
+        }
+        AcDbDatabase& m_database;
+        int m_nCalls = 0;
+    };
+    const std::uint32_t first = m_database.nextId();
+    Writer writer(m_database);
+    m_database.addReactor(&writer);
+    InGroup(L"draw", [&] {
+        AddPoint(m_database, 1);
+        AddPoint(m_database, 2);
+    });
+    EXPECT_TRUE(Undo().undo());
+    EXPECT_EQ(writer.m_nCalls, 2);
+    EXPECT_EQ(m_database.nextId(), first) << "once everybody was told";
+    m_database.removeReactor(&writer);
+
+    const AcDbObjectId a = AddPoint(m_database, 1);
+    const AcDbObjectId b = AddPoint(m_database, 2);
+    EXPECT_TRUE(Undo().undo());
+    int visited = 0;
+    m_database.forEachEntity([&](const AcDbEntity& entity) {
+        EXPECT_EQ(entity.objectId(), a);
+        EXPECT_GT(AddPoint(m_database, ++visited), b) << "b is still in the way";
+    });
+    EXPECT_EQ(visited, 1);
+    AcDbEntity* pOpen = nullptr;
+    EXPECT_TRUE(Undo().undo());
+    const AcDbObjectId c(b.number() + 1);
+    ASSERT_EQ(acdbOpenObject(pOpen, c, AcDb::kForRead, true, &m_database), Acad::eOk);
+    MovePoint(m_database, a, 5);
+    EXPECT_EQ(m_database.peek(c), pOpen);
+    EXPECT_EQ(m_database.peek(b), nullptr);
+    pOpen->close();
+}
+
+TEST_F(UndoTest, OldestStepsAreDroppedAtTheLimit) {
+    struct Limit {
+        Limit() { AcDbUndo::setMemoryLimit(100'000); }
+        ~Limit() { AcDbUndo::setMemoryLimit(0); }
+    } const limit;
+    const std::string text(1000, 'x');
+    const AcDbObjectId erased = AddPoint(m_database, 1);
+    SetAttribute(m_database, erased, "a", text.c_str());
+    Erase(m_database, erased);
+    const AcDbObjectId a = AddPoint(m_database, 1);
+    std::size_t dropped = 0;
+    for (int i = 0; i < 1000; ++i) {
+        SetAttribute(m_database, a, "a", text.c_str());
+        EXPECT_LE(Undo().bytes(), 100'000U);
+        dropped += Undo().takeDropped();
+    }
+    EXPECT_EQ(m_database.peek(erased), nullptr);
+    std::size_t steps = 0;
+    for (; Undo().undo(); ++steps) {
+    }
+    EXPECT_GE(steps, 80U);
+    EXPECT_EQ(steps + dropped, 1004U);
+    for (std::size_t i = 0; i < steps; ++i) {
+        EXPECT_TRUE(Undo().redo());
+    }
+    EXPECT_EQ(Part(a, "attribute a"), "'" + text + "'");
+
+    SetAttribute(m_database, a, "a", std::string(200'000, 'y').c_str());
+    SetAttribute(m_database, a, "a", 1);
+    EXPECT_TRUE(Undo().undo()) << "the newest one stays, however large";
+    EXPECT_FALSE(Undo().undo());
+    EXPECT_EQ(Part(a, "attribute a").size(), 200'002U);
+}

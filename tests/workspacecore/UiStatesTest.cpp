@@ -1,17 +1,21 @@
 #include <boost/make_shared.hpp>
+#include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/arx/ApDocManager.h"
 #include "platform/arx/DbUndo.h"
+#include "platform/mfc/WinApp.h"
 #include "siblings/cadwrapper/DictionaryPtr.h"
 #include "siblings/logging/LogEngine.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 #include "workspacecore/dialogs/UiStates.h"
+#include "workspacecore/dialogs/UiStatesFile.h"
 
 namespace Orvane::Workspace {
 namespace {
@@ -55,7 +59,7 @@ constexpr const char* kTwoDialogs =
     R"(</stateAttribute></dialogState><dialogState id="b" top="0" left="0" width="0" height="0" )"
     R"(resizable="0" docked="0" side="0" ></dialogState></uiStates>)";
 
-class UiStatesFile : public testing::Test {
+class UiStatesFileTest : public testing::Test {
 protected:
     int Load(CUiStates& states) const { return states.Load(m_folder.Wide("s.xml")); }
     /// The record of one dialog after loading a file with this content.
@@ -209,7 +213,7 @@ TEST(UiStates, BadTextsGiveWhatCanBeRead) {
     }
 }
 
-TEST_F(UiStatesFile, CutAnywhereItIsNotTakenAndKept) {
+TEST_F(UiStatesFileTest, CutAnywhereItIsNotTakenAndKept) {
     const std::string whole = kTwoDialogs;
     for (std::size_t length = 0; length < whole.size(); ++length) {
         const std::string cut = whole.substr(0, length);
@@ -222,7 +226,7 @@ TEST_F(UiStatesFile, CutAnywhereItIsNotTakenAndKept) {
     EXPECT_EQ(Files(), 1U);
 }
 
-TEST_F(UiStatesFile, ADamagedOneIsReportedAndNoneIsLost) {
+TEST_F(UiStatesFileTest, ADamagedOneIsReportedAndNoneIsLost) {
     CLogEngine::SetLogging(1, m_folder.Native("trace.log"));
     EXPECT_EQ(AfterLoading("<uiStates><a></uiStates>"), "0 old@0()");
     // Well formed, but not ours: the record is cleared, and a copy of the file is kept.
@@ -242,7 +246,7 @@ TEST_F(UiStatesFile, ADamagedOneIsReportedAndNoneIsLost) {
     EXPECT_TRUE(std::filesystem::is_directory(m_folder / "s.xml"));
 }
 
-TEST_F(UiStatesFile, AFullDiskLeavesTheOldOne) {
+TEST_F(UiStatesFileTest, AFullDiskLeavesTheOldOne) {
     ASSERT_EQ(OneDialog(L"before").Save(m_folder.Wide("s.xml")), 1);
     CUiStates states = OneDialog(L"after");
     states.GetDialogStateById(L"after")->AddStateAttribute(Attribute(L"k", CString(L'x', 100'000)));
@@ -258,6 +262,78 @@ TEST_F(UiStatesFile, AFullDiskLeavesTheOldOne) {
     EXPECT_EQ(Content(read), "before@0()");
     EXPECT_EQ(Files(), 1U) << "a draft was left behind";
     EXPECT_EQ(states.Save(m_folder.Wide("no/such/folder.xml")), 0);
+}
+
+TEST(UiStates, WhatTwoProgramsChangedIsMerged) {
+    const auto xml = [](const char* places) {
+        // "A5x7" is a dialog A at 5 with the value x of 7.
+        std::wstring text = L"<uiStates>";
+        std::istringstream in(places);
+        for (std::string word; in >> word;) {
+            const auto state = Dialog(std::wstring(1, word[0]).c_str(), word[1] - '0');
+            for (std::size_t j = 2; j + 1 < word.size(); j += 2) {
+                state->AddStateAttribute(
+                    Attribute(std::wstring(1, word[j]).c_str(), CDataBox(word[j + 1] - '0')));
+            }
+            text += state->GetXML().View();
+        }
+        return text + L"</uiStates>";
+    };
+    struct Case {
+        const char* base;
+        const char* ours;
+        const char* theirs;
+        const char* merged;
+    };
+    const Case cases[] = {
+        {"A1 B1", "A2 B1", "A1 B3", "A2 B3"},     // different dialogs
+        {"A1x1y1", "A2x1y1", "A1x5y1", "A2x5y1"}, // place here, value there
+        {"A1x1y1", "A1x2y1", "A1x3y4", "A1x2y4"}, // both: ours
+        {"A1", "A1 B2", "A1 C3", "A1 B2 C3"},     // added by both
+        {"A1", "A1 B2x1", "A1 B3y2", "A1 B2x1y2"},
+        {"A1x1", "A1x1", "A1x1z9", "A1x1z9"},
+        {"A1x1y1", "A1y1", "A1x1", "A1"},     // taken away
+        {"A1 B1 C1", "A1 C1", "A1 B2", "A1"}, // ours is gone, theirs too
+        {"A1 B1", "A1 B2", "A1", "A1 B2"},    // changed here, gone there
+        {"A1", "", "A1", ""},                 // cleared
+        {"", "A1", "", "A1"},
+    };
+    for (const Case& test : cases) {
+        CUiStates base;
+        CUiStates ours;
+        CUiStates theirs;
+        base.ParseXML(xml(test.base).c_str());
+        ours.ParseXML(xml(test.ours).c_str());
+        theirs.ParseXML(xml(test.theirs).c_str());
+        MergeUiStates(ours, base, theirs);
+        EXPECT_EQ(ours.GetXML(), CString(xml(test.merged))) << test.merged;
+    }
+}
+
+TEST_F(UiStatesFileTest, TwoProgramsAreMergedAndAChangeIsWrittenByItself) {
+    m_folder.Write("s.xml", "");
+    const CString path = m_folder.Wide("s.xml");
+    UiStatesFile ours(path);
+    UiStatesFile theirs(path);
+    ours.States()->NeedDialogState(L"ours")->SetLeft(1);
+    theirs.States()->NeedDialogState(L"theirs")->SetLeft(2);
+    ours.Save();
+    theirs.Save();
+    const std::string both = m_folder.Read("s.xml");
+    EXPECT_NE(both.find("\"ours\" top=\"0\" left=\"1\""), std::string::npos);
+    EXPECT_NE(both.find("\"theirs\" top=\"0\" left=\"2\""), std::string::npos);
+    ours.Save();
+    EXPECT_EQ(m_folder.Read("s.xml"), both) << "nothing new";
+
+    AfxStartToolkit();
+    ours.States()->NeedDialogState(L"ours")->SetLeft(7);
+    ours.SaveSoon();
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (m_folder.Read("s.xml") == both && std::chrono::steady_clock::now() < end) {
+        AfxPumpMessages();
+    }
+    EXPECT_NE(m_folder.Read("s.xml").find("left=\"7\""), std::string::npos);
+    EXPECT_NE(m_folder.Read("s.xml").find("left=\"2\""), std::string::npos);
 }
 
 TEST(UiStatesInDrawing, AreNoStepOfItsHistory) {

@@ -105,6 +105,7 @@ private:
     friend class CWsDialogManager;
 
     void SnapToDialogs(class SnapStep& step) const;
+    void RememberPlace(const CRect& place);
     void DressCaptionButton(int number, unsigned int image, int tooltipMessage);
     void OnCaptionButton(int number);
     /// False if a handler destroyed the window, and possibly the dialog with it.

@@ -34,8 +34,11 @@ int CWsBaseDialog::LoadWindowPosition() {
 }
 
 void CWsBaseDialog::SaveWindowPosition() {
+    RememberPlace(GetWindowRect());
+}
+
+void CWsBaseDialog::RememberPlace(const CRect& place) {
     const CUiStates::DialogStatePtr state = States().NeedDialogState(m_dialogId);
-    const CRect place = GetWindowRect();
     state->SetLeft(place.left);
     state->SetTop(place.top);
     state->SetHeight(place.Height());
@@ -44,6 +47,7 @@ void CWsBaseDialog::SaveWindowPosition() {
                         m_dialogType != enmDialogFixedHosted);
     state->SetDocked(0);
     state->SetSide(0);
+    DialogHome().Dialogs().SaveDialogStatesSoon();
 }
 
 void CWsBaseDialog::OnWindowPosChanging(tagWINDOWPOS* pPlace) {
@@ -56,6 +60,7 @@ void CWsBaseDialog::OnWindowPosChanging(tagWINDOWPOS* pPlace) {
         SnapToDialogs(step);
         pPlace->x = step.Place().x;
         pPlace->y = step.Place().y;
+        RememberPlace(CRect(step.Place(), GetWindowRect().Size()));
     }
     CAdUiBaseDialog::OnWindowPosChanging(pPlace);
 }

@@ -38,6 +38,7 @@ void CWsBaseDialog::SetStateValue(const wchar_t* dialogId, const wchar_t* key,
         added->SetId(key);
         state->AddStateAttribute(added);
     }
+    DialogHome().Dialogs().SaveDialogStatesSoon();
 }
 
 void CWsBaseDialog::SetStateValue(const wchar_t* key, Data::CDataBox& value) {

@@ -1,5 +1,6 @@
 #include "workspacecore/dialogs/WsDialogManager.h"
 
+#include <boost/make_shared.hpp>
 #include <set>
 
 #include "platform/arx/ApDocManager.h"
@@ -159,18 +160,23 @@ void CWsDialogManager::GetAllDialogs(std::vector<CString>& ids) const {
 }
 
 boost::shared_ptr<CUiStates> CWsDialogManager::GetDialogStates() {
-    if (!m_uiStates) {
-        m_uiStatesPath.Format(L"%suiStates.xml",
-                              CModuleConfiguration::Instance()->GetPath(L"support"));
-        m_uiStates.reset(new CUiStates);
-        m_uiStates->Load(m_uiStatesPath);
+    if (!m_uiStatesFile) {
+        CString path;
+        path.Format(L"%suiStates.xml", CModuleConfiguration::Instance()->GetPath(L"support"));
+        m_uiStatesFile = boost::make_shared<UiStatesFile>(path);
     }
-    return m_uiStates;
+    return m_uiStatesFile->States();
 }
 
 void CWsDialogManager::SaveDialogStates() {
-    if (m_uiStates) {
-        m_uiStates->Save(m_uiStatesPath);
+    if (m_uiStatesFile) {
+        m_uiStatesFile->Save();
+    }
+}
+
+void CWsDialogManager::SaveDialogStatesSoon() {
+    if (m_uiStatesFile) {
+        m_uiStatesFile->SaveSoon();
     }
 }
 

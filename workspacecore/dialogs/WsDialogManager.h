@@ -6,7 +6,7 @@
 
 #include "workspacecore/dialogs/DialogPlaces.h"
 #include "workspacecore/dialogs/IWsDialogFactory.h"
-#include "workspacecore/dialogs/UiStates.h"
+#include "workspacecore/dialogs/UiStatesFile.h"
 
 class CDialog;
 
@@ -51,8 +51,10 @@ public:
 
     /// Reads "uiStates.xml" from the user's folder on first use.
     boost::shared_ptr<CUiStates> GetDialogStates();
-    /// Writes the file, if the states were ever used.
+    /// Writes the file, if the states were ever used; merges what other programs wrote.
     void SaveDialogStates();
+    /// For whoever changed them: saves within a second.
+    void SaveDialogStatesSoon();
     /// For modules with dialogs of their own; nothing to release here.
     void ReleaseDialogs() {}
 
@@ -72,8 +74,7 @@ private:
     DialogMap m_dialogRegistry; ///< not owned
     FactoryVector m_dlgFactories;
     std::optional<DialogCascade> m_cascade; ///< created with the first dialog, never reset
-    boost::shared_ptr<CUiStates> m_uiStates;
-    CString m_uiStatesPath;
+    boost::shared_ptr<UiStatesFile> m_uiStatesFile;
 };
 
 } // namespace Orvane::Workspace

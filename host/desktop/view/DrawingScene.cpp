@@ -85,6 +85,10 @@ void DrawingScene::databaseReplaced(const AcDbDatabase*) {
     BecomeStale();
 }
 
+void DrawingScene::idsFreed(const AcDbDatabase*) {
+    m_nFreedFrom = std::min<std::size_t>(m_nFreedFrom, m_pDatabase->nextId());
+}
+
 void DrawingScene::goodbye(const AcDbDatabase*) {
     m_pDatabase = nullptr;
     Drop();
@@ -95,7 +99,8 @@ void DrawingScene::goodbye(const AcDbDatabase*) {
 
 SceneChange DrawingScene::Update() {
     // An aborted read leaves another, empty drawing without any notification.
-    const bool isCut = m_pDatabase && m_pDatabase->nextId() < m_slots.size();
+    const bool isCut =
+        m_pDatabase && m_pDatabase->nextId() < std::min(m_slots.size(), m_nFreedFrom);
     if (!m_isStale && !isCut) {
         return SceneChange::None;
     }
@@ -109,6 +114,10 @@ SceneChange DrawingScene::Update() {
             m_slots[id.number()] &= ~kNotedBit;
             Refresh(id);
         }
+        if (m_pDatabase && m_slots.size() > m_pDatabase->nextId()) {
+            m_slots.resize(m_pDatabase->nextId());
+        }
+        m_nFreedFrom = SIZE_MAX;
         if (m_areLayersNoted || m_looks.size() != m_styles.size()) {
             ReadLayers();
         }
@@ -125,6 +134,7 @@ void DrawingScene::Drop() {
         store.Clear();
     }
     m_slots = {};
+    m_nFreedFrom = SIZE_MAX;
     m_noted = {};
     m_styles.assign(1, {});
     m_stylesByKey.clear();

@@ -91,6 +91,7 @@ private:
     void objectModified(const AcDbDatabase*, const AcDbObject* pObject) override;
     void objectErased(const AcDbDatabase*, const AcDbObject* pObject, bool bErased) override;
     void databaseReplaced(const AcDbDatabase*) override;
+    void idsFreed(const AcDbDatabase*) override;
     void goodbye(const AcDbDatabase*) override;
 
     void Note(const AcDbObject& object);
@@ -113,6 +114,8 @@ private:
     PlanePoint m_origin;
     /// By object number: noted flag, kind and item number.
     std::vector<std::uint32_t> m_slots;
+    /// The lowest id that was freed since the slots were made.
+    std::size_t m_nFreedFrom = SIZE_MAX;
 
     struct Style {
         AcDbObjectId layer;

@@ -280,9 +280,30 @@ void AfxPumpMessages() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+namespace {
+
+struct PostedCall final : QEvent {
+    explicit PostedCall(std::function<void()> function)
+        : QEvent(QEvent::User), call(std::move(function)) {}
+    std::function<void()> call;
+};
+
+struct CallReceiver final : QObject {
+    bool event(QEvent* pEvent) override {
+        auto* const pPosted = dynamic_cast<PostedCall*>(pEvent);
+        if (pPosted) {
+            pPosted->call();
+        }
+        return pPosted || QObject::event(pEvent);
+    }
+};
+
+} // namespace
+
 void AfxCallSoon(std::function<void()> call) {
-    if (QCoreApplication* const pApplication = QCoreApplication::instance()) {
-        QMetaObject::invokeMethod(pApplication, std::move(call), Qt::QueuedConnection);
+    if (QCoreApplication::instance()) {
+        static auto* const receiver = new CallReceiver;
+        QCoreApplication::postEvent(receiver, new PostedCall(std::move(call)));
     }
 }
 

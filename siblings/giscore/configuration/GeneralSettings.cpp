@@ -1,6 +1,7 @@
 #include "siblings/giscore/configuration/GeneralSettings.h"
 
 #include "platform/win/File.h"
+#include "platform/win/FolderLock.h"
 #include "platform/win/IniFile.h"
 #include "siblings/giscore/configuration/ModuleConfiguration.h"
 #include "siblings/giscore/utility/WholeNumber.h"
@@ -21,6 +22,7 @@ constexpr GeneralSetting kSettings[] = {
     {L"PT_MARK_COLOR", L"4", Kind::Number, 900334, 1, 255},
     {L"NODE_INDEX_PRECISION", L"3", Kind::Number, 900335, 0, 9},
     {L"NET_REPOSITORY", L"", Kind::Text, 900336},
+    {kUndoMemoryKey, L"512", Kind::Number, 960001, 0, kMostUndoMemory},
 };
 
 /// Without the mark of the letter that leads to the control, and without its colon.
@@ -54,6 +56,7 @@ CString GeneralSettingProblem(const GeneralSetting& setting, const CString& valu
 
 bool WriteGeneralSettings(const CString& path, const GeneralSettings& before,
                           const GeneralSettings& settings) {
+    const FolderLock lock(path);
     std::string text;
     if (FileExists(path)) {
         const auto bytes = ReadFileBytes(path);

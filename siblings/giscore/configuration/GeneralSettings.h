@@ -21,6 +21,11 @@ struct GeneralSetting {
     int high = 0;
 };
 
+/// The limit of the undo history of each drawing, in megabytes; 0 for none.
+inline constexpr const wchar_t* kUndoMemoryKey = L"UNDO_MEMORY";
+inline constexpr int kUsualUndoMemory = 512;
+inline constexpr int kMostUndoMemory = 65536;
+
 /// Texts by key, as they stand in the file.
 using GeneralSettings = std::map<CString, CString, CStringLess>;
 
@@ -29,7 +34,8 @@ GISCORE_API std::span<const GeneralSetting> GeneralSettingList();
 /// An empty text, or why a value cannot be one of the setting, for the user.
 GISCORE_API CString GeneralSettingProblem(const GeneralSetting& setting, const CString& value);
 
-/// Writes what has changed; all else stays as it stands in the file. False if it cannot be
+/// Writes what has changed; all else stays as it stands in the file, which may be what another
+/// program has written meanwhile. False if it cannot be
 /// written; LastErrorText tells why, and the file is as it was.
 GISCORE_API bool WriteGeneralSettings(const CString& path, const GeneralSettings& before,
                                       const GeneralSettings& settings);

@@ -51,14 +51,16 @@ constexpr DialogItem kItems[] = {
     {Static, kFirstLabel + 5, 7, 82, 223, 8},
     {Edit, kNetFolder, 7, 92, 158, 14},
     {Button, kBrowse, 169, 92, 61, 14},
-    {Button, kFirstControl + 2, 7, 112, 223, 12, L"", BS_AUTOCHECKBOX},
-    {Button, IDOK, 58, 134, 55, 14, L"", BS_DEFPUSHBUTTON},
-    {Button, IDCANCEL, 117, 134, 55, 14},
-    {Button, kHelp, 176, 134, 54, 14},
+    {Static, kFirstLabel + 6, 7, 115, 130, 8},
+    {Edit, kFirstControl + 6, 140, 112, 50, 14},
+    {Button, kFirstControl + 2, 7, 131, 223, 12, L"", BS_AUTOCHECKBOX},
+    {Button, IDOK, 58, 153, 55, 14, L"", BS_DEFPUSHBUTTON},
+    {Button, IDCANCEL, 117, 153, 55, 14},
+    {Button, kHelp, 176, 153, 54, 14},
 };
 
 constexpr DialogTemplate kTemplates[] = {
-    {kTemplate, 237, 155, L"", WS_POPUP | WS_CAPTION | WS_SYSMENU, kItems},
+    {kTemplate, 237, 174, L"", WS_POPUP | WS_CAPTION | WS_SYSMENU, kItems},
 };
 
 CString Msg(int id) {

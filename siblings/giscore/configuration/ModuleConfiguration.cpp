@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/arx/DbUndo.h"
 #include "platform/arx/EdPrompt.h"
 #include "platform/arx/HostOptions.h"
 #include "platform/win/ErrorText.h"
@@ -30,7 +31,7 @@ constexpr int kDefaultPrecision = 3;
 
 /// General settings that accept whole numbers only.
 constexpr const wchar_t* kNumberKeys[] = {L"AUTOSAVE_INTERVAL", L"RUN_AFTER_DROP", L"PT_MARK_COLOR",
-                                          kPrecisionKey};
+                                          kPrecisionKey, kUndoMemoryKey};
 
 } // namespace
 
@@ -61,6 +62,15 @@ void CModuleConfiguration::ReadSettings() {
     }
     SetProblems(kSettingsFile, std::move(problems));
     ChooseLanguage();
+    LimitUndoMemory();
+}
+
+void CModuleConfiguration::LimitUndoMemory() const {
+    constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+    int megabytes = kUsualUndoMemory;
+    GetGSValueInt(kUndoMemoryKey, megabytes);
+    AcDbUndo::setMemoryLimit(static_cast<std::size_t>(std::clamp(megabytes, 0, kMostUndoMemory)) *
+                             kMegabyte);
 }
 
 void CModuleConfiguration::ChooseLanguage() {

@@ -75,6 +75,7 @@ private:
     CModuleConfiguration();
     void ReadSettings();
     void ChooseLanguage();
+    void LimitUndoMemory() const;
     CString IconFolder() const;
 
     IniFile m_settings;

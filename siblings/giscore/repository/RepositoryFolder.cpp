@@ -116,7 +116,7 @@ void CRepositoryFolder::ReadFile(const CString& name, const FileStamp& stamp, co
     const auto entry = old.find(CString(guid).MakeUpper());
     if (known != m_stamps.end() && known->second == stamp && entry != old.end() &&
         entry->second.source == path && entry->second.fault.IsEmpty()) {
-        AddEntry(*m_pEntries, entry->second, m_unreadable);
+        AddEntry(*m_pEntries, Entry(entry->second), m_unreadable);
         return;
     }
     const auto bytes = guid.IsEmpty() ? std::nullopt : ReadFileBytes(path);

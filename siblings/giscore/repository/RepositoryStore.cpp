@@ -46,7 +46,7 @@ CRepositoryStore::Entry CRepositoryStore::MakeEntry(const CString& source, const
     return entry;
 }
 
-void CRepositoryStore::AddEntry(Entries& entries, Entry entry, std::vector<CString>& problems) {
+void CRepositoryStore::AddEntry(Entries& entries, Entry&& entry, std::vector<CString>& problems) {
     const CString source = entry.source;
     if (!entries.try_emplace(KeyOf(entry.head.guid), std::move(entry)).second) {
         problems.push_back(source + L": " + MessageText(GisMsg::SameGuid));

@@ -101,7 +101,7 @@ protected:
     /// Reads a text as an item of the family.
     Entry MakeEntry(const CString& source, const CString& guid, const CString& text) const;
     /// Takes an entry unless there is one of its GUID, which is a problem.
-    static void AddEntry(Entries& entries, Entry entry, std::vector<CString>& problems);
+    static void AddEntry(Entries& entries, Entry&& entry, std::vector<CString>& problems);
 
     /// \param problems gets what could not even be read
     virtual std::shared_ptr<const Entries> GetEntries(std::vector<CString>& problems) const = 0;

@@ -1,7 +1,11 @@
 #include "host/desktop/LayoutFile.h"
 
+#include <chrono>
+
 #include <gtest/gtest.h>
 
+#include "host/desktop/LayoutKeeper.h"
+#include "platform/mfc/WinApp.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestHost.h"
 
@@ -60,6 +64,53 @@ TEST(LayoutFile, APartOfALayoutIsNoLayout) {
         folder.Write("layout", damaged);
         EXPECT_FALSE(ReadLayout(path, problem)) << to;
     }
+}
+
+TEST(LayoutFile, TwoProgramsKeepWhatTheOtherOneChanged) {
+    const TempFolder folder;
+    const CString path = folder.Wide("layout");
+    CString problem;
+    Layout before = SomeLayout();
+    before.history.assign(500, L"old");
+    WriteLayout(path, before);
+    Layout a = before;
+    Layout b = before;
+    AfxStartToolkit();
+    LayoutKeeper ofA(path, [&] { return a; });
+    LayoutKeeper ofB(path, [&] { return b; });
+    const auto report = [](const CString& text) { ADD_FAILURE() << text.GetString(); };
+    ofA.Start(report);
+    ofB.Start(report);
+
+    a.theme = L"light";
+    a.recent.insert(a.recent.begin(), L"ZOOM");
+    a.history.erase(a.history.begin());
+    a.history.push_back(L"of a");
+    EXPECT_TRUE(ofA.Save().IsEmpty());
+    EXPECT_EQ(ReadLayout(path, problem), a);
+    b.window.left = 7;
+    b.isMaximized = false;
+    b.recent = {L"QUIT", L"OPEN", L"NETWORK_IMPORT"};
+    b.history.erase(b.history.begin(), b.history.begin() + 2);
+    b.history.insert(b.history.end(), {L"of b", L"of b"});
+    EXPECT_TRUE(ofB.Save().IsEmpty());
+    Layout both = b;
+    both.theme = a.theme;
+    both.recent = {L"QUIT", L"OPEN", L"NETWORK_IMPORT", L"ZOOM"};
+    both.history = a.history;
+    both.history.insert(both.history.end(), {L"of b", L"of b"});
+    both.history.erase(both.history.begin(), both.history.begin() + 2);
+    EXPECT_EQ(ReadLayout(path, problem), both);
+    EXPECT_TRUE(ofA.Save().IsEmpty());
+    EXPECT_EQ(ReadLayout(path, problem), both) << "a has nothing new";
+
+    a.panes = "moved";
+    both.panes = a.panes;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (ReadLayout(path, problem) != both && std::chrono::steady_clock::now() < end) {
+        AfxPumpMessages();
+    }
+    EXPECT_EQ(ReadLayout(path, problem), both);
 }
 
 TEST(LayoutFile, WindowsStayWhereTheyCanBeCaught) {

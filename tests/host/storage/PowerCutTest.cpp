@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <ogr_spatialref.h>
 #include <random>
 
 #include "tests/host/storage/StorageFixture.h"
@@ -107,6 +108,9 @@ int Open(sqlite3_vfs*, const char* path, sqlite3_file* pFile, int flags, int* pO
 class WatchedDisk {
 public:
     WatchedDisk() {
+        // The coordinate systems' own database stays open and has to be closed the way it was
+        // opened, so it is opened before.
+        OGRSpatialReference().importFromEPSG(4326);
         g_pReal = sqlite3_vfs_find(nullptr);
         m_watched = *g_pReal;
         m_watched.zName = "watched";
@@ -123,8 +127,7 @@ public:
     WatchedDisk& operator=(const WatchedDisk&) = delete;
 
 private:
-    /// Outlives this: whoever opened a database meanwhile may close it at the program's end.
-    static inline sqlite3_vfs m_watched{};
+    sqlite3_vfs m_watched{};
 };
 
 using Disk = std::map<std::string, std::string>;

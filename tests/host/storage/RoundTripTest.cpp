@@ -1,6 +1,7 @@
 // Saving and reopening preserves everything.
 #include <limits>
 
+#include "platform/arx/DbUndo.h"
 #include "platform/win/CodePage.h"
 #include "tests/host/storage/StorageFixture.h"
 
@@ -183,6 +184,28 @@ TEST_F(StorageTest, ASaveWritesWhatChangedAndNothingElse) {
     Save(database, "plan.gpkg");
     EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database))
         << "an erased object that was restored";
+}
+
+TEST_F(StorageTest, IdsOfRowsStayTheirsWhateverIsUndone) {
+    AcDbDatabase database;
+    AddNode(database, 1, 1, "first");
+    AddNode(database, 2, 2, "second");
+    SaveNew(database, "plan.gpkg");
+    std::uint32_t highest = 0;
+    for (const bool isSavedUndone : {false, true, false}) {
+        database.undo().undo();
+        if (isSavedUndone) {
+            Save(database, "plan.gpkg");
+            EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+        }
+        AddNode(database, 3, 3, "never saved");
+        database.undo().undo();
+        const AcDbObjectId id = AddLine(database, {{0, 0}, {1, 1}});
+        EXPECT_GT(id.number(), highest);
+        highest = id.number();
+        Save(database, "plan.gpkg");
+        EXPECT_EQ(DescribeFile("plan.gpkg"), Describe(database));
+    }
 }
 
 TEST_F(StorageTest, SymbolsAndRecordsAreSavedAsTheyChange) {
